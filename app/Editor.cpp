@@ -1,0 +1,312 @@
+// The order in which things happen: start, opening, saving, editing, closing.
+#include "app/Editor.h"
+
+#include <utility>
+
+#include "localisation/TextTable.h"
+#include "settings/cProfile.h"
+#include "settings/LocateTotalCommander.h"
+#include "settings/Paths.h"
+#include "settings/RestartTotalCommander.h"
+#include "shortcuts/DefaultHotkeys.h"
+#include "shortcuts/InternalCommands.h"
+#include "shortcuts/SaveShortcuts.h"
+#include "shortcuts/WincmdIni.h"
+
+namespace tessera {
+
+namespace {
+
+/// Marks the time in which commands and edits do nothing, also when it ends by an exception.
+class BusyTime {
+ public:
+  explicit BusyTime(bool& busy) : busy_(busy) { busy_ = true; }
+  ~BusyTime() { busy_ = false; }
+  BusyTime(const BusyTime&) = delete;
+  BusyTime& operator=(const BusyTime&) = delete;
+
+ private:
+  bool& busy_;
+};
+
+}  // namespace
+
+Editor::Editor(const System& system, std::function<void(const LoadProgress&)> showProgress)
+    : system_(system),
+      texts_(system.FileSystem),
+      list_(catalogue_, settings_),
+      assignment_(catalogue_, notation_, texts_, system.Boxes),
+      panel_(catalogue_, list_, assignment_, notation_, settings_, system.Boxes),
+      keysList_(panel_),
+      export_(catalogue_, notation_, texts_),
+      options_(settings_, system.StandardDialogs, system.Surroundings),
+      recentFiles_(texts_, system.Boxes),
+      dialogs_(system.StandardDialogs),
+      commanderEnvironment_(system.Surroundings),
+      progress_(std::move(showProgress)) {}
+
+const DisplayTable& Editor::Rows() const { return catalogue_.ListView1; }
+
+const CommandList& Editor::List() const { return list_; }
+
+const HotkeyPanel& Editor::Panel() const { return panel_; }
+
+const KeysList& Editor::AllKeys() const { return keysList_; }
+
+const cRecentFiles& Editor::RecentFiles() const { return recentFiles_; }
+
+const Settings& Editor::Options() const { return settings_; }
+
+const Texts& Editor::Language() const { return texts_; }
+
+std::wstring Editor::Caption() const {
+  const std::wstring title(ProgramTitle);
+  return wincmdPath_.empty() ? title : wincmdPath_ + L" - " + title;
+}
+
+bool Editor::Modified() const { return modified_; }
+
+bool Editor::SaveAndRestartEnabled() const { return saveAndRestartEnabled_; }
+
+bool Editor::RestartButtonEnabled() const { return restartButtonEnabled_; }
+
+bool Editor::Busy() const { return busy_; }
+
+void Editor::Load(std::wstring fileToOpen) {
+  fileToOpen_ = std::move(fileToOpen);
+  settings_ = LoadSettings(system_.FileSystem, system_.Time, system_.Surroundings);
+  notation_.MultiHotkeySeparator = settings_.MultiHotkeySeparator;
+  notation_.UndefinedHotkey = settings_.UndefinedHotkey;
+  notation_.ReverseOrderHotkey = settings_.ReverseOrderHotkey != 0;
+  ApplyLanguage();
+  ReadModifierNames();
+  panel_.ResetPanel();
+  SetModified(false);
+  export_.Load(system_.FileSystem, SettingsPath(system_.Surroundings));
+  ReadRecentFiles();
+}
+
+void Editor::Activate() {
+  if (std::exchange(activated_, true)) {
+    return;
+  }
+  const LocateSources sources{system_.FileSystem, system_.RegistryKeys, system_.Surroundings};
+  totalcmdIncPath_ =
+      LocateTotalcmdInc(sources, settings_.TCInstallDir, [this](const std::wstring& folder) {
+        return AskForFile(3047, BoxIcon::Information, folder, L"Totalcmd.inc",
+                          FileFilter::InternalCommands);
+      });
+  commanderEnvironment_.SetTotalCommanderDirectory(
+      ExpandPath(system_.Surroundings, settings_.TCInstallDir));
+  dialogs_.Setup(ExpandPath(system_.Surroundings, settings_.TCInstallDir));
+  OpenShortcutFile(false, FindWincmdIni(sources), true);
+  list_.RestoreStoredSort();
+}
+
+std::wstring Editor::FindWincmdIni(const LocateSources& sources) {
+  if (ExistsOrReturns(system_.FileSystem, fileToOpen_)) {
+    return fileToOpen_;
+  }
+  const std::wstring storedWincmd = settings_.UserDefinedWincmd;
+  std::wstring path = LocateWincmdIni(sources, settings_.TCInstallDir, settings_.UserDefinedWincmd,
+                                      [this](const std::wstring& folder) {
+                                        return AskForFile(3046, BoxIcon::Exclamation, folder,
+                                                          L"Wincmd.ini", FileFilter::WincmdIni);
+                                      });
+  if (settings_.UserDefinedWincmd != storedWincmd) {
+    cProfile(system_.FileSystem, system_.Time)
+        .WriteStringValue(CommonSection, L"UserDefinedWincmd", settings_.UserDefinedWincmd,
+                          SettingsPath(system_.Surroundings));
+  }
+  return path;
+}
+
+bool Editor::QueryUnload() { return !busy_ && ChangesMayGo(); }
+
+void Editor::Unload(const WindowPlacement& placement, const ColumnLayout& columns) {
+  StoreColumnLayout(columns, settings_);
+  if (!placement.Minimised) {
+    settings_.MainWindowTop = RoundTo16Bits(placement.Top);
+    settings_.MainWindowLeft = RoundTo16Bits(placement.Left);
+    settings_.MainWindowHeight = RoundTo16Bits(placement.Height);
+    settings_.MainWindowWidth = RoundTo16Bits(placement.Width);
+  }
+  settings_.MainWindowMaxmized = placement.Maximised ? 1 : 0;
+  // As with all settings, a folder that cannot be written is not reported.
+  static_cast<void>(
+      SaveSettings(settings_, system_.FileSystem, system_.Time, system_.Surroundings));
+}
+
+void Editor::FileOpen() { OpenShortcutFile(true, {}, true); }
+
+void Editor::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
+
+void Editor::FileSaveAndRestart() { Save(true); }
+
+void Editor::Save(bool restarts) {
+  if (busy_ || !modified_) {
+    return;
+  }
+  if (wincmdUnread_) {
+    // A save would drop every key that the list does not show.
+    system_.Boxes.Beep();
+    return;
+  }
+  const BusyTime busy(busy_);
+  RestartRequest restart{.WincmdPath = wincmdPath_, .CloseIt = true};
+  if (restarts) {
+    RestartTotalCommander(system_.OtherPrograms, system_.Time, system_.FileSystem,
+                          system_.Surroundings, restart);
+  }
+  const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0};
+  const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.FileSystem,
+                                        system_.Time, commanderEnvironment_);
+  if (error == FileError::None) {
+    SetModified(false);
+  }
+  if (restarts) {
+    restart.CloseIt = false;
+    RestartTotalCommander(system_.OtherPrograms, system_.Time, system_.FileSystem,
+                          system_.Surroundings, restart);
+  }
+}
+
+void Editor::ToggleToolbar() { settings_.ToolbarVisible = settings_.ToolbarVisible != 0 ? 0 : 1; }
+
+void Editor::ToggleSortedList() {
+  if (busy_) {
+    return;
+  }
+  if (settings_.SortedList != 0) {
+    list_.RestoreFileOrder();
+  } else {
+    list_.SortCommandList();
+  }
+  keysList_.Hide();
+}
+
+void Editor::RefreshRestartItems() {
+  const bool running = FindTotalCommander(system_.OtherPrograms) != 0;
+  restartButtonEnabled_ = running;
+  saveAndRestartEnabled_ = running && modified_;
+}
+
+void Editor::OpenShortcutFile(bool browse, std::wstring path, bool addToRecent) {
+  if (busy_ || !ChangesMayGo()) {
+    return;
+  }
+  if (browse) {
+    path = dialogs_.BrowseForOpen({}, {}, FileFilter::WincmdIni);
+  }
+  if (IsMissing(path)) {
+    return;
+  }
+  const BusyTime busy(busy_);
+  ReadModifierNames();
+  wincmdPath_ = path;
+  progress_.Start();
+  LoadCatalogue();
+  SetModified(false);
+  list_.ShowFirstRow();
+  keysList_.Hide();
+  if (addToRecent) {
+    recentFiles_.AddFile(path);
+    SaveRecentFiles();
+  }
+  if (settings_.SortedList != 0) {
+    list_.SortCommandList();
+  }
+  progress_.Finish();
+}
+
+void Editor::OpenFile(const std::wstring& path) { OpenShortcutFile(false, path, true); }
+
+void Editor::LoadCatalogue() {
+  const ProgressStep step = [this] { progress_.Step(); };
+  const WincmdIni wincmd(system_.FileSystem, system_.Time, commanderEnvironment_, wincmdPath_);
+  wincmdUnread_ = wincmd.ReadError() != FileError::None;
+  catalogue_.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation_);
+  if (catalogue_.lvwHidden.empty()) {
+    std::string bytes;
+    if (system_.FileSystem.Read(totalcmdIncPath_, bytes) == FileError::None) {
+      catalogue_.lvwHidden = ReadInternalCommands(bytes, notation_.UndefinedHotkey, step);
+    }
+  }
+  AskForMissingDataFile();
+  const ProfileFile defaults(system_.FileSystem, settings_.DefaultHotKeysDataFile);
+  FillDefaultKeys(catalogue_.lvwHidden, defaults, notation_, step);
+  ReadShortcuts(catalogue_.lvwHidden, wincmd.Shortcuts(), notation_, step);
+  BuildDisplayTable(catalogue_, notation_, step);
+  BuildKeyIndexes(catalogue_, notation_);
+  MarkOverriddenDefaults(catalogue_);
+}
+
+void Editor::AskForMissingDataFile() {
+  if (FileExists(system_.FileSystem, settings_.DefaultHotKeysDataFile, false)) {
+    return;
+  }
+  const std::wstring folder = AddBackslash(system_.Surroundings.ProgramDirectory()) + L"Data Files";
+  settings_.DefaultHotKeysDataFile = AskForFile(
+      3074, BoxIcon::Critical, folder, L"tc default hotkeys.hky", FileFilter::DefaultHotkeys);
+  cProfile(system_.FileSystem, system_.Time)
+      .WriteStringValue(ProgramSection, L"DefaultHotKeysDataFile", settings_.DefaultHotKeysDataFile,
+                        SettingsPath(system_.Surroundings));
+}
+
+BoxAnswer Editor::AskToSaveChanges() {
+  if (!modified_) {
+    return BoxAnswer::No;
+  }
+  const BoxAnswer answer =
+      system_.Boxes.Show(texts_.GetLangText(3020) + L"  " + wincmdPath_ + L"\n",
+                         BoxButtons::YesNoCancel, BoxIcon::Exclamation);
+  if (answer == BoxAnswer::Yes) {
+    FileSave();
+  }
+  return answer;
+}
+
+bool Editor::ChangesMayGo() {
+  const BoxAnswer answer = AskToSaveChanges();
+  const bool saveFailed = answer == BoxAnswer::Yes && modified_;
+  if (saveFailed) {
+    system_.Boxes.Beep();
+  }
+  return answer != BoxAnswer::Cancel && !saveFailed;
+}
+
+void Editor::SetModified(bool modified) {
+  modified_ = modified;
+  saveAndRestartEnabled_ = modified;
+}
+
+void Editor::ApplyLanguage() {
+  if (settings_.UseDefaultLanguage == 0 && texts_.UseLanguageFile(settings_.ExpandedLanguageFile)) {
+    return;
+  }
+  texts_.UseBuiltIn();
+  if (settings_.UseDefaultLanguage == 0) {
+    // Told once: from here on the built-in texts are what is wanted.
+    system_.Boxes.Show(L"Cannot find language file!", BoxButtons::Ok, BoxIcon::Critical);
+    settings_.UseDefaultLanguage = 1;
+  }
+}
+
+void Editor::ReadModifierNames() {
+  // A blank name would be found in every key, and a save would then give it all modifiers.
+  const auto nameOf = [this](int textId) {
+    const std::wstring name = TrimBlanks(texts_.GetLangText(textId));
+    return name.empty() ? std::wstring(BuiltInTextOf(textId)) : name;
+  };
+  notation_.CtrlName = nameOf(404);
+  notation_.AltName = nameOf(405);
+  notation_.ShiftName = nameOf(406);
+}
+
+std::wstring Editor::AskForFile(int textId, BoxIcon icon, const std::wstring& folder,
+                                const std::wstring& fileName, FileFilter filter) {
+  system_.Boxes.Show(texts_.GetLangText(textId), BoxButtons::Ok, icon);
+  return dialogs_.BrowseForOpen(folder, fileName, filter);
+}
+
+}  // namespace tessera

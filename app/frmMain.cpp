@@ -1,0 +1,298 @@
+// The events of the main window, from its making to its end.
+#include "app/frmMain.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/resource.h"
+#include "resources/icons.h"
+
+namespace tessera {
+
+namespace {
+
+constexpr wchar_t WindowClass[] = L"frmMain";
+
+constexpr UINT_PTR Timer1 = 1;
+
+/// Posted at an activation, so that the window stands on the screen before files are loaded.
+constexpr UINT ActivationMessage = WM_APP + 1;
+
+bool MenuIsOpen() {
+  GUITHREADINFO information{};
+  information.cbSize = sizeof information;
+  return GetGUIThreadInfo(GetCurrentThreadId(), &information) != FALSE &&
+         (information.flags & GUI_INMENUMODE) != 0;
+}
+
+}  // namespace
+
+frmMain::frmMain(WindowsSystem& windowsSystem)
+    : windowsSystem_(windowsSystem),
+      system_(windowsSystem.Seams()),
+      editor_(system_, [this](const LoadProgress& progress) { ShowProgress(progress); }),
+      frmOptions_(editor_.Language(), editor_.Options()),
+      frmExportToClipboard_(editor_.Language(), editor_.Options()),
+      frmKeysList_({.Select = [this](int index) { React(editor_.SelectInKeysList(index)); },
+                    .KeyDown = [this](KeyCode code) { React(editor_.KeyDownInKeysList(code)); },
+                    .ReleaseMouse = [this] { editor_.ReleaseMouseInKeysList(); },
+                    .Close = [this] { React(editor_.KeyDownInKeysList(KeyCode::Escape)); }}) {
+  windowsSystem_.SetMessageFilter([this](MSG& message) { return FilterMessage(message); });
+}
+
+frmMain::~frmMain() { windowsSystem_.SetMessageFilter(nullptr); }
+
+bool frmMain::Form_Load(std::wstring fileToOpen) {
+  editor_.Load(std::move(fileToOpen));
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  icon_ = LoadIconOfSize(IDI_TESSERA, GetSystemMetrics(SM_CXICON));
+  smallIcon_ = LoadIconOfSize(IDI_TESSERA, GetSystemMetrics(SM_CXSMICON));
+  WNDCLASSEXW windowClass{};
+  windowClass.cbSize = sizeof windowClass;
+  windowClass.lpfnWndProc = WindowProcedure;
+  windowClass.hInstance = instance;
+  windowClass.hIcon = icon_.get();
+  windowClass.hIconSm = smallIcon_.get();
+  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  windowClass.lpszClassName = WindowClass;
+  RegisterClassExW(&windowClass);
+  const DWORD direction = editor_.Language().RightToLeft() ? WS_EX_LAYOUTRTL : 0;
+  CreateWindowExW(WS_EX_CONTROLPARENT | direction, WindowClass, editor_.Caption().c_str(),
+                  WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
+                  nullptr, nullptr, instance, this);
+  if (window_ == nullptr) {
+    return false;
+  }
+  windowsSystem_.SetMainWindow(window_);
+  dpi_ = static_cast<int>(GetDpiForWindow(window_));
+  CreateControls();
+  ApplyLanguage();
+  ApplyDisplaySettings();
+  SetColumnWidths(ReadColumnLayout(editor_.Options()).Widths);
+  Sync();
+  ApplyPlacement();
+  LayOut();
+  return true;
+}
+
+void frmMain::Show(int showCommand) {
+  const bool maximised = editor_.Options().MainWindowMaxmized == 1;
+  lastFocus_ = ListView1_;
+  ShowWindow(window_, maximised ? SW_SHOWMAXIMIZED : showCommand);
+  UpdateWindow(window_);
+}
+
+LRESULT CALLBACK frmMain::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto& creation = *reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation.lpCreateParams));
+    static_cast<frmMain*>(creation.lpCreateParams)->window_ = window;
+  }
+  auto* self = reinterpret_cast<frmMain*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  return self != nullptr ? self->Handle(message, wParam, lParam)
+                         : DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SIZE:
+      LayOut();
+      MoveKeysList();
+      return 0;
+    case WM_COMMAND:
+      if (!OnPanelCommand(LOWORD(wParam), HIWORD(wParam))) {
+        OnCommand(LOWORD(wParam), reinterpret_cast<HWND>(lParam));
+      }
+      return 0;
+    case WM_NOTIFY:
+      return OnNotify(*reinterpret_cast<NMHDR*>(lParam), lParam);
+    case WM_DROPFILES:
+      OnDropFiles(reinterpret_cast<HDROP>(wParam));
+      return 0;
+    case WM_MOVE:
+      MoveKeysList();
+      return 0;
+    case WM_INITMENUPOPUP:
+      OnInitMenu();
+      return 0;
+    case WM_TIMER:
+      OnTimer();
+      return 0;
+    case WM_ACTIVATE:
+      OnActivate(wParam);
+      return 0;
+    case ActivationMessage:
+      Form_Activate();
+      return 0;
+    case WM_SETFOCUS:
+      SetFocus(lastFocus_);
+      return 0;
+    case WM_CLOSE:
+      Form_QueryUnload();
+      return 0;
+    case WM_QUERYENDSESSION:
+      return MayClose() ? TRUE : FALSE;
+    case WM_ENDSESSION:
+      if (wParam != FALSE) {
+        DestroyWindow(window_);
+      }
+      return 0;
+    case WM_DESTROY:
+      Form_Unload();
+      return 0;
+    default:
+      return HandleDefault(message, wParam, lParam);
+  }
+}
+
+LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_GETMINMAXINFO: {
+      const SIZE smallest = SmallestSize();
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest.cx, smallest.cy};
+      return 0;
+    }
+    case WM_SETCURSOR:
+      if (editor_.Busy() && LOWORD(lParam) == HTCLIENT) {
+        SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+        return TRUE;
+      }
+      break;
+    case WM_DPICHANGED:
+      OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+      return 0;
+    case WM_SYSCOLORCHANGE:
+      ForwardToControls(message, wParam, lParam);
+      ApplyDisplaySettings();
+      break;
+    case WM_THEMECHANGED:
+      ApplyDisplaySettings();
+      break;
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+      if (editor_.Options().ShowControlsBackColor != 0 && IsTranslatorsControl(lParam)) {
+        return ColourControl(wParam);
+      }
+      break;
+    default:
+      break;
+  }
+  return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+LRESULT frmMain::OnNotify(NMHDR& header, LPARAM lParam) {
+  if (header.code == TBN_DROPDOWN) {
+    OnDropDown(*reinterpret_cast<const NMTOOLBARW*>(lParam));
+    return TBDDRET_DEFAULT;
+  }
+  return header.hwndFrom == ListView1_ ? OnListNotify(header) : 0;
+}
+
+void frmMain::OnActivate(WPARAM wParam) {
+  const bool minimised = HIWORD(wParam) != 0;
+  if (LOWORD(wParam) == WA_INACTIVE) {
+    const HWND focus = GetFocus();
+    lastFocus_ = focus != nullptr && IsChild(window_, focus) != FALSE ? focus : lastFocus_;
+  } else if (!minimised) {
+    SetFocus(window_);
+    PostMessageW(window_, ActivationMessage, 0, 0);
+  }
+}
+
+void frmMain::OnTimer() {
+  KillTimer(window_, Timer1);
+  // The released Alt key has put the menu bar into its keyboard mode, where it would take the keys.
+  if (MenuIsOpen()) {
+    EndMenu();
+  }
+  React(editor_.TimerTick());
+}
+
+void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
+  const std::array<int, 4> widths = CurrentColumns().Widths;
+  dpi_ = dpi;
+  ApplyDpi();
+  SetColumnWidths(widths);
+  SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+               suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  LayOut();
+}
+
+void frmMain::Form_Activate() {
+  if (editor_.Busy()) {
+    return;
+  }
+  editor_.Activate();
+  Sync();
+}
+
+void frmMain::Form_QueryUnload() {
+  if (MayClose()) {
+    DestroyWindow(window_);
+  }
+}
+
+bool frmMain::MayClose() {
+  // While a message box is open the window is disabled: the box is to be answered first.
+  const bool closes = AcceptsInput() && editor_.QueryUnload();
+  Sync();
+  return closes;
+}
+
+void frmMain::Form_Unload() {
+  editor_.Unload(CurrentPlacement(), CurrentColumns());
+  KillTimer(window_, Timer1);
+  windowsSystem_.SetMainWindow(nullptr);
+  PostQuitMessage(0);
+}
+
+void frmMain::OnDropFiles(HDROP drop) {
+  std::wstring path(DragQueryFileW(drop, 0, nullptr, 0) + std::size_t{1}, L'\0');
+  path.resize(DragQueryFileW(drop, 0, path.data(), static_cast<UINT>(path.size())));
+  DragFinish(drop);
+  if (AcceptsInput() && !path.empty()) {
+    SetForegroundWindow(window_);
+    editor_.OpenFile(path);
+    Sync();
+    ShowSelectedRow();
+  }
+}
+
+void frmMain::ForwardToControls(UINT message, WPARAM wParam, LPARAM lParam) const {
+  for (const HWND control : {Toolbar1_, ListView1_, Toolbar2_, ProgressBar1_}) {
+    SendMessageW(control, message, wParam, lParam);
+  }
+}
+
+bool frmMain::AcceptsInput() const { return IsWindowEnabled(window_) != FALSE && !editor_.Busy(); }
+
+void frmMain::React(const PanelReaction& reaction) {
+  if (reaction.StartTimer) {
+    SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr);
+  }
+  if (reaction.Changed) {
+    Sync();
+  } else {
+    SyncPanel();
+    SyncCommands();
+    SyncKeysList();
+  }
+  if (!AcceptsInput() || reaction.FocusTo == PanelReaction::Focus::Unchanged) {
+    return;
+  }
+  SetFocus(reaction.FocusTo == PanelReaction::Focus::Chooser ? Combo1_ : ListView1_);
+}
+
+void frmMain::Sync() {
+  if (GetDlgItem(window_, IDC_ListView1) == nullptr) {
+    return;
+  }
+  SetText(window_, editor_.Caption());
+  SyncList();
+  SyncPanel();
+  SyncCommands();
+  SyncKeysList();
+}
+
+}  // namespace tessera

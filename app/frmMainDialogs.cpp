@@ -1,0 +1,56 @@
+// The windows that the main window opens: the two dialogs, and the keys list.
+#include "app/frmMain.h"
+
+namespace tessera {
+
+void frmMain::ShowExport() {
+  ClipboardExport& model = editor_.BeginExport();
+  frmExportToClipboard_.Show(window_, model, [this, &model] {
+    model.Ok(system_.FileSystem, system_.Time, SettingsPath(system_.Surroundings));
+  });
+  editor_.EndExport();
+}
+
+void frmMain::ShowOptions() {
+  frmOptions_.Show(window_, editor_.BeginOptions());
+  const OptionsOutcome outcome = editor_.EndOptions();
+  if (outcome.LanguageChanged) {
+    ApplyLanguage();
+  } else {
+    ApplyDpi();
+  }
+  ApplyDisplaySettings();
+  React(outcome.Panel);
+}
+
+void frmMain::ToggleKeysList() {
+  if (AcceptsInput()) {
+    React(editor_.ToggleKeysList());
+  }
+}
+
+void frmMain::SyncKeysList() {
+  const KeysList& list = editor_.AllKeys();
+  SetEnabled(Toolbar2_, list.PanelToolbarEnabled());
+  frmKeysList_.Select(list.Selection());
+  if (list.Visible() == frmKeysList_.Visible()) {
+    return;
+  }
+  if (list.Visible()) {
+    MoveKeysList();
+    frmKeysList_.Show();
+  } else {
+    frmKeysList_.Hide();
+  }
+}
+
+void frmMain::MoveKeysList() {
+  const Area size = frmKeysList_.Size();
+  frmKeysList_.MoveTo(PlaceKeysList({.Panel = WindowArea(Frame1_),
+                                     .Button = WindowArea(cmdAllList_),
+                                     .Screen = WorkArea(window_),
+                                     .RightToLeft = editor_.Language().RightToLeft()},
+                                    size.Width, size.Height));
+}
+
+}  // namespace tessera

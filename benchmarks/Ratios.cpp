@@ -1,0 +1,58 @@
+// The table of ratios.
+#include "benchmarks/Ratios.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iomanip>
+#include <iostream>
+#include <limits>
+
+namespace tessera {
+
+RatioReporter::RatioReporter(std::vector<Ratio> ratios) : ratios_(std::move(ratios)) {}
+
+bool RatioReporter::ReportContext(const Context& context) {
+  static_cast<void>(context);
+  return true;
+}
+
+void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
+  for (const Run& run : runs) {
+    if (run.error_occurred) {
+      GetErrorStream() << run.benchmark_name() << ": " << run.error_message << "\n";
+    } else if (run.aggregate_name == "median") {
+      times_.emplace_back(run.run_name.function_name + "/" + run.run_name.args,
+                          run.GetAdjustedRealTime());
+    }
+  }
+}
+
+void RatioReporter::Finalize() {
+  std::ostream& out = GetOutputStream();
+  out << std::left << std::setw(72) << "what, against which reference" << std::right << std::setw(8)
+      << "ratio" << std::setw(8) << "goal\n";
+  for (const Ratio& ratio : ratios_) {
+    const double measured = TimeOf(ratio.Measured);
+    const double reference = TimeOf(ratio.Reference);
+    const double value = measured / reference / ratio.Scale;
+    everyRatioKnown_ = everyRatioKnown_ && !std::isnan(value);
+    // Neither of the two was asked for.
+    if (std::isnan(measured) && std::isnan(reference)) continue;
+    out << std::left << std::setw(72) << ratio.What << std::right << std::fixed
+        << std::setprecision(2) << std::setw(8) << value << std::setw(7);
+    if (std::isinf(ratio.Goal)) {
+      out << "-\n";
+    } else {
+      out << ratio.Goal << (value <= ratio.Goal ? "\n" : "  MISSED\n");
+    }
+  }
+}
+
+/// Not a number for a benchmark that did not run, so that its row cannot meet a goal.
+double RatioReporter::TimeOf(const std::string& name) const {
+  const auto found = std::find_if(times_.begin(), times_.end(),
+                                  [&](const auto& time) { return time.first == name; });
+  return found == times_.end() ? std::numeric_limits<double>::quiet_NaN() : found->second;
+}
+
+}  // namespace tessera

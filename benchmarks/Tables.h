@@ -1,0 +1,14 @@
+// The rows that each file of benchmarks adds to the table of ratios.
+#pragma once
+
+#include <vector>
+
+#include "benchmarks/Ratios.h"
+
+namespace tessera {
+
+[[nodiscard]] std::vector<Ratio> EditorRatios();
+[[nodiscard]] std::vector<Ratio> OpeningRatios();
+[[nodiscard]] std::vector<Ratio> IniRatios();
+
+}  // namespace tessera

@@ -1,0 +1,239 @@
+// What sorting, editing, saving and changing the language cost, by the number of commands.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "benchmarks/SampleProgram.h"
+#include "benchmarks/Tables.h"
+#include "export/ClipboardTable.h"
+#include "localisation/Texts.h"
+#include "platform/Text.h"
+
+namespace tessera {
+namespace {
+
+void Assign(benchmark::State& state) {
+  SampleProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  const std::size_t rows = program.Editor.Rows().Count();
+  std::size_t row = 0;
+  int key = 0;
+  for (auto _ : state) {
+    row = (row + 7919) % rows;
+    key = (key + 1) % 67;
+    program.Editor.SelectRow(row);
+    program.Editor.SetBox(0, key % 2 == 0);
+    program.Editor.ChooseKey(key);
+    program.Editor.AssignKey();
+  }
+}
+
+void Delete(benchmark::State& state) {
+  SampleProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  const std::size_t rows = program.Editor.Rows().Count();
+  std::size_t row = 0;
+  int key = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    row = (row + 7919) % rows;
+    program.Editor.SelectRow(row);
+    program.Editor.SetBox(0, ++key % 2 == 0);
+    program.Editor.ChooseKey(key % 67);
+    program.Editor.AssignKey();
+    state.ResumeTiming();
+    program.Editor.DeleteKeys();
+  }
+}
+
+void DeleteAll(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto program = std::make_unique<SampleProgram>(static_cast<int>(state.range(0)));
+    program->Start();
+    state.ResumeTiming();
+    program->Editor.DeleteAllKeys();
+    state.PauseTiming();
+    program.reset();
+    state.ResumeTiming();
+  }
+}
+
+/// Into the sorted view and back into file order.
+void SwitchSort(benchmark::State& state) {
+  SampleProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  for (auto _ : state) {
+    program.Editor.ToggleSortedList();
+    program.Editor.ToggleSortedList();
+  }
+}
+
+Column ColumnOf(const benchmark::State& state) { return static_cast<Column>(state.range(1)); }
+
+/// From file order into the order of a column, as the list does it.
+void SortRows(benchmark::State& state) {
+  SampleProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  DisplayTable table = program.Editor.Rows();
+  for (auto _ : state) {
+    table.RestoreFileOrder();
+    table.RemoveHeadings();
+    table.Sort(ColumnOf(state), SortDirection::Ascending);
+  }
+}
+
+/// The texts of a column alone, sorted in the same order with the same comparison.
+void StableSort(benchmark::State& state) {
+  SampleProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  std::vector<std::wstring> texts;
+  for (std::size_t position = 0; position < program.Editor.Rows().Count(); ++position) {
+    const CommandEntry& row = program.Editor.Rows().At(position);
+    if (!row.IsHeading()) texts.push_back(CellText(row, ColumnOf(state)));
+  }
+  for (auto _ : state) {
+    std::vector<std::wstring> sorted = texts;
+    std::stable_sort(sorted.begin(), sorted.end(), [](const auto& left, const auto& right) {
+      return CompareTexts(left, right) < 0;
+    });
+    benchmark::DoNotOptimize(sorted.data());
+  }
+}
+
+void Save(benchmark::State& state) {
+  SampleProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  int key = 0;
+  bool once = true;
+  for (auto _ : state) {
+    state.PauseTiming();
+    key = (key + 1) % 67;  // another key each time, as there is nothing to save otherwise
+    program.Editor.SelectRow(1);
+    program.Editor.ChooseKey(key);
+    program.Editor.AssignKey();
+    program.Files.Reads = program.Files.Writes = 0;
+    state.ResumeTiming();
+    program.Editor.FileSave();
+    once = once && program.Files.Reads == 1 && program.Files.Writes == 1;
+  }
+  if (!once) state.SkipWithError("a save must read and write its file once");
+}
+
+constexpr ExportColumns AllColumns = {true, true, true, true};
+
+/// Every row exported has a key: the table leaves the others out.
+DisplayTable RowsWithKeys(int count) {
+  std::vector<CommandEntry> rows(static_cast<std::size_t>(count));
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    const std::wstring number = std::to_wstring(row);
+    rows[row].Key = row + 1;
+    rows[row].Description = L"Does what command " + number + L" is for";
+    rows[row].CommandName = L"cm_Command" + number;
+    rows[row].Tag = number;
+    rows[row].DefaultKeys = L"---";
+    rows[row].CurrentKeys = L"Ctrl + Shift + K" + number;
+  }
+  DisplayTable table;
+  table.Fill(std::move(rows));
+  return table;
+}
+
+void Export(benchmark::State& state) {
+  const MemoryFiles files;
+  const Texts texts(files);
+  const DisplayTable rows = RowsWithKeys(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(BuildExportText(rows, AllColumns, texts, L"---").data());
+  }
+}
+
+/// The exported cells, one behind the other.
+void ConcatenateCells(benchmark::State& state) {
+  const DisplayTable rows = RowsWithKeys(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    std::wstring text;
+    for (std::size_t position = 0; position < rows.Count(); ++position) {
+      for (const Column column :
+           {Column::Description, Column::Command, Column::Defaults, Column::Current}) {
+        text += CellText(rows.At(position), column);
+      }
+    }
+    benchmark::DoNotOptimize(text.data());
+  }
+}
+
+/// A language file read, and `range` texts of it asked for, as each window does when it is shown.
+void ApplyTexts(benchmark::State& state) {
+  MemoryFiles files;
+  std::string& bytes = files.Contents[L"other.lng"] = "[UserLanguage]\r\n";
+  for (int id = 0; id < state.range(0); ++id) {
+    bytes += std::to_string(id) + "=Text number " + std::to_string(id) + "\r\n";
+  }
+  for (auto _ : state) {
+    Texts texts(files);
+    if (!texts.UseLanguageFile(L"other.lng")) state.SkipWithError("no language file");
+    for (int id = 0; id < state.range(0); ++id) {
+      benchmark::DoNotOptimize(texts.GetLangText(id).size());
+    }
+  }
+}
+
+void ForSizes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(FewCommands)->Arg(ManyCommands);
+  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
+}
+
+void ForColumns(benchmark::internal::Benchmark* benchmark) {
+  benchmark->ArgsProduct({{FewCommands, ManyCommands}, {1, 2, 3, 4}});
+  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK(Assign)->Apply(ForSizes);
+BENCHMARK(Delete)->Apply(ForSizes);
+BENCHMARK(DeleteAll)->Apply(ForSizes);
+BENCHMARK(SwitchSort)->Apply(ForSizes);
+BENCHMARK(SortRows)->Apply(ForColumns);
+BENCHMARK(StableSort)->Apply(ForColumns);
+BENCHMARK(Save)->Apply(ForSizes);
+BENCHMARK(Export)->Apply(ForSizes);
+BENCHMARK(ConcatenateCells)->Apply(ForSizes);
+BENCHMARK(ApplyTexts)->Apply(ForSizes);
+
+}  // namespace
+
+std::vector<Ratio> EditorRatios() {
+  constexpr double Growth = static_cast<double>(ManyCommands) / FewCommands;
+  std::vector<Ratio> ratios{
+      {"assign a key at 100,000 commands, against at 600", "Assign/100000", "Assign/600", 1, 10},
+      {"delete a key at 100,000 commands, against at 600", "Delete/100000", "Delete/600", 1, 10},
+      {"delete all: a command among 100,000, against one among 600", "DeleteAll/100000",
+       "DeleteAll/600", Growth, 2},
+      {"export of 600 rows, against concatenating their cells", "Export/600",
+       "ConcatenateCells/600", 1, 5},
+      {"export of 100,000 rows, against concatenating their cells", "Export/100000",
+       "ConcatenateCells/100000", 1, 5},
+      {"language: a text among 100,000, against one among 600", "ApplyTexts/100000",
+       "ApplyTexts/600", Growth, 2},
+      {"save: a command among 100,000, against one among 600", "Save/100000", "Save/600", Growth,
+       1.5},
+  };
+  for (const auto& [size, count] : {std::pair{"600", "600"}, {"100000", "100,000"}}) {
+    const std::string rows = std::string(count) + " rows";
+    for (const auto& [column, name] : {std::pair{"1", "description"},
+                                       {"2", "command"},
+                                       {"3", "default keys"},
+                                       {"4", "current keys"}}) {
+      const std::string arguments = std::string("/") + size + "/" + column;
+      ratios.push_back({"sort " + rows + " by " + name + ", against a stable sort of the texts",
+                        "SortRows" + arguments, "StableSort" + arguments, 1, 2});
+    }
+    ratios.push_back({"sorted view and back at " + rows + ", against a stable sort",
+                      std::string("SwitchSort/") + size, std::string("StableSort/") + size + "/3",
+                      1, 3});
+  }
+  return ratios;
+}
+
+}  // namespace tessera

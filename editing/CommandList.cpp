@@ -1,0 +1,150 @@
+// The selected row, the two orders of the rows, and the columns' layout.
+#include "editing/CommandList.h"
+
+#include <algorithm>
+
+#include "shortcuts/HotkeyNotation.h"
+
+namespace tessera {
+
+namespace {
+
+constexpr int FirstColumn = 1;
+constexpr int LastColumn = 4;
+constexpr int DefaultSortedColumn = 3;
+constexpr int NoColumn = 0;
+
+constexpr int MaximumWidth = 1000000;  // twips, beyond any screen
+
+bool IsColumn(int column) { return column >= FirstColumn && column <= LastColumn; }
+
+/// Sorting again brings the stored order back, because it turns this one round.
+SortDirection OppositeOf(short sortOrder) {
+  return sortOrder == 0 ? SortDirection::Descending : SortDirection::Ascending;
+}
+
+void RepairSort(Settings& settings) {
+  if (!IsColumn(settings.SortedColumn)) {
+    settings.SortedColumn = DefaultSortedColumn;
+  }
+  if (settings.SortOrder != 0 && settings.SortOrder != 1) {
+    settings.SortOrder = 1;
+  }
+}
+
+/// Four numbers, -1 for what is missing or no number.
+std::array<int, 4> ReadNumbers(std::wstring_view text) {
+  std::array<int, 4> numbers{-1, -1, -1, -1};
+  const std::vector<std::wstring> pieces = SplitText(text, L",");
+  for (std::size_t i = 0; i < std::min(pieces.size(), numbers.size()); ++i) {
+    if (!pieces[i].empty() && pieces[i].front() >= L'0' && pieces[i].front() <= L'9') {
+      numbers[i] = RoundTo32Bits(LeadingNumber(pieces[i]));
+    }
+  }
+  return numbers;
+}
+
+std::wstring JoinNumbers(const std::array<int, 4>& numbers) {
+  std::wstring text;
+  for (const int number : numbers) {
+    text.append(text.empty() ? L"" : L",").append(std::to_wstring(number));
+  }
+  return text;
+}
+
+}  // namespace
+
+ColumnLayout ReadColumnLayout(const Settings& settings) {
+  ColumnLayout layout;
+  const std::array<int, 4> widths = ReadNumbers(settings.ColumnHeadersSize);
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    if (widths[i] >= 0 && widths[i] <= MaximumWidth) {
+      layout.Widths[i] = widths[i];
+    }
+  }
+  const std::array<int, 4> positions = ReadNumbers(settings.ColumnHeadersPosition);
+  if (std::is_permutation(positions.begin(), positions.end(), layout.Positions.begin())) {
+    layout.Positions = positions;
+  }
+  return layout;
+}
+
+void StoreColumnLayout(const ColumnLayout& layout, Settings& settings) {
+  settings.ColumnHeadersPosition = JoinNumbers(layout.Positions);
+  settings.ColumnHeadersSize = JoinNumbers(layout.Widths);
+}
+
+CommandList::CommandList(Catalogue& catalogue, Settings& settings)
+    : catalogue_(catalogue), settings_(settings) {}
+
+RowKey CommandList::SelectedRow() const { return selectedRow_; }
+
+bool CommandList::CommandSelected() const {
+  return selectedRow_ != 0 && !catalogue_.ListView1.Row(selectedRow_).IsHeading();
+}
+
+HeaderIcon CommandList::IconOf(Column column) const {
+  return icons_.at(static_cast<std::size_t>(column) - 1);
+}
+
+void CommandList::ShowRowDetails(RowKey row) { selectedRow_ = row; }
+
+void CommandList::ShowFirstRow() {
+  const DisplayTable& rows = catalogue_.ListView1;
+  ShowRowDetails(rows.Count() == 0 ? 0 : rows.At(0).Key);
+}
+
+void CommandList::SortByColumn(int column) {
+  icons_.fill(HeaderIcon::None);
+  if (!sorted_) {
+    settings_.SortOrder = 1;
+    settings_.SortedColumn = DefaultSortedColumn;
+    return;
+  }
+  if (column != NoColumn) {
+    sortKey_ = static_cast<Column>(column);
+  }
+  if (column != settings_.SortedColumn) {
+    direction_ = static_cast<SortDirection>(settings_.SortOrder);
+  } else {
+    direction_ = OppositeOf(static_cast<short>(direction_));
+  }
+  if (column != NoColumn) {
+    icons_[static_cast<std::size_t>(column) - 1] =
+        static_cast<HeaderIcon>(static_cast<int>(direction_) + 1);
+  }
+  settings_.SortOrder = static_cast<short>(direction_);
+  settings_.SortedColumn = static_cast<short>(column);
+  catalogue_.ListView1.Sort(sortKey_, direction_);
+}
+
+void CommandList::SortCommandList() {
+  settings_.SortedList = 1;
+  RepairSort(settings_);
+  catalogue_.ListView1.RemoveHeadings();
+  sorted_ = true;
+  direction_ = OppositeOf(settings_.SortOrder);
+  SortByColumn(settings_.SortedColumn);
+  ShowFirstRow();
+}
+
+void CommandList::RestoreFileOrder() {
+  settings_.SortedList = 0;
+  sorted_ = false;
+  catalogue_.ListView1.RestoreFileOrder();
+  SortByColumn(static_cast<int>(Column::Defaults));
+  ShowFirstRow();
+}
+
+void CommandList::RestoreStoredSort() {
+  if (settings_.SortedList != 1) {
+    return;
+  }
+  RepairSort(settings_);
+  // A stored 4 becomes 0, which names no column. Kept so.
+  settings_.SortedColumn = static_cast<short>(settings_.SortedColumn % LastColumn);
+  direction_ = OppositeOf(settings_.SortOrder);
+  SortByColumn(settings_.SortedColumn);
+}
+
+}  // namespace tessera

@@ -1,0 +1,65 @@
+// What the command list shows beyond its rows: the selected row, and the order of the rows.
+#pragma once
+
+#include <array>
+
+#include "settings/Settings.h"
+#include "shortcuts/Catalogue.h"
+
+namespace tessera {
+
+/// The icon in a column's header.
+enum class HeaderIcon { None = 0, Ascending = 1, Descending = 2 };
+
+/// The columns' positions and widths as the settings hold them, in the order description, command,
+/// defaults, current. A missing or impossible entry takes its default.
+struct ColumnLayout {
+  std::array<int, 4> Positions{1, 2, 3, 4};           ///< 1-based; each of 1 to 4 once
+  std::array<int, 4> Widths{3000, 2000, 2000, 2000};  ///< twips
+};
+
+[[nodiscard]] ColumnLayout ReadColumnLayout(const Settings& settings);
+void StoreColumnLayout(const ColumnLayout& layout, Settings& settings);
+
+class CommandList {
+ public:
+  CommandList(Catalogue& catalogue, Settings& settings);
+
+  // -- Queries
+
+  /// The row that edits act on; 0 while the list is empty.
+  [[nodiscard]] RowKey SelectedRow() const;
+
+  /// True for a command row; false for a heading row, or none.
+  [[nodiscard]] bool CommandSelected() const;
+
+  [[nodiscard]] HeaderIcon IconOf(Column column) const;
+
+  // -- Changes
+
+  void ShowRowDetails(RowKey row);
+
+  /// Selects the first displayed row, or none in an empty list.
+  void ShowFirstRow();
+
+  /// In the sorted view sorts by the column of that 1-based index, or turns the order round when it
+  /// is the one sorted by already; 0 names no column. In file order it resets the stored order.
+  void SortByColumn(int column);
+
+  void SortCommandList();
+  void RestoreFileOrder();
+
+  /// Brings back the stored sort at the first activation of the program.
+  void RestoreStoredSort();
+
+ private:
+  Catalogue& catalogue_;
+  Settings& settings_;
+  RowKey selectedRow_ = 0;
+  bool sorted_ = false;  ///< the rows are in sorted state; Settings::SortedList is what is wanted
+  SortDirection direction_ = SortDirection::Ascending;
+  Column sortKey_ = Column::Description;
+  std::array<HeaderIcon, 4> icons_{};
+};
+
+}  // namespace tessera

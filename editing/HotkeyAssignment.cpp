@@ -1,0 +1,104 @@
+// Assigning, adding and deleting keys.
+#include "editing/HotkeyAssignment.h"
+
+#include "editing/KeyConflicts.h"
+#include "editing/KeyEdits.h"
+#include "platform/Text.h"
+
+namespace tessera {
+
+namespace {
+
+/// A question that may destroy something: No is the default button.
+bool Confirmed(MessageBoxes& boxes, const std::wstring& text, BoxIcon icon) {
+  return boxes.Show(text, BoxButtons::YesNo, icon, BoxDefault::Second) == BoxAnswer::Yes;
+}
+
+}  // namespace
+
+HotkeyAssignment::HotkeyAssignment(Catalogue& catalogue, const HotkeyNotation& notation,
+                                   const Texts& texts, MessageBoxes& boxes)
+    : catalogue_(catalogue), notation_(notation), texts_(texts), boxes_(boxes) {}
+
+bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
+  if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, true)) {
+    return false;
+  }
+  ReleaseCurrentKeys(catalogue_, row, notation_);
+  CommandEntry& entry = catalogue_.ListView1.Edit(row);
+  entry.CurrentKeys = key;
+  entry.Icon = RowIcon::HasKey;
+  return true;
+}
+
+bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
+  if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, false)) {
+    return false;
+  }
+  std::wstring& keys = catalogue_.ListView1.Edit(row).CurrentKeys;
+  // The key may have been the row's own last one, which the check has just taken out of the cell.
+  keys = keys == notation_.UndefinedHotkey ? key : keys + notation_.MultiHotkeySeparator + key;
+  return true;
+}
+
+bool HotkeyAssignment::Delete(RowKey row) { return DeleteCurrentKeys(catalogue_, row, notation_); }
+
+bool HotkeyAssignment::DeleteAll() {
+  if (!Confirmed(boxes_, DeleteAllQuestion(texts_), BoxIcon::Question)) {
+    return false;
+  }
+  bool changed = false;
+  for (std::size_t position = 0; position < catalogue_.ListView1.Count(); ++position) {
+    const CommandEntry& row = catalogue_.ListView1.At(position);
+    if (!row.IsHeading()) {
+      changed |= DeleteCurrentKeys(catalogue_, row.Key, notation_);
+    }
+  }
+  return changed;
+}
+
+/// False when the user keeps the key for the Start Menu. The answer about the last slot decides.
+bool HotkeyAssignment::CheckStartMenuConflict(RowKey row, const std::wstring& key) {
+  bool confirmed = true;
+  for (StartMenuSlot& slot : catalogue_.StartMenuKeys) {
+    if (!EqualIgnoringCase(slot.Key, key)) {
+      continue;
+    }
+    confirmed = Confirmed(boxes_, StartMenuQuestion(texts_, slot, catalogue_.ListView1.Row(row)),
+                          BoxIcon::Exclamation);
+    if (confirmed) {
+      slot.Key.append(OverriddenMark);
+    }
+  }
+  return confirmed;
+}
+
+/// False when the user leaves the key to its owner, or the row has just this key already.
+bool HotkeyAssignment::CheckConflicts(RowKey row, const std::wstring& key, bool replace) {
+  const KeyConflict conflict = FindConflict(catalogue_, row, key);
+  const DisplayTable& rows = catalogue_.ListView1;
+  bool confirmed = true;
+  switch (conflict.Kind) {
+    case ConflictKind::SameKey:
+      boxes_.Beep();
+      return false;
+    case ConflictKind::Free:
+      break;
+    case ConflictKind::DefaultKey:
+      confirmed =
+          Confirmed(boxes_, DefaultKeyQuestion(texts_, rows.Row(conflict.Owner), rows.Row(row)),
+                    BoxIcon::Exclamation);
+      break;
+    case ConflictKind::CurrentKey:
+      confirmed =
+          Confirmed(boxes_, CurrentKeyQuestion(texts_, rows.Row(conflict.Owner), rows.Row(row)),
+                    BoxIcon::Exclamation);
+      break;
+  }
+  if (confirmed) {
+    TakeKey(catalogue_, row, key, conflict, replace, notation_);
+  }
+  return confirmed;
+}
+
+}  // namespace tessera

@@ -1,0 +1,100 @@
+// The panel in which a key is composed: the state of its controls, and what keys and clicks do to
+// it.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "editing/CommandList.h"
+#include "editing/HotkeyAssignment.h"
+#include "platform/MessageBoxes.h"
+#include "settings/Settings.h"
+#include "shortcuts/HotkeyNotation.h"
+
+namespace tessera {
+
+/// The virtual-key codes that the panel knows.
+enum class KeyCode : int {
+  Backspace = 8,
+  Enter = 13,
+  Shift = 16,
+  Ctrl = 17,
+  Alt = 18,
+  Escape = 27,
+  Space = 32,
+  Right = 39,
+  Delete = 46,
+  ContextMenu = 93,
+};
+
+struct KeyEvent {
+  KeyCode Code{};  ///< any virtual-key code
+  bool CtrlHeld = false;
+  bool AltHeld = false;
+  bool ShiftHeld = false;
+};
+
+/// What the window has to do after a key.
+struct PanelReaction {
+  enum class Focus { Unchanged, CommandList, Chooser };
+  Focus FocusTo = Focus::Unchanged;
+  bool StartTimer = false;  ///< the one-shot timer of PanelTimerMilliseconds
+  bool Handled = false;     ///< the key did its work here and must not reach the control
+  bool Changed = false;     ///< the keys of a command changed
+};
+
+inline constexpr int PanelTimerMilliseconds = 50;
+
+/// No key chosen in the chooser.
+inline constexpr int NoKeyChosen = -1;
+
+class HotkeyPanel {
+ public:
+  HotkeyPanel(Catalogue& catalogue, CommandList& list, HotkeyAssignment& assignment,
+              const HotkeyNotation& notation, const Settings& settings, MessageBoxes& boxes);
+
+  // -- Queries: what the controls show. Boxes are indexed 0 Ctrl, 1 Alt, 2 Shift.
+
+  [[nodiscard]] bool BoxChecked(int box) const;
+  [[nodiscard]] int ChosenKey() const;  ///< index into KeyVocabulary(), or NoKeyChosen
+  [[nodiscard]] bool InputsEnabled() const;
+  [[nodiscard]] bool AssignEnabled() const;
+  [[nodiscard]] bool DeleteEnabled() const;
+  [[nodiscard]] bool AddEnabled() const;
+  [[nodiscard]] std::wstring ComposeKey() const;
+
+  // -- Changes by the controls
+
+  void SetBox(int box, bool checked);
+
+  /// An index outside the vocabulary chooses no key.
+  void ChooseKey(int index);
+
+  PanelReaction ResetPanel();
+
+  // -- Edits of the selected row; true when the keys of a command changed
+
+  bool Assign();
+  bool Add();
+  bool Delete();
+  bool DeleteAll();
+
+  // -- Keyboard
+
+  PanelReaction KeyDown(const KeyEvent& event);
+  PanelReaction KeyUp(const KeyEvent& event);
+  PanelReaction TimerTick();
+
+ private:
+  Catalogue& catalogue_;
+  CommandList& list_;
+  HotkeyAssignment& assignment_;
+  const HotkeyNotation& notation_;
+  const Settings& settings_;
+  MessageBoxes& boxes_;
+  std::array<bool, 3> boxesChecked_{};
+  std::array<bool, 3> modifierToggle_;  ///< what each box becomes at the next press of its key
+  int chosenKey_ = NoKeyChosen;
+};
+
+}  // namespace tessera

@@ -1,0 +1,51 @@
+// Looking for a key among its other uses, and the questions that follow.
+#include "editing/KeyConflicts.h"
+
+namespace tessera {
+
+namespace {
+
+constexpr const wchar_t* LineBreaks = L"\n\n";
+
+std::wstring AssignItToQuestion(const Texts& texts, const CommandEntry& row) {
+  return texts.GetLangText(3060) + L"  " + row.CommandName;
+}
+
+}  // namespace
+
+KeyConflict FindConflict(const Catalogue& catalogue, RowKey row, std::wstring_view key) {
+  if (catalogue.ListView1.Row(row).CurrentKeys == key) {
+    return {ConflictKind::SameKey};
+  }
+  if (const auto entry = catalogue.lvwDefKeys.FindKey(key)) {
+    return {ConflictKind::DefaultKey, *entry, catalogue.lvwDefKeys.At(*entry).Owner};
+  }
+  if (const auto entry = catalogue.lvwCurrKeys.FindKey(key)) {
+    return {ConflictKind::CurrentKey, *entry, catalogue.lvwCurrKeys.At(*entry).Owner};
+  }
+  return {ConflictKind::Free};
+}
+
+std::wstring StartMenuQuestion(const Texts& texts, const StartMenuSlot& slot,
+                               const CommandEntry& row) {
+  return texts.GetLangText(3204) + L"  [" + slot.Caption + L"] " + texts.GetLangText(3207) +
+         LineBreaks + AssignItToQuestion(texts, row);
+}
+
+std::wstring DefaultKeyQuestion(const Texts& texts, const CommandEntry& owner,
+                                const CommandEntry& row) {
+  return texts.GetLangText(3203) + L"  " + owner.CommandName + L"\t" + LineBreaks +
+         AssignItToQuestion(texts, row) + L"\t";
+}
+
+std::wstring CurrentKeyQuestion(const Texts& texts, const CommandEntry& owner,
+                                const CommandEntry& row) {
+  return texts.GetLangText(3204) + L"  " + owner.CommandName + LineBreaks +
+         AssignItToQuestion(texts, row);
+}
+
+std::wstring DeleteAllQuestion(const Texts& texts) {
+  return texts.GetLangText(3206) + LineBreaks + texts.GetLangText(3009);
+}
+
+}  // namespace tessera

@@ -1,0 +1,59 @@
+// The pop-up that shows all keys at once: what a selection in it means, and when it closes.
+#pragma once
+
+#include "editing/HotkeyPanel.h"
+
+namespace tessera {
+
+class KeysList {
+ public:
+  explicit KeysList(HotkeyPanel& panel);
+
+  // -- Queries
+
+  [[nodiscard]] bool Visible() const;
+
+  /// The index selected in List1, or NoKeyChosen.
+  [[nodiscard]] int Selection() const;
+
+  /// False while the panel toolbar is disabled as a whole, which an open list does.
+  [[nodiscard]] bool PanelToolbarEnabled() const;
+
+  // -- Opening and closing. A list that was opened takes the focus.
+
+  /// A click on the all-keys button, or Right in the chooser.
+  PanelReaction ToggleKeysList();
+  PanelReaction CloseKeysList();
+
+  /// Closes the list, when a row is selected, and leaves the focus where it is.
+  void Hide();
+
+  // -- The chooser
+
+  /// The chooser's selection changed: List1 follows, and this is not taken for a choice.
+  void FollowChooser();
+
+  /// The chooser's own list opens, which enables the panel toolbar.
+  void ChooserDropsDown();
+
+  // -- List1
+
+  /// List1's selection changed. It is a choice, which closes the list, unless a key moved it.
+  PanelReaction Select(int index);
+
+  /// A mouse button was released over List1: the next selection is a choice.
+  void ReleaseMouse();
+
+  /// Enter and Space choose, Esc closes without a choice; any other key only moves.
+  PanelReaction KeyDown(KeyCode code);
+
+ private:
+  HotkeyPanel& panel_;
+  bool visible_ = false;
+  bool panelToolbarEnabled_ = true;
+  int selection_ = NoKeyChosen;
+  bool acceptClick_ = true;
+  bool suppressClick_ = false;
+};
+
+}  // namespace tessera

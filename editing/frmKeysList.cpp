@@ -1,0 +1,135 @@
+// The keys list's window: it tells what happens, and shows what it is told.
+#include "editing/frmKeysList.h"
+
+#include <utility>
+
+#include "app/resource.h"
+#include "shortcuts/HotkeyNotation.h"
+
+namespace tessera {
+
+namespace {
+
+constexpr wchar_t WindowClass[] = L"frmKeysList";
+constexpr UINT_PTR ListSubclass = 1;
+
+/// For 96 pixels an inch: 90 twips on each side of the list.
+constexpr int Margin = 6;
+constexpr int ListWidth = 160;
+constexpr int ShownRows = 22;
+
+}  // namespace
+
+frmKeysList::frmKeysList(Events events) : events_(std::move(events)) {}
+
+frmKeysList::~frmKeysList() {
+  if (window_ != nullptr) {
+    SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+    RemoveWindowSubclass(List1_, ListProcedure, ListSubclass);
+  }
+}
+
+void frmKeysList::Create(HWND owner) {
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  WNDCLASSEXW windowClass{};
+  windowClass.cbSize = sizeof windowClass;
+  windowClass.style = CS_DROPSHADOW;
+  windowClass.lpfnWndProc = WindowProcedure;
+  windowClass.hInstance = instance;
+  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  windowClass.lpszClassName = WindowClass;
+  RegisterClassExW(&windowClass);
+  window_ = CreateWindowExW(WS_EX_TOOLWINDOW, WindowClass, L"", WS_POPUP | WS_BORDER, 0, 0, 0, 0,
+                            owner, nullptr, instance, nullptr);
+  SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  List1_ = CreateControl(window_, WC_LISTBOXW,
+                         WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+                         WS_EX_CLIENTEDGE, IDC_List1);
+  SetWindowSubclass(List1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
+  for (const std::wstring_view key : KeyVocabulary()) {
+    SendMessageW(List1_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
+  }
+}
+
+void frmKeysList::ApplyFont(HFONT font, int dpi) {
+  GiveFont(List1_, font);
+  const int rowHeight = static_cast<int>(TextSize(List1_, font, L"Xg").cy) + Scaled(1, dpi);
+  SendMessageW(List1_, LB_SETITEMHEIGHT, 0, rowHeight);
+  const int margin = Scaled(Margin, dpi);
+  const Area list{
+      margin, margin, Scaled(ListWidth, dpi),
+      ShownRows * rowHeight + 2 * GetSystemMetricsForDpi(SM_CYEDGE, static_cast<UINT>(dpi))};
+  Place(List1_, list);
+  SetWindowPos(window_, nullptr, 0, 0, list.Width + 2 * margin + 2, list.Height + 2 * margin + 2,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmKeysList::SetName(const std::wstring& name) {
+  SetText(window_, name);
+  SetAccessibleName(List1_, name);
+}
+
+Area frmKeysList::Size() const { return WindowArea(window_); }
+
+bool frmKeysList::Visible() const { return IsWindowVisible(window_) != FALSE; }
+
+void frmKeysList::Select(int index) {
+  if (ListBox_GetCurSel(List1_) != index) {
+    ListBox_SetCurSel(List1_, index);
+  }
+}
+
+void frmKeysList::MoveTo(const Area& area) { Place(window_, area); }
+
+void frmKeysList::Show() {
+  ShowWindow(window_, SW_SHOW);
+  SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  SetFocus(List1_);
+}
+
+void frmKeysList::Hide() { ShowWindow(window_, SW_HIDE); }
+
+LRESULT CALLBACK frmKeysList::WindowProcedure(HWND window, UINT message, WPARAM wParam,
+                                              LPARAM lParam) {
+  auto* const self = reinterpret_cast<frmKeysList*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  return self != nullptr ? self->Handle(message, wParam, lParam)
+                         : DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      if (HIWORD(wParam) == LBN_SELCHANGE) {
+        events_.Select(ListBox_GetCurSel(List1_));
+      }
+      return 0;
+    case WM_ACTIVATE: {
+      // It takes the focus, but is part of its owner, whose title is to stay an active one.
+      const WPARAM active = LOWORD(wParam) != WA_INACTIVE ? TRUE : FALSE;
+      SendMessageW(GetWindow(window_, GW_OWNER), WM_NCACTIVATE, active, 0);
+      return DefWindowProcW(window_, message, wParam, lParam);
+    }
+    case WM_SETFOCUS:
+      SetFocus(List1_);
+      return 0;
+    case WM_CLOSE:
+      events_.Close();
+      return 0;
+    default:
+      return DefWindowProcW(window_, message, wParam, lParam);
+  }
+}
+
+LRESULT CALLBACK frmKeysList::ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
+                                            UINT_PTR /*id*/, DWORD_PTR self) {
+  const Events& events = reinterpret_cast<const frmKeysList*>(self)->events_;
+  if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN) {
+    events.KeyDown(static_cast<KeyCode>(wParam));
+  } else if (message == WM_LBUTTONUP) {
+    events.ReleaseMouse();
+  }
+  return DefSubclassProc(list, message, wParam, lParam);
+}
+
+}  // namespace tessera

@@ -1,0 +1,58 @@
+// The pop-up window that shows all keys at once.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "editing/HotkeyPanel.h"
+#include "platform/win32/Controls.h"
+
+namespace tessera {
+
+class frmKeysList {
+ public:
+  /// What the user does in the list.
+  struct Events {
+    std::function<void(int index)> Select;
+    std::function<void(KeyCode code)> KeyDown;
+    std::function<void()> ReleaseMouse;
+    std::function<void()> Close;  ///< the system asks for it
+  };
+
+  explicit frmKeysList(Events events);
+  ~frmKeysList();
+  frmKeysList(const frmKeysList&) = delete;
+  frmKeysList& operator=(const frmKeysList&) = delete;
+
+  /// Makes the window, hidden, with the key vocabulary in its list.
+  void Create(HWND owner);
+
+  /// Gives the list the size that suits the font, which stays the caller's.
+  void ApplyFont(HFONT font, int dpi);
+
+  /// What a screen reader calls it.
+  void SetName(const std::wstring& name);
+
+  /// Its size; where it stands does not matter.
+  [[nodiscard]] Area Size() const;
+  [[nodiscard]] bool Visible() const;
+
+  void Select(int index);
+  void MoveTo(const Area& area);
+
+  /// Shows it and gives it the focus.
+  void Show();
+  void Hide();
+
+ private:
+  static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
+                                        UINT_PTR id, DWORD_PTR self);
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+  Events events_;
+  HWND window_ = nullptr;
+  HWND List1_ = nullptr;
+};
+
+}  // namespace tessera

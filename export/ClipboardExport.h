@@ -1,0 +1,56 @@
+// The export to the clipboard: what its dialog holds from one showing to the next, and the copying
+// that follows when the dialog has closed.
+#pragma once
+
+#include <string>
+
+#include "export/ExportSelection.h"
+#include "localisation/Texts.h"
+#include "platform/Clipboard.h"
+#include "platform/Clock.h"
+#include "platform/Files.h"
+#include "shortcuts/Catalogue.h"
+#include "shortcuts/HotkeyNotation.h"
+
+namespace tessera {
+
+class ClipboardExport {
+ public:
+  ClipboardExport(const Catalogue& catalogue, const HotkeyNotation& notation, const Texts& texts);
+
+  // -- Queries
+
+  [[nodiscard]] const ExportSelection& Selection() const;
+
+  /// The table that the last OK built; empty before the first one and after Cancel.
+  [[nodiscard]] const std::wstring& ExportText() const;
+
+  // -- The dialog
+
+  /// Takes the stored selection, before the dialog is first shown. Later showings find the boxes as
+  /// they were left.
+  void Load(const Files& files, const std::wstring& settingsFile);
+
+  /// As ExportSelection::Click.
+  void Click(int box);
+
+  /// Builds the table of the displayed rows and stores the selection.
+  void Ok(Files& files, Clock& clock, const std::wstring& settingsFile);
+
+  void Cancel();
+
+  // -- After the dialog
+
+  /// Copies the table with all that follows it; an empty one is not copied. When the dialog was
+  /// closed by its close button that is, deliberately, the table of the OK before.
+  void CopyTo(Clipboard& clipboard, bool modified) const;
+
+ private:
+  const Catalogue& catalogue_;
+  const HotkeyNotation& notation_;
+  const Texts& texts_;
+  ExportSelection selection_;
+  std::wstring exportText_;
+};
+
+}  // namespace tessera

@@ -1,0 +1,101 @@
+// The text table that goes to the clipboard.
+#include "export/ClipboardTable.h"
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+constexpr const wchar_t* LineEnd = L"\r\n";
+constexpr const wchar_t* StartMenuTitle = L"Total Commander Start Menu shortcuts:";
+
+constexpr std::array<Column, 4> AllColumns{Column::Description, Column::Command, Column::Defaults,
+                                           Column::Current};
+constexpr std::array<int, 4> HeadingTexts{3003, 3004, 3200, 3201};
+
+void AppendCell(std::wstring& text, const std::wstring& cell, std::size_t width) {
+  text.append(cell, 0, width).append(width - std::min(width, cell.size()), L' ').append(1, L'\t');
+}
+
+bool HasKey(const CommandEntry& row, const ExportColumns& columns,
+            const std::wstring& undefinedHotkey) {
+  return (columns[2] && row.DefaultKeys != undefinedHotkey) ||
+         (columns[3] && row.CurrentKeys != undefinedHotkey);
+}
+
+std::wstring HeadingLine(const ExportColumns& columns, const std::array<std::size_t, 4>& widths,
+                         const Texts& texts) {
+  std::wstring line;
+  for (std::size_t i = 0; i < AllColumns.size(); ++i) {
+    if (columns[i]) {
+      const std::wstring heading = texts.GetLangText(HeadingTexts[i]);
+      // The last heading is always written whole, deliberately, and the others are cut.
+      AppendCell(line, heading, AllColumns[i] == Column::Current ? heading.size() : widths[i]);
+    }
+  }
+  return line;
+}
+
+}  // namespace
+
+std::size_t ColumnMaxLength(const DisplayTable& rows, Column column) {
+  std::size_t longest = 0;
+  for (std::size_t position = 0; position < rows.Count(); ++position) {
+    const CommandEntry& row = rows.At(position);
+    if (!row.IsHeading()) {
+      longest = std::max(longest, CellText(row, column).size());
+    }
+  }
+  return longest;
+}
+
+std::wstring BuildExportText(const DisplayTable& rows, const ExportColumns& columns,
+                             const Texts& texts, const std::wstring& undefinedHotkey) {
+  std::array<std::size_t, 4> widths{};
+  std::transform(AllColumns.begin(), AllColumns.end(), widths.begin(),
+                 [&](Column column) { return ColumnMaxLength(rows, column); });
+  std::wstring text = HeadingLine(columns, widths, texts) + LineEnd;
+  text.append(text.size() + 2, L'=').append(LineEnd);
+  for (std::size_t position = 0; position < rows.Count(); ++position) {
+    const CommandEntry& row = rows.At(position);
+    if (row.IsHeading() || !HasKey(row, columns, undefinedHotkey)) {
+      continue;
+    }
+    for (std::size_t i = 0; i < AllColumns.size(); ++i) {
+      if (columns[i]) {
+        AppendCell(text, CellText(row, AllColumns[i]), widths[i]);
+      }
+    }
+    text.append(LineEnd);
+  }
+  return text;
+}
+
+std::wstring BuildExportEnding(const StartMenuKeyTable& startMenuKeys, bool modified,
+                               const Texts& texts) {
+  std::wstring text;
+  for (const StartMenuSlot& slot : startMenuKeys) {
+    if (slot.Key.empty()) {
+      continue;
+    }
+    if (text.empty()) {
+      const std::wstring title = StartMenuTitle;
+      text = std::wstring(LineEnd) + LineEnd + title + LineEnd + std::wstring(title.size(), L'=');
+    }
+    text.append(LineEnd).append(slot.Caption).append(1, L'\t').append(slot.Key);
+  }
+  text.append(LineEnd);
+  if (modified) {
+    const std::wstring heading = L"=   " + texts.GetLangText(3208) + L"   =";
+    const std::wstring rule(heading.size(), L'=');
+    for (int i = 0; i < 4; ++i) {
+      text.append(LineEnd);
+    }
+    text.append(rule).append(LineEnd).append(heading).append(LineEnd);
+    text.append(rule).append(LineEnd).append(texts.GetLangText(3209)).append(LineEnd);
+  }
+  return text;
+}
+
+}  // namespace tessera

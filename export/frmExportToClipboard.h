@@ -1,0 +1,27 @@
+// The export dialog: which columns of the list go to the clipboard.
+#pragma once
+
+#include <functional>
+
+#include "export/ClipboardExport.h"
+#include "localisation/frmDialog.h"
+
+namespace tessera {
+
+class frmExportToClipboard final : public frmDialog {
+ public:
+  frmExportToClipboard(const Texts& texts, const Settings& settings);
+
+  /// Shows the dialog and returns when it has closed. `ok` is called for OK.
+  void Show(HWND owner, ClipboardExport& model, const std::function<void()>& ok);
+
+ private:
+  void Sync() override;
+  void OnCommand(int id, int notification) override;
+  void OnCloseButton() override;
+
+  ClipboardExport* model_ = nullptr;
+  std::function<void()> ok_;
+};
+
+}  // namespace tessera

@@ -1,0 +1,185 @@
+// One grid for all dialogs: lengths for 96 pixels an inch, and the height of a line of text.
+#include "localisation/DialogLayout.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace tessera {
+
+namespace {
+
+constexpr int Margin = 11;
+constexpr int Gap = 7;
+constexpr int MarkWidth = 24;  ///< the box or circle before a text, with what keeps them apart
+constexpr int SwatchWidth = 64;
+constexpr int TextBoxWidth = 260;
+constexpr int SmallestButtonWidth = 75;
+constexpr int SideButtonWidth = 30;
+
+int RowHeight(ControlKind kind, const DialogMetrics& metrics) {
+  const bool marked = kind == ControlKind::CheckBox || kind == ControlKind::OptionButton;
+  return marked ? std::max(metrics.TextHeight + Scaled(3, metrics.Dpi), Scaled(17, metrics.Dpi))
+                : std::max(metrics.TextHeight + Scaled(8, metrics.Dpi), Scaled(23, metrics.Dpi));
+}
+
+class PageStack {
+ public:
+  PageStack(const DialogMetrics& metrics, int labelWidth, int width)
+      : metrics_(metrics), labelWidth_(labelWidth), width_(width) {}
+
+  void Add(const MeasuredControl& control, Area& area) {
+    if (control.Kind == ControlKind::Frame) {
+      OpenFrame(control, area);
+    } else {
+      const bool beside =
+          control.Kind == ControlKind::Swatch || control.Kind == ControlKind::SideButton;
+      if (!beside) {
+        StartRow(control.Kind);
+      }
+      area = InRow(control);
+    }
+  }
+
+  /// The height of the page, when all is on it.
+  int Close() {
+    CloseFrame();
+    return bottom_;
+  }
+
+ private:
+  [[nodiscard]] int At(int pixels) const { return Scaled(pixels, metrics_.Dpi); }
+
+  void OpenFrame(const MeasuredControl& control, Area& area) {
+    CloseFrame();
+    const int top = bottom_ > 0 ? bottom_ + At(Margin) : 0;
+    area = {0, top, width_, 0};
+    frame_ = &area;
+    indent_ = At(Margin);
+    bottom_ = top + (control.TextWidth > 0 ? metrics_.TextHeight : At(Gap) / 2);
+  }
+
+  void CloseFrame() {
+    if (frame_ != nullptr) {
+      bottom_ += At(Margin);
+      frame_->Height = bottom_ - frame_->Top;
+      frame_ = nullptr;
+    }
+    indent_ = 0;
+  }
+
+  void StartRow(ControlKind kind) {
+    rowTop_ = bottom_ > 0 ? bottom_ + At(Gap) : 0;
+    rowHeight_ = RowHeight(kind, metrics_);
+    bottom_ = rowTop_ + rowHeight_;
+  }
+
+  [[nodiscard]] Area CentredInRow(int width, int height) const {
+    return {indent_, rowTop_ + (rowHeight_ - height) / 2, width, height};
+  }
+
+  [[nodiscard]] Area InRow(const MeasuredControl& control) const {
+    const int right = width_ - indent_;
+    const int side = At(SideButtonWidth);
+    switch (control.Kind) {
+      case ControlKind::Label:
+        return CentredInRow(labelWidth_, metrics_.TextHeight);
+      case ControlKind::Swatch:
+        return {indent_ + labelWidth_ + At(Margin), rowTop_, At(SwatchWidth), rowHeight_};
+      case ControlKind::TextBox:
+        return CentredInRow(right - indent_ - side - At(Gap), metrics_.TextHeight + At(7));
+      case ControlKind::SideButton:
+        return {right - side, rowTop_, side, rowHeight_};
+      case ControlKind::Button:
+        return {indent_, rowTop_, ButtonSize(control.TextWidth, metrics_).Width, rowHeight_};
+      default:
+        return {indent_, rowTop_, control.TextWidth + At(MarkWidth), rowHeight_};
+    }
+  }
+
+  const DialogMetrics& metrics_;
+  int labelWidth_;
+  int width_;
+  Area* frame_ = nullptr;
+  int indent_ = 0;
+  int rowTop_ = 0;
+  int rowHeight_ = 0;
+  int bottom_ = 0;
+};
+
+int WidestLabel(std::span<const MeasuredControl> controls) {
+  int widest = 0;
+  for (const MeasuredControl& control : controls) {
+    if (control.Kind == ControlKind::Label) {
+      widest = std::max(widest, control.TextWidth);
+    }
+  }
+  return widest;
+}
+
+/// What a row that begins with this control takes, from one edge of its page to the other.
+int WidthOfRow(const MeasuredControl& control, int labelWidth, const DialogMetrics& metrics) {
+  const auto scaled = [&metrics](int pixels) { return Scaled(pixels, metrics.Dpi); };
+  const int frame = 2 * scaled(Margin);
+  switch (control.Kind) {
+    case ControlKind::Label:
+      return labelWidth + scaled(Margin) + scaled(SwatchWidth) + frame;
+    case ControlKind::TextBox:
+      return scaled(TextBoxWidth) + scaled(Gap) + scaled(SideButtonWidth) + frame;
+    case ControlKind::Button:
+      return ButtonSize(control.TextWidth, metrics).Width + frame;
+    default:
+      return control.TextWidth + scaled(MarkWidth) + frame;
+  }
+}
+
+}  // namespace
+
+PagesLayout LayOutPages(std::span<const MeasuredControl> controls, const DialogMetrics& metrics,
+                        int smallestWidth) {
+  const int labelWidth = WidestLabel(controls);
+  PagesLayout layout{.Controls = std::vector<Area>(controls.size()), .Width = smallestWidth};
+  for (const MeasuredControl& control : controls) {
+    layout.Width = std::max(layout.Width, WidthOfRow(control, labelWidth, metrics));
+  }
+  std::optional<PageStack> stack;
+  int page = 0;
+  for (std::size_t index = 0; index < controls.size(); ++index) {
+    if (!stack || controls[index].Page != page) {
+      layout.Height = std::max(layout.Height, stack ? stack->Close() : 0);
+      page = controls[index].Page;
+      stack.emplace(metrics, labelWidth, layout.Width);
+    }
+    stack->Add(controls[index], layout.Controls[index]);
+  }
+  layout.Height = std::max(layout.Height, stack ? stack->Close() : 0);
+  return layout;
+}
+
+Area ButtonSize(int textWidth, const DialogMetrics& metrics) {
+  return {0, 0,
+          std::max(Scaled(SmallestButtonWidth, metrics.Dpi), textWidth + Scaled(24, metrics.Dpi)),
+          RowHeight(ControlKind::Button, metrics)};
+}
+
+std::vector<Area> LayOutButtons(std::span<const int> textWidths, const DialogMetrics& metrics,
+                                int right, int top) {
+  std::vector<Area> areas;
+  int width = -DialogGap(metrics);
+  for (const int textWidth : textWidths) {
+    areas.push_back(ButtonSize(textWidth, metrics));
+    width += areas.back().Width + DialogGap(metrics);
+  }
+  int left = right - width;
+  for (Area& area : areas) {
+    area.Left = left;
+    area.Top = top;
+    left += area.Width + DialogGap(metrics);
+  }
+  return areas;
+}
+
+int DialogMargin(const DialogMetrics& metrics) { return Scaled(Margin, metrics.Dpi); }
+
+int DialogGap(const DialogMetrics& metrics) { return Scaled(Gap, metrics.Dpi); }
+
+}  // namespace tessera

@@ -1,0 +1,13 @@
+// The "&" in captions that marks the letter to press with Alt.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessera {
+
+/// A caption as it reads: without the "&" of its mnemonic, and without a mnemonic that was added in
+/// parentheses, as in "Open(&O)...", for scripts whose letters are on no key. "&&" is one "&".
+[[nodiscard]] std::wstring WithoutMnemonic(std::wstring_view caption);
+
+}  // namespace tessera

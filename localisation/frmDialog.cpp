@@ -1,0 +1,255 @@
+// The life of a modal dialog: its making, its texts and its messages.
+#include "localisation/frmDialog.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "localisation/Mnemonic.h"
+
+namespace tessera {
+
+namespace {
+
+struct ControlClass {
+  ControlKind Kind;
+  const wchar_t* Name;
+  DWORD Style;
+  DWORD ExtendedStyle = 0;
+};
+
+constexpr ControlClass Classes[] = {
+    {ControlKind::Frame, WC_BUTTONW, BS_GROUPBOX},
+    {ControlKind::CheckBox, WC_BUTTONW, BS_AUTOCHECKBOX | WS_TABSTOP},
+    {ControlKind::OptionButton, WC_BUTTONW, BS_AUTORADIOBUTTON | WS_TABSTOP},
+    {ControlKind::Label, WC_STATICW, SS_LEFT},
+    {ControlKind::Swatch, WC_BUTTONW, BS_OWNERDRAW | WS_TABSTOP},
+    {ControlKind::TextBox, WC_EDITW, ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE},
+    {ControlKind::SideButton, WC_BUTTONW, BS_PUSHBUTTON | WS_TABSTOP},
+    {ControlKind::Button, WC_BUTTONW, BS_PUSHBUTTON | WS_TABSTOP},
+};
+
+const ControlClass& ClassOf(ControlKind kind) {
+  return *std::ranges::find(Classes, kind, &ControlClass::Kind);
+}
+
+/// The window procedure of dialogs, under a class name of our own.
+void RegisterDialogClass(const wchar_t* name) {
+  WNDCLASSEXW dialogClass{};
+  dialogClass.cbSize = sizeof dialogClass;
+  dialogClass.lpfnWndProc = DefDlgProcW;
+  dialogClass.cbWndExtra = DLGWINDOWEXTRA;
+  dialogClass.hInstance = GetModuleHandleW(nullptr);
+  dialogClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  dialogClass.lpszClassName = name;
+  RegisterClassExW(&dialogClass);
+}
+
+/// A dialog without controls, as a resource would hold it.
+std::vector<WORD> EmptyTemplate(const wchar_t* className) {
+  constexpr DWORD Style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
+  DLGTEMPLATE head{};
+  head.style = Style;
+  head.dwExtendedStyle = WS_EX_CONTROLPARENT;
+  const auto* const words = reinterpret_cast<const WORD*>(&head);
+  std::vector<WORD> whole(words, words + sizeof head / sizeof(WORD));
+  whole.push_back(0);
+  for (const wchar_t* letter = className; *letter != L'\0'; ++letter) {
+    whole.push_back(static_cast<WORD>(*letter));
+  }
+  whole.insert(whole.end(), 2, WORD{0});
+  return whole;
+}
+
+}  // namespace
+
+frmDialog::frmDialog(const DialogPlan& plan, const Texts& texts, const Settings& settings)
+    : plan_(plan), texts_(texts), settings_(settings) {}
+
+void frmDialog::ShowModal(HWND owner) {
+  RegisterDialogClass(plan_.ClassName);
+  const std::vector<WORD> empty = EmptyTemplate(plan_.ClassName);
+  DialogBoxIndirectParamW(GetModuleHandleW(nullptr),
+                          reinterpret_cast<const DLGTEMPLATE*>(empty.data()), owner,
+                          DialogProcedure, reinterpret_cast<LPARAM>(this));
+  window_ = nullptr;
+  tabs_ = nullptr;
+}
+
+void frmDialog::Close() { EndDialog(window_, 0); }
+
+HWND frmDialog::Control(int id) const { return GetDlgItem(window_, id); }
+
+void frmDialog::SetChecked(int id, bool checked) const {
+  if ((Button_GetCheck(Control(id)) == BST_CHECKED) != checked) {
+    Button_SetCheck(Control(id), checked ? BST_CHECKED : BST_UNCHECKED);
+  }
+}
+
+void frmDialog::FocusOn(int id) const {
+  SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(id)), TRUE);
+}
+
+INT_PTR CALLBACK frmDialog::DialogProcedure(HWND window, UINT message, WPARAM wParam,
+                                            LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrW(window, DWLP_USER, lParam);
+    auto& dialog = *reinterpret_cast<frmDialog*>(lParam);
+    dialog.window_ = window;
+    dialog.OnInit();
+    return FALSE;  // the focus has been set
+  }
+  auto* const self = reinterpret_cast<frmDialog*>(GetWindowLongPtrW(window, DWLP_USER));
+  return self == nullptr ? FALSE : self->Handle(message, wParam, lParam).value_or(FALSE);
+}
+
+std::optional<INT_PTR> frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      OnCommandMessage(LOWORD(wParam), HIWORD(wParam));
+      return TRUE;
+    case WM_NOTIFY:
+      if (const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+          header.hwndFrom == tabs_ && header.code == TCN_SELCHANGE) {
+        ShowPage(TabCtrl_GetCurSel(tabs_));
+      }
+      return TRUE;
+    case WM_CLOSE:
+      OnCloseButton();
+      return TRUE;
+    case WM_ERASEBKGND:
+      DrawBackground(reinterpret_cast<HDC>(wParam));
+      return TRUE;
+    case WM_DRAWITEM:
+      DrawSwatch(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      return TRUE;
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLOREDIT:
+      return ColourControl(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+    case WM_DPICHANGED:
+      ApplyDpi(HIWORD(wParam));
+      return TRUE;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
+           child = GetWindow(child, GW_HWNDNEXT)) {
+        SendMessageW(child, message, wParam, lParam);
+      }
+      LayOut();
+      return std::nullopt;
+    default:
+      return std::nullopt;
+  }
+}
+
+void frmDialog::OnInit() {
+  CreateControls();
+  ApplyLanguage();
+  // Moved to its screen first: that decides the resolution.
+  Centre();
+  ApplyDpi(static_cast<int>(GetDpiForWindow(window_)));
+  Sync();
+  ShowPage(page_);
+  Centre();
+  FocusFirst();
+}
+
+void frmDialog::OnCommandMessage(int id, int notification) {
+  if (id == IDOK || id == IDCANCEL) {
+    const HWND button = Control(plan_.Buttons[id == IDOK ? 0 : 1].Id);
+    if (IsWindowEnabled(button) != FALSE) {
+      OnCommand(GetDlgCtrlID(button), BN_CLICKED);
+    }
+    return;
+  }
+  OnCommand(id, notification);
+}
+
+HWND frmDialog::Create(const DialogControl& control, bool startsGroup) {
+  const ControlClass& kind = ClassOf(control.Kind);
+  const HWND made = CreateControl(window_, kind.Name, kind.Style | (startsGroup ? WS_GROUP : 0),
+                                  kind.ExtendedStyle, control.Id);
+  // A frame lies before what it encloses, which must not be clipped by it.
+  SetStyleBits(made, GWL_STYLE, WS_CLIPSIBLINGS, false);
+  if (control.Kind == ControlKind::TextBox) {
+    SetRightToLeft(made, false);  // paths are written from left to right
+  }
+  return made;
+}
+
+void frmDialog::CreateControls() {
+  translatorsBrush_.reset(CreateSolidBrush(RGB(0, 255, 255)));
+  SetStyleBits(window_, GWL_EXSTYLE, WS_EX_LAYOUTRTL, texts_.RightToLeft());
+  bool optionBefore = false;
+  for (const DialogControl& control : plan_.Controls) {
+    const bool option = control.Kind == ControlKind::OptionButton;
+    Create(control, !(option && optionBefore));
+    optionBefore = option;
+  }
+  for (const DialogControl& button : plan_.Buttons) {
+    ShowWindow(Create(button, true), SW_SHOWNA);
+  }
+  SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(plan_.Buttons.front().Id), 0);
+  Button_SetStyle(Control(plan_.Buttons.front().Id), BS_DEFPUSHBUTTON, FALSE);
+  if (plan_.TabsId != 0) {
+    // Made last, the tabs lie below the controls of their pages.
+    tabs_ =
+        CreateControl(window_, WC_TABCONTROLW, WS_VISIBLE | WS_TABSTOP | WS_GROUP, 0, plan_.TabsId);
+  }
+}
+
+void frmDialog::ApplyLanguage() {
+  SetText(window_, texts_.GetLangText(plan_.TitleTextId));
+  for (const auto& controls : {plan_.Controls, plan_.Buttons}) {
+    for (const DialogControl& control : controls) {
+      const std::wstring text = control.TextId != 0 ? texts_.GetLangText(control.TextId) : L"";
+      if (control.Kind == ControlKind::SideButton) {
+        SetText(Control(control.Id), L"...");
+      }
+      if (control.Kind == ControlKind::SideButton || control.Kind == ControlKind::TextBox) {
+        SetAccessibleName(Control(control.Id), WithoutMnemonic(text));
+      } else {
+        SetText(Control(control.Id), text);
+      }
+    }
+  }
+  for (int page = 0; const int textId : plan_.TabTextIds) {
+    std::wstring caption = texts_.GetLangText(textId);
+    TCITEMW tab{};
+    tab.mask = TCIF_TEXT;
+    tab.pszText = caption.data();
+    SendMessageW(tabs_, TCM_INSERTITEMW, static_cast<WPARAM>(page++),
+                 reinterpret_cast<LPARAM>(&tab));
+  }
+}
+
+void frmDialog::ShowPage(int page) {
+  page_ = page;
+  if (tabs_ != nullptr) {
+    TabCtrl_SetCurSel(tabs_, page);
+  }
+  for (const DialogControl& control : plan_.Controls) {
+    ShowWindow(Control(control.Id), control.Page == page ? SW_SHOWNA : SW_HIDE);
+  }
+}
+
+void frmDialog::FocusFirst() {
+  const auto first = std::ranges::find_if(plan_.Controls, [this](const DialogControl& each) {
+    return each.Page == page_ && (ClassOf(each.Kind).Style & WS_TABSTOP) != 0;
+  });
+  HWND control = Control(first->Id);
+  const bool optionChosenLater =
+      first->Kind == ControlKind::OptionButton && Button_GetCheck(control) != BST_CHECKED;
+  if (optionChosenLater) {
+    control = Control((first + 1)->Id);
+  }
+  SetFocus(control);
+}
+
+const DialogControl* frmDialog::Find(int id) const {
+  const auto found = std::ranges::find(plan_.Controls, id, &DialogControl::Id);
+  return found != plan_.Controls.end() ? &*found : nullptr;
+}
+
+}  // namespace tessera

@@ -1,0 +1,96 @@
+// A modal dialog that is made from a table of its controls, in the language in use.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "localisation/DialogLayout.h"
+#include "localisation/Texts.h"
+#include "platform/win32/Controls.h"
+#include "settings/Settings.h"
+
+namespace tessera {
+
+struct DialogControl {
+  int Id;
+  ControlKind Kind;
+  int TextId;  ///< of its caption, or, where it has none, of its name for screen readers; 0: none
+  int Page = 0;
+};
+
+struct DialogPlan {
+  const wchar_t* ClassName;
+  int TitleTextId;
+  std::span<const DialogControl> Controls;  ///< in the order of the Tab key, page by page
+  std::span<const DialogControl> Buttons;   ///< the default button first, then the cancel button
+  int TabsId = 0;                           ///< 0: one page, and no tabs
+  std::span<const int> TabTextIds{};
+};
+
+class frmDialog {
+ public:
+  /// All of them must outlive the dialog.
+  frmDialog(const DialogPlan& plan, const Texts& texts, const Settings& settings);
+  virtual ~frmDialog() = default;
+  frmDialog(const frmDialog&) = delete;
+  frmDialog& operator=(const frmDialog&) = delete;
+
+ protected:
+  /// Makes the dialog anew, in the middle of the owner's screen, and returns when it has closed.
+  /// The tab that was chosen last is chosen again.
+  void ShowModal(HWND owner);
+
+  void Close();
+  [[nodiscard]] HWND Control(int id) const;
+  void SetChecked(int id, bool checked) const;
+  void FocusOn(int id) const;
+
+  /// Shows the state of the model in every control.
+  virtual void Sync() = 0;
+
+  /// A notification of a control; Enter and Esc come as clicks on the first two buttons.
+  virtual void OnCommand(int id, int notification) = 0;
+
+  /// The window's own close button.
+  virtual void OnCloseButton() = 0;
+
+  /// The colour that a swatch shows.
+  [[nodiscard]] virtual COLORREF SwatchColor(int /*id*/) const { return 0; }
+
+ private:
+  static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<INT_PTR> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void OnInit();
+  void OnCommandMessage(int id, int notification);
+  void CreateControls();
+  HWND Create(const DialogControl& control, bool startsGroup);
+  void ApplyLanguage();
+  void ApplyDpi(int dpi);
+  void LayOut();
+  [[nodiscard]] int TextWidth(int textId) const;
+  [[nodiscard]] int TabsWidth() const;
+  void PlaceAll(const PagesLayout& pages, POINT origin) const;
+  void Resize(int width, int height);
+  void Centre();
+  void ShowPage(int page);
+  void FocusFirst();
+  void DrawTabBackground(SIZE size);
+  void DrawBackground(HDC context) const;
+  void DrawSwatch(const DRAWITEMSTRUCT& draw) const;
+  [[nodiscard]] std::optional<INT_PTR> ColourControl(HDC context, HWND control);
+  [[nodiscard]] const DialogControl* Find(int id) const;
+
+  const DialogPlan& plan_;
+  const Texts& texts_;
+  const Settings& settings_;
+  HWND window_ = nullptr;
+  HWND tabs_ = nullptr;
+  int page_ = 0;
+  DialogMetrics metrics_;
+  Unique<HFONT> font_;
+  Unique<HBRUSH> tabBackground_;
+  Unique<HBRUSH> translatorsBrush_;
+};
+
+}  // namespace tessera

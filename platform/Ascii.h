@@ -1,0 +1,29 @@
+// The quick way for texts of ASCII alone, which nearly all texts of the files are.
+#pragma once
+
+#include <type_traits>
+
+namespace tessera {
+
+template <typename Text>
+[[nodiscard]] constexpr bool IsAscii(const Text& text) {
+  using Bits = std::make_unsigned_t<typename Text::value_type>;
+  // Without an early way out, so that many characters are looked at at once.
+  Bits bits = 0;
+  for (const auto character : text) bits = static_cast<Bits>(bits | static_cast<Bits>(character));
+  return bits < 0x80;
+}
+
+template <typename Character>
+[[nodiscard]] constexpr Character AsciiLower(Character character) {
+  const bool isUpper = character >= 'A' && character <= 'Z';
+  return static_cast<Character>(isUpper ? character - 'A' + 'a' : character);
+}
+
+template <typename Character>
+[[nodiscard]] constexpr Character AsciiUpper(Character character) {
+  const bool isLower = character >= 'a' && character <= 'z';
+  return static_cast<Character>(isLower ? character - 'a' + 'A' : character);
+}
+
+}  // namespace tessera

@@ -1,0 +1,24 @@
+// Standard message boxes under the program's title, and the beep.
+#pragma once
+
+#include <string>
+
+namespace tessera {
+
+enum class BoxButtons { Ok, YesNo, YesNoCancel };
+enum class BoxIcon { Critical, Question, Exclamation, Information };
+enum class BoxDefault { First, Second };
+enum class BoxAnswer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+
+  /// Shows a box and waits for its answer. A line break in `text` is one line feed.
+  virtual BoxAnswer Show(const std::wstring& text, BoxButtons buttons, BoxIcon icon,
+                         BoxDefault defaultButton = BoxDefault::First) = 0;
+
+  virtual void Beep() = 0;
+};
+
+}  // namespace tessera

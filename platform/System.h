@@ -1,0 +1,27 @@
+// The seams to the system, bundled for those who need more than one of them.
+#pragma once
+
+#include "platform/Clipboard.h"
+#include "platform/Clock.h"
+#include "platform/Dialogs.h"
+#include "platform/Environment.h"
+#include "platform/Files.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Programs.h"
+#include "platform/Registry.h"
+
+namespace tessera {
+
+/// References to the one implementation of each seam; whoever makes it keeps them alive.
+struct System {
+  Files& FileSystem;
+  Registry& RegistryKeys;
+  Environment& Surroundings;
+  MessageBoxes& Boxes;
+  Dialogs& StandardDialogs;
+  Programs& OtherPrograms;
+  Clock& Time;
+  Clipboard& PlainText;
+};
+
+}  // namespace tessera

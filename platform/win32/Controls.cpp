@@ -1,0 +1,140 @@
+// Helpers around controls, icons and fonts.
+#include "platform/win32/Controls.h"
+
+#include <oleacc.h>
+
+namespace tessera {
+
+namespace {
+
+// No library of the toolchain has these.
+constexpr GUID AccessibleProperties{
+    0xb5f8350b, 0x0548, 0x48b1, {0xa6, 0xee, 0x88, 0xbd, 0x00, 0xb4, 0xa5, 0xe7}};
+constexpr GUID AccessibleInterface{
+    0x6e26e776, 0x04f0, 0x495d, {0x80, 0xe4, 0x33, 0x30, 0x35, 0x2e, 0x31, 0x69}};
+constexpr GUID AccessibleName{
+    0x608d3df8, 0x8128, 0x4aa7, {0xa4, 0x28, 0xf5, 0x5e, 0x49, 0x26, 0x72, 0x91}};
+
+}  // namespace
+
+Unique<HICON> LoadIconOfSize(int id, int size) {
+  return Unique<HICON>(static_cast<HICON>(LoadImageW(
+      GetModuleHandleW(nullptr), MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+}
+
+Unique<HIMAGELIST> LoadImages(std::span<const int> iconIds, int size) {
+  Unique<HIMAGELIST> images(
+      ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(iconIds.size()), 1));
+  for (const int id : iconIds) {
+    ImageList_AddIcon(images.get(), LoadIconOfSize(id, size).get());
+  }
+  return images;
+}
+
+LOGFONTW MessageFont(int dpi, int characterSet) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
+                             static_cast<UINT>(dpi));
+  metrics.lfMessageFont.lfCharSet = static_cast<BYTE>(characterSet);
+  return metrics.lfMessageFont;
+}
+
+void GiveFont(HWND control, HFONT font) {
+  SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD extendedStyle,
+                   int id) {
+  return CreateWindowExW(extendedStyle, className, L"", WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 0,
+                         0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                         GetModuleHandleW(nullptr), nullptr);
+}
+
+std::wstring TextOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+void SetText(HWND window, const std::wstring& text) {
+  if (TextOf(window) != text) {
+    SetWindowTextW(window, text.c_str());
+  }
+}
+
+void SetAccessibleName(HWND control, const std::wstring& name) {
+  IAccPropServices* services = nullptr;
+  if (FAILED(CoCreateInstance(AccessibleProperties, nullptr, CLSCTX_INPROC_SERVER,
+                              AccessibleInterface, reinterpret_cast<void**>(&services)))) {
+    return;
+  }
+  services->SetHwndPropStr(control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, AccessibleName,
+                           name.c_str());
+  services->Release();
+}
+
+void SetEnabled(HWND control, bool enabled) {
+  if ((IsWindowEnabled(control) != FALSE) != enabled) {
+    EnableWindow(control, enabled ? TRUE : FALSE);
+  }
+}
+
+void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on) {
+  const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, styleIndex));
+  SetWindowLongPtrW(control, styleIndex, static_cast<LONG_PTR>(on ? style | bits : style & ~bits));
+  SetWindowPos(control, nullptr, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+SIZE TextSize(HWND control, HFONT font, const std::wstring& text) {
+  const HDC context = GetDC(control);
+  const HGDIOBJ former = SelectObject(context, font);
+  RECT room{};
+  DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
+            DT_CALCRECT | DT_SINGLELINE);
+  SelectObject(context, former);
+  ReleaseDC(control, context);
+  return {room.right, room.bottom};
+}
+
+COLORREF ColourOf(int setting) {
+  const auto bits = static_cast<unsigned>(setting);
+  return (bits & 0x80000000U) != 0 ? GetSysColor(static_cast<int>(bits & 0xFFU))
+                                   : bits & 0x00FFFFFFU;
+}
+
+Area AreaOf(const RECT& rectangle) {
+  return {rectangle.left, rectangle.top, rectangle.right - rectangle.left,
+          rectangle.bottom - rectangle.top};
+}
+
+Area WindowArea(HWND window) {
+  RECT rectangle{};
+  GetWindowRect(window, &rectangle);
+  return AreaOf(rectangle);
+}
+
+Area WorkArea(HWND window) {
+  MONITORINFO information{};
+  information.cbSize = sizeof information;
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &information);
+  return AreaOf(information.rcWork);
+}
+
+void Place(HWND control, const Area& area) {
+  SetWindowPos(control, nullptr, area.Left, area.Top, area.Width, area.Height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void SetRightToLeft(HWND window, bool rightToLeft) {
+  SetStyleBits(window, GWL_EXSTYLE, WS_EX_LAYOUTRTL, rightToLeft);
+  InvalidateRect(window, nullptr, TRUE);
+  for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    SetRightToLeft(child, rightToLeft);
+  }
+}
+
+}  // namespace tessera

@@ -1,0 +1,75 @@
+// What all windows need: owned handles of system objects, and small helpers around controls.
+#pragma once
+
+#include <windows.h>
+#include <commctrl.h>
+#include <shellapi.h>
+#include <uxtheme.h>
+#include <windowsx.h>
+
+#include <memory>
+#include <span>
+#include <string>
+#include <type_traits>
+
+#include "platform/Area.h"
+
+namespace tessera {
+
+struct ObjectReleaser {
+  void operator()(HFONT font) const noexcept { DeleteObject(font); }
+  void operator()(HBRUSH brush) const noexcept { DeleteObject(brush); }
+  void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }
+  void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
+  void operator()(HIMAGELIST images) const noexcept { ImageList_Destroy(images); }
+};
+
+template <typename Object>
+using Unique = std::unique_ptr<std::remove_pointer_t<Object>, ObjectReleaser>;
+
+/// The icon resource of that ID at exactly that size; null when there is none.
+[[nodiscard]] Unique<HICON> LoadIconOfSize(int id, int size);
+
+/// An image list of icon resources, in their order.
+[[nodiscard]] Unique<HIMAGELIST> LoadImages(std::span<const int> iconIds, int size);
+
+/// The font that the system uses for messages, at that resolution and in that character set.
+[[nodiscard]] LOGFONTW MessageFont(int dpi, int characterSet);
+
+void GiveFont(HWND control, HFONT font);
+
+/// A child of `parent`, without text, not yet placed.
+HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD extendedStyle, int id);
+
+[[nodiscard]] std::wstring TextOf(HWND window);
+
+/// Does nothing when it is so already.
+void SetText(HWND window, const std::wstring& text);
+
+/// What a screen reader calls a control that shows no text of its own.
+void SetAccessibleName(HWND control, const std::wstring& name);
+
+/// Does nothing when it is so already: no flicker, no lost focus.
+void SetEnabled(HWND control, bool enabled);
+
+/// Adds or takes away bits of a control's style, and lets its frame follow.
+void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
+
+/// The size of a text on one line in that font; an "&" that marks a mnemonic takes no room.
+[[nodiscard]] SIZE TextSize(HWND control, HFONT font, const std::wstring& text);
+
+/// A colour of the settings: 0x00BBGGRR, or a system colour when the highest bit is set.
+[[nodiscard]] COLORREF ColourOf(int setting);
+
+[[nodiscard]] Area WindowArea(HWND window);
+[[nodiscard]] Area AreaOf(const RECT& rectangle);
+
+/// The part of the screen that programs may use, on the monitor where most of the window is.
+[[nodiscard]] Area WorkArea(HWND window);
+
+void Place(HWND control, const Area& area);
+
+/// Gives a window and all that is in it the direction of a language.
+void SetRightToLeft(HWND window, bool rightToLeft);
+
+}  // namespace tessera

@@ -1,0 +1,98 @@
+// Bytes and texts with the code pages and the locale of Windows.
+#include "platform/Text.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+#include "platform/Ascii.h"
+#include "platform/Utf8.h"
+
+namespace tessera {
+namespace {
+
+/// The code page to use for a number that was asked for.
+unsigned Effective(unsigned codePage) {
+  const bool known = codePage != AnsiCodePage && IsValidCodePage(codePage) != FALSE;
+  return known ? codePage : GetACP();
+}
+
+/// Some code pages, such as UTF-7, take neither flags nor a default character.
+std::string EncodePlainly(std::wstring_view text, unsigned codePage) {
+  const int length = static_cast<int>(text.size());
+  const int size =
+      WideCharToMultiByte(codePage, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+  std::string bytes(static_cast<std::size_t>(size), '\0');
+  WideCharToMultiByte(codePage, 0, text.data(), length, bytes.data(), size, nullptr, nullptr);
+  return bytes;
+}
+
+std::string AsciiBytes(std::wstring_view text) {
+  std::string bytes(text.size(), '\0');
+  std::transform(text.begin(), text.end(), bytes.begin(),
+                 [](wchar_t character) { return static_cast<char>(character); });
+  return bytes;
+}
+
+std::wstring Mapped(std::wstring_view text, wchar_t (*mapAscii)(wchar_t), DWORD mapping) {
+  std::wstring result(text);
+  if (IsAscii(text)) {
+    std::transform(text.begin(), text.end(), result.begin(), mapAscii);
+    return result;
+  }
+  const int length = static_cast<int>(text.size());
+  LCMapStringEx(LOCALE_NAME_INVARIANT, mapping, text.data(), length, result.data(), length, nullptr,
+                nullptr, 0);
+  return result;
+}
+
+}  // namespace
+
+std::wstring Decode(std::string_view bytes, unsigned codePage) {
+  // Every ANSI code page begins with ASCII; others, which a file may ask for, need not.
+  if (codePage == AnsiCodePage && IsAscii(bytes)) return {bytes.begin(), bytes.end()};
+  const unsigned page = Effective(codePage);
+  if (page == Utf8CodePage) return WideFromUtf8(bytes);
+  const int length = static_cast<int>(bytes.size());
+  const int size = MultiByteToWideChar(page, 0, bytes.data(), length, nullptr, 0);
+  std::wstring text(static_cast<std::size_t>(size), L'\0');
+  MultiByteToWideChar(page, 0, bytes.data(), length, text.data(), size);
+  return text;
+}
+
+std::string Encode(std::wstring_view text, unsigned codePage) {
+  if (codePage == AnsiCodePage && IsAscii(text)) return AsciiBytes(text);
+  const unsigned page = Effective(codePage);
+  if (page == Utf8CodePage) return Utf8FromWide(text);
+  const int length = static_cast<int>(text.size());
+  const int size = WideCharToMultiByte(page, WC_NO_BEST_FIT_CHARS, text.data(), length, nullptr, 0,
+                                       "?", nullptr);
+  if (size == 0) return EncodePlainly(text, page);
+  std::string bytes(static_cast<std::size_t>(size), '\0');
+  WideCharToMultiByte(page, WC_NO_BEST_FIT_CHARS, text.data(), length, bytes.data(), size, "?",
+                      nullptr);
+  return bytes;
+}
+
+std::wstring ToLower(std::wstring_view text) {
+  return Mapped(text, AsciiLower<wchar_t>, LCMAP_LOWERCASE);
+}
+
+std::wstring ToUpper(std::wstring_view text) {
+  return Mapped(text, AsciiUpper<wchar_t>, LCMAP_UPPERCASE);
+}
+
+bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right) {
+  return left.size() == right.size() &&
+         CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
+                              static_cast<int>(right.size()), TRUE) == CSTR_EQUAL;
+}
+
+int CompareTexts(std::wstring_view left, std::wstring_view right) {
+  const int result = CompareStringEx(LOCALE_NAME_USER_DEFAULT, NORM_IGNORECASE, left.data(),
+                                     static_cast<int>(left.size()), right.data(),
+                                     static_cast<int>(right.size()), nullptr, nullptr, 0);
+  return result - CSTR_EQUAL;
+}
+
+}  // namespace tessera

@@ -1,0 +1,19 @@
+// The system's clipboard.
+#pragma once
+
+#include "platform/Clipboard.h"
+#include "platform/win32/OwnerWindow.h"
+
+namespace tessera {
+
+class WindowsClipboard final : public Clipboard {
+ public:
+  explicit WindowsClipboard(const OwnerWindow& owner);
+
+  void SetText(const std::wstring& text) override;
+
+ private:
+  const OwnerWindow& owner_;
+};
+
+}  // namespace tessera

@@ -1,0 +1,131 @@
+// Fills the system's dialog structures from plain values, and plain values from them.
+#include "platform/win32/WindowsDialogs.h"
+
+#include <commdlg.h>
+
+#include <algorithm>
+#include <memory>
+#include <type_traits>
+
+namespace tessera {
+namespace {
+
+constexpr std::size_t FileBufferLength = 32768;  // characters with the terminator
+constexpr int SmallestPointSize = 8;
+constexpr int LargestPointSize = 72;
+constexpr int TenthsOfPointPerInch = 720;
+constexpr DWORD FileFlags =
+    OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+
+const wchar_t* TextOrNull(const std::wstring& text) {
+  return text.empty() ? nullptr : text.c_str();
+}
+
+/// Shows one of the two file dialogs, which share everything but their function.
+std::optional<std::wstring> ChooseFile(BOOL(WINAPI* show)(LPOPENFILENAMEW), DWORD flags, HWND owner,
+                                       const FileDialogRequest& request) {
+  std::wstring filter = request.Filter + L'|';  // the list ends with an empty description
+  std::ranges::replace(filter, L'|', L'\0');
+  std::wstring file = request.FileName.substr(0, FileBufferLength - 1);
+  file.resize(FileBufferLength);
+
+  OPENFILENAMEW dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = owner;
+  dialog.lpstrFilter = filter.c_str();
+  dialog.lpstrFile = file.data();
+  dialog.nMaxFile = static_cast<DWORD>(file.size());
+  dialog.lpstrInitialDir = TextOrNull(request.Folder);
+  dialog.lpstrTitle = TextOrNull(request.Title);
+  dialog.Flags = flags;
+  if (show(&dialog) == FALSE) return std::nullopt;
+  return std::wstring(file.c_str());
+}
+
+struct DeviceContextDeleter {
+  void operator()(HDC context) const noexcept { DeleteDC(context); }
+};
+
+using UniqueDeviceContext = std::unique_ptr<std::remove_pointer_t<HDC>, DeviceContextDeleter>;
+
+/// The device context of the default printer; empty when there is no printer.
+UniqueDeviceContext DefaultPrinter() {
+  PRINTDLGW dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.Flags = PD_RETURNDEFAULT | PD_RETURNDC | PD_NOWARNING;
+  if (PrintDlgW(&dialog) == FALSE) return {};
+  if (dialog.hDevMode != nullptr) GlobalFree(dialog.hDevMode);
+  if (dialog.hDevNames != nullptr) GlobalFree(dialog.hDevNames);
+  return UniqueDeviceContext(dialog.hDC);
+}
+
+LOGFONTW ToLogicalFont(const FontRecord& font) {
+  LOGFONTW logical{};
+  logical.lfHeight =
+      -MulDiv(font.PointSizeInTenths, static_cast<int>(GetDpiForSystem()), TenthsOfPointPerInch);
+  logical.lfWeight = font.Weight;
+  logical.lfItalic = font.Italic ? TRUE : FALSE;
+  logical.lfStrikeOut = font.StrikeOut ? TRUE : FALSE;
+  logical.lfUnderline = font.Underline ? TRUE : FALSE;
+  logical.lfCharSet = font.CharSet;
+  logical.lfPitchAndFamily = font.PitchAndFamily;
+  font.FaceName.copy(logical.lfFaceName, LF_FACESIZE - 1);
+  return logical;
+}
+
+FontRecord FromLogicalFont(const LOGFONTW& logical, int pointSizeInTenths) {
+  FontRecord font;
+  font.FaceName = logical.lfFaceName;
+  font.Weight = logical.lfWeight;
+  font.Italic = logical.lfItalic != FALSE;
+  font.StrikeOut = logical.lfStrikeOut != FALSE;
+  font.Underline = logical.lfUnderline != FALSE;
+  font.CharSet = logical.lfCharSet;
+  font.PitchAndFamily = logical.lfPitchAndFamily;
+  font.PointSizeInTenths = pointSizeInTenths;
+  return font;
+}
+
+}  // namespace
+
+WindowsDialogs::WindowsDialogs(const OwnerWindow& owner) : owner_(owner) {}
+
+std::optional<std::wstring> WindowsDialogs::Open(const FileDialogRequest& request) {
+  return ChooseFile(GetOpenFileNameW, FileFlags, owner_.Current(), request);
+}
+
+std::optional<std::wstring> WindowsDialogs::Save(const FileDialogRequest& request) {
+  const DWORD overwrite = request.AskBeforeOverwrite ? DWORD{OFN_OVERWRITEPROMPT} : DWORD{0};
+  return ChooseFile(GetSaveFileNameW, FileFlags | overwrite, owner_.Current(), request);
+}
+
+std::optional<std::uint32_t> WindowsDialogs::Color() {
+  CHOOSECOLORW dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = owner_.Current();
+  dialog.lpCustColors = customColors_.data();
+  if (ChooseColorW(&dialog) == FALSE) return std::nullopt;
+  return dialog.rgbResult;
+}
+
+bool WindowsDialogs::Font(FontRecord& font) {
+  LOGFONTW logical = ToLogicalFont(font);
+  const UniqueDeviceContext printer = DefaultPrinter();
+  CHOOSEFONTW dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = owner_.Current();
+  dialog.hDC = printer.get();
+  dialog.lpLogFont = &logical;
+  dialog.iPointSize = font.PointSizeInTenths;
+  // Without a printer only the screen's fonts can be listed.
+  dialog.Flags = (printer ? DWORD{CF_BOTH} : DWORD{CF_SCREENFONTS}) | CF_INITTOLOGFONTSTRUCT |
+                 CF_EFFECTS | CF_FORCEFONTEXIST | CF_LIMITSIZE;
+  dialog.rgbColors = RGB(0, 0, 0);
+  dialog.nSizeMin = SmallestPointSize;
+  dialog.nSizeMax = LargestPointSize;
+  if (ChooseFontW(&dialog) == FALSE) return false;
+  font = FromLogicalFont(logical, dialog.iPointSize);
+  return true;
+}
+
+}  // namespace tessera

@@ -1,0 +1,144 @@
+// Reads share everything, so that no other program is ever kept from its files.
+#include "platform/win32/WindowsFiles.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/win32/Handle.h"
+
+namespace tessera {
+namespace {
+
+constexpr std::size_t LongPath = 248;  // from here on a path needs the prefix below
+/// No file that this program reads comes near it; memory and 32-bit lengths stay within bounds.
+constexpr LONGLONG LargestFile = 1LL << 30;
+
+constexpr std::size_t LargestStep = 0x40000000;  // bytes read or written by one call
+constexpr std::wstring_view LongPrefix = L"\\\\?\\";
+constexpr std::wstring_view LongSharePrefix = L"\\\\?\\UNC\\";
+
+constexpr std::array<std::pair<DWORD, FileError>, 10> Errors{{
+    {ERROR_FILE_NOT_FOUND, FileError::NotFound},
+    {ERROR_PATH_NOT_FOUND, FileError::NotFound},
+    {ERROR_ACCESS_DENIED, FileError::AccessDenied},
+    {ERROR_SHARING_VIOLATION, FileError::SharingViolation},
+    {ERROR_LOCK_VIOLATION, FileError::LockViolation},
+    {ERROR_HANDLE_DISK_FULL, FileError::DiskFull},
+    {ERROR_DISK_FULL, FileError::DiskFull},
+    {ERROR_UNABLE_TO_REMOVE_REPLACED, FileError::UnableToRemoveReplaced},
+    {ERROR_UNABLE_TO_MOVE_REPLACEMENT, FileError::UnableToMoveReplacement},
+    {ERROR_UNABLE_TO_MOVE_REPLACEMENT_2, FileError::UnableToMoveReplacement2},
+}};
+
+FileError LastError() {
+  const DWORD code = GetLastError();
+  const auto* const found = std::ranges::find(Errors, code, &std::pair<DWORD, FileError>::first);
+  return found == Errors.end() ? FileError::Other : found->second;
+}
+
+FileError ResultOf(BOOL succeeded) { return succeeded != FALSE ? FileError::None : LastError(); }
+
+/// The path in a form that the system accepts at any length.
+std::wstring SystemPath(const std::wstring& path) {
+  if (path.size() < LongPath || path.starts_with(LongPrefix)) return path;
+  const DWORD length = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+  std::wstring full(length, L'\0');
+  full.resize(GetFullPathNameW(path.c_str(), length, full.data(), nullptr));
+  if (full.empty()) return path;
+  if (full.starts_with(L"\\\\")) return std::wstring(LongSharePrefix) + full.substr(2);
+  return std::wstring(LongPrefix) + full;
+}
+
+std::wstring WithoutLongPrefix(const std::wstring& path) {
+  if (path.starts_with(LongSharePrefix)) return L"\\\\" + path.substr(LongSharePrefix.size());
+  if (path.starts_with(LongPrefix)) return path.substr(LongPrefix.size());
+  return path;
+}
+
+UniqueHandle OpenExisting(const std::wstring& path, DWORD access) {
+  constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  return Own(CreateFileW(SystemPath(path).c_str(), access, shareAll, nullptr, OPEN_EXISTING,
+                         FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+DWORD NextStep(std::size_t remaining) {
+  return static_cast<DWORD>(std::min(remaining, LargestStep));
+}
+
+}  // namespace
+
+bool WindowsFiles::Exists(const std::wstring& path) const {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  return GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) != FALSE &&
+         (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const {
+  bytes.clear();
+  const UniqueHandle file = OpenExisting(path, GENERIC_READ);
+  LARGE_INTEGER size{};
+  if (!file || GetFileSizeEx(file.get(), &size) == FALSE) return LastError();
+  if (size.QuadPart > LargestFile) return FileError::Other;
+  std::string content(static_cast<std::size_t>(size.QuadPart), '\0');
+  std::size_t done = 0;
+  while (done < content.size()) {
+    DWORD count = 0;
+    if (ReadFile(file.get(), content.data() + done, NextStep(content.size() - done), &count,
+                 nullptr) == FALSE)
+      return LastError();
+    if (count == 0) break;  // the file was cut short meanwhile
+    done += count;
+  }
+  content.resize(done);
+  bytes = std::move(content);
+  return FileError::None;
+}
+
+std::wstring WindowsFiles::Resolve(const std::wstring& path) const {
+  const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
+  const bool mayBeLink =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+  if (!mayBeLink) return path;
+  const UniqueHandle file = OpenExisting(path, FILE_READ_ATTRIBUTES);
+  if (!file) return path;
+  const DWORD length = GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED);
+  std::wstring final(length, L'\0');
+  const DWORD written =
+      GetFinalPathNameByHandleW(file.get(), final.data(), length, FILE_NAME_NORMALIZED);
+  if (written == 0 || written >= length) return path;
+  final.resize(written);
+  return WithoutLongPrefix(final);
+}
+
+FileError WindowsFiles::Write(const std::wstring& path, std::string_view bytes) {
+  const UniqueHandle file = Own(CreateFileW(SystemPath(path).c_str(), GENERIC_WRITE, 0, nullptr,
+                                            CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) return LastError();
+  while (!bytes.empty()) {
+    DWORD count = 0;
+    if (WriteFile(file.get(), bytes.data(), NextStep(bytes.size()), &count, nullptr) == FALSE)
+      return LastError();
+    if (count == 0) return FileError::Other;
+    bytes.remove_prefix(count);
+  }
+  return ResultOf(FlushFileBuffers(file.get()));
+}
+
+FileError WindowsFiles::Replace(const std::wstring& target, const std::wstring& replacement,
+                                const std::wstring& backup) {
+  return ResultOf(ReplaceFileW(SystemPath(target).c_str(), SystemPath(replacement).c_str(),
+                               SystemPath(backup).c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                               nullptr));
+}
+
+FileError WindowsFiles::Move(const std::wstring& from, const std::wstring& to) {
+  return ResultOf(MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(),
+                              MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+}
+
+FileError WindowsFiles::Remove(const std::wstring& path) {
+  return ResultOf(DeleteFileW(SystemPath(path).c_str()));
+}
+
+}  // namespace tessera

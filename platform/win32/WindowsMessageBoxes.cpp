@@ -1,0 +1,38 @@
+// The program's own enumerations become the system's styles here.
+#include "platform/win32/WindowsMessageBoxes.h"
+
+#include <array>
+
+namespace tessera {
+namespace {
+
+struct ButtonStyle {
+  UINT Style;
+  BoxAnswer WhenNotShown;
+};
+
+// In the order of BoxButtons.
+constexpr std::array<ButtonStyle, 3> ButtonStyles{
+    {{MB_OK, BoxAnswer::Ok}, {MB_YESNO, BoxAnswer::No}, {MB_YESNOCANCEL, BoxAnswer::Cancel}}};
+
+// In the order of BoxIcon.
+constexpr std::array<UINT, 4> IconStyles{MB_ICONERROR, MB_ICONQUESTION, MB_ICONWARNING,
+                                         MB_ICONINFORMATION};
+
+}  // namespace
+
+WindowsMessageBoxes::WindowsMessageBoxes(const OwnerWindow& owner) : owner_(owner) {}
+
+BoxAnswer WindowsMessageBoxes::Show(const std::wstring& text, BoxButtons buttons, BoxIcon icon,
+                                    BoxDefault defaultButton) {
+  const ButtonStyle& style = ButtonStyles.at(static_cast<std::size_t>(buttons));
+  const UINT defaultStyle = defaultButton == BoxDefault::Second ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
+  const int answer =
+      MessageBoxW(owner_.Current(), text.c_str(), L"Tessera",
+                  style.Style | IconStyles.at(static_cast<std::size_t>(icon)) | defaultStyle);
+  return answer == 0 ? style.WhenNotShown : static_cast<BoxAnswer>(answer);
+}
+
+void WindowsMessageBoxes::Beep() { MessageBeep(MB_OK); }
+
+}  // namespace tessera

@@ -1,0 +1,21 @@
+// Puts the seams together.
+#include "platform/win32/WindowsSystem.h"
+
+#include <utility>
+
+namespace tessera {
+
+WindowsSystem::WindowsSystem()
+    : boxes_(owner_), dialogs_(owner_), programs_(owner_), clipboard_(owner_) {}
+
+System WindowsSystem::Seams() {
+  return {files_, registry_, environment_, boxes_, dialogs_, programs_, clock_, clipboard_};
+}
+
+void WindowsSystem::SetMainWindow(HWND window) { owner_.SetMain(window); }
+
+void WindowsSystem::SetMessageFilter(MessageFilter filter) {
+  clock_.SetMessageFilter(std::move(filter));
+}
+
+}  // namespace tessera

@@ -1,0 +1,69 @@
+// Taking INI lines apart.
+#include "settings/IniText.h"
+
+#include <algorithm>
+
+namespace tessera {
+namespace {
+
+template <typename IsDropped>
+std::string_view Trimmed(std::string_view text, IsDropped isDropped) {
+  while (!text.empty() && isDropped(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isDropped(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+constexpr bool EndsLine(char byte) { return byte == '\r' || byte == '\n'; }
+
+bool BeginsWith(std::string_view line, char first) {
+  const auto* const found = std::find_if_not(line.begin(), line.end(), IsIniBlank);
+  return found != line.end() && *found == first;
+}
+
+}  // namespace
+
+std::string_view WithoutBlanks(std::string_view text) { return Trimmed(text, IsIniBlank); }
+
+std::string_view WithoutSpaces(std::string_view text) {
+  return Trimmed(text, [](char byte) { return byte == ' '; });
+}
+
+bool HasLineBreak(std::string_view text) { return std::any_of(text.begin(), text.end(), EndsLine); }
+
+std::vector<std::string_view> SplitIntoLines(std::string_view text) {
+  std::vector<std::string_view> lines;
+  lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
+  // Each of the two is looked for again only once it is passed, so that no byte is seen twice.
+  std::size_t carriageReturn = text.find('\r');
+  std::size_t lineFeed = text.find('\n');
+  for (std::size_t begin = 0; begin < text.size();) {
+    std::size_t end = std::min({carriageReturn, lineFeed, text.size()});
+    if (end < text.size()) end += text.substr(end, 2) == IniLineEnd ? 2 : 1;
+    lines.push_back(text.substr(begin, end - begin));
+    begin = end;
+    if (carriageReturn < begin) carriageReturn = text.find('\r', begin);
+    if (lineFeed < begin) lineFeed = text.find('\n', begin);
+  }
+  return lines;
+}
+
+std::optional<IniEntry> EntryOf(std::string_view line) {
+  const std::size_t equals = line.find('=');
+  if (equals == std::string_view::npos || IsComment(line)) return std::nullopt;
+  return IniEntry{WithoutBlanks(line.substr(0, equals)), WithoutBlanks(line.substr(equals + 1))};
+}
+
+bool IsComment(std::string_view line) { return BeginsWith(line, ';'); }
+
+bool IsHeader(std::string_view line) { return BeginsWith(line, '['); }
+
+std::string_view HeaderName(std::string_view line) {
+  const std::string_view name = line.substr(std::min(line.find('[') + 1, line.size()));
+  std::string_view inner = name.substr(0, name.find(']'));
+  while (!inner.empty() && IsIniBlank(inner.front())) inner.remove_prefix(1);
+  // A NUL behind the name belongs to it: big-endian UTF-16 is not to be half understood.
+  while (!inner.empty() && IsIniBlank(inner.back()) && inner.back() != '\0') inner.remove_suffix(1);
+  return inner;
+}
+
+}  // namespace tessera

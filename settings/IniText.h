@@ -1,0 +1,45 @@
+// The grammar of INI files: what a line is, and what is in it.
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace tessera {
+
+inline constexpr std::string_view IniLineEnd = "\r\n";
+
+struct IniEntry {
+  std::string_view Name;
+  std::string_view Value;
+};
+
+/// True for the space and everything below it, line ends and NUL included.
+[[nodiscard]] constexpr bool IsIniBlank(char byte) {
+  return static_cast<unsigned char>(byte) <= 0x20;
+}
+
+/// Without the blanks at both ends.
+[[nodiscard]] std::string_view WithoutBlanks(std::string_view text);
+
+/// Without the spaces at both ends; other blanks stay. Names that a caller gives are treated so.
+[[nodiscard]] std::string_view WithoutSpaces(std::string_view text);
+
+[[nodiscard]] bool HasLineBreak(std::string_view text);
+
+/// Lines with their ends; LF, CR LF and a lone CR end a line.
+[[nodiscard]] std::vector<std::string_view> SplitIntoLines(std::string_view text);
+
+/// Name and value of a line; nothing for a comment and for a line without "=".
+[[nodiscard]] std::optional<IniEntry> EntryOf(std::string_view line);
+
+/// True when the first character that is no blank is ";".
+[[nodiscard]] bool IsComment(std::string_view line);
+
+/// True when the first character that is no blank is "[".
+[[nodiscard]] bool IsHeader(std::string_view line);
+
+/// The name in a header line: up to the first "]", or to the end of a line that has none.
+[[nodiscard]] std::string_view HeaderName(std::string_view line);
+
+}  // namespace tessera

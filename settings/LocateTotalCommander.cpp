@@ -1,0 +1,78 @@
+// The places where Total Commander's files are looked for, in their order.
+#include "settings/LocateTotalCommander.h"
+
+#include "settings/cRegistry.h"
+#include "settings/Paths.h"
+#include "settings/ProfileFile.h"
+#include "settings/ReplaceContent.h"
+
+namespace tessera {
+namespace {
+
+constexpr std::wstring_view CommandListName = L"Totalcmd.inc";
+constexpr std::wstring_view UserKey = L"HKEY_CURRENT_USER\\Software\\Ghisler\\Total Commander";
+constexpr std::wstring_view MachineKey = L"HKEY_LOCAL_MACHINE\\Software\\Ghisler\\Total Commander";
+
+/// The file that a registered settings path means.
+std::wstring ResolveRegisteredIni(const Environment& environment, std::wstring_view registered,
+                                  std::wstring_view totalCommanderDirectory) {
+  std::wstring path = ExpandPath(environment, registered);
+  if (path.starts_with(L".\\"))
+    return ExpandPath(environment, totalCommanderDirectory) + path.substr(2);
+  if (path.size() >= 3 && path.compare(1, 2, L":\\") == 0) return path;
+  return AddBackslash(environment.Variable(L"windir")) + path;
+}
+
+}  // namespace
+
+std::wstring LocateTotalcmdInc(const LocateSources& sources, std::wstring& totalCommanderDirectory,
+                               const AskForMissingFile& ask) {
+  // True, and the directory taken over, when the command list is in it.
+  const auto isIn = [&](std::wstring_view directory) {
+    const std::wstring candidate = AddBackslash(directory);
+    if (!FileExists(sources.FileSystem, candidate + std::wstring(CommandListName), false))
+      return false;
+    totalCommanderDirectory = candidate;
+    return true;
+  };
+  if (isIn(sources.Surroundings.Variable(L"Commander_Path")))
+    return totalCommanderDirectory + std::wstring(CommandListName);
+
+  const cRegistry registry(sources.RegistryKeys);
+  for (const std::wstring_view key : {UserKey, MachineKey}) {
+    const std::wstring directory =
+        ExpandPath(sources.Surroundings, registry.ReadValue(key, L"InstallDir"));
+    if (!IsMissing(directory) && isIn(directory))
+      return totalCommanderDirectory + std::wstring(CommandListName);
+  }
+
+  const std::wstring candidate =
+      ExpandPath(sources.Surroundings, totalCommanderDirectory + std::wstring(CommandListName));
+  if (FileExists(sources.FileSystem, candidate, false)) return candidate;
+
+  const std::wstring chosen = ask(L"");
+  if (!IsMissing(chosen)) totalCommanderDirectory = AddBackslash(DirectoryOf(chosen));
+  return chosen;
+}
+
+std::wstring LocateWincmdIni(const LocateSources& sources,
+                             const std::wstring& totalCommanderDirectory,
+                             std::wstring& userDefinedWincmd, const AskForMissingFile& ask) {
+  const cRegistry registry(sources.RegistryKeys);
+  const std::wstring ofUser = registry.ReadValue(UserKey, L"IniFileName");
+  const std::wstring ofMachine = registry.ReadValue(MachineKey, L"IniFileName");
+  const std::wstring& registered = IsMissing(ofUser) ? ofMachine : ofUser;
+  if (!IsMissing(registered)) {
+    std::wstring path =
+        ResolveRegisteredIni(sources.Surroundings, registered, totalCommanderDirectory);
+    if (ExistsOrReturns(sources.FileSystem, path)) return path;
+  }
+
+  std::wstring candidate = ExpandPath(sources.Surroundings, userDefinedWincmd);
+  if (ExistsOrReturns(sources.FileSystem, candidate)) return candidate;
+
+  userDefinedWincmd = ask(ExpandPath(sources.Surroundings, totalCommanderDirectory));
+  return ExpandPath(sources.Surroundings, userDefinedWincmd);
+}
+
+}  // namespace tessera

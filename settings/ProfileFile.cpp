@@ -1,0 +1,253 @@
+// Reading, changing and saving one INI file.
+#include "settings/ProfileFile.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "platform/Utf8.h"
+
+namespace tessera {
+namespace {
+
+/// The length of a value that is read alone wraps at 16 bits, a quirk of Windows that is kept.
+template <typename Text>
+Text Wrapped(const Text& value) {
+  return value.substr(0, value.size() % 65536);
+}
+
+constexpr bool IsDigit(wchar_t character) { return character >= L'0' && character <= L'9'; }
+
+std::size_t SkipDigits(std::wstring_view text, std::size_t position) {
+  while (position < text.size() && IsDigit(text[position])) ++position;
+  return position;
+}
+
+std::size_t SkipSign(std::wstring_view text, std::size_t position) {
+  const bool isSign = position < text.size() && (text[position] == L'-' || text[position] == L'+');
+  return position + (isSign ? 1 : 0);
+}
+
+/// The length of the number that a text without sign begins with; 0 when it begins with none.
+std::size_t NumberLength(std::wstring_view text) {
+  const std::size_t whole = SkipDigits(text, 0);
+  std::size_t end = whole;
+  std::size_t digits = whole;
+  if (end < text.size() && text[end] == L'.') {
+    end = SkipDigits(text, end + 1);
+    digits += end - whole - 1;
+  }
+  if (digits == 0) return 0;
+  if (end < text.size() && (text[end] == L'e' || text[end] == L'E')) {
+    const std::size_t exponent = SkipSign(text, end + 1);
+    const std::size_t exponentEnd = SkipDigits(text, exponent);
+    if (exponentEnd > exponent) end = exponentEnd;
+  }
+  return end;
+}
+
+template <typename Integer>
+Integer Rounded(double number) {
+  if (std::isnan(number)) return 0;
+  constexpr double smallest = std::numeric_limits<Integer>::min();
+  constexpr double largest = std::numeric_limits<Integer>::max();
+  return static_cast<Integer>(std::nearbyint(std::clamp(number, smallest, largest)));
+}
+
+std::string DecimalText(double number) {
+  if (!std::isfinite(number)) return "0";
+  std::array<char, 1100> digits{};  // the longest finite number in decimal fits
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number + 0.0,
+                                 std::chars_format::fixed);
+  return {digits.data(), end.ptr};
+}
+
+}  // namespace
+
+bool IsMissing(std::wstring_view value) { return value == MissingMarker; }
+
+std::wstring TrimBlanks(std::wstring_view text) {
+  const std::size_t begin = std::min(text.find_first_not_of(L' '), text.size());
+  return std::wstring(text.substr(begin, text.find_last_not_of(L' ') + 1 - begin));
+}
+
+double LeadingNumber(std::wstring_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(L" \t"), text.size()));
+  const bool negative = text.starts_with(L'-');
+  text.remove_prefix(SkipSign(text, 0));
+  const std::wstring_view wide = text.substr(0, NumberLength(text));
+  std::string digits(wide.size(), '\0');
+  std::transform(wide.begin(), wide.end(), digits.begin(),
+                 [](wchar_t digit) { return static_cast<char>(digit); });
+  double number = 0;
+  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  if (result.ec == std::errc::result_out_of_range && digits.find('-') == std::string::npos) {
+    number = std::numeric_limits<double>::max();
+  }
+  return negative ? -number : number;
+}
+
+short RoundTo16Bits(double number) { return Rounded<short>(number); }
+
+int RoundTo32Bits(double number) { return Rounded<int>(number); }
+
+std::optional<std::wstring> ProfileSection::Find(std::wstring_view key,
+                                                 std::size_t bufferLength) const {
+  if (section_ == nullptr) return std::nullopt;
+  const auto found = section_->Find(file_->EncodeName(key));
+  if (!found) return std::nullopt;
+  const std::string_view value = WithoutQuotes(*found);
+  if (file_->IsUtf16()) return Wrapped(file_->DecodeValue(value)).substr(0, bufferLength - 1);
+  const std::string_view wrapped = Wrapped(value);
+  return file_->DecodeValue(file_->IsUtf8(wrapped) ? CutUtf8(wrapped, bufferLength - 1)
+                                                   : wrapped.substr(0, bufferLength - 1));
+}
+
+ProfileFile::ProfileFile(const Files& files, std::wstring path) : path_(std::move(path)) {
+  readError_ = files.Read(path_, bytes_);
+  document_ = IniDocument(bytes_);
+}
+
+ProfileFile::ProfileFile(const Files& files, Clock& clock, std::wstring path)
+    : path_(std::move(path)) {
+  readError_ = ReadWhenFree(files, clock, path_, bytes_);
+  document_ = IniDocument(bytes_);
+}
+
+const std::wstring& ProfileFile::Path() const { return path_; }
+
+FileError ProfileFile::ReadError() const { return readError_; }
+
+std::wstring ProfileFile::ReadString(std::wstring_view section, std::wstring_view key,
+                                     std::wstring_view defaultValue,
+                                     std::size_t bufferLength) const {
+  if (bufferLength == 0) return {};
+  if (auto value = Section(section).Find(key, bufferLength)) return *std::move(value);
+  const std::size_t length = defaultValue.find_last_not_of(L' ') + 1;
+  return std::wstring(defaultValue.substr(0, std::min(length, bufferLength - 1)));
+}
+
+ProfileSection ProfileFile::Section(std::wstring_view name) const {
+  return {*this, document_.Section(EncodeName(name))};
+}
+
+double ProfileFile::ReadInteger(std::wstring_view section, std::wstring_view key,
+                                std::wstring_view defaultText, std::size_t bufferLength) const {
+  return LeadingNumber(ReadString(section, key, defaultText, bufferLength));
+}
+
+std::vector<std::pair<std::wstring, std::wstring>> ProfileFile::Entries(
+    std::wstring_view section) const {
+  std::vector<std::pair<std::wstring, std::wstring>> entries;
+  for (const auto& [name, value] : document_.Entries(EncodeName(section))) {
+    entries.emplace_back(DecodeName(name), DecodeValue(WithoutQuotes(value)));
+  }
+  return entries;
+}
+
+std::vector<std::wstring> ProfileFile::SectionNames() const {
+  std::vector<std::wstring> names;
+  for (const std::string_view name : document_.SectionNames()) names.push_back(DecodeName(name));
+  return names;
+}
+
+std::vector<std::wstring> ProfileFile::Lines(std::wstring_view section) const {
+  std::vector<std::wstring> lines;
+  for (const std::string& line : document_.Lines(EncodeName(section))) {
+    // A mark behind the "=" tells how the value is written.
+    const std::size_t value = std::min(line.find('='), line.size() - 1) + 1;
+    lines.push_back(DecodeName(line.substr(0, value)) + DecodeValue(line.substr(value)));
+  }
+  return lines;
+}
+
+void ProfileFile::UseCodePage(unsigned codePage) { codePage_ = codePage; }
+
+void ProfileFile::WriteString(std::wstring_view section, std::wstring_view key,
+                              std::wstring_view value, bool quoted) {
+  const std::wstring trimmed = TrimBlanks(value);
+  if (IsMissing(trimmed)) return;
+  const std::string bytes = EncodeValue(trimmed);
+  document_.Set(EncodeName(section), EncodeName(key), quoted ? '"' + bytes + '"' : bytes);
+  isChanged_ = true;
+}
+
+void ProfileFile::WriteInteger(std::wstring_view section, std::wstring_view key, double number) {
+  document_.Set(EncodeName(section), EncodeName(key), DecimalText(number));
+  isChanged_ = true;
+}
+
+void ProfileFile::DeleteValue(std::wstring_view section, std::wstring_view key) {
+  document_.Remove(EncodeName(section), EncodeName(key));
+  isChanged_ = true;
+}
+
+void ProfileFile::DeleteSection(std::wstring_view section) {
+  document_.RemoveSection(EncodeName(section));
+  isChanged_ = true;
+}
+
+void ProfileFile::ReplaceEntries(std::wstring_view section,
+                                 const std::vector<std::pair<std::wstring, std::wstring>>& entries,
+                                 const std::function<bool(std::wstring_view key)>& keep) {
+  std::vector<std::pair<std::string, std::string>> encoded;
+  encoded.reserve(entries.size());
+  for (const auto& [name, value] : entries) {
+    encoded.emplace_back(EncodeName(name), EncodeValue(TrimBlanks(value)));
+  }
+  document_.ReplaceEntries(EncodeName(section), encoded,
+                           [&](std::string_view name) { return keep && keep(DecodeName(name)); });
+  isChanged_ = true;
+}
+
+FileError ProfileFile::Save(Files& files, Clock& clock, KeepCopies copies) {
+  // What could not be read must not be overwritten by the little that is known of it.
+  const bool isMissing = readError_ == FileError::NotFound;
+  if (readError_ != FileError::None && !isMissing) return readError_;
+  if (!isChanged_) return FileError::None;
+  std::string bytes = document_.Bytes();
+  if (bytes == bytes_ && !isMissing) return FileError::None;
+  const FileError error = ReplaceContent(files, clock, path_, bytes, copies, &bytes_);
+  if (error != FileError::None) return error;
+  bytes_ = std::move(bytes);
+  readError_ = FileError::None;
+  isChanged_ = false;
+  return FileError::None;
+}
+
+bool ProfileFile::IsUtf16() const {
+  return document_.FileEncoding() == IniDocument::Encoding::Utf16Le;
+}
+
+unsigned ProfileFile::CodePage() const { return IsUtf16() ? Utf8CodePage : codePage_; }
+
+bool ProfileFile::IsUtf8(std::string_view value) const {
+  return CodePage() == Utf8CodePage || value.starts_with(Utf8Mark);
+}
+
+std::wstring ProfileFile::DecodeName(std::string_view bytes) const {
+  return Decode(bytes, CodePage());
+}
+
+std::string ProfileFile::EncodeName(std::wstring_view name) const {
+  return Encode(name, CodePage());
+}
+
+std::wstring ProfileFile::DecodeValue(std::string_view bytes) const {
+  if (IsUtf16() || !bytes.starts_with(Utf8Mark)) return Decode(bytes, CodePage());
+  return WideFromUtf8(bytes.substr(Utf8Mark.size()));
+}
+
+std::string ProfileFile::EncodeValue(std::wstring_view value) const {
+  std::string bytes = Encode(value, CodePage());
+  if (IsUtf16() || DecodeValue(bytes) == value) return bytes;
+  // Quotes around a value stand around its mark too, or a read would not take them away.
+  const std::string utf8 = Utf8FromWide(value);
+  const std::string_view inner = WithoutQuotes(utf8);
+  const std::string quote = inner.size() < utf8.size() ? utf8.substr(0, 1) : std::string();
+  return std::string(quote).append(Utf8Mark).append(inner).append(quote);
+}
+
+}  // namespace tessera

@@ -1,0 +1,46 @@
+// Saving: a file's new content takes the place of the old in one step, or not at all.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/Clock.h"
+#include "platform/Files.h"
+
+namespace tessera {
+
+/// What is left beside a file that is saved.
+enum class KeepCopies {
+  No,
+  Yes  ///< the former content as ".bak"; the new one as ".unsaved" when it could not be put in
+       ///< place
+};
+
+/// Reads a file; one that is held by another program is tried again as in ReplaceContent.
+[[nodiscard]] FileError ReadWhenFree(const Files& files, Clock& clock, const std::wstring& path,
+                                     std::string& bytes);
+
+/// Runs a save, which reads its file and then replaces it, again from its start when it gives
+/// ChangedMeanwhile; three times at most. Gives the last result.
+[[nodiscard]] FileError SaveFromTheStart(const std::function<FileError()>& save);
+
+/// Writes `bytes` to a temporary file beside `path` and swaps it in. A link is followed. A file
+/// held open for a moment is tried again for at most two seconds. Gives None when the new content
+/// is in place; after any error the file at `path` is as it was. ChangedMeanwhile tells that
+/// another program, after such a wait, had left something else there than `former`, which `bytes`
+/// were made from; null leaves that out.
+[[nodiscard]] FileError ReplaceContent(Files& files, Clock& clock, const std::wstring& path,
+                                       std::string_view bytes, KeepCopies copies,
+                                       const std::string* former = nullptr);
+
+/// Clears up what a save of `path` left when the program was killed in it; reads no file when there
+/// is nothing. The former content returns when the file itself is gone, and else gets the name that
+/// `copies` gives it.
+void ClearLeftOvers(Files& files, const std::wstring& path, KeepCopies copies);
+
+/// True when the user's file at `path` exists, or a killed save left its content beside it, which
+/// is then put back.
+[[nodiscard]] bool ExistsOrReturns(Files& files, const std::wstring& path);
+
+}  // namespace tessera

@@ -1,0 +1,54 @@
+// Reaching Total Commander by its window, and starting it by the environment's word.
+#include "settings/RestartTotalCommander.h"
+
+#include "settings/Paths.h"
+
+namespace tessera {
+namespace {
+
+constexpr float PauseLength = 0.5F;  // seconds
+constexpr int PauseStep = 5;         // milliseconds; keeps the pause from taking a whole processor
+
+std::wstring ExecutablePath(const Files& files, const Environment& environment) {
+  // Deliberate: an unset variable gives "\", so no other place is ever looked at.
+  const std::wstring directory = AddBackslash(environment.Variable(L"Commander_Path"));
+  const std::wstring folder = AddBackslash(ExpandPath(environment, directory));
+  const std::wstring usual = folder + L"Totalcmd.exe";
+  const std::wstring only64Bit = folder + L"Totalcmd64.exe";
+  const bool use64Bit = !FileExists(files, usual, false) && FileExists(files, only64Bit, false);
+  return use64Bit ? only64Bit : usual;
+}
+
+}  // namespace
+
+WindowId FindTotalCommander(const Programs& programs) {
+  return programs.FindWindowOfClass(L"TTOTAL_CMD");
+}
+
+void Pause(Clock& clock) {
+  const float target = clock.SecondsSinceMidnight() + PauseLength;
+  if (target <= 0.0F) return;
+  for (;;) {
+    const float now = clock.SecondsSinceMidnight();
+    clock.DoEvents();
+    if (now >= target) return;
+    clock.Sleep(PauseStep);
+  }
+}
+
+void RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
+                           const Environment& environment, const RestartRequest& request) {
+  const std::wstring executable = ExecutablePath(files, environment);
+  const WindowId window = FindTotalCommander(programs);
+  if (window != 0) {
+    programs.SetForeground(window);
+    if (request.CloseIt) programs.SendClose(window);
+  }
+  Pause(clock);
+  if (request.CloseIt) return;
+  const std::wstring arguments = request.ArgPrefix + L'"' + request.WincmdPath + L'"';
+  // The user's keys are saved by now; that Total Commander does not start is plain to see.
+  (void)programs.Start(request.WithIni ? executable + arguments : executable);
+}
+
+}  // namespace tessera

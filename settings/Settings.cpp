@@ -1,0 +1,215 @@
+// The table of settings, the order in which they are stored, and the rules for single ones.
+#include "settings/Settings.h"
+
+#include <algorithm>
+#include <array>
+#include <variant>
+
+#include "settings/Paths.h"
+
+namespace tessera {
+namespace {
+
+constexpr short FirstRunWidth = 10000;  // twips, as the next
+constexpr short FirstRunHeight = 7000;
+constexpr short FewestRecentFiles = 2;
+constexpr short MostRecentFiles = 16;
+
+using Member = std::variant<short Settings::*, int Settings::*, std::wstring Settings::*>;
+
+struct Field {
+  std::wstring_view Section;
+  std::wstring_view Key;
+  Member Where;
+};
+
+/// Every setting, in the order in which they are read.
+constexpr std::array Fields{
+    Field{ProgramSection, L"CommandListShowLines", &Settings::CommandListShowLines},
+    Field{ProgramSection, L"FixedBorders", &Settings::FixedBorders},
+    Field{ProgramSection, L"FlatUserInterface", &Settings::FlatUserInterface},
+    Field{ProgramSection, L"ForegroundColor", &Settings::ForegroundColor},
+    Field{ProgramSection, L"BackgroundColor", &Settings::BackgroundColor},
+    Field{ProgramSection, L"FontName", &Settings::FontName},
+    Field{ProgramSection, L"FontScript", &Settings::FontScript},
+    Field{ProgramSection, L"FontSize", &Settings::FontSize},
+    Field{ProgramSection, L"FontStyle", &Settings::FontStyle},
+    Field{ProgramSection, L"UseDefaultLanguage", &Settings::UseDefaultLanguage},
+    Field{CommonSection, L"LanguageFile", &Settings::LanguageFile},
+    Field{ProgramSection, L"MainWindowTop", &Settings::MainWindowTop},
+    Field{ProgramSection, L"MainWindowLeft", &Settings::MainWindowLeft},
+    Field{ProgramSection, L"MainWindowHeight", &Settings::MainWindowHeight},
+    Field{ProgramSection, L"MainWindowWidth", &Settings::MainWindowWidth},
+    Field{ProgramSection, L"MainWindowMaxmized", &Settings::MainWindowMaxmized},
+    Field{ProgramSection, L"ToolbarVisible", &Settings::ToolbarVisible},
+    Field{ProgramSection, L"AlwaysRestartTC", &Settings::AlwaysRestartTC},
+    Field{CommonSection, L"TCInstallDir", &Settings::TCInstallDir},
+    Field{CommonSection, L"UserDefinedWincmd", &Settings::UserDefinedWincmd},
+    Field{CommonSection, L"NumberOfRecentFiles", &Settings::NumberOfRecentFiles},
+    Field{CommonSection, L"ShowControlsBackColor", &Settings::ShowControlsBackColor},
+    Field{ProgramSection, L"ColumnHeadersPosition", &Settings::ColumnHeadersPosition},
+    Field{ProgramSection, L"ColumnHeadersSize", &Settings::ColumnHeadersSize},
+    Field{ProgramSection, L"UseContextMenuKey", &Settings::UseContextMenuKey},
+    Field{ProgramSection, L"SortedList", &Settings::SortedList},
+    Field{ProgramSection, L"SortOrder", &Settings::SortOrder},
+    Field{ProgramSection, L"SortedColumn", &Settings::SortedColumn},
+    Field{ProgramSection, L"DefaultHotKeysDataFile", &Settings::DefaultHotKeysDataFile},
+    Field{ProgramSection, L"ReverseOrderHotkey", &Settings::ReverseOrderHotkey},
+    Field{ProgramSection, L"MultiHotkeySeparator", &Settings::MultiHotkeySeparator},
+    Field{ProgramSection, L"UndefinedHotkey", &Settings::UndefinedHotkey},
+    Field{ProgramSection, L"KeepUnknownShortcuts", &Settings::KeepUnknownShortcuts},
+};
+
+/// The stored settings, in the order in which they are written.
+constexpr std::array<std::wstring_view, 28> StoredKeys{L"FixedBorders",
+                                                       L"FlatUserInterface",
+                                                       L"ForegroundColor",
+                                                       L"BackgroundColor",
+                                                       L"FontName",
+                                                       L"FontScript",
+                                                       L"FontSize",
+                                                       L"FontStyle",
+                                                       L"UseDefaultLanguage",
+                                                       L"LanguageFile",
+                                                       L"MainWindowLeft",
+                                                       L"MainWindowTop",
+                                                       L"MainWindowWidth",
+                                                       L"MainWindowHeight",
+                                                       L"MainWindowMaxmized",
+                                                       L"ToolbarVisible",
+                                                       L"NumberOfRecentFiles",
+                                                       L"AlwaysRestartTC",
+                                                       L"CommandListShowLines",
+                                                       L"ColumnHeadersPosition",
+                                                       L"ColumnHeadersSize",
+                                                       L"UseContextMenuKey",
+                                                       L"SortedList",
+                                                       L"SortOrder",
+                                                       L"SortedColumn",
+                                                       L"MultiHotkeySeparator",
+                                                       L"UndefinedHotkey",
+                                                       L"ReverseOrderHotkey"};
+
+/// The keys that a maximised window leaves as they are.
+constexpr std::array<std::wstring_view, 4> PlacementKeys{L"MainWindowLeft", L"MainWindowTop",
+                                                         L"MainWindowWidth", L"MainWindowHeight"};
+
+/// Takes one setting over from the file; one that is absent there stays as it is.
+struct Reader {
+  const ProfileFile& File;
+  const Field& Source;
+  Settings& Target;
+
+  void operator()(short Settings::*member) const {
+    Target.*member = RoundTo16Bits(Number(Target.*member));
+  }
+  void operator()(int Settings::*member) const {
+    Target.*member = RoundTo32Bits(Number(Target.*member));
+  }
+  void operator()(std::wstring Settings::*member) const {
+    Target.*member = File.ReadString(Source.Section, Source.Key, Target.*member);
+  }
+
+ private:
+  [[nodiscard]] double Number(int present) const {
+    return File.ReadInteger(Source.Section, Source.Key, std::to_wstring(present));
+  }
+};
+
+struct Writer {
+  ProfileFile& File;
+  const Field& Target;
+  const Settings& Source;
+
+  void operator()(short Settings::*member) const {
+    File.WriteInteger(Target.Section, Target.Key, Source.*member);
+  }
+  void operator()(int Settings::*member) const {
+    File.WriteInteger(Target.Section, Target.Key, Source.*member);
+  }
+  void operator()(std::wstring Settings::*member) const {
+    // A language file that was never chosen is the missing marker, which is not written.
+    File.WriteString(Target.Section, Target.Key, Source.*member);
+  }
+};
+
+Settings Defaults(const Environment& environment) {
+  Settings settings;
+  settings.TCInstallDir = environment.Variable(L"Commander_Path");
+  settings.DefaultHotKeysDataFile =
+      AddBackslash(environment.ProgramDirectory()) + L"Data Files\\tc default hotkeys.hky";
+  return settings;
+}
+
+void PlaceFirstWindow(Settings& settings, const Environment& environment) {
+  const TwipsSize screen = environment.ScreenSize();
+  settings.MainWindowWidth = FirstRunWidth;
+  settings.MainWindowHeight = FirstRunHeight;
+  settings.MainWindowLeft = RoundTo16Bits((screen.Width - FirstRunWidth) / 2.0);
+  settings.MainWindowTop = RoundTo16Bits((screen.Height - FirstRunHeight) / 2.0);
+}
+
+void WriteSettings(const Settings& settings, ProfileFile& file) {
+  for (const std::wstring_view key : StoredKeys) {
+    const bool isPlacement = std::ranges::find(PlacementKeys, key) != PlacementKeys.end();
+    if (isPlacement && settings.MainWindowMaxmized != 0) continue;
+    const Field& field = *std::ranges::find(Fields, key, &Field::Key);
+    std::visit(Writer{file, field, settings}, field.Where);
+  }
+}
+
+/// The trimmed text, or `replacement` when nothing is left of it.
+std::wstring TrimmedOr(std::wstring_view text, std::wstring_view replacement) {
+  std::wstring trimmed = TrimBlanks(text);
+  return trimmed.empty() ? std::wstring(replacement) : trimmed;
+}
+
+/// What single settings need after they were read.
+void ApplyRules(Settings& settings, const Environment& environment) {
+  settings.ExpandedLanguageFile = ExpandPath(environment, settings.LanguageFile);
+  if (settings.TCInstallDir.empty()) settings.TCInstallDir = environment.Variable(L"windir");
+  settings.TCInstallDir = AddBackslash(settings.TCInstallDir);
+  settings.NumberOfRecentFiles =
+      std::clamp(settings.NumberOfRecentFiles, FewestRecentFiles, MostRecentFiles);
+  settings.DefaultHotKeysDataFile = ExpandPath(environment, settings.DefaultHotKeysDataFile);
+  settings.MultiHotkeySeparator = L' ' + TrimmedOr(settings.MultiHotkeySeparator, L"=") + L' ';
+  settings.UndefinedHotkey = TrimmedOr(settings.UndefinedHotkey, L"---");
+}
+
+}  // namespace
+
+std::wstring SettingsPath(const Environment& environment) {
+  return AddBackslash(environment.ProgramDirectory()) + L"vantor.ini";
+}
+
+Settings LoadSettings(Files& files, Clock& clock, const Environment& environment) {
+  const std::wstring path = SettingsPath(environment);
+  ClearLeftOvers(files, path, KeepCopies::No);
+  Settings settings = Defaults(environment);
+  ProfileFile file(files, clock, path);
+  if (file.ReadError() == FileError::NotFound) {
+    PlaceFirstWindow(settings, environment);
+    // In a folder that cannot be written the program runs all the same, with these values.
+    (void)SaveSettings(settings, files, clock, environment);
+    file = ProfileFile(files, clock, path);
+  }
+  settings.Unread = file.ReadError() != FileError::None && file.ReadError() != FileError::NotFound;
+  for (const Field& field : Fields) std::visit(Reader{file, field, settings}, field.Where);
+  ApplyRules(settings, environment);
+  return settings;
+}
+
+FileError SaveSettings(const Settings& settings, Files& files, Clock& clock,
+                       const Environment& environment) {
+  const std::wstring path = SettingsPath(environment);
+  ClearLeftOvers(files, path, KeepCopies::No);
+  return SaveFromTheStart([&] {
+    ProfileFile file(files, clock, path);
+    // Defaults must not replace what the user once chose.
+    if (settings.Unread && file.ReadError() == FileError::None) return FileError::AccessDenied;
+    WriteSettings(settings, file);
+    return file.Save(files, clock, KeepCopies::No);
+  });
+}
+
+}  // namespace tessera

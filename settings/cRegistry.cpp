@@ -1,0 +1,101 @@
+// Turns path texts into root keys, and stored bytes into texts.
+#include "settings/cRegistry.h"
+
+#include <array>
+#include <optional>
+#include <utility>
+
+#include "platform/Text.h"
+#include "settings/ProfileFile.h"
+
+namespace tessera {
+namespace {
+
+constexpr std::size_t ValueCapacity = 2048;  // bytes
+
+constexpr std::uint32_t TypeText = 1;
+constexpr std::uint32_t TypeBinary = 3;
+constexpr std::uint32_t TypeNumber = 4;
+
+constexpr std::array<std::pair<std::wstring_view, RootKey>, 6> RootKeys{{
+    {L"HKEY_CLASSES_ROOT", RootKey::ClassesRoot},
+    {L"HKEY_CURRENT_USER", RootKey::CurrentUser},
+    {L"HKEY_LOCAL_MACHINE", RootKey::LocalMachine},
+    {L"HKEY_USERS", RootKey::Users},
+    {L"HKEY_CURRENT_CONFIG", RootKey::CurrentConfig},
+    {L"HKEY_DYN_DATA", RootKey::DynData},
+}};
+
+struct KeyAddress {
+  RootKey Root;
+  std::wstring Subkey;
+};
+
+/// The parts of a key path; nothing when it does not begin with the name of a root key.
+std::optional<KeyAddress> AddressOf(std::wstring_view keyPath) {
+  const std::size_t end = keyPath.find(L'\\');
+  const std::wstring rootName = ToUpper(keyPath.substr(0, end));
+  for (const auto& [name, root] : RootKeys) {
+    if (name != rootName) continue;
+    const bool hasSubkey = end != std::wstring_view::npos;
+    return KeyAddress{root, hasSubkey ? std::wstring(keyPath.substr(end + 1)) : std::wstring()};
+  }
+  return std::nullopt;
+}
+
+std::wstring HexadecimalDigits(std::string_view bytes) {
+  constexpr std::wstring_view digits = L"0123456789ABCDEF";
+  std::wstring result;
+  for (const char byte : bytes) {
+    const auto value = static_cast<unsigned char>(byte);
+    result += digits[value >> 4U];
+    result += digits[value & 15U];
+  }
+  return result;
+}
+
+std::string NumberBytes(std::wstring_view text) {
+  auto number = static_cast<std::uint32_t>(RoundTo32Bits(LeadingNumber(text)));
+  std::string bytes;
+  for (int i = 0; i < 4; ++i, number >>= 8U) bytes += static_cast<char>(number & 255U);
+  return bytes;
+}
+
+}  // namespace
+
+cRegistry::cRegistry(Registry& registry) : registry_(registry) {}
+
+std::wstring cRegistry::ReadValue(std::wstring_view keyPath, std::wstring_view valueName) const {
+  const auto address = AddressOf(keyPath);
+  if (!address) return std::wstring(MissingMarker);
+  const auto value =
+      registry_.Query(address->Root, address->Subkey, std::wstring(valueName), ValueCapacity);
+  if (!value) return std::wstring(MissingMarker);
+  if (value->Type == TypeBinary) return HexadecimalDigits(value->Bytes);
+  // Deliberate: a number is not formatted; its last byte falls away like a text's terminator.
+  std::string_view text = value->Bytes;
+  if (!text.empty()) text.remove_suffix(1);
+  return Decode(text);
+}
+
+void cRegistry::WriteValue(std::wstring_view keyPath, std::wstring_view valueName,
+                           std::wstring_view value, int type) {
+  const auto address = AddressOf(keyPath);
+  if (!address) return;
+  RegistryValue stored;
+  stored.Type = static_cast<std::uint32_t>(type);
+  if (stored.Type == TypeText)
+    stored.Bytes = Encode(value) + '\0';
+  else if (stored.Type == TypeNumber)
+    stored.Bytes = NumberBytes(value);
+  else
+    return;
+  registry_.Set(address->Root, address->Subkey, std::wstring(valueName), stored);
+}
+
+void cRegistry::Deletekey(std::wstring_view keyPath, std::wstring_view name) {
+  if (const auto address = AddressOf(keyPath))
+    registry_.DeleteKey(address->Root, address->Subkey, std::wstring(name));
+}
+
+}  // namespace tessera

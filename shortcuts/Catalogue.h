@@ -1,0 +1,37 @@
+// The command catalogue: all commands of Total Commander with their default and current keys.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "shortcuts/CommandEntry.h"
+#include "shortcuts/DisplayTable.h"
+#include "shortcuts/HotkeyNotation.h"
+#include "shortcuts/KeyIndex.h"
+#include "shortcuts/StartMenuKeys.h"
+
+namespace tessera {
+
+/// Called once per line, value or row that a long load handles.
+using ProgressStep = std::function<void()>;
+
+struct Catalogue {
+  std::vector<CommandEntry> lvwHidden;  ///< the master rows, read once per run
+  DisplayTable ListView1;               ///< what is shown, edited, saved and exported
+  KeyIndex lvwDefKeys;                  ///< the default keys of the displayed rows, one by one
+  KeyIndex lvwCurrKeys;                 ///< their current keys
+  StartMenuKeyTable StartMenuKeys;
+};
+
+/// Copies the master rows into ListView1, in their order, and gives each its icon.
+void BuildDisplayTable(Catalogue& catalogue, const HotkeyNotation& notation,
+                       const ProgressStep& step);
+
+/// Fills the two indexes anew with every single key of the displayed command rows.
+void BuildKeyIndexes(Catalogue& catalogue, const HotkeyNotation& notation);
+
+/// Marks every default key that is somewhere a current key: " *" on the index entry and on the
+/// whole default-keys cell of its row, and that cell red.
+void MarkOverriddenDefaults(Catalogue& catalogue);
+
+}  // namespace tessera

@@ -1,0 +1,36 @@
+// One row of the catalogue: a command of Total Commander, or the heading of a group.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tessera {
+
+/// Names a row for as long as the catalogue lives: its ordinal in "Totalcmd.inc", from 1. 0 is
+/// none.
+using RowKey = std::size_t;
+
+enum class RowIcon { None, CommentBlock, HasKey };
+
+/// The tag of a heading row.
+inline constexpr std::wstring_view CommentBlockTag = L"commentblock";
+
+/// Marks a key text or cell as taken away or overridden.
+inline constexpr std::wstring_view OverriddenMark = L" *";
+
+struct CommandEntry {
+  RowKey Key = 0;
+  std::wstring Description;  ///< of a heading row, the heading
+  std::wstring CommandName;  ///< empty for a heading row, as are the next three
+  std::wstring CommandCode;  ///< decimal text
+  std::wstring DefaultKeys;  ///< in display notation, joined by the key separator
+  std::wstring CurrentKeys;  ///< likewise
+  std::wstring Tag;          ///< the code, or CommentBlockTag
+  RowIcon Icon = RowIcon::None;
+  bool DefaultKeysAreRed = false;
+
+  [[nodiscard]] bool IsHeading() const { return Tag == CommentBlockTag; }
+};
+
+}  // namespace tessera

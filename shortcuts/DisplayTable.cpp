@@ -1,0 +1,87 @@
+// The displayed rows: the rows themselves never move, their order does.
+#include "shortcuts/DisplayTable.h"
+
+#include <algorithm>
+#include <numeric>
+#include <string_view>
+#include <utility>
+
+#include "platform/Text.h"
+
+namespace tessera {
+
+const std::wstring& CellText(const CommandEntry& row, Column column) {
+  switch (column) {
+    case Column::Description:
+      return row.Description;
+    case Column::Command:
+      return row.CommandName;
+    case Column::Defaults:
+      return row.DefaultKeys;
+    case Column::Current:
+      break;
+  }
+  return row.CurrentKeys;
+}
+
+std::size_t DisplayTable::Count() const { return order_.size(); }
+
+const CommandEntry& DisplayTable::At(std::size_t position) const {
+  return Row(order_.at(position));
+}
+
+const CommandEntry& DisplayTable::Row(RowKey key) const { return rows_.at(key - 1); }
+
+std::optional<std::size_t> DisplayTable::PositionOf(RowKey key) const {
+  if (key == 0 || key > positions_.size()) return std::nullopt;
+  return positions_[key - 1];
+}
+
+void DisplayTable::Fill(std::vector<CommandEntry> rows) {
+  rows_ = std::move(rows);
+  RestoreFileOrder();
+}
+
+CommandEntry& DisplayTable::Edit(RowKey key) { return rows_.at(key - 1); }
+
+void DisplayTable::RemoveHeadings() {
+  std::erase_if(order_, [this](RowKey key) { return Row(key).IsHeading(); });
+  NumberPositions();
+}
+
+void DisplayTable::RestoreFileOrder() {
+  order_.resize(rows_.size());
+  std::iota(order_.begin(), order_.end(), RowKey{1});
+  NumberPositions();
+}
+
+void DisplayTable::Sort(Column column, SortDirection direction) {
+  using Cell = std::pair<std::wstring_view, RowKey>;
+  std::vector<Cell> cells;
+  cells.reserve(order_.size());
+  for (const RowKey key : order_) cells.emplace_back(CellText(Row(key), column), key);
+
+  const auto sort = [&cells](auto precedes) {
+    std::stable_sort(cells.begin(), cells.end(), [&](const Cell& left, const Cell& right) {
+      return precedes(CompareTexts(left.first, right.first));
+    });
+  };
+  if (direction == SortDirection::Ascending) {
+    sort([](int comparison) { return comparison < 0; });
+  } else {
+    sort([](int comparison) { return comparison > 0; });
+  }
+
+  std::transform(cells.begin(), cells.end(), order_.begin(),
+                 [](const Cell& cell) { return cell.second; });
+  NumberPositions();
+}
+
+void DisplayTable::NumberPositions() {
+  positions_.assign(rows_.size(), std::nullopt);
+  for (std::size_t position = 0; position < order_.size(); ++position) {
+    positions_[order_[position] - 1] = position;
+  }
+}
+
+}  // namespace tessera

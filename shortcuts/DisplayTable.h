@@ -1,0 +1,55 @@
+// The displayed rows: in file order with the headings, or sorted by a column without them.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "shortcuts/CommandEntry.h"
+
+namespace tessera {
+
+/// The columns of the command list, by their 1-based index.
+enum class Column { Description = 1, Command = 2, Defaults = 3, Current = 4 };
+
+enum class SortDirection { Ascending = 0, Descending = 1 };
+
+[[nodiscard]] const std::wstring& CellText(const CommandEntry& row, Column column);
+
+class DisplayTable {
+ public:
+  // -- Queries. A position is 0-based, from the top.
+
+  [[nodiscard]] std::size_t Count() const;
+  [[nodiscard]] const CommandEntry& At(std::size_t position) const;
+
+  /// The row of that key, whether it is displayed or left out; the key must be one of the table's.
+  [[nodiscard]] const CommandEntry& Row(RowKey key) const;
+
+  /// Where the row is displayed; nothing while it is left out, or for a key the table lacks.
+  [[nodiscard]] std::optional<std::size_t> PositionOf(RowKey key) const;
+
+  // -- Changes
+
+  /// Takes all rows in file order; their keys must be 1, 2, 3 and so on.
+  void Fill(std::vector<CommandEntry> rows);
+
+  [[nodiscard]] CommandEntry& Edit(RowKey key);
+
+  void RemoveHeadings();
+  void RestoreFileOrder();
+
+  /// Sorts the displayed rows by a column's texts in the user's locale, letter case ignored; rows
+  /// with equal texts keep their order.
+  void Sort(Column column, SortDirection direction);
+
+ private:
+  void NumberPositions();
+
+  std::vector<CommandEntry> rows_;                     ///< in file order
+  std::vector<RowKey> order_;                          ///< the displayed rows, from the top
+  std::vector<std::optional<std::size_t>> positions_;  ///< where each of rows_ stands in order_
+};
+
+}  // namespace tessera

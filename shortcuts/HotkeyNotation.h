@@ -1,0 +1,64 @@
+// The three written forms of a key combination, and the conversions between them.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessera {
+
+/// The keys that a user may choose, in the order of the key choosers.
+[[nodiscard]] std::span<const std::wstring_view> KeyVocabulary();
+
+/// The pieces of `text` between the occurrences of `separator`, each trimmed of blanks. An empty
+/// separator gives the whole text as one piece; an empty text gives one empty piece.
+[[nodiscard]] std::vector<std::wstring> SplitText(std::wstring_view text,
+                                                  std::wstring_view separator);
+
+/// Conversions under one set of modifier names and settings. All are pure functions of their input.
+struct HotkeyNotation {
+  std::wstring CtrlName = L"Ctrl";
+  std::wstring AltName = L"Alt";
+  std::wstring ShiftName = L"Shift";
+  std::wstring MultiHotkeySeparator = L" = ";  ///< padded with one blank on each side
+  std::wstring UndefinedHotkey = L"---";
+  bool ReverseOrderHotkey = false;
+
+  /// The separator without its blanks, which is what a column is split at.
+  [[nodiscard]] std::wstring TrimmedSeparator() const;
+
+  /// The single keys of a key column, trimmed; none for the undefined marker and for "".
+  [[nodiscard]] std::vector<std::wstring> KeysOf(std::wstring_view column) const;
+
+  /// "Ctrl + " and so on for each of the English words Ctrl, Alt and Shift that the text holds, in
+  /// any letter case, in the names in force.
+  [[nodiscard]] std::wstring ModifierPrefix(std::wstring_view text) const;
+
+  /// The column `existing` with one key of Total Commander's notation added; the key alone when
+  /// `existing` is the undefined marker. Keys are not checked: an odd one is shown as it comes out.
+  [[nodiscard]] std::wstring NativeToDisplay(std::wstring_view nativeKey,
+                                             std::wstring_view existing) const;
+
+  /// The display form of a data file's value, which may hold several keys; a value without any
+  /// modifier word comes back unchanged.
+  [[nodiscard]] std::wstring DataFileToDisplay(std::wstring_view value) const;
+
+  /// One displayed key, without its "Num", in Total Commander's notation. A modifier counts as held
+  /// when its name in force occurs anywhere in the key, in exactly that letter case.
+  [[nodiscard]] std::wstring DisplayToNative(std::wstring_view displayKey) const;
+
+  /// The same keys with the key name first, when ReverseOrderHotkey is set. Modifiers are
+  /// recognised by their English words only; others are dropped. Not for keys that are reversed
+  /// already.
+  [[nodiscard]] std::wstring ApplyReverseOrder(std::wstring_view text) const;
+};
+
+/// The displayed name of a key: a keypad operator's is "Num " and the operator.
+[[nodiscard]] std::wstring WithNum(std::wstring_view key);
+
+/// The key name of a "+"-joined text, trimmed: what follows its last "+" that is not its last
+/// character; all of the text when it has no such "+".
+[[nodiscard]] std::wstring KeyPart(std::wstring_view text);
+
+}  // namespace tessera

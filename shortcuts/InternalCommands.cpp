@@ -1,0 +1,94 @@
+// Reads "Totalcmd.inc" line by line.
+#include "shortcuts/InternalCommands.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/Text.h"
+#include "settings/ProfileFile.h"
+
+namespace tessera {
+
+namespace {
+
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+constexpr std::wstring_view CommandPrefix = L"cm_";
+
+std::wstring DecodeFile(std::string_view bytes) {
+  if (!bytes.starts_with(Utf8Mark)) return Decode(bytes);
+  return Decode(bytes.substr(Utf8Mark.size()), Utf8CodePage);
+}
+
+bool IsBlank(wchar_t character) { return character == L' ' || character == L'\t'; }
+
+std::wstring_view Trimmed(std::wstring_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+/// Takes the first line off the text. CR LF, LF and CR each end one.
+std::wstring_view TakeLine(std::wstring_view& text) {
+  const auto isEnd = [](wchar_t character) { return character == L'\r' || character == L'\n'; };
+  const auto end =
+      static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isEnd) - text.begin());
+  const std::wstring_view line = text.substr(0, end);
+  text.remove_prefix(end);
+  text.remove_prefix(text.starts_with(L"\r\n") ? 2 : std::min<std::size_t>(1, text.size()));
+  return line;
+}
+
+bool IsCommand(std::wstring_view line) {
+  return EqualIgnoringCase(line.substr(0, CommandPrefix.size()), CommandPrefix);
+}
+
+CommandEntry CommandOfLine(std::wstring_view line, const std::wstring& undefinedHotkey) {
+  // A sign that is missing deliberately stands at the last character, which the name or the code
+  // then loses.
+  const std::size_t last = line.size() - 1;
+  const std::size_t equals = std::min(line.find(L'='), last);
+  const std::size_t semicolon = std::min(line.find(L';'), last);
+
+  CommandEntry row;
+  row.CommandName = Trimmed(line.substr(0, equals));
+  if (semicolon > equals) {
+    row.CommandCode = Trimmed(line.substr(equals + 1, semicolon - equals - 1));
+  }
+  row.Description = Trimmed(line.substr(semicolon + 1));
+  row.DefaultKeys = undefinedHotkey;
+  row.CurrentKeys = undefinedHotkey;
+  row.Tag = row.CommandCode;
+  return row;
+}
+
+CommandEntry HeadingOfLine(std::wstring_view line) {
+  const std::size_t equals = line.ends_with(L'0') ? line.rfind(L'=') : std::wstring_view::npos;
+  const bool endsInZero =
+      equals != std::wstring_view::npos && LeadingNumber(Trimmed(line.substr(equals + 1))) == 0.0;
+
+  CommandEntry row;
+  row.Description = endsInZero ? line.substr(0, equals) : line;
+  row.Tag = CommentBlockTag;
+  return row;
+}
+
+}  // namespace
+
+std::vector<CommandEntry> ReadInternalCommands(std::string_view bytes,
+                                               const std::wstring& undefinedHotkey,
+                                               const ProgressStep& step) {
+  const std::wstring content = DecodeFile(bytes);
+  std::vector<CommandEntry> rows;
+  rows.reserve(static_cast<std::size_t>(std::count(content.begin(), content.end(), L'\n')) + 1);
+  for (std::wstring_view rest = content; !rest.empty();) {
+    const std::wstring_view line = Trimmed(TakeLine(rest));
+    step();
+    if (line.empty()) continue;
+    CommandEntry row = IsCommand(line) ? CommandOfLine(line, undefinedHotkey) : HeadingOfLine(line);
+    row.Key = rows.size() + 1;
+    rows.push_back(std::move(row));
+  }
+  return rows;
+}
+
+}  // namespace tessera

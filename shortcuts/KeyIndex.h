@@ -1,0 +1,73 @@
+// An ordered list of single keys, each with the row that has it, looked up by text without regard
+// to letter case. A look-up costs the same however long the list is.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "shortcuts/CommandEntry.h"
+
+namespace tessera {
+
+class KeyIndex {
+ public:
+  /// Names an entry until it is removed; later entries have higher numbers.
+  using EntryId = std::size_t;
+
+  struct Entry {
+    std::wstring Text;  ///< the key, with " *" appended while it is overridden
+    RowKey Owner = 0;
+  };
+
+  // -- Queries
+
+  [[nodiscard]] std::size_t Count() const;
+  /// Valid until the next entry is added or removed.
+  [[nodiscard]] const Entry& At(EntryId id) const;
+
+  /// All entries in the order in which they were added.
+  [[nodiscard]] std::vector<EntryId> Ids() const;
+
+  /// The first entry whose text is `text`.
+  [[nodiscard]] std::optional<EntryId> FindWhole(std::wstring_view text) const;
+
+  /// The first entry whose text is `key`, or begins with `key` and a blank.
+  [[nodiscard]] std::optional<EntryId> FindKey(std::wstring_view key) const;
+
+  // -- Changes
+
+  EntryId Add(std::wstring text, RowKey owner);
+  void SetText(EntryId id, std::wstring text);
+  void SetOwner(EntryId id, RowKey owner);
+  void RemoveOwnedBy(RowKey owner);
+  void Clear();
+
+ private:
+  struct StoredEntry : Entry {
+    std::wstring Folded;  ///< the text in lower case
+  };
+
+  /// The entries whose texts have a hash in common, the first one first.
+  using Groups = std::unordered_map<std::uint64_t, std::set<EntryId>>;
+
+  [[nodiscard]] const StoredEntry& Stored(EntryId id) const;
+  [[nodiscard]] const Groups& ByKey() const;
+  void AddToTextGroups(EntryId id, const StoredEntry& entry);
+  void RemoveFromTextGroups(EntryId id, const StoredEntry& entry);
+
+  std::vector<std::optional<StoredEntry>> entries_;  ///< by id; nothing once removed
+  std::size_t count_ = 0;
+  Groups byWhole_;
+
+  /// Under the whole text, and each part of it that ends before a blank. Made at the first FindKey:
+  /// opening a file asks for whole texts alone.
+  mutable std::optional<Groups> byKey_;
+  std::vector<std::vector<EntryId>> byOwner_;
+};
+
+}  // namespace tessera

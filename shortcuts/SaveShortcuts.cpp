@@ -1,0 +1,112 @@
+// Writes the keys of the catalogue in Total Commander's notation.
+#include "shortcuts/SaveShortcuts.h"
+
+#include <set>
+#include <utility>
+#include <vector>
+
+#include "platform/Text.h"
+#include "shortcuts/CommandFinder.h"
+#include "shortcuts/RedirectSection.h"
+#include "shortcuts/WincmdIni.h"
+
+namespace tessera {
+
+namespace {
+
+using Lines = std::vector<std::pair<std::wstring, std::wstring>>;
+
+std::wstring WithoutNum(std::wstring text) {
+  // Deliberately the first one alone: a second keypad key in the same cell keeps its "Num".
+  constexpr std::wstring_view Num = L"Num";
+  const std::size_t at = text.find(Num);
+  return at == std::wstring::npos ? text : text.erase(at, Num.size());
+}
+
+std::vector<std::wstring> NativeKeys(const std::wstring& currentKeys,
+                                     const HotkeyNotation& notation) {
+  const std::wstring text = WithoutNum(currentKeys);
+  if (text == L"+") return {text};
+  if (text.find(notation.MultiHotkeySeparator) == std::wstring::npos) {
+    return {notation.DisplayToNative(text)};
+  }
+  std::vector<std::wstring> keys;
+  for (const std::wstring& piece : SplitText(text, notation.TrimmedSeparator())) {
+    keys.push_back(notation.DisplayToNative(piece));
+  }
+  return keys;
+}
+
+Lines LinesOfCatalogue(const DisplayTable& table, const HotkeyNotation& notation) {
+  Lines lines;
+  for (std::size_t position = 0; position < table.Count(); ++position) {
+    const CommandEntry& row = table.At(position);
+    if (row.CurrentKeys.empty() || row.CurrentKeys == notation.UndefinedHotkey) continue;
+    for (std::wstring& key : NativeKeys(row.CurrentKeys, notation)) {
+      // A line without a name would bind nothing.
+      if (!key.empty()) lines.emplace_back(std::move(key), row.CommandName);
+    }
+  }
+  return lines;
+}
+
+/// The value with quotes around it when a read would else take its own quotes or blanks away.
+std::wstring Protected(const std::wstring& value) {
+  if (value.empty()) return value;
+  const bool quoted = value.size() > 1 && value.front() == value.back() &&
+                      (value.front() == L'"' || value.front() == L'\'');
+  // In a file, every character up to the space is a blank.
+  const bool blank = value.front() <= L' ' || value.back() <= L' ';
+  return quoted || blank ? L'"' + value + L'"' : value;
+}
+
+/// Appends the lines in force whose command is not in the catalogue and whose key no line has yet.
+void AppendUnknownLines(Lines& lines, const ProfileFile& file,
+                        const std::vector<CommandEntry>& catalogueRows) {
+  Lines linesInForce = file.Entries(ShortcutsSection);
+  const CommandFinder finder(catalogueRows, linesInForce);
+  std::set<std::wstring> names{ToLower(RedirectSectionKey)};
+  for (const auto& [name, value] : lines) names.insert(ToLower(name));
+  for (auto& [name, value] : linesInForce) {
+    // A known command takes the name as well: a later line of that name is not in force.
+    if (!names.insert(ToLower(name)).second || finder.Find(value)) continue;
+    lines.emplace_back(std::move(name), Protected(value));
+  }
+}
+
+bool IsTaken(const StartMenuSlot& slot) { return slot.Key.ends_with(L'*'); }
+
+/// Reads the files afresh and writes what the catalogue says.
+FileError WriteKeys(const Catalogue& catalogue, const HotkeyNotation& notation,
+                    const SaveRequest& request, Files& files, Clock& clock,
+                    const Environment& environment) {
+  WincmdIni wincmdIni(files, clock, environment, request.Path);
+
+  Lines lines = LinesOfCatalogue(catalogue.ListView1, notation);
+  if (request.KeepUnknownShortcuts) {
+    AppendUnknownLines(lines, wincmdIni.Shortcuts(), catalogue.lvwHidden);
+  }
+  wincmdIni.Shortcuts().ReplaceEntries(ShortcutsSection, lines, [](std::wstring_view name) {
+    return EqualIgnoringCase(name, RedirectSectionKey);
+  });
+  for (const StartMenuSlot& slot : catalogue.StartMenuKeys) {
+    if (IsTaken(slot)) wincmdIni.StartMenu().DeleteValue(StartMenuSection, slot.ValueName);
+  }
+  return wincmdIni.Save(files, clock);
+}
+
+}  // namespace
+
+FileError SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
+                        const SaveRequest& request, Files& files, Clock& clock,
+                        const Environment& environment) {
+  const FileError error = SaveFromTheStart(
+      [&] { return WriteKeys(catalogue, notation, request, files, clock, environment); });
+  if (error != FileError::None) return error;
+  for (StartMenuSlot& slot : catalogue.StartMenuKeys) {
+    if (IsTaken(slot)) slot = {};
+  }
+  return FileError::None;
+}
+
+}  // namespace tessera

@@ -1,0 +1,26 @@
+// File > Save: the keys of the catalogue go back into "Wincmd.ini".
+#pragma once
+
+#include <string>
+
+#include "platform/Clock.h"
+#include "platform/Environment.h"
+#include "platform/Files.h"
+#include "shortcuts/Catalogue.h"
+#include "shortcuts/HotkeyNotation.h"
+
+namespace tessera {
+
+struct SaveRequest {
+  std::wstring Path;                  ///< of "Wincmd.ini"
+  bool KeepUnknownShortcuts = false;  ///< keep lines whose command is not in the catalogue
+};
+
+/// Reads "Wincmd.ini" afresh, puts the current keys of the displayed rows, in display order, in the
+/// place of its section "Shortcuts", deletes the Start Menu keys that were taken away, and saves.
+/// When that succeeded, the taken slots of the catalogue are cleared; otherwise nothing is changed.
+[[nodiscard]] FileError SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
+                                      const SaveRequest& request, Files& files, Clock& clock,
+                                      const Environment& environment);
+
+}  // namespace tessera

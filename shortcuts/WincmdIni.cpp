@@ -1,0 +1,84 @@
+// Finds and saves the files of "Wincmd.ini", and reads the keys of section "Shortcuts".
+#include "shortcuts/WincmdIni.h"
+
+#include <algorithm>
+
+#include "platform/Text.h"
+#include "shortcuts/CommandFinder.h"
+#include "shortcuts/RedirectSection.h"
+
+namespace tessera {
+
+WincmdIni::WincmdIni(Files& files, Clock& clock, const Environment& environment,
+                     const std::wstring& path) {
+  ClearLeftOvers(files, path, KeepCopies::Yes);
+  files_.emplace_back(files, clock, path);
+  shortcuts_ = FileOfSection(ShortcutsSection, files, clock, environment);
+  startMenu_ = FileOfSection(StartMenuSection, files, clock, environment);
+}
+
+const ProfileFile& WincmdIni::Shortcuts() const { return files_[shortcuts_]; }
+
+const ProfileFile& WincmdIni::StartMenu() const { return files_[startMenu_]; }
+
+ProfileFile& WincmdIni::Shortcuts() { return files_[shortcuts_]; }
+
+ProfileFile& WincmdIni::StartMenu() { return files_[startMenu_]; }
+
+FileError WincmdIni::ReadError() const {
+  const auto unread = std::find_if(files_.begin(), files_.end(), [](const ProfileFile& file) {
+    return file.ReadError() != FileError::None && file.ReadError() != FileError::NotFound;
+  });
+  return unread == files_.end() ? FileError::None : unread->ReadError();
+}
+
+FileError WincmdIni::Save(Files& files, Clock& clock) {
+  for (ProfileFile& file : files_) {
+    const FileError error = file.Save(files, clock, KeepCopies::Yes);
+    if (error != FileError::None) return error;
+  }
+  return FileError::None;
+}
+
+std::size_t WincmdIni::FileOfSection(std::wstring_view section, Files& files, Clock& clock,
+                                     const Environment& environment) {
+  const std::wstring path = PathOfSection(files_.front(), section, environment);
+  const std::wstring target = files.Resolve(path);
+  // Two copies of one file in memory would undo each other's changes.
+  const auto known = std::find_if(files_.begin(), files_.end(), [&](const ProfileFile& file) {
+    return EqualIgnoringCase(files.Resolve(file.Path()), target);
+  });
+  const auto index = static_cast<std::size_t>(known - files_.begin());
+  if (known == files_.end()) {
+    ClearLeftOvers(files, path, KeepCopies::Yes);
+    files_.emplace_back(files, clock, path);
+  }
+  return index;
+}
+
+void ReadShortcuts(std::vector<CommandEntry>& rows, const ProfileFile& file,
+                   const HotkeyNotation& notation, const ProgressStep& step) {
+  const ProfileSection section = file.Section(ShortcutsSection);
+  auto lines = file.Entries(ShortcutsSection);
+  // Of a name that stands twice, the first line's value counts both times.
+  for (auto& [name, value] : lines) value = section.Find(name).value_or(L"");
+  CommandFinder finder(rows, lines);
+  for (const auto& [name, value] : lines) {
+    step();
+    if (name.empty() || EqualIgnoringCase(name, RedirectSectionKey)) continue;
+    const auto row = finder.Find(value);
+    if (!row) continue;
+
+    std::wstring& keys = rows[*row].CurrentKeys;
+    const std::wstring key = notation.NativeToDisplay(name, notation.UndefinedHotkey);
+    finder.RemoveCurrentKeys(*row, keys);
+    if (keys == notation.UndefinedHotkey) {
+      keys = key;
+    } else {  // in place, as a command may have very many keys
+      keys.append(notation.MultiHotkeySeparator).append(key);
+    }
+    finder.AddCurrentKeys(*row, keys);
+  }
+}
+
+}  // namespace tessera

@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# Checks that a folder holds what a user unzips and no more, that the program needs no run-time
+# library beyond Windows, and that the help file is whole. Usage: check_dist.sh FOLDER. One line
+# "ok ..." or "not ok ..." per check. Run at the root of the repository.
+set -uo pipefail
+
+shipped=("Data Files" Languages README.txt Readme.chm tessera.exe)
+not_of_windows='libgcc|libstdc|libwinpthread|libssp'
+
+says() { if [[ $1 -eq 0 ]]; then echo "ok $2"; else echo "not ok $2"; fi; }
+
+strangers() {
+  local entry name
+  for entry in "$1"/* "$1"/.[!.]*; do
+    [[ -e $entry ]] || continue
+    for name in "${shipped[@]}"; do [[ ${entry##*/} == "$name" ]] && continue 2; done
+    echo "${entry##*/}"
+  done
+}
+
+# What should be there and is not, or is empty.
+missing() {
+  local name
+  for name in "${shipped[@]}"; do
+    [[ -n $(find "$1/$name" -type f -size +0 2>/dev/null | head -n 1) ]] || echo "$name"
+  done
+}
+
+# The pages and pictures of help/ that a compiled help file, listed by chmls, lacks.
+missing_pages() {
+  local name
+  (cd help && find . -name '*.html' -o -name '*.png') | while read -r name; do
+    grep -q " ${name#.}$" <<<"$1" || echo "${name#./}"
+  done
+}
+
+# An import of a library that Windows does not bring along, in what objdump prints; none is success.
+stands_alone() { grep -q 'DLL Name' <<<"$1" && ! grep -E "DLL Name: .*($not_of_windows)" <<<"$1"; }
+
+folder=$1
+imports=$(x86_64-w64-mingw32-objdump -p "$folder/tessera.exe")
+found=$(strangers "$folder")
+[[ -z $found ]]; says $? "$folder holds nothing but what is shipped${found:+, but for $found}"
+found=$(missing "$folder")
+[[ -z $found ]]; says $? "$folder holds all that is shipped${found:+, but for $found}"
+pages=$(chmls list "$folder/Readme.chm" 2>/dev/null)
+found=$(missing_pages "$pages")
+[[ -n $pages && -z $found ]]; says $? "Readme.chm holds all of the help${found:+, but for $found}"
+stands_alone "$imports"; says $? "tessera.exe needs no library beyond Windows"
+
+sample=$(mktemp -d)
+trap 'rm -rf "$sample"' EXIT
+touch "$sample/vantor.ini"
+[[ -n $(strangers "$sample") ]]; says $? "a stray file is found"
+touch "$sample/README.txt"
+[[ $(missing "$sample") == *README.txt* ]]; says $? "an empty file is found"
+[[ -n $(missing_pages "${pages//index.html/}") ]]; says $? "a missing page is found"
+! stands_alone "$imports
+DLL Name: libstdc++-6.dll" >/dev/null; says $? "a missing library is found"

@@ -1,0 +1,231 @@
+"""Checks what the compiler cannot: which file may name what, include what, and how it looks.
+
+Prints one line "ok ..." or "not ok ..." per check, and one more for each sample of wrong code that
+shows that the check can fail. Run at the root of the repository.
+"""
+
+import re
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+# Lower folders first. A folder includes those of lower ranks and, in no circle, of its own.
+RANKS = {
+    "platform": 0, "settings": 1, "shortcuts": 2, "localisation": 2,
+    "editing": 3, "export": 3, "options": 3, "recent": 3, "dialogs": 3, "app": 4,
+}
+CODE_FOLDERS = [*RANKS, "tests", "benchmarks"]
+
+# Only the numbers of controls and commands: every window needs them.
+SHARED_BY_WINDOWS = "app/resource.h"
+
+# Tests that are not named after one source file, and why.
+OTHER_TESTS = {
+    "conflict_model": "holds the whole program to a model of its rules over random edits",
+    "fuzz_regressions": "replays what the fuzzers found, over all readers",
+    "hostile_values": "gives the whole program values that no one should store",
+    "ini_properties": "holds the whole INI engine to a second reader, over random files",
+    "profile_oracle": "compares the whole INI engine with the profile functions of the system",
+    "profile_windows_cases": "holds the whole INI engine to what was measured on Windows",
+    "save_faults": "fails every file operation of every way of saving",
+    "shipped_data": "reads the data files that are shipped, and no code of its own",
+    "shipped_languages": "reads the language files that are shipped, and no code of its own",
+}
+
+WINDOWS_TYPES = re.compile(
+    r"\b(?:HWND|WPARAM|LPARAM|LRESULT|HRESULT|LSTATUS|HKEY|HANDLE|HMODULE|HINSTANCE|HMENU|HDC|HFONT"
+    r"|HICON|HCURSOR|HBITMAP|HBRUSH|HGLOBAL|HGDIOBJ|HMONITOR|HIMAGELIST|HACCEL|HRSRC|HTREEITEM"
+    r"|WORD|DWORD|DWORD_PTR|ULONG|LONG|LONG_PTR|UINT|UINT_PTR|INT_PTR|BYTE|BOOL|CHAR|WCHAR|TCHAR"
+    r"|LPC?W?STR|PC?W?STR|LPC?TSTR|LPVOID|COLORREF|RECT|POINT|MSG|ATOM|LOGFONT[AW]?|NM[A-Z]+[AW]?"
+    r"|LV(?:ITEM|COLUMN|FINDINFO)[AW]?|OPENFILENAME[AW]?|CHOOSE(?:FONT|COLOR)[AW]?|WINAPI|CALLBACK)\b"
+    r"|\b_WIN32\b|\b_WIN64\b|__MINGW")
+ANGLE_INCLUDE = re.compile(r"^\s*#\s*include\s*<([^>]+)>", re.M)
+QUOTED_INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.M)
+TEST_LIBRARIES = ("gtest/", "gmock/", "benchmark/", "SimpleIni.h", "INIReader.h")
+
+
+def code_files(root):
+    return sorted(path.relative_to(root) for folder in CODE_FOLDERS
+                  for path in (root / folder).rglob("*") if path.suffix in (".h", ".cpp"))
+
+
+def belongs_to_windows(file):
+    return (file.name.startswith("frm") or file.as_posix() == "app/main.cpp"
+            or file.parts[:2] in (("platform", "win32"), ("tests", "e2e"))
+            or file.parts[:3] == ("tests", "unit", "win32"))
+
+
+def may_use_the_system(file):
+    return belongs_to_windows(file) or file.parts[:2] == ("platform", "portable")
+
+
+def without_comments_and_texts(code):
+    """Blanks comments and literals, so that only the code's own names remain."""
+    tokens = r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])+\''
+    return re.sub(tokens, lambda match: "\n" * match[0].count("\n"), code, flags=re.S)
+
+
+def check_portable_files(root):
+    """Portable files include standard headers only and name no type of the Windows headers."""
+    for file in code_files(root):
+        if may_use_the_system(file):
+            continue
+        code = (root / file).read_text(encoding="utf-8")
+        for header in ANGLE_INCLUDE.findall(code):
+            tests_library = file.parts[0] not in RANKS and header.startswith(TEST_LIBRARIES)
+            if not tests_library and re.search(r"[./]", header):
+                yield f"{file} includes <{header}>"
+        for name in sorted(set(WINDOWS_TYPES.findall(without_comments_and_texts(code)))):
+            yield f"{file} names {name}"
+
+
+def check_include_direction(root):
+    """Folders include downwards only, and those of one rank in no circle."""
+    beside = {}
+    for file in code_files(root):
+        here = file.parts[0]
+        if here not in RANKS:
+            continue
+        for header in QUOTED_INCLUDE.findall((root / file).read_text(encoding="utf-8")):
+            there = header.split("/")[0]
+            if header == SHARED_BY_WINDOWS and belongs_to_windows(file):
+                continue
+            if not may_use_the_system(file) and re.match("platform/(win32|portable)/", header):
+                yield f"{file} includes {header}, which is behind a seam"
+            if there not in RANKS:
+                if "/" not in header:
+                    yield f'{file} includes "{header}" without its folder'
+                continue
+            if RANKS[there] > RANKS[here]:
+                yield f"{file} includes {header}, which is above it"
+            elif RANKS[there] == RANKS[here] and there != here:
+                beside.setdefault(here, set()).add(there)
+    for here in sorted(beside):
+        if here in reachable(beside, here):
+            yield f"{here}/ includes itself by way of {', '.join(sorted(beside[here]))}"
+
+
+def reachable(graph, start):
+    seen, waiting = set(), list(graph.get(start, ()))
+    while waiting:
+        node = waiting.pop()
+        if node not in seen:
+            seen.add(node)
+            waiting += graph.get(node, ())
+    return seen
+
+
+def check_test_names(root):
+    """A unit test is named after the source file that it tests: file_dialog_test.cpp for cFileDialog."""
+    files = code_files(root)
+    sources = {file.stem for file in files if file.parts[0] in RANKS}
+    tested = {name.lower() for name in sources} | {
+        name[1:].lower() for name in sources if re.match("c[A-Z]", name)}
+    for file in files:
+        if file.parts[:2] != ("tests", "unit") or "fakes" in file.parts or file.suffix != ".cpp":
+            continue
+        name = file.stem.removesuffix("_test")
+        if name == file.stem:
+            yield f"{file} does not end in _test.cpp"
+        elif name.replace("_", "") not in tested and name not in OTHER_TESTS:
+            yield f"{file} is named after no source file, and OTHER_TESTS gives no reason for it"
+
+
+def check_format(root):
+    """clang-format changes nothing."""
+    files = [str(root / file) for file in code_files(root)]
+    if not files:
+        return
+    style = Path(".clang-format").resolve()
+    output = subprocess.run(
+        ["clang-format-14", f"--style=file:{style}", "--dry-run", "--Werror", *files],
+        capture_output=True, text=True, check=False)
+    lines = [line for line in output.stderr.splitlines() if "error:" in line]
+    yield from lines
+    if output.returncode and not lines:
+        yield output.stderr.strip()
+
+
+def check_line_ends(root):
+    """Sources have line feeds alone, no blanks at line ends, and a line feed at the end."""
+    for file in code_files(root):
+        code = (root / file).read_bytes()
+        if b"\r" in code or re.search(rb"[ \t]\n", code) or not code.endswith(b"\n"):
+            yield str(file)
+
+
+# Per check: files that it must complain about. The good ones beside them must pass.
+BAD = {
+    check_portable_files: [
+        {"settings/a.cpp": "#include <windows.h>\n"},
+        {"settings/a.h": "  # include <commctrl.h>\n"},
+        {"shortcuts/a.cpp": "#include <sys/stat.h>\n"},
+        {"tests/unit/a_test.cpp": "#include <unistd.h>\n"},
+        {"editing/a.h": "int f(HWND window);\n"},
+        {"editing/a.h": "#ifdef _WIN32\n#endif\n"},
+        {"app/Editor.h": "const char* a = \"//\"; DWORD b;\n"},
+        {"app/Editor.h": "int a = 1'000; LPARAM b = 1'000;\n"},
+    ],
+    check_include_direction: [
+        {"settings/a.h": '#include "shortcuts/b.h"\n'},
+        {"platform/a.cpp": '#include "settings/b.h"\n'},
+        {"editing/a.h": '#include "app/resource.h"\n'},
+        {"editing/frmA.h": '#include "app/frmMain.h"\n'},
+        {"settings/a.h": '#include "b.h"\n'},
+        {"settings/a.h": '#include "platform/win32/b.h"\n'},
+        {"options/a.h": '#include "export/b.h"\n', "export/b.h": '#include "recent/c.h"\n',
+         "recent/c.h": '#include "options/a.h"\n'},
+    ],
+    check_test_names: [
+        {"tests/unit/nothing_test.cpp": "\n"},
+        {"tests/unit/win32/nothing_test.cpp": "\n"},
+        {"tests/unit/a.cpp": "\n", "settings/a.h": "\n"},
+    ],
+    check_format: [{"settings/a.cpp": "int  f( );\n"}],
+    check_line_ends: [
+        {"settings/a.cpp": "int a;\r\n"}, {"settings/a.cpp": "int a; \n"}, {"settings/a.cpp": "int a;"},
+    ],
+}
+GOOD = {
+    "settings/cGoodCase.h": "\n",
+    "settings/good.h": '// No HWND here.\n#include <string>\n\n#include "platform/Files.h"\n',
+    "platform/win32/good.cpp": "#include <windows.h>\nHWND window;\n",
+    "app/main.cpp": '#include <windows.h>\n\n#include "app/resource.h"\n',
+    "options/frmOptions.cpp": '#include <windows.h>\n\n#include "app/resource.h"\n',
+    "editing/good.h": '#include "dialogs/b.h"\n#include "shortcuts/b.h"\n',
+    "tests/unit/good_case_test.cpp": "\n",
+    "tests/unit/good_test.cpp": '#include "settings/good.h"\n\n#include <gtest/gtest.h>\n',
+}
+
+
+def findings(check, files):
+    with tempfile.TemporaryDirectory() as folder:
+        for name, content in files.items():
+            path = Path(folder, name)
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_bytes(content.encode())
+        return list(check(Path(folder)))
+
+
+def report(title, problems):
+    for problem in problems:
+        print(f"  {problem}")
+    print(f"{'not ok' if problems else 'ok'} {title}")
+    return not problems
+
+
+def main():
+    good = True
+    for check, samples in BAD.items():
+        name = check.__name__.removeprefix("check_")
+        good &= report(f"{name}: {check.__doc__}", list(check(Path("."))))
+        good &= report(f"{name} accepts right code", findings(check, GOOD))
+        for sample in samples:
+            missed = [] if findings(check, sample) else [f"nothing found in {sample}"]
+            good &= report(f"{name} rejects {next(iter(sample.items()))}", missed)
+    return 0 if good else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

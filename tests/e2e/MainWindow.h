@@ -1,0 +1,102 @@
+// The controls of the program's main window, found by the IDs of app/resource.h: reading what they
+// show, and working them by mouse and keyboard.
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <cstddef>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tests/e2e/RemoteMemory.h"
+#include "tests/e2e/Window.h"
+
+namespace tessera::e2e {
+
+/// Description, command, default keys, current keys.
+using RowTexts = std::array<std::wstring, 4>;
+
+/// What stands in a column's header.
+struct HeaderShows {
+  std::wstring Text;
+  bool HasIcon = false;
+  int Icon = 0;  ///< index of the image; meaningless without an icon
+};
+
+class MainWindow : public Window {
+ public:
+  /// Had in the program's memory, for what its controls are asked.
+  static constexpr std::size_t MemoryBytes = 512 * 1024;
+
+  /// `process` is that of the window and must stay open as long as this object lives.
+  MainWindow(HWND window, HANDLE process);
+
+  // -- The command list
+
+  [[nodiscard]] int RowCount() const;
+  [[nodiscard]] RowTexts Row(int position) const;
+  [[nodiscard]] std::vector<RowTexts> Rows() const;
+
+  /// The position of the row with that command; -1 when there is none.
+  [[nodiscard]] int FindCommand(const std::wstring& command) const;
+  [[nodiscard]] int SelectedRow() const;
+  [[nodiscard]] HeaderShows Header(int column) const;
+  [[nodiscard]] std::array<int, 4> ColumnWidths() const;
+  [[nodiscard]] std::array<int, 4> ColumnOrder() const;
+  [[nodiscard]] RECT CellRectangle(int position, int column) const;  ///< on the screen
+
+  void ClickRow(int position);
+
+  /// Selects a row without input, as assistive programs do.
+  void SelectByAutomation(int position);
+  void SetColumnOrder(const std::array<int, 4>& order);
+  void ClickHeader(int column);
+
+  // -- Panel and toolbars
+
+  /// The text of the chosen key; empty when none is chosen.
+  [[nodiscard]] std::wstring ChosenKey() const;
+
+  /// Drops the chooser's list down by a click, and clicks the key in it.
+  void ChooseKey(const std::wstring& key);
+  [[nodiscard]] bool ButtonEnabled(int toolbar, int command) const;
+  [[nodiscard]] bool ButtonPressed(int toolbar, int command) const;
+  void ClickButton(int toolbar, int command);
+
+  /// What the button's tool tip shows.
+  [[nodiscard]] std::wstring ButtonText(int toolbar, int command) const;
+
+  /// Clicks the arrow beside a button, and waits for its menu, which it gives.
+  HWND OpenButtonMenu(int toolbar, int command);
+
+  /// Opens that menu, and chooses the entry of that 1-based number by keyboard.
+  void ChooseFromButtonMenu(int toolbar, int command, int entry);
+
+  /// Opens a menu of the menu bar by Alt and its letter, and gives its window.
+  HWND OpenMenu(WORD letter);
+
+  /// Opens a menu so, and chooses from it by the letters.
+  void ChooseFromMenu(WORD menu, WORD item);
+
+  /// The menus that are open, the innermost first.
+  [[nodiscard]] std::vector<HWND> OpenMenus() const;
+
+  /// True while a menu of the window is open or its menu bar has the focus.
+  [[nodiscard]] bool InMenu() const;
+
+  /// Chooses a command without input, as assistive programs do.
+  void Command(int command) const;
+
+ private:
+  [[nodiscard]] std::vector<RowTexts> ReadRows(int first, int count) const;
+  [[nodiscard]] int ButtonState(int toolbar, int command) const;
+  [[nodiscard]] RECT RectangleBy(HWND control, UINT message, WPARAM item, const RECT& asked) const;
+  [[nodiscard]] HWND DroppedList() const;
+
+  mutable RemoteMemory memory_;
+  mutable std::map<std::wstring, int> positions_;  ///< where commands were seen last
+};
+
+}  // namespace tessera::e2e

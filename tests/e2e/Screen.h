@@ -1,0 +1,36 @@
+// What the screen shows: single pixels, and a picture of it to keep of a test that failed.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace tessera::e2e {
+
+/// Writes the screen to a new .bmp file in the temporary directory whose name begins with `name`,
+/// and gives its path; an empty text when there is no picture.
+[[nodiscard]] std::wstring SaveScreenshot(const std::wstring& name);
+
+/// Colours, line by line from the top.
+struct Picture {
+  int Width = 0;
+  int Height = 0;
+  std::vector<DWORD> Pixels;
+
+  [[nodiscard]] DWORD At(int x, int y) const;
+
+  /// True when `part` is to be seen in it at that place, which must lie inside.
+  [[nodiscard]] bool Holds(const Picture& part, int left, int top) const;
+};
+
+[[nodiscard]] Picture TakePicture(const RECT& rectangle);
+
+/// A line of text, "&" before a letter underlining it, as big as the text is.
+[[nodiscard]] Picture DrawLine(const std::wstring& text, const LOGFONTW& font, COLORREF color,
+                               COLORREF back, bool lightEdge);
+
+/// The number of pixels of exactly that colour in a rectangle of the screen.
+[[nodiscard]] int CountPixels(const RECT& rectangle, COLORREF color);
+
+}  // namespace tessera::e2e

@@ -1,0 +1,219 @@
+// Giving keys to commands, and taking them away, by keyboard and mouse.
+#include "app/resource.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Expected.h"
+#include "tests/e2e/Input.h"
+#include "tests/e2e/Screen.h"
+#include "tests/e2e/Wait.h"
+
+namespace tessera::e2e {
+namespace {
+
+using EditTest = EndToEndTest;
+
+constexpr COLORREF Red = RGB(255, 0, 0);
+const std::vector<int> YesNo{IDYES, IDNO};
+
+TEST_F(EditTest, TakingADefaultKeyAsksFirst) {
+  StartAndLoad();
+  const std::vector<RowTexts> before = window_->Rows();
+  ASSERT_EQ(RowOf(L"cm_SrcByDateTime")[2], L"Ctrl + F5");
+  Select(L"cm_SrcTree");
+  {
+    const HeldKey ctrl(VK_CONTROL);
+    WaitFor("box Ctrl to be checked", [&] { return window_->BoxChecked(IDC_chkCtrlAlt0); });
+    WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
+    window_->ChooseKey(L"F5");
+  }
+  WaitFor("button assign to be enabled",
+          [&] { return window_->ButtonEnabled(IDC_Toolbar2, IDM_assign); });
+
+  window_->ClickButton(IDC_Toolbar2, IDM_assign);
+  const Box first = NextBox();
+  EXPECT_EQ(Utf8(first.Text),
+            "Default hotkey for :  cm_SrcByDateTime\t\n\n"
+            "Do you want assign it to :  cm_SrcTree\t");
+  EXPECT_EQ(first.Title, L"Tessera");
+  EXPECT_EQ(first.Buttons, YesNo);
+  EXPECT_EQ(first.DefaultButton, IDNO);
+  Answer(first, IDNO);
+  EXPECT_TRUE(SameRows(window_->Rows(), before));
+  EXPECT_FALSE(Modified());
+
+  window_->ClickButton(IDC_Toolbar2, IDM_assign);
+  Answer(NextBox(), IDYES);
+  WaitForKeys(L"cm_SrcTree", L"Ctrl + F5");
+  EXPECT_EQ(RowOf(L"cm_SrcByDateTime")[2], L"Ctrl + F5 *");
+  EXPECT_TRUE(Modified());
+  const RECT cell = window_->CellRectangle(window_->FindCommand(L"cm_SrcByDateTime"), 2);
+  WaitFor("the default key to be red", [&] { return CountPixels(cell, Red) > 0; });
+}
+
+TEST_F(EditTest, TakingAnotherCommandsKeyAsksFirst) {
+  StartAndLoad();
+  ASSERT_EQ(RowOf(L"cm_SrcBySize")[3], L"Ctrl + Alt + Shift + B");
+  Select(L"cm_SrcTree");
+  for (const WORD modifier : {WORD{VK_CONTROL}, WORD{VK_SHIFT}}) Press(modifier);
+  WaitFor("box Shift to be checked", [&] { return window_->BoxChecked(IDC_chkCtrlAlt2); });
+  window_->ClickControl(IDC_chkCtrlAlt1);
+  window_->ChooseKey(L"B");
+  window_->ClickButton(IDC_Toolbar2, IDM_assign);
+  const Box box = NextBox();
+  EXPECT_EQ(Utf8(box.Text),
+            "Current hotkey for :  cm_SrcBySize\n\nDo you want assign it to :  cm_SrcTree");
+  EXPECT_EQ(box.DefaultButton, IDNO);
+  AnswerByKey(box.Window, VK_RETURN);
+  EXPECT_EQ(RowOf(L"cm_SrcTree")[3], L"---");
+
+  window_->ClickButton(IDC_Toolbar2, IDM_assign);
+  Answer(NextBox(), IDYES);
+  WaitForKeys(L"cm_SrcTree", L"Ctrl + Alt + Shift + B");
+  EXPECT_EQ(RowOf(L"cm_SrcBySize")[3], L"---");
+}
+
+TEST_F(EditTest, TakingAStartMenuKeyAsksFirst) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  window_->ClickControl(IDC_chkCtrlAlt0);
+  window_->ClickControl(IDC_chkCtrlAlt1);
+  window_->ChooseKey(L"F4");
+  window_->ClickButton(IDC_Toolbar2, IDM_assign);
+  const Box box = NextBox();
+  EXPECT_EQ(Utf8(box.Text),
+            "Current hotkey for :  [&Calculator] in your Total Commander Start Menu\n\n"
+            "Do you want assign it to :  cm_SrcTree");
+  EXPECT_EQ(box.Buttons, YesNo);
+  EXPECT_EQ(box.DefaultButton, IDNO);
+  AnswerByKey(box.Window, 'Y');
+  WaitForKeys(L"cm_SrcTree", L"Ctrl + Alt + F4");
+}
+
+TEST_F(EditTest, EnterAssignsTheChosenKeyAndResetsThePanel) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  window_->ClickControl(IDC_chkCtrlAlt1);
+  window_->ChooseKey(L"Z");
+  Press(VK_RETURN);
+  WaitForKeys(L"cm_SrcTree", L"Alt + Z");
+  WaitFor("no key to be chosen", [&] { return window_->ChosenKey().empty(); });
+  EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt1));
+  EXPECT_TRUE(window_->HasFocus(IDC_ListView1));
+  EXPECT_FALSE(window_->ButtonEnabled(IDC_Toolbar2, IDM_assign));
+}
+
+TEST_F(EditTest, KeyWithoutModifiersCanBeAKeypadOperator) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  window_->ClickControl(IDC_chkCtrlAlt0);
+  window_->ClickControl(IDC_chkCtrlAlt2);
+  window_->ChooseKey(L"/");
+  window_->ClickButton(IDC_Toolbar2, IDM_assign);
+  WaitForKeys(L"cm_SrcTree", L"Ctrl + Shift + Num /");
+}
+
+TEST_F(EditTest, ASecondKeyIsAdded) {
+  StartAndLoad();
+  Select(L"cm_SrcComments");
+  ASSERT_EQ(RowOf(L"cm_SrcComments")[3], L"Ctrl + Alt + F1");
+  window_->ClickControl(IDC_chkCtrlAlt1);
+  window_->ChooseKey(L"Z");
+  window_->ChooseFromButtonMenu(IDC_Toolbar2, IDM_assign, 1);
+  WaitForKeys(L"cm_SrcComments", L"Ctrl + Alt + F1 = Alt + Z");
+  EXPECT_TRUE(Modified());
+}
+
+TEST_F(EditTest, AKeyReplacesTheFormerOnes) {
+  StartAndLoad();
+  Select(L"cm_EditNewFile");
+  ASSERT_EQ(RowOf(L"cm_EditNewFile")[3], L"Ctrl + Alt + Shift + N = Alt + INS");
+  window_->ClickControl(IDC_chkCtrlAlt1);
+  window_->ChooseKey(L"Z");
+  window_->ClickButton(IDC_Toolbar2, IDM_assign);
+  WaitForKeys(L"cm_EditNewFile", L"Alt + Z");
+}
+
+TEST_F(EditTest, DeleteKeyTakesTheKeysAwayAndFreesTheDefaultOnes) {
+  StartAndLoad();
+  ASSERT_EQ(RowOf(L"cm_RenameSingleFile")[3], L"F2");
+  const std::wstring marked = RowOf(L"cm_RereadSource")[2];
+  ASSERT_TRUE(marked.ends_with(L" *")) << Utf8(marked);
+  Select(L"cm_RenameSingleFile");
+  Press(VK_DELETE);
+  WaitForKeys(L"cm_RenameSingleFile", L"---");
+  EXPECT_EQ(RowOf(L"cm_RereadSource")[2], marked.substr(0, marked.size() - 2));
+  EXPECT_TRUE(Modified());
+}
+
+TEST_F(EditTest, DeleteButtonTakesTheKeysAway) {
+  StartAndLoad();
+  Select(L"cm_SrcComments");
+  window_->ClickButton(IDC_Toolbar2, IDM_delete);
+  WaitForKeys(L"cm_SrcComments", L"---");
+}
+
+TEST_F(EditTest, DeletingAllKeysAsksFirst) {
+  StartAndLoad();
+  const std::vector<RowTexts> before = window_->Rows();
+  Select(L"cm_SrcTree");
+  const int selected = window_->SelectedRow();
+  window_->ChooseFromButtonMenu(IDC_Toolbar2, IDM_delete, 1);
+  const Box box = NextBox();
+  EXPECT_EQ(Utf8(box.Text),
+            "You are about to delete Current Hotkeys for ALL commands.\n\nAre you sure?");
+  EXPECT_EQ(box.DefaultButton, IDNO);
+  Answer(box, IDNO);
+  EXPECT_TRUE(SameRows(window_->Rows(), before));
+  EXPECT_FALSE(Modified());
+
+  window_->ChooseFromButtonMenu(IDC_Toolbar2, IDM_delete, 1);
+  Answer(NextBox(), IDYES);
+  WaitFor("the change to be known", [&] { return Modified(); });
+  for (const RowTexts& row : WithoutHeadings(window_->Rows()))
+    EXPECT_EQ(row[3], L"---") << Utf8(row[1]);
+  EXPECT_EQ(window_->SelectedRow(), selected);
+}
+
+TEST_F(EditTest, ModifierKeysToggleTheirBoxes) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  const std::array<std::pair<WORD, int>, 3> modifiers{
+      {{VK_CONTROL, IDC_chkCtrlAlt0}, {VK_MENU, IDC_chkCtrlAlt1}, {VK_SHIFT, IDC_chkCtrlAlt2}}};
+  for (const bool checked : {true, false})
+    for (const auto& [key, box] : modifiers) {
+      Press(key);
+      WaitFor("box " + std::to_string(box) + " to change",
+              [&] { return window_->BoxChecked(box) == checked; });
+      WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
+      EXPECT_FALSE(window_->InMenu());
+    }
+}
+
+TEST_F(EditTest, EscapeAndBackspaceResetThePanel) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  for (const WORD key : {WORD{VK_ESCAPE}, WORD{VK_BACK}}) {
+    window_->ClickControl(IDC_chkCtrlAlt0);
+    window_->ChooseKey(L"F7");
+    Press(key);
+    WaitFor("no key to be chosen", [&] { return window_->ChosenKey().empty(); });
+    EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt0));
+    EXPECT_TRUE(window_->HasFocus(IDC_ListView1));
+  }
+  EXPECT_FALSE(Modified());
+}
+
+TEST_F(EditTest, KeysOnAHeadingRowDoNothing) {
+  StartAndLoad();
+  const std::vector<RowTexts> before = window_->Rows();
+  window_->ClickRow(0);
+  Press(VK_CONTROL);
+  Press(VK_DELETE);
+  Press(VK_DOWN);  // the list has handled the keys before it once this one shows
+  WaitFor("row 1 to be selected", [&] { return window_->SelectedRow() == 1; });
+  EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt0));
+  EXPECT_FALSE(Modified());
+  EXPECT_TRUE(SameRows(window_->Rows(), before));
+}
+
+}  // namespace
+}  // namespace tessera::e2e

@@ -1,0 +1,185 @@
+// The pop-up list of all keys.
+#include <array>
+#include <string>
+
+#include "app/resource.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Input.h"
+#include "tests/e2e/Wait.h"
+
+namespace tessera::e2e {
+namespace {
+
+constexpr wchar_t KeysListClass[] = L"frmKeysList";
+
+class KeysListTest : public EndToEndTest {
+ protected:
+  void SetUp() override {
+    StartAndLoad();
+    Select(L"cm_SrcTree");
+    WaitFor("the all-keys button", [&] { return window_->Visible(IDC_cmdAllList); });
+  }
+
+  Dialog OpenList() {
+    window_->ClickControl(IDC_cmdAllList);
+    Dialog list = NextDialog(KeysListClass);
+    WaitFor("the list to have the focus", [&] { return list.HasFocus(IDC_List1); });
+    return list;
+  }
+
+  static std::wstring Entry(HWND list, UINT message, int index) {
+    std::array<wchar_t, 64> text{};
+    Send(list, message, static_cast<WPARAM>(index), text.data());
+    return text.data();
+  }
+
+  static int Selected(const Dialog& list) {
+    return static_cast<int>(Send(list.Control(IDC_List1), LB_GETCURSEL));
+  }
+
+  static std::wstring SelectedText(const Dialog& list) {
+    return Selected(list) < 0 ? L"" : Entry(list.Control(IDC_List1), LB_GETTEXT, Selected(list));
+  }
+
+  static void MoveTo(const Dialog& list, int index) {
+    WaitFor("entry " + std::to_string(index), [&] {
+      if (Selected(list) == index) return true;
+      Press(VK_DOWN);
+      return false;
+    });
+  }
+
+  void CheckClick(const Dialog& list, int index) {
+    const HWND entries = list.Control(IDC_List1);
+    RECT place{};
+    Send(entries, LB_GETITEMRECT, static_cast<WPARAM>(index), &place);
+    const std::wstring key = Entry(entries, LB_GETTEXT, index);
+    Click(CenterOf(OnScreen(entries, place)));
+    list.WaitUntilClosed();
+    WaitFor("key " + Utf8(key), [&] { return window_->ChosenKey() == key; });
+    ExpectClosed();
+  }
+
+  /// Enabled as a whole; the buttons' own states are another matter.
+  [[nodiscard]] bool PanelToolbarEnabled() const { return window_->Enabled(IDC_Toolbar2); }
+
+  void ExpectClosed() const {
+    WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
+    WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
+  }
+};
+
+TEST_F(KeysListTest, HasTheEntriesOfTheChooser) {
+  const Dialog list = OpenList();
+  const HWND entries = list.Control(IDC_List1);
+  const HWND chooser = window_->Control(IDC_Combo1);
+  const auto count = static_cast<int>(Send(entries, LB_GETCOUNT));
+  ASSERT_GT(count, 50);
+  ASSERT_EQ(count, Send(chooser, CB_GETCOUNT));
+  for (int index = 0; index < count; ++index)
+    EXPECT_EQ(Entry(entries, LB_GETTEXT, index), Entry(chooser, CB_GETLBTEXT, index)) << index;
+}
+
+TEST_F(KeysListTest, OpensUnderThePanelFlushWithTheButton) {
+  const RECT button = RectangleOf(window_->Control(IDC_cmdAllList));
+  const RECT panel = RectangleOf(window_->Control(IDC_Frame1));
+  const RECT list = RectangleOf(OpenList().Handle());
+  EXPECT_EQ(list.right, button.right);
+  const bool below = list.top == panel.bottom;
+  const bool above = list.bottom == panel.top;
+  EXPECT_TRUE(below || above) << list.top << " to " << list.bottom;
+  if (above) {
+    EXPECT_GT(panel.bottom + (list.bottom - list.top), GetSystemMetrics(SM_CYSCREEN))
+        << "there was room below";
+  }
+}
+
+TEST_F(KeysListTest, ArrowKeysChangeNothingUntilEnterChooses) {
+  const Dialog list = OpenList();
+  EXPECT_EQ(Selected(list), LB_ERR);
+  EXPECT_FALSE(PanelToolbarEnabled());
+  MoveTo(list, 3);
+  EXPECT_EQ(window_->ChosenKey(), L"");
+  const std::wstring key = SelectedText(list);
+  Press(VK_RETURN);
+  list.WaitUntilClosed();
+  WaitFor("the key to be chosen", [&] { return window_->ChosenKey() == key; });
+  ExpectClosed();
+}
+
+TEST_F(KeysListTest, SpaceChoosesToo) {
+  window_->ChooseKey(L"F5");
+  const Dialog list = OpenList();
+  EXPECT_EQ(SelectedText(list), L"F5");
+  MoveTo(list, Selected(list) + 2);
+  EXPECT_EQ(window_->ChosenKey(), L"F5");
+  Press(VK_SPACE);
+  list.WaitUntilClosed();
+  WaitFor("the key to be chosen", [&] { return window_->ChosenKey() == L"F7"; });
+  ExpectClosed();
+}
+
+TEST_F(KeysListTest, EscapeClosesItWithoutAChoice) {
+  window_->ChooseKey(L"F5");
+  const Dialog list = OpenList();
+  MoveTo(list, Selected(list) + 1);
+  Press(VK_ESCAPE);
+  list.WaitUntilClosed();
+  ExpectClosed();
+  EXPECT_EQ(window_->ChosenKey(), L"F5");
+
+  const Dialog again = OpenList();
+  EXPECT_EQ(SelectedText(again), L"F5") << "the list starts from the chooser's key";
+}
+
+TEST_F(KeysListTest, SecondClickOnTheButtonClosesIt) {
+  const Dialog list = OpenList();
+  window_->ClickControl(IDC_cmdAllList);
+  list.WaitUntilClosed();
+  ExpectClosed();
+  const Dialog again = OpenList();
+  EXPECT_FALSE(PanelToolbarEnabled());
+}
+
+TEST_F(KeysListTest, ClickChooses) {
+  const Dialog list = OpenList();
+  CheckClick(list, 4);
+}
+
+TEST_F(KeysListTest, ClickChoosesAfterArrowKeysToo) {
+  const Dialog list = OpenList();
+  MoveTo(list, 2);
+  CheckClick(list, 6);
+}
+
+TEST_F(KeysListTest, RightArrowInTheChooserOpensIt) {
+  window_->ChooseKey(L"F5");
+  Press(VK_RIGHT);
+  const Dialog list = NextDialog(KeysListClass);
+  EXPECT_FALSE(PanelToolbarEnabled());
+  EXPECT_EQ(window_->ChosenKey(), L"F5");
+}
+
+TEST_F(KeysListTest, SelectingARowHidesIt) {
+  const Dialog list = OpenList();
+  // The list may cover the other columns.
+  Click(CenterOf(window_->CellRectangle(window_->SelectedRow() + 1, 0)));
+  list.WaitUntilClosed();
+  WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
+}
+
+TEST_F(KeysListTest, ChosenKeyCanBeAssigned) {
+  window_->ClickControl(IDC_chkCtrlAlt0);
+  window_->ClickControl(IDC_chkCtrlAlt1);
+  const Dialog list = OpenList();
+  Press('K');  // the first entry that begins so
+  WaitFor("entry K", [&] { return SelectedText(list) == L"K"; });
+  Press(VK_RETURN);
+  list.WaitUntilClosed();
+  ExpectClosed();
+  window_->ClickButton(IDC_Toolbar2, IDM_assign);
+  WaitForKeys(L"cm_SrcTree", L"Ctrl + Alt + K");
+}
+
+}  // namespace
+}  // namespace tessera::e2e

@@ -1,0 +1,210 @@
+// Language files: where their texts appear, and what happens without one.
+// clang-format off
+#include <windows.h>  // must come first
+#include <commctrl.h>
+// clang-format on
+
+#include <string>
+
+#include "app/resource.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Expected.h"
+#include "tests/e2e/Input.h"
+#include "tests/e2e/MenuPicture.h"
+#include "tests/e2e/Screen.h"
+#include "tests/e2e/Wait.h"
+
+namespace tessera::e2e {
+namespace {
+
+class LanguageTest : public EndToEndTest {
+ protected:
+  void UseLanguageFile(const std::wstring& path) {
+    WriteBytes(folder_.SettingsFile(),
+               "[Tessera]\r\nUseDefaultLanguage=0\r\n"
+               "[Common]\r\nLanguageFile=" +
+                   Utf8(path) + "\r\n");
+  }
+
+  [[nodiscard]] std::wstring Shipped(const std::wstring& name) const {
+    return folder_.Program() + L"Languages\\" + name;
+  }
+
+  std::wstring OwnFile(std::string_view content) {
+    const std::wstring path = folder_.Root() + L"own.lng";
+    WriteBytes(path, content);
+    return path;
+  }
+
+  /// By the letters of the language in use.
+  Dialog OpenOptions(WORD menu, WORD item) {
+    window_->ChooseFromMenu(menu, item);
+    return NextDialog(L"frmOptions");
+  }
+
+  void ChooseLanguageFile(const std::wstring& path) {
+    Dialog dialog = OpenOptions('V', 'O');
+    dialog.ClickTab(IDC_tbsOptions, 3);
+    dialog.ClickControl(IDC_optUseOtheLanguage);
+    WaitFor("the text box", [&] { return dialog.Enabled(IDC_txtLanguageFilePath); });
+    dialog.ClickControl(IDC_txtLanguageFilePath);
+    WaitFor("the focus", [&] { return dialog.HasFocus(IDC_txtLanguageFilePath); });
+    Type(path);
+    WaitFor("the path", [&] { return dialog.ControlText(IDC_txtLanguageFilePath) == path; });
+    dialog.CloseBy(IDC_cmdOK);
+  }
+
+  void ExpectGermanWindow() {
+    WaitFor("German headings", [&] { return window_->Header(0).Text == L"Beschreibung"; });
+    EXPECT_EQ(window_->Header(1).Text, L"Befehl");
+    EXPECT_EQ(window_->Header(2).Text, L"Standard-Tastenk\u00FCrzel");
+    EXPECT_EQ(window_->Header(3).Text, L"Aktuelles Tastenk\u00FCrzel");
+    EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileOpen), L"\u00D6ffnen...");
+    EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileSave), L"Speichern");
+    EXPECT_EQ(window_->ControlText(IDC_lblHotkey), L"Tastenk\u00FCrzel:");
+    EXPECT_EQ(window_->Caption(), folder_.WincmdIni() + L" - Tessera");
+    const HWND menu = window_->OpenMenu('D');
+    for (const wchar_t* caption :
+         {L"\u00D6&ffnen...", L"&Speichern", L"In die Z&wischenablage exportieren...",
+          L"&Zuletzt ge\u00F6ffnete Dateien", L"&Beenden"})
+      (void)WaitForMenuEntry(menu, caption);
+    CloseMenus();
+  }
+
+  void ExpectGermanDialogs() {
+    Dialog dialog = OpenOptions('A', 'O');
+    EXPECT_EQ(dialog.Caption(), L"Optionen");
+    EXPECT_EQ(dialog.TabText(IDC_tbsOptions, 0), L"Darstellung");
+    EXPECT_EQ(dialog.TabText(IDC_tbsOptions, 3), L"Sprache");
+    EXPECT_EQ(dialog.ControlText(IDC_chkFixedBorders), L"Fester &Rahmen");
+    EXPECT_EQ(dialog.ControlText(IDC_cmdApply), L"\u00DC&bernehmen");
+    dialog.CloseByKey(VK_ESCAPE);
+    window_->ChooseFromMenu('D', 'W');
+    const Dialog exportDialog = NextDialog(L"frmExportToClipboard");
+    EXPECT_EQ(exportDialog.Caption(), L"Zu exportierende Spalten");
+    EXPECT_EQ(exportDialog.ControlText(IDC_chkColumn1), L"Befehl");
+    EXPECT_EQ(exportDialog.ControlText(IDC_cmdCancel), L"Abbrechen");
+  }
+
+  void CloseMenus() {
+    WaitFor("the menus to close", [&] {
+      if (!window_->InMenu()) return true;
+      Press(VK_ESCAPE);
+      return false;
+    });
+  }
+
+  static bool RightAligned(const Window& window, int id) {
+    const LONG_PTR style = GetWindowLongPtrW(window.Control(id), GWL_EXSTYLE);
+    return (style & (WS_EX_RIGHT | WS_EX_RTLREADING | WS_EX_LAYOUTRTL)) != 0;
+  }
+};
+
+TEST_F(LanguageTest, ChosenLanguageIsAppliedToEveryWindowAtOnce) {
+  StartAndLoad();
+  ChooseLanguageFile(Shipped(L"German.lng"));
+  ExpectGermanWindow();
+  ExpectGermanDialogs();
+}
+
+TEST_F(LanguageTest, StoredLanguageIsAppliedAtTheStart) {
+  UseLanguageFile(Shipped(L"German.lng"));
+  StartAndLoad();
+  ExpectGermanWindow();
+  ExpectGermanDialogs();
+}
+
+TEST_F(LanguageTest, DefaultLanguageCanBeChosenAgain) {
+  UseLanguageFile(Shipped(L"German.lng"));
+  StartAndLoad();
+  Dialog dialog = OpenOptions('A', 'O');
+  dialog.ClickTab(IDC_tbsOptions, 3);
+  EXPECT_EQ(dialog.ControlText(IDC_txtLanguageFilePath), Shipped(L"German.lng"));
+  dialog.ClickControl(IDC_optUseDefaultLanguage);
+  WaitFor("the path to be disabled", [&] { return !dialog.Enabled(IDC_txtLanguageFilePath); });
+  dialog.CloseBy(IDC_cmdOK);
+  WaitFor("English headings", [&] { return window_->Header(0).Text == L"Description"; });
+  EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileSave), L"Save");
+  EXPECT_EQ(Setting("UseDefaultLanguage"), "1");
+  EXPECT_EQ(Setting("LanguageFile", "Common"), Utf8(Shipped(L"German.lng")));
+}
+
+TEST_F(LanguageTest, ArabicReadsFromTheRight) {
+  UseLanguageFile(Shipped(L"Arabic.lng"));
+  StartAndLoad();
+  EXPECT_EQ(window_->Header(0).Text, L"\u0627\u0644\u0648\u0635\u0641");
+  EXPECT_TRUE(RightAligned(*window_, IDC_lblHotkey));
+  EXPECT_TRUE(RightAligned(*window_, IDC_chkCtrlAlt0));
+  window_->Command(IDM_mnuViewOptions);
+  const Dialog dialog = NextDialog(L"frmOptions");
+  for (const int id : {IDC_Frame1, IDC_chkShowgridlines, IDC_Label3, IDC_optUseOtheLanguage,
+                       IDC_cmdOK, IDC_cmdApply})
+    EXPECT_TRUE(RightAligned(dialog, id)) << id;
+}
+
+TEST_F(LanguageTest, DirectionAloneKeepsTheEnglishTexts) {
+  UseLanguageFile(OwnFile("[UserLanguage]\r\nRightToLeftLanguage=1\r\n"));
+  StartAndLoad();
+  EXPECT_EQ(window_->Header(0).Text, L"Description");
+  EXPECT_EQ(window_->ControlText(IDC_lblHotkey), L"Hotkey:");
+  EXPECT_TRUE(RightAligned(*window_, IDC_lblHotkey));
+}
+
+TEST_F(LanguageTest, EnglishReadsFromTheLeft) {
+  StartAndLoad();
+  EXPECT_FALSE(RightAligned(*window_, IDC_lblHotkey));
+  EXPECT_FALSE(RightAligned(*window_, IDC_chkCtrlAlt0));
+}
+
+TEST_F(LanguageTest, EmptyAndAbsentTextsAreTheBuiltInOnes) {
+  UseLanguageFile(OwnFile("[UserLanguage]\r\n1008=\r\n1009=Weg\r\n3003=Was\r\n3004=\r\n"));
+  StartAndLoad();
+  EXPECT_EQ(window_->Header(0).Text, L"Was");
+  EXPECT_EQ(window_->Header(1).Text, L"Command");
+  EXPECT_EQ(window_->Header(2).Text, L"Default Hotkey");
+  const Dialog dialog = OpenOptions('V', 'O');
+  EXPECT_EQ(dialog.ControlText(IDC_cmdOK), L"OK");
+  EXPECT_EQ(dialog.ControlText(IDC_cmdCancel), L"Weg");
+}
+
+TEST_F(LanguageTest, MissingFileIsToldOnceAndTheBuiltInTextsAreUsed) {
+  UseLanguageFile(folder_.Root() + L"nowhere.lng");
+  program_ = std::make_unique<Program>(folder_.Executable(), commanderPath_);
+  const Box box = NextBox();
+  EXPECT_EQ(box.Text, L"Cannot find language file!");
+  EXPECT_EQ(box.Buttons, std::vector<int>{IDOK});
+  Answer(box, IDOK);
+  window_ = std::make_unique<MainWindow>(program_->WaitForWindow(), program_->Process());
+  WaitFor("the list", [&] { return window_->RowCount() > 0; });
+  EXPECT_EQ(window_->Header(0).Text, L"Description");
+  EXPECT_EQ(Setting("UseDefaultLanguage"), "0") << "until the settings are saved";
+
+  OpenOptions('V', 'O').CloseByKey(VK_ESCAPE);
+  window_->ChooseFromMenu('F', 'E');
+  NextDialog(L"frmExportToClipboard").CloseByKey(VK_ESCAPE);
+  Select(L"cm_SrcTree");
+  EXPECT_TRUE(NoBoxOpen());
+}
+
+TEST_F(LanguageTest, ChosenFileThatIsMissingIsToldAndTheTextsStayEnglish) {
+  StartAndLoad();
+  ChooseLanguageFile(folder_.Root() + L"nowhere.lng");
+  const Box box = NextBox();
+  EXPECT_EQ(box.Text, L"Cannot find language file!");
+  Answer(box, IDOK);
+  Select(L"cm_SrcTree");
+  EXPECT_EQ(window_->Header(0).Text, L"Description");
+}
+
+TEST_F(LanguageTest, TranslatorsSeeTheRoomOfTextsInAqua) {
+  WriteBytes(folder_.SettingsFile(), "[Common]\r\nShowControlsBackColor=1\r\n");
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  constexpr COLORREF Aqua = RGB(0, 255, 255);
+  for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0})
+    WaitFor("control " + std::to_string(id) + " to be aqua",
+            [&] { return CountPixels(RectangleOf(window_->Control(id)), Aqua) > 100; });
+}
+
+}  // namespace
+}  // namespace tessera::e2e

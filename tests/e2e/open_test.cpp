@@ -1,0 +1,81 @@
+// Files that are handed to the program: on its command line, and dropped on its window.
+#include <string>
+
+#include "app/resource.h"
+#include "tests/e2e/DroppedFile.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Expected.h"
+#include "tests/e2e/Input.h"
+#include "tests/e2e/Wait.h"
+
+namespace tessera::e2e {
+namespace {
+
+class OpenTest : public EndToEndTest {
+ protected:
+  void SetUp() override { WriteBytes(other_, "[Shortcuts]\r\nCA+K=cm_SrcTree\r\n"); }
+
+  void WaitUntilOpen(const std::wstring& path) {
+    WaitFor(Utf8(path) + " to be open", [&] { return window_->Caption() == path + L" - Tessera"; });
+    WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });
+  }
+
+  void Drop(const std::wstring& path) {
+    ASSERT_NE(GetWindowLongPtrW(window_->Handle(), GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
+    DropFile(window_->Handle(), program_->Process(), path);
+  }
+
+  void ExpectOtherFile() {
+    WaitUntilOpen(other_);
+    EXPECT_EQ(RowOf(L"cm_SrcTree")[3], L"Ctrl + Alt + K");
+    EXPECT_EQ(Setting("RecentFiles1"), Utf8(other_));
+  }
+
+  std::wstring other_ = folder_.Root() + L"other file.ini";
+};
+
+TEST_F(OpenTest, FullPathOnTheCommandLine) {
+  Start(L'"' + other_ + L'"');
+  ExpectOtherFile();
+  EXPECT_EQ(RowOf(L"cm_SrcComments")[3], L"---") << "the file that was found is not read";
+}
+
+TEST_F(OpenTest, RelativePathOnTheCommandLineStartsFromTheCurrentFolder) {
+  Start(L"\"..\\other file.ini\"");
+  ExpectOtherFile();
+}
+
+TEST_F(OpenTest, OtherFileIsSavedAndTheOneThatWasFoundIsNot) {
+  const std::string found = ReadBytes(folder_.WincmdIni());
+  Start(L'"' + other_ + L'"');
+  WaitUntilOpen(other_);
+  BringToFront(window_->Handle());
+  Select(L"cm_SrcTree");
+  window_->ClickButton(IDC_Toolbar2, IDM_delete);
+  WaitForKeys(L"cm_SrcTree", L"---");
+  Save();
+  EXPECT_EQ(SectionLines(ReadBytes(other_), "Shortcuts").size(), 0U);
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni()), found);
+}
+
+TEST_F(OpenTest, DroppedFileIsOpened) {
+  StartAndLoad();
+  Drop(other_);
+  ExpectOtherFile();
+}
+
+TEST_F(OpenTest, DropAsksAboutUnsavedChangesFirst) {
+  StartAndLoad();
+  MakeAChange();
+  Drop(other_);
+  Answer(NextBox(), IDCANCEL);
+  EXPECT_TRUE(Modified());
+  EXPECT_EQ(window_->Caption(), folder_.WincmdIni() + L" - Tessera");
+  Drop(other_);
+  Answer(NextBox(), IDNO);
+  ExpectOtherFile();
+  EXPECT_FALSE(Modified());
+}
+
+}  // namespace
+}  // namespace tessera::e2e

@@ -1,0 +1,311 @@
+// The options dialog: each control, the three buttons, and what follows in the window.
+// clang-format off
+#include <windows.h>  // must come first
+#include <colordlg.h>
+#include <commctrl.h>
+#include <dlgs.h>
+// clang-format on
+
+#include <string>
+
+#include "app/resource.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Input.h"
+#include "tests/e2e/Screen.h"
+#include "tests/e2e/Wait.h"
+
+namespace tessera::e2e {
+namespace {
+
+enum Tab { Layout, ColorAndFont, Operation, Language };
+
+struct BoxCase {
+  int Id;
+  Tab On;
+  std::wstring Text;
+  std::string Setting;
+  bool AtStart;
+};
+
+const std::vector<BoxCase> Boxes{
+    {IDC_chkShowgridlines, Layout, L"Show &Grid Lines", "CommandListShowLines", false},
+    {IDC_chkFixedBorders, Layout, L"Fixed &Borders", "FixedBorders", true},
+    {IDC_chkFlatUserInterface, Layout, L"&Flat User Interface", "FlatUserInterface", false},
+    {IDC_chkAlwaysRestartTC, Operation, L"Auto &restart Total Commander after saving changes.",
+     "AlwaysRestartTC", false},
+    {IDC_chkUseContextMenuKey, Operation, L"Use ContextMenu key instead of Alt key.",
+     "UseContextMenuKey", false},
+    {IDC_chkReverseOrderHotkey, Operation,
+     L"Show Hotkeys in Reverse Order. (requires program restart)", "ReverseOrderHotkey", false}};
+
+class OptionsTest : public EndToEndTest {
+ protected:
+  void SetUp() override { StartAndLoad(); }
+
+  Dialog OpenOptions() {
+    window_->ChooseFromMenu('V', 'O');
+    return NextDialog(L"frmOptions");
+  }
+
+  static void GoTo(Dialog& dialog, Tab tab) {
+    if (dialog.ChosenTab(IDC_tbsOptions) != tab) dialog.ClickTab(IDC_tbsOptions, tab);
+  }
+
+  static void Toggle(Dialog& dialog, const BoxCase& box) {
+    GoTo(dialog, box.On);
+    const bool before = dialog.BoxChecked(box.Id);
+    dialog.ClickControl(box.Id);
+    WaitFor("box " + box.Setting, [&] { return dialog.BoxChecked(box.Id) != before; });
+  }
+
+  static void WaitForApply(const Dialog& dialog, bool enabled) {
+    WaitFor(enabled ? "Apply to be enabled" : "Apply to be disabled",
+            [&] { return dialog.Enabled(IDC_cmdApply) == enabled; });
+  }
+
+  /// One of the system's dialogs, which has a control of that ID.
+  [[nodiscard]] HWND NextSystemDialog(int control) const {
+    return WaitFor("a dialog of the system", [&]() -> HWND {
+      for (const HWND window : VisibleWindows(program_->Id(), L"#32770"))
+        if (GetDlgItem(window, control) != nullptr) return window;
+      return nullptr;
+    });
+  }
+
+  /// In the colour dialog that is open: the one in the corner of the basic colours.
+  void PickFirstBasicColor() {
+    constexpr int FromTheCorner = 8;  // pixels: inside the first cell
+    const HWND colors = NextSystemDialog(COLOR_BOX1);
+    const RECT place = RectangleOf(GetDlgItem(colors, COLOR_BOX1));
+    BringToFront(colors);
+    Click({place.left + FromTheCorner, place.top + FromTheCorner});
+    AnswerByKey(colors, VK_RETURN);
+  }
+
+  [[nodiscard]] COLORREF ListColor(UINT message) const {
+    return static_cast<COLORREF>(Send(window_->Control(IDC_ListView1), message));
+  }
+
+  [[nodiscard]] LONG_PTR ListStyle(int which) const {
+    return GetWindowLongPtrW(window_->Control(IDC_ListView1), which);
+  }
+
+  [[nodiscard]] bool ListHasGridLines() const {
+    return (Send(window_->Control(IDC_ListView1), LVM_GETEXTENDEDLISTVIEWSTYLE) &
+            LVS_EX_GRIDLINES) != 0;
+  }
+
+  /// What the program does after a dialog has been done once a later click is answered.
+  void WaitUntilApplied() { Select(L"cm_SrcTree"); }
+};
+
+TEST_F(OptionsTest, TabsAndControlsBearTheirTexts) {
+  Dialog dialog = OpenOptions();
+  EXPECT_EQ(dialog.Caption(), L"Options");
+  const std::array tabs{L"Layout", L"Color and Font", L"Operation", L"Language"};
+  for (int tab = 0; tab < 4; ++tab)
+    EXPECT_EQ(dialog.TabText(IDC_tbsOptions, tab), tabs.at(static_cast<std::size_t>(tab)));
+  for (const BoxCase& box : Boxes) {
+    GoTo(dialog, box.On);
+    EXPECT_EQ(dialog.ControlText(box.Id), box.Text);
+    EXPECT_EQ(dialog.BoxChecked(box.Id), box.AtStart) << box.Setting;
+    for (const BoxCase& other : Boxes)
+      EXPECT_EQ(dialog.Visible(other.Id), other.On == box.On) << other.Setting;
+  }
+  const std::vector<std::pair<int, std::wstring>> texts{
+      {IDC_Frame1, L"Visual Effects :"},
+      {IDC_Frame7, L"Text :"},
+      {IDC_Label3, L"Foreground"},
+      {IDC_Label4, L"Background"},
+      {IDC_Frame3, L"Font :"},
+      {IDC_cmdChangeFont, L"&Change..."},
+      {IDC_Frame4, L"Change Language :"},
+      {IDC_optUseDefaultLanguage, L"Use &Default Language"},
+      {IDC_optUseOtheLanguage, L"&Other"},
+      {IDC_cmdOK, L"OK"},
+      {IDC_cmdCancel, L"Cancel"},
+      {IDC_cmdApply, L"&Apply"}};
+  for (const auto& [id, text] : texts) EXPECT_EQ(dialog.ControlText(id), text);
+  EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
+}
+
+TEST_F(OptionsTest, OkStoresEveryBox) {
+  Dialog dialog = OpenOptions();
+  for (const BoxCase& box : Boxes) Toggle(dialog, box);
+  dialog.CloseBy(IDC_cmdOK);
+  WaitUntilApplied();
+  for (const BoxCase& box : Boxes)
+    EXPECT_EQ(Setting(box.Setting), box.AtStart ? "0" : "1") << box.Setting;
+  dialog = OpenOptions();
+  EXPECT_EQ(dialog.ChosenTab(IDC_tbsOptions), Operation) << "the last tab stays";
+  for (const BoxCase& box : Boxes) {
+    GoTo(dialog, box.On);
+    EXPECT_NE(dialog.BoxChecked(box.Id), box.AtStart) << box.Setting;
+  }
+}
+
+TEST_F(OptionsTest, CancelEscapeAndTheCloseButtonForgetTheBoxes) {
+  const std::array<void (*)(Dialog&), 3> ways{[](Dialog& dialog) { dialog.CloseBy(IDC_cmdCancel); },
+                                              [](Dialog& dialog) { dialog.CloseByKey(VK_ESCAPE); },
+                                              [](Dialog& dialog) { dialog.CloseByCaption(); }};
+  for (const auto& close : ways) {
+    Dialog dialog = OpenOptions();
+    Toggle(dialog, Boxes[0]);
+    close(dialog);
+    WaitUntilApplied();
+    EXPECT_EQ(Setting(Boxes[0].Setting), "0");
+    EXPECT_FALSE(ListHasGridLines());
+  }
+  EXPECT_FALSE(OpenOptions().BoxChecked(Boxes[0].Id));
+}
+
+TEST_F(OptionsTest, ApplyIsEnabledByEachChangeAndDisabledByItself) {
+  Dialog dialog = OpenOptions();
+  const auto change = [&](const auto& changeSomething) {
+    EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
+    changeSomething();
+    WaitForApply(dialog, true);
+    dialog.ClickControl(IDC_cmdApply);
+    WaitForApply(dialog, false);
+  };
+  for (const BoxCase& box : Boxes) change([&] { Toggle(dialog, box); });
+  GoTo(dialog, Language);
+  change([&] { dialog.ClickControl(IDC_optUseOtheLanguage); });
+  change([&] {
+    dialog.ClickControl(IDC_txtLanguageFilePath);
+    WaitFor("the box to have the focus", [&] { return dialog.HasFocus(IDC_txtLanguageFilePath); });
+    Type(L"x");
+  });
+  change([&] { dialog.ClickControl(IDC_optUseDefaultLanguage); });
+}
+
+TEST_F(OptionsTest, WhatWasAppliedStaysAfterCancel) {
+  Dialog dialog = OpenOptions();
+  Toggle(dialog, Boxes[0]);
+  WaitForApply(dialog, true);
+  dialog.ClickControl(IDC_cmdApply);
+  WaitForApply(dialog, false);
+  dialog.CloseBy(IDC_cmdCancel);
+  WaitUntilApplied();
+  EXPECT_EQ(Setting(Boxes[0].Setting), "1");
+  EXPECT_TRUE(ListHasGridLines());
+}
+
+TEST_F(OptionsTest, LayoutIsAppliedToTheList) {
+  const auto has = [&](int which, LONG_PTR bit) { return (ListStyle(which) & bit) != 0; };
+  ASSERT_FALSE(ListHasGridLines());
+  ASSERT_TRUE(has(GWL_STYLE, WS_BORDER) || has(GWL_EXSTYLE, WS_EX_CLIENTEDGE));
+  Dialog dialog = OpenOptions();
+  for (const BoxCase& box : {Boxes[0], Boxes[1], Boxes[2]}) Toggle(dialog, box);
+  dialog.CloseBy(IDC_cmdOK);
+  WaitFor("grid lines", [&] { return ListHasGridLines(); });
+  WaitFor("the border to go",
+          [&] { return !has(GWL_STYLE, WS_BORDER) && !has(GWL_EXSTYLE, WS_EX_CLIENTEDGE); });
+}
+
+TEST_F(OptionsTest, PickedColorStaysAfterCancel) {
+  const std::vector<std::tuple<int, UINT, std::string>> swatches{
+      {IDC_lblColorChange0, LVM_GETTEXTCOLOR, "ForegroundColor"},
+      {IDC_lblColorChange1, LVM_GETBKCOLOR, "BackgroundColor"}};
+  for (const auto& [swatch, message, setting] : swatches) {
+    const COLORREF before = ListColor(message);
+    Dialog dialog = OpenOptions();
+    GoTo(dialog, ColorAndFont);
+    dialog.ClickControl(swatch);
+    AnswerByKey(NextSystemDialog(COLOR_BOX1), VK_ESCAPE);
+    EXPECT_FALSE(dialog.Enabled(IDC_cmdApply)) << "nothing was picked";
+    dialog.ClickControl(swatch);
+    PickFirstBasicColor();
+    WaitForApply(dialog, true);
+    const RECT place = RectangleOf(dialog.Control(swatch));
+    dialog.CloseBy(IDC_cmdCancel);
+    WaitFor("the list's colour", [&, &message = message] { return ListColor(message) != before; });
+    WaitFor("the setting", [&, &message = message, &setting = setting] {
+      return Setting(setting) == std::to_string(ListColor(message));
+    });
+
+    // The swatch shows the colour that the list has.
+    dialog = OpenOptions();
+    GoTo(dialog, ColorAndFont);
+    WaitFor("the swatch's colour", [&, &message = message] {
+      return CountPixels(place, ListColor(message)) > (place.right - place.left);
+    });
+    dialog.CloseBy(IDC_cmdCancel);
+  }
+}
+
+TEST_F(OptionsTest, PickedFontIsTheListsAfterCancelToo) {
+  const auto rowHeight = [&] {
+    const RECT cell = window_->CellRectangle(0, 1);
+    return cell.bottom - cell.top;
+  };
+  const LONG before = rowHeight();
+  Dialog dialog = OpenOptions();
+  GoTo(dialog, ColorAndFont);
+  dialog.ClickControl(IDC_cmdChangeFont);
+  HWND fonts = NextSystemDialog(cmb3);
+  AnswerByKey(fonts, VK_ESCAPE);
+  EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
+  EXPECT_EQ(Setting("FontSize"), "10");
+
+  dialog.ClickControl(IDC_cmdChangeFont);
+  fonts = NextSystemDialog(cmb3);
+  BringToFront(fonts);
+  const RECT sizes = RectangleOf(GetDlgItem(fonts, cmb3));
+  Click({sizes.left + 10, sizes.top + 10});
+  WaitFor("the next size", [&] {
+    const std::wstring size = TextOf(GetDlgItem(fonts, cmb3));
+    if (size == L"12") return true;
+    Press(VK_DOWN);
+    WaitFor("another size", [&] { return TextOf(GetDlgItem(fonts, cmb3)) != size; });
+    return false;
+  });
+  AnswerByKey(fonts, VK_RETURN);
+  WaitForApply(dialog, true);
+  dialog.CloseBy(IDC_cmdCancel);
+  WaitFor("the setting", [&] { return Setting("FontSize") == "12"; });
+  WaitFor("higher rows", [&] { return rowHeight() > before; });
+}
+
+TEST_F(OptionsTest, LanguageFileIsBrowsedForInTheFolderLanguages) {
+  Dialog dialog = OpenOptions();
+  GoTo(dialog, Language);
+  EXPECT_TRUE(dialog.BoxChecked(IDC_optUseDefaultLanguage));
+  EXPECT_FALSE(dialog.Enabled(IDC_txtLanguageFilePath));
+  EXPECT_FALSE(dialog.Enabled(IDC_cmdBrowseForLangFile));
+  EXPECT_EQ(dialog.ControlText(IDC_txtLanguageFilePath), L"");
+  dialog.ClickControl(IDC_optUseOtheLanguage);
+  WaitFor("the browse button", [&] { return dialog.Enabled(IDC_cmdBrowseForLangFile); });
+  EXPECT_TRUE(dialog.Enabled(IDC_txtLanguageFilePath));
+  dialog.ClickControl(IDC_cmdBrowseForLangFile);
+  const HWND files = WaitForFileDialog(program_->Id());
+  BringToFront(files);
+  Type(L"German.lng");  // found only when the dialog stands in that folder
+  AnswerByKey(files, VK_RETURN);
+  const std::wstring path = folder_.Program() + L"Languages\\German.lng";
+  WaitFor("the path", [&] { return dialog.ControlText(IDC_txtLanguageFilePath) == path; });
+  dialog.CloseBy(IDC_cmdOK);
+  WaitFor("the setting", [&] { return Setting("LanguageFile", "Common") == Utf8(path); });
+  EXPECT_EQ(Setting("UseDefaultLanguage"), "0");
+}
+
+TEST_F(OptionsTest, PathIsSelectedWhenTheBoxGetsTheFocus) {
+  Dialog dialog = OpenOptions();
+  GoTo(dialog, Language);
+  dialog.ClickControl(IDC_optUseOtheLanguage);
+  WaitFor("the text box", [&] { return dialog.Enabled(IDC_txtLanguageFilePath); });
+  const auto typeInto = [&](const std::wstring& text) {
+    dialog.ClickControl(IDC_txtLanguageFilePath);
+    WaitFor("the focus", [&] { return dialog.HasFocus(IDC_txtLanguageFilePath); });
+    Type(text);
+    WaitFor("the text " + Utf8(text),
+            [&] { return dialog.ControlText(IDC_txtLanguageFilePath) == text; });
+  };
+  typeInto(L"first.lng");
+  dialog.ClickControl(IDC_optUseOtheLanguage);
+  WaitFor("the focus to go", [&] { return !dialog.HasFocus(IDC_txtLanguageFilePath); });
+  typeInto(L"second.lng");  // takes the place of what was selected
+}
+
+}  // namespace
+}  // namespace tessera::e2e

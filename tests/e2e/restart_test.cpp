@@ -1,0 +1,172 @@
+// Closing and starting Total Commander around a save, with a stand-in that notes what it is asked.
+#include <filesystem>
+
+#include "app/resource.h"
+#include "platform/win32/Handle.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Expected.h"
+#include "tests/e2e/Input.h"
+#include "tests/e2e/MenuPicture.h"
+#include "tests/e2e/Wait.h"
+
+namespace tessera::e2e {
+namespace {
+
+class RestartTest : public EndToEndTest {
+ protected:
+  void SetUp() override {
+    ASSERT_EQ(StandInWindow(), nullptr) << "A Total Commander is running already";
+    original_ = ReadBytes(folder_.WincmdIni());
+    std::filesystem::copy_file(OwnFolder() + L"totalcmd_stand_in.exe", StandInPath());
+  }
+
+  void TearDown() override {
+    EndToEndTest::TearDown();
+    if (const HWND window = StandInWindow(); window != nullptr) EndStandIn(window);
+    standIn_.reset();
+  }
+
+  [[nodiscard]] virtual std::wstring StandInPath() const {
+    return folder_.Commander() + L"Totalcmd.exe";
+  }
+
+  static HWND StandInWindow() { return FindWindowW(L"TTOTAL_CMD", nullptr); }
+
+  static HWND WaitForStandIn() {
+    return WaitFor("the stand-in's window", [] { return StandInWindow(); });
+  }
+
+  static void EndStandIn(HWND window) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    const UniqueHandle process = Own(OpenProcess(SYNCHRONIZE, FALSE, id));
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    constexpr DWORD Limit = 10000;  // milliseconds
+    WaitForSingleObject(process.get(), Limit);
+  }
+
+  void StartStandIn() {
+    standIn_ = std::make_unique<Program>(StandInPath(), commanderPath_);
+    (void)WaitForStandIn();
+  }
+
+  [[nodiscard]] std::string Log() const { return ReadBytes(folder_.Commander() + L"stand-in.log"); }
+
+  [[nodiscard]] std::string CommandLineAfterRestart() const {
+    return '"' + Utf8(StandInPath()) + "\" /i=\"" + Utf8(folder_.WincmdIni()) + '"';
+  }
+
+  void AlwaysRestart() { WriteBytes(folder_.SettingsFile(), "[Tessera]\r\nAlwaysRestartTC=1\r\n"); }
+
+  std::string original_;
+  std::unique_ptr<Program> standIn_;
+};
+
+TEST_F(RestartTest, SaveAndRestartClosesItBeforeTheSaveAndStartsItAfterwards) {
+  StartStandIn();
+  StartAndLoad();
+  MakeAChange();
+  window_->ChooseFromButtonMenu(IDC_Toolbar1, IDM_mnuFileSave, 1);
+  WaitFor("the save to end", [&] { return !Modified(); });
+  standIn_->WaitForEnd();
+  (void)WaitForStandIn();
+  const std::string saved = ReadBytes(folder_.WincmdIni());
+  EXPECT_EQ(saved, WithShortcuts(original_, ExpectedShortcuts(window_->Rows())));
+  EXPECT_EQ(ReadBytes(folder_.Commander() + L"at-close.ini"), original_);
+  EXPECT_EQ(ReadBytes(folder_.Commander() + L"at-start.ini"), saved);
+  EXPECT_EQ(Log(), "start \"" + Utf8(StandInPath()) + "\"\nclose\nstart " +
+                       CommandLineAfterRestart() + "\n");
+}
+
+TEST_F(RestartTest, ItemsAreEnabledWhileItRunsAndThereAreChanges) {
+  const std::wstring caption = L"Save and Restart Bainioka";
+  const auto closeMenu = [&] {
+    Press(VK_ESCAPE);
+    WaitFor("one menu less", [&] { return window_->OpenMenus().empty(); });
+    if (window_->InMenu()) Press(VK_ESCAPE);
+    WaitFor("the menu bar to lose the focus", [&] { return !window_->InMenu(); });
+  };
+  StartStandIn();
+  StartAndLoad();
+  EXPECT_FALSE(WaitForMenuEntry(window_->OpenMenu('F'), caption).Enabled) << "no changes yet";
+  closeMenu();
+  MakeAChange();
+  EXPECT_TRUE(WaitForMenuEntry(window_->OpenMenu('F'), caption).Enabled);
+  closeMenu();
+  const HWND buttonMenu = window_->OpenButtonMenu(IDC_Toolbar1, IDM_mnuFileSave);
+  EXPECT_TRUE(WaitForMenuEntry(buttonMenu, caption).Enabled);
+}
+
+TEST_F(RestartTest, MenuItemRestartsItToo) {
+  StartStandIn();
+  StartAndLoad();
+  MakeAChange();
+  window_->OpenMenu('F');
+  // Open is selected first; Save and Restart is the second item after it.
+  Press(VK_DOWN);
+  Press(VK_DOWN);
+  Press(VK_RETURN);
+  standIn_->WaitForEnd();
+  (void)WaitForStandIn();
+  EXPECT_EQ(SectionValue(ReadBytes(folder_.WincmdIni()), "Shortcuts", "CA+K"), "cm_SrcShort");
+}
+
+TEST_F(RestartTest, SaveLeavesItAlone) {
+  StartStandIn();
+  StartAndLoad();
+  MakeAChange();
+  Save();
+  EXPECT_EQ(Log(), "start \"" + Utf8(StandInPath()) + "\"\n");
+  EXPECT_TRUE(standIn_->Running());
+}
+
+TEST_F(RestartTest, EverySaveRestartsItWhenTheSettingSaysSo) {
+  AlwaysRestart();
+  StartStandIn();
+  StartAndLoad();
+  MakeAChange();
+  Save();
+  standIn_->WaitForEnd();
+  (void)WaitForStandIn();
+  EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();
+}
+
+TEST_F(RestartTest, SaveStartsOneThatWasNotRunningWhenTheSettingSaysSo) {
+  AlwaysRestart();
+  StartAndLoad();
+  MakeAChange();
+  Save();
+  (void)WaitForStandIn();
+  EXPECT_EQ(Log(), "start " + CommandLineAfterRestart() + "\n");
+}
+
+TEST_F(RestartTest, ClosingWithYesRestartsItWhenTheSettingSaysSo) {
+  AlwaysRestart();
+  StartStandIn();
+  StartAndLoad();
+  MakeAChange();
+  PostMessageW(window_->Handle(), WM_CLOSE, 0, 0);
+  Answer(NextBox(), IDYES);
+  EXPECT_EQ(program_->WaitForEnd(), 0U);
+  (void)WaitForStandIn();
+  EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();
+}
+
+class RestartOf64BitTest : public RestartTest {
+ protected:
+  [[nodiscard]] std::wstring StandInPath() const override {
+    return folder_.Commander() + L"Totalcmd64.exe";
+  }
+};
+
+TEST_F(RestartOf64BitTest, TheOnlyExecutableThereIsStarted) {
+  AlwaysRestart();
+  StartAndLoad();
+  MakeAChange();
+  Save();
+  (void)WaitForStandIn();
+  EXPECT_EQ(Log(), "start " + CommandLineAfterRestart() + "\n");
+}
+
+}  // namespace
+}  // namespace tessera::e2e

@@ -1,0 +1,207 @@
+// The readers of foreign files, and what must hold of them whatever they are given.
+#include "tests/fuzz/Targets.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "editing/CommandList.h"
+#include "localisation/Texts.h"
+#include "platform/Text.h"
+#include "settings/IniDocument.h"
+#include "settings/Settings.h"
+#include "shortcuts/Catalogue.h"
+#include "shortcuts/DefaultHotkeys.h"
+#include "shortcuts/HotkeyNotation.h"
+#include "shortcuts/InternalCommands.h"
+#include "shortcuts/SaveShortcuts.h"
+#include "shortcuts/WincmdIni.h"
+#include "tests/unit/fakes/FakeClock.h"
+#include "tests/unit/fakes/FakeEnvironment.h"
+#include "tests/unit/fakes/MemoryFiles.h"
+
+namespace tessera::fuzz {
+
+namespace {
+
+void Require(bool holds, const char* what) {
+  if (!holds) throw std::logic_error(what);
+}
+
+/// The next bytes of the input up to a NUL, which goes too.
+std::string_view Take(std::string_view& bytes) {
+  const std::string_view piece = bytes.substr(0, bytes.find('\0'));
+  bytes.remove_prefix(std::min(piece.size() + 1, bytes.size()));
+  return piece;
+}
+
+std::string Everything(const IniDocument& document) {
+  std::string all;
+  for (const std::string_view section : document.SectionNames()) {
+    all.append("[").append(section).append("]\n");
+    for (const std::string& line : document.Lines(section)) all.append(line).append("\n");
+    for (const auto& entry : document.Entries(section)) {
+      all.append(document.Find(section, entry.Name).value_or("nothing")).append("\n");
+    }
+  }
+  return all;
+}
+
+/// The input: section, key and value of an edit, then the file.
+void RunIni(std::string_view bytes) {
+  const std::string_view section = Take(bytes);
+  const std::string_view key = Take(bytes);
+  const std::string_view value = Take(bytes);
+  const IniDocument read(bytes);
+  static_cast<void>(Everything(read));
+  Require(read.Bytes() == bytes, "reading changed the file");
+
+  const bool isUtf16 = read.FileEncoding() == IniDocument::Encoding::Utf16Le;
+  const auto check = [&](const IniDocument& edited) {
+    // Behind half a character nothing can be read again; names are UTF-8 where the file is UTF-16.
+    // What an edit leaves may begin with that mark.
+    if (isUtf16 || edited.Bytes().starts_with("\xFF\xFE")) return;
+    Require(Everything(edited) == Everything(IniDocument(edited.Bytes())),
+            "an edited file reads differently when it is read anew");
+  };
+  IniDocument document(bytes);
+  document.Set(section, key, value);
+  check(document);
+  document.Remove(section, key);
+  check(document);
+  document.ReplaceEntries(section, {{std::string(key), std::string(value)}, {"F5", "cm_Copy"}},
+                          [](std::string_view name) { return name == "RedirectSection"; });
+  check(document);
+  document.RemoveSection(section);
+  check(document);
+}
+
+std::vector<CommandEntry> Commands(std::string_view bytes) {
+  std::vector<CommandEntry> rows = ReadInternalCommands(bytes, L"---", [] {});
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    Require(rows[i].Key == i + 1, "the rows are not numbered");
+    Require(!rows[i].IsHeading() || rows[i].CommandName.empty(), "a heading has a name");
+  }
+  return rows;
+}
+
+/// The input: "Totalcmd.inc", the default keys, then "Wincmd.ini".
+void RunCommands(std::string_view bytes) {
+  const HotkeyNotation notation;
+  MemoryFiles disk;
+  FakeClock time;
+  const FakeEnvironment surroundings;
+  const std::wstring path = L"C:\\Wincmd.ini";
+  Catalogue catalogue;
+  catalogue.lvwHidden = Commands(Take(bytes));
+  disk.Contents[L"C:\\keys.hky"] = Take(bytes);
+  disk.Contents[path] = bytes;
+  FillDefaultKeys(catalogue.lvwHidden, ProfileFile(disk, L"C:\\keys.hky"), notation, [] {});
+  const WincmdIni wincmd(disk, time, surroundings, path);
+  catalogue.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation);
+  ReadShortcuts(catalogue.lvwHidden, wincmd.Shortcuts(), notation, [] {});
+  BuildDisplayTable(catalogue, notation, [] {});
+  BuildKeyIndexes(catalogue, notation);
+  MarkOverriddenDefaults(catalogue);
+  const SaveRequest request{path, true};
+  Require(SaveShortcuts(catalogue, notation, request, disk, time, surroundings) == FileError::None,
+          "a save failed");
+  const std::string saved = disk.Contents[path];
+  Require(SaveShortcuts(catalogue, notation, request, disk, time, surroundings) == FileError::None,
+          "a second save failed");
+  Require(disk.Contents[path] == saved, "a second save changed the file");
+}
+
+std::wstring WithoutNum(std::wstring text) {
+  const std::size_t at = text.find(L"Num");
+  return at == std::wstring::npos ? text : text.erase(at, 3);
+}
+
+/// A separator that is part of the key as it is shown, such as "+", takes the key apart.
+bool IsTakenApart(const HotkeyNotation& notation, const std::wstring& native) {
+  HotkeyNotation inOrder = notation;
+  inOrder.ReverseOrderHotkey = false;
+  return (inOrder.NativeToDisplay(native, L"---") + notation.NativeToDisplay(native, L"---"))
+             .find(notation.MultiHotkeySeparator) != std::wstring::npos;
+}
+
+/// What is shown and saved reads back the same, for every key with every set of modifiers.
+void CheckRoundTrip(const HotkeyNotation& notation) {
+  for (const std::wstring_view key : KeyVocabulary()) {
+    for (const wchar_t* modifiers : {L"", L"C+", L"A+", L"S+", L"CA+", L"CS+", L"AS+", L"CAS+"}) {
+      const std::wstring native = modifiers + std::wstring(key);
+      if (IsTakenApart(notation, native)) continue;
+      const std::wstring shown = notation.NativeToDisplay(native, notation.UndefinedHotkey);
+      Require(notation.DisplayToNative(WithoutNum(shown)) == native,
+              "a key reads back differently");
+      const std::wstring two = notation.NativeToDisplay(native, L"F1");
+      Require(two == L"F1" + notation.MultiHotkeySeparator + shown, "a further key is not added");
+    }
+  }
+}
+
+/// The input: a byte of flags, the separator, then keys of any notation.
+void RunNotation(std::string_view bytes) {
+  HotkeyNotation notation;
+  const char flags = bytes.empty() ? '\0' : bytes.front();
+  notation.ReverseOrderHotkey = (flags & 1) != 0;
+  const bool checksRoundTrip = (flags & 2) != 0;  // which takes long
+  bytes.remove_prefix(std::min<std::size_t>(1, bytes.size()));
+  const std::wstring separator = TrimBlanks(Decode(Take(bytes)));
+  if (!separator.empty()) notation.MultiHotkeySeparator = L' ' + separator + L' ';
+  if (checksRoundTrip) CheckRoundTrip(notation);
+  for (std::string_view rest = bytes; !rest.empty();) {
+    const std::wstring text = Decode(Take(rest), Utf8CodePage);
+    const std::wstring shown = notation.NativeToDisplay(text, notation.UndefinedHotkey);
+    static_cast<void>(notation.DisplayToNative(shown));
+    static_cast<void>(notation.DisplayToNative(text));
+    static_cast<void>(notation.DataFileToDisplay(text));
+    static_cast<void>(notation.KeysOf(text));
+    const std::wstring reversed = notation.ApplyReverseOrder(text);
+    Require(notation.ReverseOrderHotkey || reversed == text, "an order off changed a key");
+    Require(KeyPart(text).size() <= text.size(), "a key's name grew");
+  }
+}
+
+void RunLanguage(std::string_view bytes) {
+  MemoryFiles disk;
+  disk.Contents[L"C:\\x.lng"] = bytes;
+  Texts texts(disk);
+  Require(texts.UseLanguageFile(L"C:\\x.lng"), "the file was not taken");
+  for (const int id : {-1, 0, 1, 100, 108, 401, 404, 405, 406, 3003, 3020, 3203}) {
+    Require(texts.GetLangText(id).size() < ProfileBufferLength, "a text is too long");
+  }
+  static_cast<void>(texts.RightToLeft());
+}
+
+void RunSettings(std::string_view bytes) {
+  MemoryFiles disk;
+  FakeClock time;
+  const FakeEnvironment surroundings;
+  disk.Contents[SettingsPath(surroundings)] = bytes;
+  const Settings settings = LoadSettings(disk, time, surroundings);
+  Require(settings.NumberOfRecentFiles >= 2 && settings.NumberOfRecentFiles <= 16, "recent files");
+  Require(settings.MultiHotkeySeparator.size() >= 3, "the separator is not padded");
+  Require(!settings.UndefinedHotkey.empty(), "no marker");
+  const ColumnLayout columns = ReadColumnLayout(settings);
+  for (const int width : columns.Widths) Require(width >= 0, "a column of less than no width");
+  Require(SaveSettings(settings, disk, time, surroundings) == FileError::None, "not saved");
+  const Settings again = LoadSettings(disk, time, surroundings);
+  Require(again.FontSize == settings.FontSize &&
+              again.ForegroundColor == settings.ForegroundColor &&
+              again.MainWindowLeft == settings.MainWindowLeft &&
+              again.SortedColumn == settings.SortedColumn,
+          "a number reads back differently");
+}
+
+constexpr Target AllTargets[] = {{"ini", RunIni},
+                                 {"commands", RunCommands},
+                                 {"notation", RunNotation},
+                                 {"language", RunLanguage},
+                                 {"settings", RunSettings}};
+
+}  // namespace
+
+std::span<const Target> Targets() { return AllTargets; }
+
+}  // namespace tessera::fuzz

@@ -1,0 +1,35 @@
+// The fuzzer's two entries; the environment variable TESSERA_FUZZ_TARGET names the target.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+#include "tests/fuzz/Targets.h"
+
+namespace {
+
+const tessera::fuzz::Target& ChosenTarget() {
+  static const tessera::fuzz::Target& target = []() -> const tessera::fuzz::Target& {
+    const char* const name = std::getenv("TESSERA_FUZZ_TARGET");
+    for (const tessera::fuzz::Target& candidate : tessera::fuzz::Targets()) {
+      if (name != nullptr && candidate.Name == name) return candidate;
+    }
+    std::fputs("TESSERA_FUZZ_TARGET names no target\n", stderr);
+    std::exit(2);
+  }();
+  return target;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* /*count*/, char*** /*arguments*/) {
+  static_cast<void>(ChosenTarget());
+  return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  ChosenTarget().Run({reinterpret_cast<const char*>(data), size});
+  return 0;
+}

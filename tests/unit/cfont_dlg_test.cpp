@@ -1,0 +1,96 @@
+// The font description, to the system's record and back.
+#include <gtest/gtest.h>
+
+#include "dialogs/cFontDlg.h"
+#include "tests/unit/fakes/FakeDialogs.h"
+
+namespace tessera {
+namespace {
+
+class cFontDlgTest : public testing::Test {
+ protected:
+  /// Shows the dialog and answers with that record.
+  void Choose(const FontRecord& record) {
+    fake_.FontAnswers = {record};
+    EXPECT_TRUE(dialog_.ShowFont());
+  }
+
+  FakeDialogs fake_;
+  cFontDlg dialog_{fake_};
+};
+
+TEST_F(cFontDlgTest, RecordIsBuiltFromTheDescription) {
+  dialog_.FaceName = L"Courier New";
+  dialog_.Size = 12;
+  dialog_.FontStyle = cFontDlg::Bold | cFontDlg::StrikeOut;
+  dialog_.Script = 238;
+  EXPECT_FALSE(dialog_.ShowFont());
+  const FontRecord& record = fake_.FontRequests.at(0);
+  EXPECT_EQ(record.FaceName, L"Courier New");
+  EXPECT_EQ(record.Weight, 700);
+  EXPECT_FALSE(record.Italic);
+  EXPECT_TRUE(record.StrikeOut);
+  EXPECT_FALSE(record.Underline);
+  EXPECT_EQ(record.CharSet, 238);
+  EXPECT_EQ(record.PitchAndFamily, 16);
+  EXPECT_EQ(record.PointSizeInTenths, 120);
+}
+
+TEST_F(cFontDlgTest, PlainDescriptionHasNormalWeight) {
+  dialog_.FontStyle = cFontDlg::Italic | cFontDlg::Underline;
+  EXPECT_FALSE(dialog_.ShowFont());
+  EXPECT_EQ(fake_.FontRequests.at(0).Weight, 400);
+  EXPECT_TRUE(fake_.FontRequests.at(0).Italic);
+  EXPECT_TRUE(fake_.FontRequests.at(0).Underline);
+}
+
+TEST_F(cFontDlgTest, LongFaceNameIsCutTo31Characters) {
+  dialog_.FaceName = std::wstring(40, L'x');
+  EXPECT_FALSE(dialog_.ShowFont());
+  EXPECT_EQ(fake_.FontRequests.at(0).FaceName, std::wstring(31, L'x'));
+}
+
+TEST_F(cFontDlgTest, CancelLeavesTheDescriptionAsItWas) {
+  dialog_.FaceName = std::wstring(40, L'x');
+  dialog_.Size = 11;
+  EXPECT_FALSE(dialog_.ShowFont());
+  EXPECT_EQ(dialog_.FaceName, std::wstring(40, L'x'));
+  EXPECT_EQ(dialog_.Size, 11);
+}
+
+TEST_F(cFontDlgTest, ChoiceBecomesTheDescription) {
+  FontRecord record;
+  record.FaceName = std::wstring(L"Arial\0rest", 10);
+  record.Weight = 700;
+  record.Italic = record.StrikeOut = record.Underline = true;
+  record.CharSet = 204;
+  record.PointSizeInTenths = 90;
+  Choose(record);
+  EXPECT_EQ(dialog_.FaceName, L"Arial");
+  EXPECT_EQ(dialog_.FontStyle, 1 + 2 + 4 + 8);
+  EXPECT_EQ(dialog_.Script, 204);
+  EXPECT_EQ(dialog_.Size, 9);
+}
+
+TEST_F(cFontDlgTest, SizeIsRoundedHalfToEven) {
+  const std::pair<int, int> cases[] = {{105, 10}, {115, 12}, {104, 10}, {106, 11}, {100, 10}};
+  for (const auto& [tenths, points] : cases) {
+    FontRecord record;
+    record.PointSizeInTenths = tenths;
+    Choose(record);
+    EXPECT_EQ(dialog_.Size, points) << tenths;
+  }
+}
+
+TEST_F(cFontDlgTest, OnlyWeight700IsBold) {
+  const std::pair<int, int> cases[] = {{400, 0}, {600, 0}, {700, 1}, {800, 0}};
+  for (const auto& [weight, style] : cases) {
+    FontRecord record;
+    record.Weight = weight;
+    Choose(record);
+    EXPECT_EQ(dialog_.FontStyle, style) << weight;
+  }
+}
+
+}  // namespace
+}  // namespace tessera

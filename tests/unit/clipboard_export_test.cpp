@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include "export/ClipboardExport.h"
+#include "tests/unit/fakes/FakeClipboard.h"
+#include "tests/unit/fakes/FakeClock.h"
+#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/unit/sample_catalogue.h"
+
+namespace tessera {
+namespace {
+
+const std::wstring SettingsFile = L"C:\\Tessera\\vantor.ini";
+
+class ClipboardExportTest : public testing::Test {
+ protected:
+  void Ok() { export_.Ok(files_, clock_, SettingsFile); }
+
+  Catalogue catalogue_ = SampleCatalogue();
+  HotkeyNotation notation_;
+  MemoryFiles files_;
+  FakeClock clock_;
+  FakeClipboard clipboard_;
+  Texts texts_{files_};
+  ClipboardExport export_{catalogue_, notation_, texts_};
+};
+
+TEST_F(ClipboardExportTest, WithoutAStoredSelectionTheDescriptionIsOff) {
+  export_.Load(files_, SettingsFile);
+  EXPECT_EQ(export_.Selection().ClipOptions(), L"0,1,1,1");
+}
+
+TEST_F(ClipboardExportTest, OkStoresTheSelectionForTheNextRun) {
+  files_.Contents[SettingsFile] = "[Tessera]\r\nClipOptions=1,1,1,1\r\nSortOrder=1\r\n";
+  export_.Load(files_, SettingsFile);
+  export_.Click(2);
+  Ok();
+  EXPECT_EQ(files_.Contents[SettingsFile], "[Tessera]\r\nClipOptions=1,1,0,1\r\nSortOrder=1\r\n");
+  ClipboardExport next(catalogue_, notation_, texts_);
+  next.Load(files_, SettingsFile);
+  EXPECT_EQ(next.Selection().ClipOptions(), L"1,1,0,1");
+}
+
+TEST_F(ClipboardExportTest, CancelStoresNothingAndLeavesTheClipboardAlone) {
+  export_.Load(files_, SettingsFile);
+  export_.Click(0);
+  export_.Cancel();
+  export_.CopyTo(clipboard_, true);
+  EXPECT_TRUE(clipboard_.Texts.empty());
+  EXPECT_FALSE(files_.Contents.contains(SettingsFile));
+}
+
+TEST_F(ClipboardExportTest, CancelForgetsTheTableOfTheOkBefore) {
+  Ok();
+  ASSERT_FALSE(export_.ExportText().empty());
+  export_.Cancel();
+  EXPECT_EQ(export_.ExportText(), L"");
+}
+
+TEST_F(ClipboardExportTest, BeforeTheFirstOkNothingIsCopied) {
+  export_.CopyTo(clipboard_, true);
+  EXPECT_TRUE(clipboard_.Texts.empty());
+}
+
+TEST_F(ClipboardExportTest, TheTableOfTheLastOkIsCopiedAgainWhenTheDialogIsOnlyClosed) {
+  Ok();
+  const std::wstring table = export_.ExportText();
+  export_.Click(0);
+  catalogue_.ListView1.Edit(sample::Pack).CurrentKeys = L"X";
+  export_.CopyTo(clipboard_, false);
+  export_.CopyTo(clipboard_, false);
+  EXPECT_EQ(clipboard_.Texts, (std::vector<std::wstring>{table + L"\r\n", table + L"\r\n"}));
+  Ok();
+  EXPECT_NE(export_.ExportText(), table);
+}
+
+TEST_F(ClipboardExportTest, OkTakesTheChosenColumnsAndTheUndefinedMarkerInForce) {
+  notation_.UndefinedHotkey = L"F6";
+  export_.Load(files_, SettingsFile);
+  export_.Click(2);
+  Ok();
+  EXPECT_EQ(export_.ExportText(),
+            BuildExportText(catalogue_.ListView1, {false, true, false, true}, texts_, L"F6"));
+  EXPECT_EQ(export_.ExportText().find(L"cm_View"), std::wstring::npos);
+}
+
+TEST_F(ClipboardExportTest, StartMenuKeysFollowTheTable) {
+  catalogue_.StartMenuKeys[2] = {L"Ctrl + Alt + F3", L"Notes", L"key3"};
+  Ok();
+  export_.CopyTo(clipboard_, false);
+  ASSERT_EQ(clipboard_.Texts.size(), 1U);
+  EXPECT_TRUE(clipboard_.Texts[0].starts_with(export_.ExportText()));
+  EXPECT_TRUE(clipboard_.Texts[0].ends_with(L"=\r\nNotes\tCtrl + Alt + F3\r\n"));
+}
+
+TEST_F(ClipboardExportTest, EachExportOfUnsavedChangesWarnsAndNoneAfterASave) {
+  Ok();
+  export_.CopyTo(clipboard_, true);
+  Ok();
+  export_.CopyTo(clipboard_, true);
+  Ok();
+  export_.CopyTo(clipboard_, false);
+  ASSERT_EQ(clipboard_.Texts.size(), 3U);
+  EXPECT_NE(clipboard_.Texts[0].find(L"=   Important   ="), std::wstring::npos);
+  EXPECT_EQ(clipboard_.Texts[1], clipboard_.Texts[0]);
+  EXPECT_EQ(clipboard_.Texts[2].find(L"Important"), std::wstring::npos);
+}
+
+TEST_F(ClipboardExportTest, ASettingsFileThatCannotBeWrittenSpoilsNoExport) {
+  files_.WriteErrors = {FileError::AccessDenied};
+  Ok();
+  export_.CopyTo(clipboard_, false);
+  EXPECT_EQ(clipboard_.Texts.size(), 1U);
+}
+
+}  // namespace
+}  // namespace tessera

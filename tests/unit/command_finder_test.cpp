@@ -1,0 +1,101 @@
+// Finding the row that a value names: as a search of all rows from the first would.
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "platform/Text.h"
+#include "shortcuts/CommandFinder.h"
+
+namespace tessera {
+namespace {
+
+CommandEntry Command(const std::wstring& name, const std::wstring& code,
+                     const std::wstring& defaults = L"---", const std::wstring& current = L"---") {
+  CommandEntry row;
+  row.Description = L"text";
+  row.CommandName = name;
+  row.CommandCode = code;
+  row.DefaultKeys = defaults;
+  row.CurrentKeys = current;
+  row.Tag = code;
+  return row;
+}
+
+/// A finder that can look up each of `values`.
+CommandFinder FinderOf(const std::vector<CommandEntry>& rows,
+                       const std::vector<std::wstring>& values) {
+  std::vector<std::pair<std::wstring, std::wstring>> lines;
+  for (const std::wstring& value : values) lines.emplace_back(L"F1", value);
+  return {rows, lines};
+}
+
+TEST(CommandFinder, FindsNameCodeAndKeysWithoutRegardToLetterCase) {
+  const std::vector<CommandEntry> rows{Command(L"cm_A", L"1", L"F1", L"---"),
+                                       Command(L"cm_B", L"2", L"---", L"Ctrl + F2 = F3")};
+  const CommandFinder finder = FinderOf(rows, {L"CM_b", L"1", L"f1", L"ctrl + f2 = f3", L"---"});
+  EXPECT_EQ(finder.Find(L"CM_b"), 1u);
+  EXPECT_EQ(finder.Find(L"1"), 0u);
+  EXPECT_EQ(finder.Find(L"f1"), 0u);
+  EXPECT_EQ(finder.Find(L"ctrl + f2 = f3"), 1u);
+  EXPECT_EQ(finder.Find(L"---"), 0u);
+}
+
+TEST(CommandFinder, MatchesNothingButWholeTexts) {
+  const std::vector<CommandEntry> rows{Command(L"cm_A", L"12")};
+  for (const wchar_t* value : {L"cm_", L"cm_AB", L"1", L"text", L"cm_A ", L"cm_A 1"}) {
+    EXPECT_EQ(FinderOf(rows, {value}).Find(value), std::nullopt) << value;
+  }
+}
+
+TEST(CommandFinder, AnEmptyValueNamesNoRow) {
+  CommandEntry heading;
+  heading.Description = L"[File]";
+  heading.Tag = CommentBlockTag;
+  const std::vector<CommandEntry> rows{heading, Command(L"cm_A", L"")};
+  const CommandFinder finder = FinderOf(rows, {L"", L"[File]"});
+  EXPECT_EQ(finder.Find(L""), std::nullopt);
+  EXPECT_EQ(finder.Find(L"[File]"), std::nullopt);
+}
+
+TEST(CommandFinder, TheFirstOfSeveralRowsWins) {
+  const std::vector<CommandEntry> rows{Command(L"cm_A", L"7"), Command(L"7", L"cm_a"),
+                                       Command(L"cm_A", L"7")};
+  const CommandFinder finder = FinderOf(rows, {L"7", L"cm_a"});
+  EXPECT_EQ(finder.Find(L"7"), 0u);
+  EXPECT_EQ(finder.Find(L"cm_a"), 0u);
+}
+
+std::optional<std::size_t> SearchFromFront(const std::vector<CommandEntry>& rows,
+                                           const std::wstring& value) {
+  if (value.empty()) return std::nullopt;
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    for (const std::wstring& text : {rows[row].CommandName, rows[row].CommandCode,
+                                     rows[row].DefaultKeys, rows[row].CurrentKeys}) {
+      if (EqualIgnoringCase(text, value)) return row;
+    }
+  }
+  return std::nullopt;
+}
+
+TEST(CommandFinder, FollowsEveryChangeOfCurrentKeys) {
+  std::mt19937 random(3);
+  const std::vector<std::wstring> texts{L"",  L"---", L"F1", L"f1", L"F2", L"cm_A",
+                                        L"é", L"É",   L"1",  L"2",  L"F3", L"F4"};
+  const auto text = [&] { return texts[random() % texts.size()]; };
+  std::vector<CommandEntry> rows;
+  for (int row = 0; row < 12; ++row) rows.push_back(Command(text(), text(), text(), text()));
+  CommandFinder finder = FinderOf(rows, texts);
+  for (int change = 0; change < 2000; ++change) {
+    const std::size_t row = random() % rows.size();
+    finder.RemoveCurrentKeys(row, rows[row].CurrentKeys);
+    rows[row].CurrentKeys = text();
+    finder.AddCurrentKeys(row, rows[row].CurrentKeys);
+    const std::wstring value = text();
+    ASSERT_EQ(finder.Find(value), SearchFromFront(rows, value)) << change;
+  }
+}
+
+}  // namespace
+}  // namespace tessera

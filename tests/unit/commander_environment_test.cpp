@@ -1,0 +1,30 @@
+#include <gtest/gtest.h>
+
+#include "settings/CommanderEnvironment.h"
+#include "tests/unit/fakes/FakeEnvironment.h"
+
+namespace tessera {
+namespace {
+
+TEST(CommanderEnvironment, TellsTheFolderWhereTheVariableIsMissing) {
+  FakeEnvironment inherited;
+  CommanderEnvironment environment(inherited);
+  EXPECT_EQ(environment.Variable(L"COMMANDER_PATH"), L"");
+  environment.SetTotalCommanderDirectory(L"C:\\TC\\");
+  EXPECT_EQ(environment.Variable(L"COMMANDER_PATH"), L"C:\\TC");
+  EXPECT_EQ(environment.Variable(L"Commander_Path"), L"C:\\TC");
+}
+
+TEST(CommanderEnvironment, LeavesEveryOtherVariableAndASetOneAsTheyAre) {
+  FakeEnvironment inherited;
+  inherited.Variables = {{L"Commander_Path", L"D:\\TC"}, {L"windir", L"C:\\Windows"}};
+  CommanderEnvironment environment(inherited);
+  environment.SetTotalCommanderDirectory(L"C:\\TC\\");
+  EXPECT_EQ(environment.Variable(L"Commander_Path"), L"D:\\TC");
+  EXPECT_EQ(environment.Variable(L"windir"), L"C:\\Windows");
+  EXPECT_EQ(environment.Variable(L"other"), L"");
+  EXPECT_EQ(environment.ProgramDirectory(), inherited.ProgramDirectory());
+}
+
+}  // namespace
+}  // namespace tessera

@@ -1,0 +1,432 @@
+// A model of the rules for keys, their owners and their marks, in plain lists that are searched
+// from their begin to their end.
+#pragma once
+
+#include <algorithm>
+#include <deque>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/MessageBoxes.h"
+#include "platform/Text.h"
+#include "shortcuts/CommandEntry.h"
+
+namespace tessera::model {
+
+using Text = std::wstring;
+using Texts16 = std::vector<Text>;
+
+inline const Text Undefined = L"---";
+
+inline const Texts16 Vocabulary = [] {
+  Texts16 keys;
+  for (int number = 1; number <= 12; ++number) keys.push_back(L"F" + std::to_wstring(number));
+  for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) keys.emplace_back(1, letter);
+  for (wchar_t digit = L'0'; digit <= L'9'; ++digit) keys.emplace_back(1, digit);
+  for (const wchar_t* name :
+       {L"INS", L"DEL", L"HOME", L"END", L"PGUP", L"PGDN", L"SPACE", L"BACK", L"TAB", L"+", L"-",
+        L"*", L"/", L"ENTER", L"ESC", L"LEFT", L"RIGHT", L"UP", L"DOWN"}) {
+    keys.emplace_back(name);
+  }
+  return keys;
+}();
+
+inline Text Lower(Text text) {
+  for (wchar_t& letter : text) {
+    if (letter >= L'A' && letter <= L'Z') letter = static_cast<wchar_t>(letter + 32);
+  }
+  return text;
+}
+
+inline bool Same(const Text& left, const Text& right) { return Lower(left) == Lower(right); }
+
+inline Text Trim(Text text) {
+  while (!text.empty() && text.front() == L' ') text.erase(0, 1);
+  while (!text.empty() && text.back() == L' ') text.pop_back();
+  return text;
+}
+
+inline Texts16 Split(const Text& text, const Text& at) {
+  Texts16 pieces;
+  std::size_t begin = 0;
+  for (std::size_t end = text.find(at); end != Text::npos; end = text.find(at, begin)) {
+    pieces.push_back(text.substr(begin, end - begin));
+    begin = end + at.size();
+  }
+  pieces.push_back(text.substr(begin));
+  return pieces;
+}
+
+inline Texts16 KeysIn(const Text& cell) {
+  Texts16 keys;
+  if (cell.empty() || cell == Undefined) return keys;
+  for (const Text& piece : Split(cell, L"=")) keys.push_back(Trim(piece));
+  return keys;
+}
+
+inline bool IsOperator(const Text& key) {
+  return key == L"+" || key == L"-" || key == L"*" || key == L"/";
+}
+
+/// One key as it is shown. Bits of `modifiers`: Ctrl, Alt, Shift.
+inline Text Shown(unsigned modifiers, const Text& key, bool reversed) {
+  Texts16 names;
+  for (const auto& [bit, name] : {std::pair(1U, L"Ctrl"), std::pair(2U, L"Alt"), {4U, L"Shift"}}) {
+    if ((modifiers & bit) != 0) names.emplace_back(name);
+  }
+  const Text name = (IsOperator(key) ? L"Num " : L"") + key;
+  names.insert(reversed ? names.begin() : names.end(), name);
+  Text text;
+  for (const Text& part : names) text += (text.empty() ? L"" : L" + ") + part;
+  return text;
+}
+
+inline Text ShownFromFile(const Text& native, bool reversed) {
+  const std::size_t plus = native.find(L'+');
+  if (native == L"+" || plus == Text::npos) return Shown(0, native, reversed);
+  unsigned modifiers = 0;
+  const Text letters = native.substr(0, plus);
+  if (letters.find(L'C') != Text::npos) modifiers |= 1;
+  if (letters.find(L'A') != Text::npos) modifiers |= 2;
+  if (letters.find(L'S') != Text::npos) modifiers |= 4;
+  Text key = Trim(native.substr(plus + 1));
+  for (wchar_t& letter : key) {
+    if (letter >= L'a' && letter <= L'z') letter = static_cast<wchar_t>(letter - 32);
+  }
+  return Shown(modifiers, key, reversed);
+}
+
+inline Text WrittenToFile(const Text& shown, bool reversed) {
+  Text letters;
+  if (shown.find(L"Ctrl") != Text::npos) letters += L'C';
+  if (shown.find(L"Alt") != Text::npos) letters += L'A';
+  if (shown.find(L"Shift") != Text::npos) letters += L'S';
+  if (letters.empty()) return Trim(shown);
+  if (reversed) {
+    const Text key = Trim(shown.substr(0, shown.find(L'+')));
+    return letters + L"+" + (key.empty() ? L"+" : key);
+  }
+  for (std::size_t i = shown.size(); i-- > 0;) {
+    if (shown[i] == L'+' && i + 1 != shown.size())
+      return letters + L"+" + Trim(shown.substr(i + 1));
+  }
+  return letters + L"+" + Trim(shown);
+}
+
+struct ModelRow {
+  bool IsHeading = false;
+  Text Description, Name, Code, Defaults, Current;
+  RowIcon Icon = RowIcon::None;
+  bool IsRed = false;
+};
+
+struct ModelKey {
+  Text Key;
+  std::size_t Owner = 0;
+};
+
+struct ModelSlot {
+  Text Key, Caption, ValueName;
+};
+
+struct ModelLine {
+  Text Name, Value;
+};
+
+class Model {
+ public:
+  bool Reversed = false;
+  std::vector<ModelRow> Master;
+  std::vector<ModelRow> Rows;      ///< displayed copies, in file order
+  std::vector<std::size_t> Order;  ///< indexes into Rows, as displayed
+  std::vector<ModelKey> Defaults, Currents;
+  std::vector<ModelSlot> Slots = std::vector<ModelSlot>(24);
+  std::vector<ModelLine> Shortcuts, StartMenu;  ///< the lines of the two sections of the file
+  bool SortedView = false, IsSorted = false, Descending = false;
+  int StoredOrder = 0, StoredColumn = 3;
+  std::size_t Selected = 0;
+  std::deque<BoxAnswer> Answers;  ///< to the next questions
+  Texts16 Questions;              ///< asked by the last edit
+  int Beeps = 0;
+
+  void Open(const std::vector<Text>& defaultsOfRows) {
+    ReadStartMenu();
+    for (std::size_t i = 0; i < Master.size(); ++i) {
+      if (!Master[i].IsHeading) Master[i].Defaults = defaultsOfRows[i];
+    }
+    for (const ModelLine& line : Shortcuts) ReadLine(line);
+    Rows = Master;
+    Order.clear();
+    Defaults.clear();
+    Currents.clear();
+    for (std::size_t i = 0; i < Rows.size(); ++i) {
+      ModelRow& row = Rows[i];
+      Order.push_back(i);
+      row.Icon = row.IsHeading                                           ? RowIcon::CommentBlock
+                 : row.Defaults != Undefined || row.Current != Undefined ? RowIcon::HasKey
+                                                                         : RowIcon::None;
+      if (row.IsHeading) continue;
+      for (const Text& key : KeysIn(row.Defaults)) Defaults.push_back({key, i});
+      for (const Text& key : KeysIn(row.Current)) Currents.push_back({key, i});
+    }
+    for (const ModelKey& current : Currents) {
+      for (ModelKey& entry : Defaults) {
+        if (!Same(entry.Key, current.Key)) continue;
+        Rows[entry.Owner].IsRed = true;
+        Rows[entry.Owner].Defaults += L" *";
+        entry.Key += L" *";
+        break;
+      }
+    }
+    Selected = Order.front();
+    if (SortedView) Sort();
+  }
+
+  bool Assign(const Text& key) {
+    Begin();
+    if (Rows[Selected].IsHeading) return Beep();
+    if (!AskStartMenu(key) || !AskOwners(key, true)) return false;
+    Release(Selected);
+    Rows[Selected].Current = key;
+    Rows[Selected].Icon = RowIcon::HasKey;
+    return true;
+  }
+
+  bool Add(const Text& key) {
+    Begin();
+    if (Rows[Selected].IsHeading || Rows[Selected].Current == Undefined) return Beep();
+    if (!AskStartMenu(key) || !AskOwners(key, false)) return false;
+    Text& cell = Rows[Selected].Current;
+    cell = cell == Undefined ? key : cell + L" = " + key;
+    return true;
+  }
+
+  bool Delete() {
+    Begin();
+    return Rows[Selected].IsHeading ? Beep() : DeleteKeysOf(Selected);
+  }
+
+  bool DeleteAll() {
+    Begin();
+    if (!Ask(L"You are about to delete Current Hotkeys for ALL commands.\n\nAre you sure?")) {
+      return false;
+    }
+    bool changed = false;
+    for (const std::size_t row : Order) {
+      if (!Rows[row].IsHeading && DeleteKeysOf(row)) changed = true;
+    }
+    return changed;
+  }
+
+  void Sort() {
+    SortedView = true;
+    if (StoredColumn < 1 || StoredColumn > 4) StoredColumn = 3;
+    std::erase_if(Order, [&](std::size_t row) { return Rows[row].IsHeading; });
+    IsSorted = true;
+    Descending = StoredOrder == 0;
+    ClickColumn(StoredColumn);
+    Selected = Order.front();
+  }
+
+  void Unsort() {
+    SortedView = IsSorted = false;
+    Order.clear();
+    for (std::size_t row = 0; row < Rows.size(); ++row) Order.push_back(row);
+    ClickColumn(3);
+    Selected = Order.front();
+  }
+
+  void ClickColumn(int column) {
+    if (!IsSorted) {
+      StoredOrder = 1;
+      StoredColumn = 3;
+      return;
+    }
+    Descending = column == StoredColumn ? !Descending : StoredOrder == 1;
+    StoredOrder = Descending ? 1 : 0;
+    StoredColumn = column;
+    const auto cell = [&](std::size_t row) -> const Text& {
+      const ModelRow& shown = Rows[row];
+      const Text* const cells[] = {&shown.Description, &shown.Name, &shown.Defaults,
+                                   &shown.Current};
+      return *cells[column - 1];
+    };
+    // Insertion keeps the order of equal texts.
+    std::vector<std::size_t> sorted;
+    for (const std::size_t row : Order) {
+      auto place = sorted.end();
+      while (place != sorted.begin()) {
+        const int comparison = CompareTexts(cell(row), cell(*(place - 1)));
+        if (Descending ? comparison <= 0 : comparison >= 0) break;
+        --place;
+      }
+      sorted.insert(place, row);
+    }
+    Order = sorted;
+  }
+
+  void Save() {
+    std::vector<ModelLine> lines;
+    for (const std::size_t i : Order) {
+      const ModelRow& row = Rows[i];
+      Text cell = row.Current;
+      if (cell.empty() || cell == Undefined) continue;
+      if (const std::size_t num = cell.find(L"Num"); num != Text::npos) cell.erase(num, 3);
+      const bool isSeveral = cell.find(L" = ") != Text::npos;
+      for (const Text& piece : isSeveral ? Split(cell, L"=") : Texts16{cell}) {
+        const Text name = cell == L"+" ? cell : WrittenToFile(Trim(piece), Reversed);
+        if (!name.empty()) WriteLine(lines, {name, row.Name});
+      }
+    }
+    Shortcuts = lines;
+    for (ModelSlot& slot : Slots) {
+      if (!slot.Key.ends_with(L'*')) continue;
+      std::erase_if(StartMenu, [&](const ModelLine& line) { return line.Name == slot.ValueName; });
+      slot = {};
+    }
+  }
+
+ private:
+  void Begin() {
+    Questions.clear();
+    Beeps = 0;
+  }
+
+  bool Beep() {
+    ++Beeps;
+    return false;
+  }
+
+  bool Ask(const Text& question) {
+    Questions.push_back(question);
+    const BoxAnswer answer = Answers.front();
+    Answers.pop_front();
+    return answer == BoxAnswer::Yes;
+  }
+
+  void ReadStartMenu() {
+    Slots.assign(24, {});
+    Text caption;
+    for (const ModelLine& line : StartMenu) {
+      if (line.Name.starts_with(L"menu")) caption = line.Value;
+      const int slot = line.Name.starts_with(L"key") ? std::stoi(line.Value) : 0;
+      if (slot < 1 || slot > 24) continue;
+      const unsigned modifiers = slot > 12 ? 7 : 3;
+      const Text key = L"F" + std::to_wstring(slot > 12 ? slot - 12 : slot);
+      Slots[static_cast<std::size_t>(slot) - 1] = {Shown(modifiers, key, Reversed), caption,
+                                                   line.Name};
+    }
+  }
+
+  void ReadLine(const ModelLine& line) {
+    // A name that stands twice has the value of its first line.
+    Text value;
+    for (const ModelLine& other : Shortcuts) {
+      if (!Same(other.Name, line.Name)) continue;
+      value = other.Value;
+      break;
+    }
+    for (ModelRow& row : Master) {
+      const bool isMeant = Same(row.Name, value) || Same(row.Code, value) ||
+                           Same(row.Defaults, value) || Same(row.Current, value);
+      if (row.IsHeading || !isMeant) continue;
+      const Text key = ShownFromFile(line.Name, Reversed);
+      row.Current = row.Current == Undefined ? key : row.Current + L" = " + key;
+      return;
+    }
+  }
+
+  static void WriteLine(std::vector<ModelLine>& lines, const ModelLine& line) {
+    for (ModelLine& other : lines) {
+      if (!Same(other.Name, line.Name)) continue;
+      other.Value = line.Value;
+      return;
+    }
+    lines.push_back(line);
+  }
+
+  [[nodiscard]] Text ToWhom() const {
+    return L"\n\nDo you want assign it to :  " + Rows[Selected].Name;
+  }
+
+  bool AskStartMenu(const Text& key) {
+    bool goesOn = true;
+    for (ModelSlot& slot : Slots) {
+      if (slot.Key.empty() || !Same(slot.Key, key)) continue;
+      goesOn = Ask(L"Current hotkey for :  [" + slot.Caption +
+                   L"] in your Total Commander Start Menu" + ToWhom());
+      if (goesOn) slot.Key += L" *";
+    }
+    return goesOn;
+  }
+
+  static ModelKey* Find(std::vector<ModelKey>& index, const Text& key) {
+    for (ModelKey& entry : index) {
+      if (Same(entry.Key, key) || Lower(entry.Key).starts_with(Lower(key) + L" ")) return &entry;
+    }
+    return nullptr;
+  }
+
+  bool AskOwners(const Text& key, bool replaces) {
+    if (Rows[Selected].Current == key) return Beep();
+    if (ModelKey* const entry = Find(Defaults, key)) {
+      ModelRow& owner = Rows[entry->Owner];
+      if (!Ask(L"Default hotkey for :  " + owner.Name + L"\t" + ToWhom() + L"\t")) return false;
+      entry->Key += L" *";
+      owner.IsRed = true;
+      owner.Defaults += L" *";
+      if (owner.Current == Undefined) owner.Icon = RowIcon::None;
+      Currents.push_back({key, Selected});
+      return true;
+    }
+    if (ModelKey* const entry = Find(Currents, key)) {
+      ModelRow& owner = Rows[entry->Owner];
+      if (!Ask(L"Current hotkey for :  " + owner.Name + ToWhom())) return false;
+      entry->Owner = Selected;
+      Text left;
+      for (const Text& piece : Split(owner.Current, L"=")) {
+        if (Trim(piece) != key) left += Trim(piece) + L" = ";
+      }
+      owner.Current = left.empty() ? Undefined : left.substr(0, left.size() - 3);
+      const bool hasNone = owner.Defaults == Undefined && owner.Current == Undefined;
+      if (owner.Defaults.ends_with(L'*') || hasNone) owner.Icon = RowIcon::None;
+      return true;
+    }
+    Currents.push_back({key, Selected});
+    if (replaces && Rows[Selected].Current != Undefined) RemoveEntriesOf(Selected);
+    return true;
+  }
+
+  void RemoveEntriesOf(std::size_t row) {
+    std::erase_if(Currents, [&](const ModelKey& entry) { return entry.Owner == row; });
+  }
+
+  void Release(std::size_t row) {
+    const Text cell = Rows[row].Current;
+    Rows[row].Current = Undefined;
+    if (Rows[row].Defaults == Undefined) Rows[row].Icon = RowIcon::None;
+    for (const Text& key : KeysIn(cell)) {
+      for (ModelSlot& slot : Slots) {
+        if (Same(slot.Key, key + L" *")) slot.Key.resize(slot.Key.size() - 2);
+      }
+      for (ModelKey& entry : Defaults) {
+        if (!Same(entry.Key, key + L" *")) continue;
+        entry.Key.resize(entry.Key.size() - 2);
+        Text& defaults = Rows[entry.Owner].Defaults;
+        defaults.resize(defaults.size() - 2);
+        Rows[entry.Owner].Icon = RowIcon::HasKey;
+        break;
+      }
+    }
+  }
+
+  bool DeleteKeysOf(std::size_t row) {
+    if (Rows[row].Current == Undefined) return false;
+    Release(row);
+    RemoveEntriesOf(row);
+    return true;
+  }
+};
+
+}  // namespace tessera::model

@@ -1,0 +1,332 @@
+// Random edits, sorts, saves and opens against a model of the rules; every table is compared after
+// every step.
+#include "tests/unit/conflict_model.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <random>
+
+#include "editing/CommandList.h"
+#include "editing/HotkeyAssignment.h"
+#include "editing/HotkeyPanel.h"
+#include "platform/Text.h"
+#include "shortcuts/DefaultHotkeys.h"
+#include "shortcuts/InternalCommands.h"
+#include "shortcuts/SaveShortcuts.h"
+#include "shortcuts/WincmdIni.h"
+#include "tests/unit/fakes/FakeClock.h"
+#include "tests/unit/fakes/FakeEnvironment.h"
+#include "tests/unit/fakes/FakeMessageBoxes.h"
+#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/unit/rounds.h"
+
+namespace tessera {
+namespace {
+
+using namespace model;
+
+const Text IniPath = L"C:\\TC\\Wincmd.ini";
+const Text DataPath = L"C:\\keys.hky";
+
+// -- The program's classes, put together as the program does it
+
+class Session {
+ public:
+  MemoryFiles Disk;
+  FakeClock Time;
+  FakeEnvironment Surroundings;
+  FakeMessageBoxes Boxes;
+  Settings Options;
+  HotkeyNotation Notation;
+  Texts Language{Disk};
+  Catalogue Tables;
+  CommandList List{Tables, Options};
+  HotkeyAssignment Assignment{Tables, Notation, Language, Boxes};
+  HotkeyPanel Panel{Tables, List, Assignment, Notation, Options, Boxes};
+
+  void Open(const std::string& commands) {
+    const WincmdIni wincmd(Disk, Time, Surroundings, IniPath);
+    Tables.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), Notation);
+    if (Tables.lvwHidden.empty()) {
+      Tables.lvwHidden = ReadInternalCommands(commands, Notation.UndefinedHotkey, [] {});
+    }
+    FillDefaultKeys(Tables.lvwHidden, ProfileFile(Disk, DataPath), Notation, [] {});
+    ReadShortcuts(Tables.lvwHidden, wincmd.Shortcuts(), Notation, [] {});
+    BuildDisplayTable(Tables, Notation, [] {});
+    BuildKeyIndexes(Tables, Notation);
+    MarkOverriddenDefaults(Tables);
+    List.ShowFirstRow();
+    if (Options.SortedList != 0) List.SortCommandList();
+  }
+};
+
+/// Program and model, side by side.
+class Pair {
+ public:
+  explicit Pair(unsigned seed) : engine_(seed) {
+    session_.Notation.ReverseOrderHotkey = model_.Reversed = seed % 4 == 3;
+    MakeCommands();
+    MakeFile();
+    Open();
+  }
+
+  void Step() {
+    const std::size_t kind = Below(100);
+    if (kind < 45)
+      Edit(true);
+    else if (kind < 75)
+      Edit(false);
+    else if (kind < 83)
+      DeleteOne();
+    else if (kind < 84)
+      DeleteAll();
+    else if (kind < 94)
+      Order();
+    else if (kind < 98)
+      Save();
+    else
+      Open();
+  }
+
+  void Compare() const {
+    ASSERT_EQ(session_.Tables.ListView1.Count(), model_.Order.size());
+    ASSERT_EQ(session_.List.SelectedRow(), model_.Selected + 1);
+    for (std::size_t i = 0; i < model_.Order.size(); ++i) {
+      const CommandEntry& row = session_.Tables.ListView1.At(i);
+      const ModelRow& expected = model_.Rows[model_.Order[i]];
+      ASSERT_EQ(row.Key, model_.Order[i] + 1);
+      ASSERT_EQ(row.DefaultKeys, expected.Defaults) << i;
+      ASSERT_EQ(row.CurrentKeys, expected.Current) << i;
+      ASSERT_EQ(row.Icon, expected.Icon) << i;
+      ASSERT_EQ(row.DefaultKeysAreRed, expected.IsRed) << i;
+    }
+    CompareIndex(session_.Tables.lvwDefKeys, model_.Defaults);
+    CompareIndex(session_.Tables.lvwCurrKeys, model_.Currents);
+    for (std::size_t i = 0; i < 24; ++i) {
+      ASSERT_EQ(session_.Tables.StartMenuKeys[i].Key, model_.Slots[i].Key);
+      ASSERT_EQ(session_.Tables.StartMenuKeys[i].Caption, model_.Slots[i].Caption);
+    }
+    ASSERT_EQ(session_.Options.SortedColumn, model_.StoredColumn);
+    ASSERT_EQ(session_.Options.SortOrder, model_.StoredOrder);
+  }
+
+ private:
+  std::size_t Below(std::size_t limit) { return engine_() % limit; }
+
+  static void CompareIndex(const KeyIndex& index, const std::vector<ModelKey>& expected) {
+    ASSERT_EQ(index.Count(), expected.size());
+    std::size_t i = 0;
+    for (const KeyIndex::EntryId id : index.Ids()) {
+      ASSERT_EQ(index.At(id).Text, expected[i].Key);
+      ASSERT_EQ(index.At(id).Owner, expected[i].Owner + 1);
+      ++i;
+    }
+  }
+
+  void MakeCommands() {
+    std::string data = "[TC Default Hotkeys]\r\n";
+    for (std::size_t i = 0, count = 3 + Below(20); i < count; ++i) {
+      ModelRow row;
+      defaults_.push_back(Undefined);
+      row.IsHeading = Below(6) == 0 && i > 0;
+      if (row.IsHeading) {
+        commands_ += "[Group]\r\n";
+        row.Description = L"[Group]";
+      } else {
+        row.Name = L"cm_C" + std::to_wstring(i);
+        row.Code = std::to_wstring(100 + i);
+        row.Description = L"Text " + std::to_wstring(Below(5));
+        row.Defaults = row.Current = Undefined;
+        commands_ += Encode(row.Name + L"=" + row.Code + L";" + row.Description + L"\r\n");
+        if (Below(2) == 0) data += DefaultLine(row.Code);
+      }
+      model_.Master.push_back(row);
+    }
+    session_.Disk.Contents[DataPath] = data;
+  }
+
+  /// Gives the last row some default keys, each with a modifier.
+  std::string DefaultLine(const Text& code) {
+    Text stored;
+    Text shown;
+    for (std::size_t keys = 1 + Below(2); keys > 0; --keys) {
+      const unsigned modifiers = 1 + static_cast<unsigned>(Below(7));
+      const Text key = Vocabulary[Below(57)];  // the named keys, without the operators
+      stored += (stored.empty() ? L"" : L"=") + Text((modifiers & 4) != 0 ? L"Shift+" : L"") +
+                ((modifiers & 1) != 0 ? L"ctrl+" : L"") + ((modifiers & 2) != 0 ? L"ALT+" : L"") +
+                key;
+      shown += (shown.empty() ? L"" : L" = ") + Shown(modifiers, key, model_.Reversed);
+    }
+    defaults_.back() = shown;
+    return Encode(code + L"=" + stored + L"\r\n");
+  }
+
+  void MakeFile() {
+    for (std::size_t lines = Below(15); lines > 0; --lines) {
+      const unsigned modifiers = static_cast<unsigned>(Below(8));
+      Text name = Text((modifiers & 4) != 0 ? L"S" : L"") + ((modifiers & 1) != 0 ? L"C" : L"") +
+                  ((modifiers & 2) != 0 ? L"A" : L"") + (modifiers != 0 ? L"+" : L"");
+      name += Vocabulary[Below(Vocabulary.size())];
+      const std::size_t row = Below(model_.Master.size() + 1);
+      const bool isKnown = row < model_.Master.size() && !model_.Master[row].IsHeading;
+      const Text value = !isKnown        ? Text(L"em_own")
+                         : Below(2) == 0 ? model_.Master[row].Name
+                                         : model_.Master[row].Code;
+      model_.Shortcuts.push_back({name, value});
+    }
+    for (std::size_t entry = 1, count = Below(6); entry <= count; ++entry) {
+      const Text number = std::to_wstring(entry);
+      model_.StartMenu.push_back({L"menu" + number, L"Entry " + number});
+      if (Below(4) != 0) model_.StartMenu.push_back({L"key" + number, std::to_wstring(Below(25))});
+    }
+    session_.Disk.Contents[IniPath] = File();
+  }
+
+  [[nodiscard]] static std::string Lines(const std::vector<ModelLine>& lines) {
+    std::string text;
+    for (const auto& [name, value] : lines) text += Encode(name + L"=" + value) + "\r\n";
+    return text;
+  }
+
+  /// The whole file; a comment keeps the section's header when no key is left.
+  [[nodiscard]] std::string File() const {
+    return "[Configuration]\r\nx=1\n\n[Shortcuts]\r\n" + Lines(model_.Shortcuts) +
+           ";mine\n[user]\r\n" + Lines(model_.StartMenu) + "[Colors]\r\nred=1";
+  }
+
+  void Open() {
+    session_.Open(commands_);
+    model_.Open(defaults_);
+  }
+
+  void Save() {
+    ASSERT_EQ(SaveShortcuts(session_.Tables, session_.Notation, {IniPath, false}, session_.Disk,
+                            session_.Time, session_.Surroundings),
+              FileError::None);
+    model_.Save();
+    ASSERT_EQ(session_.Disk.Contents[IniPath], File());
+  }
+
+  void Select() {
+    const std::size_t position = Below(model_.Order.size());
+    session_.List.ShowRowDetails(session_.Tables.ListView1.At(position).Key);
+    model_.Selected = model_.Order[position];
+  }
+
+  void BeginEdit() {
+    session_.Boxes.Answers.clear();
+    session_.Boxes.Shown.clear();
+    session_.Boxes.BeepCount = 0;
+    for (int i = 0; i < 30; ++i) {
+      session_.Boxes.Answers.push_back(Below(4) == 0 ? BoxAnswer::No : BoxAnswer::Yes);
+    }
+    model_.Answers = session_.Boxes.Answers;
+  }
+
+  void EndEdit(bool changed, bool expected) {
+    ASSERT_EQ(changed, expected);
+    ASSERT_EQ(session_.Boxes.BeepCount, model_.Beeps);
+    ASSERT_EQ(session_.Boxes.Shown.size(), model_.Questions.size());
+    for (std::size_t i = 0; i < model_.Questions.size(); ++i) {
+      ASSERT_EQ(session_.Boxes.Shown[i].Text, model_.Questions[i]);
+      ASSERT_EQ(session_.Boxes.Shown[i].Default, BoxDefault::Second);
+    }
+  }
+
+  void Edit(bool assigns) {
+    Select();
+    // Few keys for many edits, so that they meet; now and then any key.
+    const std::size_t key = Below(3) == 0 ? Below(Vocabulary.size()) : std::size_t{3} * Below(22);
+    const auto modifiers = static_cast<unsigned>(Below(2) == 0 ? Below(8) : 3);
+    for (int box = 0; box < 3; ++box) session_.Panel.SetBox(box, (modifiers >> box & 1U) != 0);
+    session_.Panel.ChooseKey(static_cast<int>(key));
+    BeginEdit();
+    const Text shown = Shown(modifiers, Vocabulary[key], model_.Reversed);
+    if (assigns) {
+      const bool changed = session_.Panel.Assign();
+      EndEdit(changed, model_.Assign(shown));
+    } else {
+      const bool changed = session_.Panel.Add();
+      EndEdit(changed, model_.Add(shown));
+    }
+  }
+
+  void DeleteOne() {
+    Select();
+    BeginEdit();
+    const bool changed = session_.Panel.Delete();
+    EndEdit(changed, model_.Delete());
+  }
+
+  void DeleteAll() {
+    BeginEdit();
+    const bool changed = session_.Panel.DeleteAll();
+    EndEdit(changed, model_.DeleteAll());
+  }
+
+  void Order() {
+    if (Below(2) == 0) {
+      const int column = 1 + static_cast<int>(Below(4));
+      session_.List.SortByColumn(column);
+      model_.ClickColumn(column);
+    } else if (model_.SortedView) {
+      session_.List.RestoreFileOrder();
+      model_.Unsort();
+    } else {
+      session_.List.SortCommandList();
+      model_.Sort();
+    }
+  }
+
+  std::mt19937 engine_;
+  Session session_;
+  Model model_;
+  std::string commands_;
+  std::vector<Text> defaults_;  ///< of each row
+};
+
+TEST(ConflictModel, EveryTableIsWhatTheRulesSayAfterEveryStep) {
+  for (int seed = 0; seed < Rounds(60); ++seed) {
+    Pair pair(static_cast<unsigned>(seed));
+    for (int step = 0; step < 120; ++step) {
+      SCOPED_TRACE(testing::Message() << "seed " << seed << ", step " << step);
+      ASSERT_NO_FATAL_FAILURE(pair.Compare());
+      pair.Step();
+      if (HasFatalFailure()) return;
+    }
+  }
+}
+
+/// Every key with every set of modifiers, one after the other on three rows.
+TEST(ConflictModel, EveryKeyIsSavedAndReadBackAsItWasShown) {
+  for (const bool reversed : {false, true}) {
+    Session session;
+    session.Notation.ReverseOrderHotkey = reversed;
+    session.Disk.Contents[IniPath] = "";
+    session.Open("cm_A=1;a\r\ncm_B=2;b\r\n");
+    for (unsigned modifiers = 0; modifiers < 8; ++modifiers) {
+      for (std::size_t key = 0; key < Vocabulary.size(); ++key) {
+        const Text shown = Shown(modifiers, Vocabulary[key], reversed);
+        for (int box = 0; box < 3; ++box) session.Panel.SetBox(box, (modifiers >> box & 1U) != 0);
+        session.Panel.ChooseKey(static_cast<int>(key));
+        session.List.ShowRowDetails(1 + key % 2);
+        session.Boxes.Answers = {BoxAnswer::Yes};
+        ASSERT_TRUE(session.Panel.Assign());
+        ASSERT_EQ(session.Tables.ListView1.Row(1 + key % 2).CurrentKeys, shown);
+        ASSERT_EQ(SaveShortcuts(session.Tables, session.Notation, {IniPath, false}, session.Disk,
+                                session.Time, session.Surroundings),
+                  FileError::None);
+        Session next;
+        next.Notation = session.Notation;
+        next.Disk.Contents = session.Disk.Contents;
+        next.Open("cm_A=1;a\r\ncm_B=2;b\r\n");
+        ASSERT_EQ(next.Tables.ListView1.Row(1 + key % 2).CurrentKeys, shown);
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tessera

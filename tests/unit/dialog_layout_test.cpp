@@ -1,0 +1,83 @@
+// The grid on which dialogs are laid out.
+#include <gtest/gtest.h>
+
+#include "localisation/DialogLayout.h"
+
+namespace tessera {
+namespace {
+
+constexpr DialogMetrics Metrics{.Dpi = 96, .TextHeight = 13};
+
+TEST(DialogLayout, RowsAreStackedAndWideEnoughForTheirTexts) {
+  constexpr MeasuredControl Controls[] = {{ControlKind::CheckBox, 0, 100},
+                                          {ControlKind::CheckBox, 0, 400}};
+  const PagesLayout layout = LayOutPages(Controls, Metrics, 200);
+  EXPECT_EQ(layout.Controls[0], (Area{0, 0, 124, 17}));
+  EXPECT_EQ(layout.Controls[1], (Area{0, 24, 424, 17}));
+  EXPECT_EQ(layout.Width, 446);
+  EXPECT_EQ(layout.Height, 41);
+}
+
+TEST(DialogLayout, FrameEnclosesWhatFollowsIt) {
+  constexpr MeasuredControl Controls[] = {{ControlKind::Frame, 0, 50},
+                                          {ControlKind::CheckBox, 0, 100},
+                                          {ControlKind::Frame, 0, 50},
+                                          {ControlKind::Button, 0, 60}};
+  const PagesLayout layout = LayOutPages(Controls, Metrics, 300);
+  const Area& frame = layout.Controls[0];
+  const Area& box = layout.Controls[1];
+  EXPECT_EQ(frame.Width, 300);
+  EXPECT_GT(box.Left, frame.Left);
+  EXPECT_GE(box.Top, frame.Top + Metrics.TextHeight);
+  EXPECT_LT(box.Top + box.Height, frame.Top + frame.Height);
+  EXPECT_GT(layout.Controls[2].Top, frame.Top + frame.Height);
+  EXPECT_EQ(layout.Height, layout.Controls[2].Top + layout.Controls[2].Height);
+}
+
+TEST(DialogLayout, SwatchesAreAlignedBesideTheirLabels) {
+  constexpr MeasuredControl Controls[] = {{ControlKind::Label, 0, 40},
+                                          {ControlKind::Swatch, 0, 0},
+                                          {ControlKind::Label, 0, 90},
+                                          {ControlKind::Swatch, 0, 0}};
+  const PagesLayout layout = LayOutPages(Controls, Metrics, 0);
+  EXPECT_EQ(layout.Controls[1].Left, layout.Controls[3].Left);
+  EXPECT_GE(layout.Controls[1].Left, 90);
+  EXPECT_EQ(layout.Controls[3].Top, layout.Controls[1].Top + layout.Controls[1].Height + 7);
+}
+
+TEST(DialogLayout, TextBoxLeavesRoomForItsButton) {
+  constexpr MeasuredControl Controls[] = {{ControlKind::TextBox, 0, 0},
+                                          {ControlKind::SideButton, 0, 9}};
+  const PagesLayout layout = LayOutPages(Controls, Metrics, 400);
+  const Area& text = layout.Controls[0];
+  const Area& button = layout.Controls[1];
+  EXPECT_EQ(text, (Area{0, 1, 363, 20}));
+  EXPECT_EQ(button, (Area{370, 0, 30, 23}));
+}
+
+TEST(DialogLayout, PagesHaveTheSameSize) {
+  constexpr MeasuredControl Controls[] = {{ControlKind::CheckBox, 0, 500},
+                                          {ControlKind::CheckBox, 1, 10},
+                                          {ControlKind::CheckBox, 1, 10}};
+  const PagesLayout layout = LayOutPages(Controls, Metrics, 0);
+  EXPECT_EQ(layout.Controls[1].Top, 0);
+  EXPECT_EQ(layout.Height, 41);
+  EXPECT_GE(layout.Width, 500);
+}
+
+TEST(DialogLayout, ButtonsEndAtTheRight) {
+  constexpr int TextWidths[] = {20, 100};
+  const std::vector<Area> buttons = LayOutButtons(TextWidths, Metrics, 300, 50);
+  EXPECT_EQ(buttons[0], (Area{94, 50, 75, 23}));
+  EXPECT_EQ(buttons[1], (Area{176, 50, 124, 23}));
+}
+
+TEST(DialogLayout, GrowsWithTheResolution) {
+  constexpr DialogMetrics Double{.Dpi = 192, .TextHeight = 26};
+  EXPECT_EQ(DialogMargin(Double), 2 * DialogMargin(Metrics));
+  EXPECT_EQ(DialogGap(Double), 2 * DialogGap(Metrics));
+  EXPECT_EQ(ButtonSize(40, Double).Height, 2 * ButtonSize(20, Metrics).Height);
+}
+
+}  // namespace
+}  // namespace tessera

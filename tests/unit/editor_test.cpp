@@ -1,0 +1,426 @@
+#include "tests/unit/editor_fixture.h"
+
+namespace tessera {
+namespace {
+
+// -- Opening
+
+TEST_F(EditorTest, TheFirstActivationShowsEveryRowInFileOrder) {
+  Start();
+  ASSERT_EQ(editor_.Rows().Count(), 5U);
+  EXPECT_EQ(editor_.Rows().At(Heading).Description, L"[___File___]");
+  EXPECT_EQ(editor_.Rows().At(Copy).CommandName, L"cm_Copy");
+  EXPECT_EQ(editor_.Rows().At(Copy).DefaultKeys, L"F5");
+  EXPECT_EQ(editor_.Rows().At(Copy).CurrentKeys, L"F3");
+  EXPECT_EQ(editor_.Rows().At(View).DefaultKeys, L"F3 *");
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"---");
+  EXPECT_EQ(editor_.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
+  EXPECT_EQ(editor_.List().SelectedRow(), 1U);
+  EXPECT_FALSE(editor_.Modified());
+  EXPECT_TRUE(boxes_.Shown.empty());
+}
+
+TEST_F(EditorTest, ASecondActivationDoesNothing) {
+  Start();
+  const int reads = files_.Reads;
+  editor_.Activate();
+  EXPECT_EQ(files_.Reads, reads);
+}
+
+TEST_F(EditorTest, AnOpenReadsEachInputFileOnce) {
+  editor_.Load();
+  files_.Reads = 0;
+  editor_.Activate();
+  EXPECT_EQ(files_.Reads, 4) << "Wincmd.ini, Totalcmd.inc, the default keys, and, for the recent "
+                                "files, the settings";
+}
+
+TEST_F(EditorTest, ASaveReadsAndWritesItsFileOnce) {
+  Start();
+  Assign(Pack, L"X");
+  files_.Reads = files_.Writes = files_.Replaces = 0;
+  editor_.FileSave();
+  EXPECT_EQ(files_.Reads, 1);
+  EXPECT_EQ(files_.Writes, 1);
+  EXPECT_EQ(files_.Replaces, 1);
+}
+
+TEST_F(EditorTest, TheProgressBarIsShownWhileALoadRuns) {
+  Start();
+  ASSERT_GE(progressShown_.size(), 2U);
+  EXPECT_TRUE(progressShown_.front());
+  EXPECT_FALSE(progressShown_.back());
+}
+
+TEST_F(EditorTest, ASecondOpenAppendsItsKeysToThoseOfTheFirst) {
+  files_.Contents[otherIniPath] = "[Shortcuts]\r\nA+V=cm_View\r\n";
+  Start();
+  editor_.OpenShortcutFile(false, otherIniPath, false);
+  EXPECT_EQ(editor_.Rows().At(View).CurrentKeys, L"Ctrl + F3 = Alt + V");
+  EXPECT_EQ(editor_.Caption(), L"C:\\TC\\Other.ini - Tessera");
+}
+
+TEST_F(EditorTest, ASecondOpenWithUnsavedChangesAsksFirst) {
+  files_.Contents[otherIniPath] = "[Shortcuts]\r\n";
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::Cancel};
+  editor_.OpenShortcutFile(false, otherIniPath, false);
+  ASSERT_EQ(boxes_.Shown.size(), 1U);
+  EXPECT_EQ(boxes_.Shown[0].Text, L"Save changes to  C:\\TC\\Wincmd.ini\n");
+  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::YesNoCancel);
+  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"X");
+  EXPECT_TRUE(editor_.Modified());
+
+  boxes_.Answers = {BoxAnswer::No};
+  editor_.OpenShortcutFile(false, otherIniPath, false);
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"---");
+  EXPECT_FALSE(editor_.Modified());
+  EXPECT_EQ(Ini(), iniContent);
+}
+
+TEST_F(EditorTest, ASecondOpenForgetsWhichKeysWereEdited) {
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::No};
+  editor_.OpenShortcutFile(false, iniPath, false);
+  boxes_.Shown.clear();
+  Assign(Copy, L"X");
+  EXPECT_TRUE(boxes_.Shown.empty()) << "the key is free again";
+}
+
+TEST_F(EditorTest, YesSavesBeforeASecondOpen) {
+  files_.Contents[otherIniPath] = "[Shortcuts]\r\n";
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::Yes};
+  editor_.OpenFile(otherIniPath);
+  EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
+  EXPECT_EQ(editor_.Caption(), L"C:\\TC\\Other.ini - Tessera");
+}
+
+TEST_F(EditorTest, ItDoesNotOpenOverASaveThatFailed) {
+  files_.Contents[otherIniPath] = "[Shortcuts]\r\n";
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::Yes};
+  files_.ReplaceErrors.assign(100, FileError::AccessDenied);
+  editor_.OpenFile(otherIniPath);
+  EXPECT_EQ(editor_.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"X");
+  EXPECT_TRUE(editor_.Modified());
+  EXPECT_EQ(boxes_.BeepCount, 1);
+}
+
+TEST_F(EditorTest, ASecondOpenForgetsTheEditedKeysInTheIndexes) {
+  files_.Contents[otherIniPath] = "[Shortcuts]\r\n";
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::No};
+  editor_.OpenFile(otherIniPath);
+  boxes_.Shown.clear();
+  Assign(Copy, L"X");
+  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_EQ(editor_.Rows().At(Copy).CurrentKeys, L"X");
+}
+
+TEST_F(EditorTest, TheDefaultKeysAreLookedUpAgainAtEveryOpen) {
+  Start();
+  files_.Contents[dataPath] = "[TC Default Hotkeys]\r\n103=F8\r\n";
+  editor_.OpenFile(iniPath);
+  EXPECT_EQ(editor_.Rows().At(Copy).DefaultKeys, L"---");
+  EXPECT_EQ(editor_.Rows().At(Pack).DefaultKeys, L"F8");
+}
+
+TEST_F(EditorTest, FileOpenTakesTheChosenFile) {
+  files_.Contents[otherIniPath] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  Start();
+  dialogs_.OpenAnswers = {otherIniPath};
+  editor_.FileOpen();
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"Alt + V");
+  EXPECT_EQ(dialogs_.OpenRequests[0].Filter, L"Wincmd.ini (*.ini)|*.ini|All Files (*.*)|*.*");
+}
+
+TEST_F(EditorTest, ACancelledFileOpenChangesNothing) {
+  Start();
+  editor_.FileOpen();
+  EXPECT_EQ(editor_.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
+  EXPECT_EQ(editor_.Rows().Count(), 5U);
+}
+
+// -- What is missing
+
+TEST_F(EditorTest, WithoutTotalcmdIncTheUserIsToldAndAsked) {
+  files_.Contents.erase(incPath);
+  files_.Contents[L"D:\\TC\\Totalcmd.inc"] = incContent;
+  dialogs_.OpenAnswers = {L"D:\\TC\\Totalcmd.inc"};
+  Start();
+  ASSERT_EQ(boxes_.Shown.size(), 1U);
+  EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find your Totalcmd.inc file !");
+  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Information);
+  EXPECT_EQ(dialogs_.OpenRequests[0].FileName, L"Totalcmd.inc");
+  EXPECT_EQ(editor_.Rows().Count(), 5U);
+}
+
+TEST_F(EditorTest, ACancelledSearchForTotalcmdIncLeavesAnEmptyListAndAWorkingProgram) {
+  files_.Contents.erase(incPath);
+  Start();
+  EXPECT_EQ(editor_.Rows().Count(), 0U);
+  EXPECT_FALSE(editor_.Panel().InputsEnabled());
+  editor_.SelectRow(0);
+  editor_.ToggleSortedList();
+  editor_.ToggleSortedList();
+  editor_.ClickColumn(2);
+  Choose(L"X");
+  editor_.AssignKey();
+  editor_.DeleteKeys();
+  EXPECT_FALSE(editor_.Modified());
+  EXPECT_TRUE(editor_.QueryUnload());
+}
+
+TEST_F(EditorTest, TheChosenWincmdIniIsRemembered) {
+  files_.Contents.erase(iniPath);
+  files_.Contents[otherIniPath] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  dialogs_.OpenAnswers = {otherIniPath};
+  Start();
+  ASSERT_EQ(boxes_.Shown.size(), 1U);
+  EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find Total Commander settings file [Wincmd.ini]");
+  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"Alt + V");
+  EXPECT_NE(SettingsFile().find("UserDefinedWincmd=C:\\TC\\Other.ini\r\n"), std::string::npos);
+}
+
+TEST_F(EditorTest, ACancelledSearchForWincmdIniLeavesAnEmptyListAndAWorkingProgram) {
+  files_.Contents.erase(iniPath);
+  Start();
+  EXPECT_EQ(editor_.Rows().Count(), 0U);
+  EXPECT_EQ(editor_.Caption(), L"Tessera");
+  EXPECT_EQ(SettingsFile().find("UserDefinedWincmd"), std::string::npos);
+  files_.Contents[otherIniPath] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  editor_.OpenShortcutFile(false, otherIniPath, false);
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"Alt + V");
+}
+
+TEST_F(EditorTest, WithoutTheDataFileTheUserIsToldAndTheChosenOneIsStored) {
+  files_.Contents.erase(dataPath);
+  files_.Contents[L"D:\\keys.hky"] = dataContent;
+  dialogs_.OpenAnswers = {L"D:\\keys.hky"};
+  Start();
+  ASSERT_EQ(boxes_.Shown.size(), 1U);
+  EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find data file! Please open one to continue");
+  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Critical);
+  EXPECT_EQ(dialogs_.OpenRequests[0].FileName, L"tc default hotkeys.hky");
+  EXPECT_EQ(dialogs_.OpenRequests[0].Folder, L"C:\\Tessera\\Data Files");
+  EXPECT_EQ(editor_.Rows().At(Copy).DefaultKeys, L"F5");
+  EXPECT_NE(SettingsFile().find("DefaultHotKeysDataFile=D:\\keys.hky\r\n"), std::string::npos);
+}
+
+TEST_F(EditorTest, WithoutAnyDataFileNoCommandHasDefaultKeys) {
+  files_.Contents.erase(dataPath);
+  Start();
+  EXPECT_EQ(editor_.Rows().At(Copy).DefaultKeys, L"---");
+  EXPECT_EQ(editor_.Rows().At(Copy).CurrentKeys, L"F3");
+}
+
+TEST_F(EditorTest, AMissingLanguageFileIsReportedAndTheBuiltInTextsAreUsed) {
+  SettingsFile() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\no.lng\r\n";
+  Start();
+  ASSERT_EQ(boxes_.Shown.size(), 1U);
+  EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find language file!");
+  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Critical);
+  EXPECT_EQ(editor_.Language().GetLangText(104), L"&Save");
+}
+
+TEST_F(EditorTest, KeysAreShownWithTheModifierNamesOfTheLanguage) {
+  SettingsFile() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
+  files_.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n405=\" \"\r\n";
+  Start();
+  EXPECT_EQ(editor_.Rows().At(View).CurrentKeys, L"Strg + F3");
+  editor_.SetBox(1, true);
+  Assign(Pack, L"X");
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"Alt + X") << "a blank name is no name";
+  editor_.FileSave();
+  EXPECT_NE(Ini().find("[Shortcuts]\r\nF3=cm_Copy\r\nC+F3=cm_View\r\nA+X=cm_Pack\r\n"),
+            std::string::npos);
+}
+
+// -- Saving
+
+TEST_F(EditorTest, ASaveChangesSectionShortcutsAlone) {
+  Start();
+  Assign(Pack, L"X");
+  editor_.FileSave();
+  EXPECT_EQ(Ini(),
+            "[Configuration]\r\nkey=value\r\n"
+            "[Shortcuts]\r\nF3=cm_Copy\r\nC+F3=cm_View\r\nX=cm_Pack\r\n"
+            "[user]\r\nmenu1=Paint\r\nkey1=1\r\n"
+            "[Colors]\r\nred=1\r\n");
+  EXPECT_EQ(files_.Contents[iniPath + L".bak"], iniContent);
+}
+
+TEST_F(EditorTest, ASaveReleasesAStartMenuKeyThatWasTaken) {
+  Start();
+  editor_.SetBox(0, true);
+  editor_.SetBox(1, true);
+  boxes_.Answers = {BoxAnswer::Yes};
+  Assign(Pack, L"F1");
+  editor_.FileSave();
+  EXPECT_NE(Ini().find("[user]\r\nmenu1=Paint\r\n[Colors]"), std::string::npos);
+  EXPECT_NE(Ini().find("CA+F1=cm_Pack\r\n"), std::string::npos);
+}
+
+TEST_F(EditorTest, SavingWithoutChangesTouchesNothing) {
+  Start();
+  files_.Reads = files_.Writes = 0;
+  editor_.FileSave();
+  editor_.FileSaveAndRestart();
+  EXPECT_EQ(files_.Reads, 0);
+  EXPECT_EQ(files_.Writes, 0);
+  EXPECT_TRUE(log_.empty());
+}
+
+TEST_F(EditorTest, ASaveThatFailsKeepsTheChangesUnsaved) {
+  Start();
+  Assign(Pack, L"X");
+  files_.ReplaceErrors.assign(100, FileError::AccessDenied);
+  editor_.FileSave();
+  EXPECT_TRUE(editor_.Modified());
+  EXPECT_EQ(Ini(), iniContent);
+  EXPECT_NE(files_.Contents[iniPath + L".unsaved"].find("X=cm_Pack"), std::string::npos);
+}
+
+TEST_F(EditorTest, WithoutTheSettingASaveNeverTouchesTotalCommander) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Assign(Pack, L"X");
+  editor_.FileSave();
+  EXPECT_TRUE(log_.empty());
+}
+
+TEST_F(EditorTest, SaveAndRestartClosesWritesAndStarts) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Assign(Pack, L"X");
+  files_.Writes = 0;
+  clock_.OnDoEvents = [this] {
+    const std::wstring pause = files_.Writes == 0 ? L"pause before the write" : L"pause after it";
+    if (log_.back() != pause) {
+      log_.push_back(pause);
+    }
+  };
+  editor_.FileSaveAndRestart();
+  EXPECT_EQ(log_,
+            (Log{L"SetForeground 7", L"SendClose 7", L"pause before the write", L"SetForeground 7",
+                 L"pause after it", L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""}));
+  EXPECT_FALSE(editor_.Modified());
+  EXPECT_EQ(editor_.Options().AlwaysRestartTC, 0);
+}
+
+TEST_F(EditorTest, NothingIsDoneTwiceWhileASavePauses) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Assign(Pack, L"X");
+  clock_.OnDoEvents = [this] {
+    EXPECT_TRUE(editor_.Busy());
+    editor_.FileSave();
+    editor_.DeleteKeys();
+    editor_.ToggleSortedList();
+    EXPECT_FALSE(editor_.QueryUnload());
+  };
+  editor_.FileSaveAndRestart();
+  clock_.OnDoEvents = nullptr;
+  EXPECT_FALSE(editor_.Busy());
+  EXPECT_EQ(std::count(log_.begin(), log_.end(), L"SendClose 7"), 1);
+  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"X");
+}
+
+TEST_F(EditorTest, SaveAndRestartIsEnabledOnlyWhileTotalCommanderRunsAndChangesWait) {
+  Start();
+  Assign(Pack, L"X");
+  editor_.RefreshRestartItems();
+  EXPECT_FALSE(editor_.SaveAndRestartEnabled());
+  EXPECT_FALSE(editor_.RestartButtonEnabled());
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  editor_.RefreshRestartItems();
+  EXPECT_TRUE(editor_.SaveAndRestartEnabled());
+  EXPECT_TRUE(editor_.RestartButtonEnabled());
+  editor_.FileSave();
+  editor_.RefreshRestartItems();
+  EXPECT_FALSE(editor_.SaveAndRestartEnabled());
+  EXPECT_TRUE(editor_.RestartButtonEnabled());
+}
+
+// -- Closing
+
+TEST_F(EditorTest, WithoutChangesItClosesWithoutAQuestion) {
+  Start();
+  EXPECT_TRUE(editor_.QueryUnload());
+  EXPECT_TRUE(boxes_.Shown.empty());
+}
+
+TEST_F(EditorTest, CancelKeepsTheProgramRunningWithItsEdits) {
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::Cancel};
+  EXPECT_FALSE(editor_.QueryUnload());
+  EXPECT_TRUE(editor_.Modified());
+  EXPECT_EQ(Ini(), iniContent);
+}
+
+TEST_F(EditorTest, NoClosesWithoutSaving) {
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::No};
+  EXPECT_TRUE(editor_.QueryUnload());
+  EXPECT_EQ(Ini(), iniContent);
+}
+
+TEST_F(EditorTest, YesSavesAndCloses) {
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::Yes};
+  EXPECT_TRUE(editor_.QueryUnload());
+  EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
+}
+
+TEST_F(EditorTest, ItDoesNotCloseOverASaveThatFailed) {
+  Start();
+  Assign(Pack, L"X");
+  boxes_.Answers = {BoxAnswer::Yes};
+  files_.ReplaceErrors.assign(100, FileError::AccessDenied);
+  EXPECT_FALSE(editor_.QueryUnload());
+  EXPECT_EQ(boxes_.BeepCount, 1);
+}
+
+TEST_F(EditorTest, UnloadStoresWindowColumnsAndSort) {
+  Start();
+  editor_.ToggleSortedList();
+  editor_.Unload({.Left = 100, .Top = 200, .Width = 9000, .Height = 8000},
+                 {{2, 1, 4, 3}, {100, 200, 300, 400}});
+  for (const char* line :
+       {"MainWindowLeft=100", "MainWindowTop=200", "MainWindowWidth=9000", "MainWindowHeight=8000",
+        "MainWindowMaxmized=0", "ColumnHeadersPosition=2,1,4,3",
+        "ColumnHeadersSize=100,200,300,400", "SortedList=1"}) {
+    EXPECT_NE(SettingsFile().find(std::string(line) + "\r\n"), std::string::npos) << line;
+  }
+}
+
+TEST_F(EditorTest, AMinimisedWindowKeepsItsStoredPlace) {
+  SettingsFile() = "[Tessera]\r\nMainWindowLeft=77\r\nMainWindowWidth=9000\r\n";
+  Start();
+  editor_.Unload({.Minimised = true, .Left = -32000, .Width = 10}, {});
+  EXPECT_NE(SettingsFile().find("MainWindowLeft=77\r\n"), std::string::npos);
+  EXPECT_NE(SettingsFile().find("MainWindowWidth=9000\r\n"), std::string::npos);
+}
+
+TEST_F(EditorTest, AMaximisedWindowStoresThatAlone) {
+  SettingsFile() = "[Tessera]\r\nMainWindowLeft=77\r\nMainWindowWidth=9000\r\n";
+  Start();
+  editor_.Unload({.Maximised = true, .Left = -8, .Width = 20000}, {});
+  EXPECT_NE(SettingsFile().find("MainWindowLeft=77\r\n"), std::string::npos);
+  EXPECT_NE(SettingsFile().find("MainWindowMaxmized=1\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tessera

@@ -1,0 +1,130 @@
+// Files in memory that fail, or end the program, where a test says so.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <string>
+
+#include "platform/Files.h"
+#include "tests/unit/fakes/Log.h"
+
+namespace tessera {
+
+/// Thrown in place of the end of the program.
+struct Killed {};
+
+class FaultyFiles final : public Files {
+ public:
+  std::map<std::wstring, std::string> Contents;
+  std::map<std::wstring, std::wstring> Links;  ///< a link's path to what it leads to
+  Log Calls;                                   ///< the changes asked for, as "Write C:\a"
+
+  // Results of the next calls of each operation; None lets a call through, as an empty script does.
+  mutable std::deque<FileError> ReadErrors;
+  std::deque<FileError> WriteErrors, ReplaceErrors, MoveErrors, RemoveErrors;
+
+  // The fault of one call, counted over all operations from 0: that call alone, every later call of
+  // its operation too, or every later call. It does not hit Resolve, which gives no error.
+  enum class FaultLasts { Once, ForItsOperation, ForGood };
+  int FaultAtCall = -1;  ///< negative: none
+  FileError Fault = FileError::None;
+  FaultLasts FaultStays = FaultLasts::Once;
+  mutable int CallCount = 0;
+
+  int StepsUntilKilled = -1;  ///< elementary changes before Killed is thrown; negative: never
+
+  [[nodiscard]] bool Exists(const std::wstring& path) const override {
+    return Next(noErrors_, Operation::Exists) == FileError::None &&
+           Contents.contains(Resolve(path));
+  }
+
+  [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override {
+    bytes.clear();
+    if (const FileError error = Next(ReadErrors, Operation::Read); error != FileError::None)
+      return error;
+    const auto found = Contents.find(Resolve(path));
+    if (found == Contents.end()) return FileError::NotFound;
+    bytes = found->second;
+    return FileError::None;
+  }
+
+  [[nodiscard]] std::wstring Resolve(const std::wstring& path) const override {
+    const auto found = Links.find(path);
+    return found == Links.end() ? path : found->second;
+  }
+
+  [[nodiscard]] FileError Write(const std::wstring& path, std::string_view bytes) override {
+    Calls.push_back(L"Write " + path);
+    const FileError error = Next(WriteErrors, Operation::Write);
+    const bool isPartWritten = error == FileError::DiskFull || error == FileError::Other;
+    if (error != FileError::None && !isPartWritten) return error;
+    Step();
+    Contents[path] = bytes.substr(0, bytes.size() / 2);
+    if (isPartWritten) return error;
+    Step();
+    Contents[path] = bytes;
+    return FileError::None;
+  }
+
+  [[nodiscard]] FileError Replace(const std::wstring& target, const std::wstring& replacement,
+                                  const std::wstring& backup) override {
+    Calls.push_back(L"Replace " + target);
+    const FileError error = Next(ReplaceErrors, Operation::Replace);
+    if (error != FileError::None && error != FileError::UnableToMoveReplacement2) return error;
+    if (!Contents.contains(target) || !Contents.contains(replacement)) return FileError::NotFound;
+    Rename(target, backup);
+    if (error != FileError::None) return error;
+    Rename(replacement, target);
+    return FileError::None;
+  }
+
+  [[nodiscard]] FileError Move(const std::wstring& from, const std::wstring& to) override {
+    Calls.push_back(L"Move " + from + L" " + to);
+    if (const FileError error = Next(MoveErrors, Operation::Move); error != FileError::None)
+      return error;
+    if (!Contents.contains(from)) return FileError::NotFound;
+    Rename(from, to);
+    return FileError::None;
+  }
+
+  FileError Remove(const std::wstring& path) override {
+    Calls.push_back(L"Remove " + path);
+    if (const FileError error = Next(RemoveErrors, Operation::Remove); error != FileError::None)
+      return error;
+    Step();
+    return Contents.erase(path) != 0 ? FileError::None : FileError::NotFound;
+  }
+
+ private:
+  enum class Operation { Exists, Read, Write, Replace, Move, Remove };
+
+  FileError Next(std::deque<FileError>& errors, Operation operation) const {
+    const int call = CallCount++;
+    if (call == FaultAtCall) faultyOperation_ = operation;
+    const bool isHit =
+        call == FaultAtCall ||
+        (FaultAtCall >= 0 && call > FaultAtCall &&
+         (FaultStays == FaultLasts::ForGood ||
+          (FaultStays == FaultLasts::ForItsOperation && operation == faultyOperation_)));
+    if (isHit) return Fault;
+    if (errors.empty()) return FileError::None;
+    const FileError error = errors.front();
+    errors.pop_front();
+    return error;
+  }
+
+  void Step() {
+    if (StepsUntilKilled == 0) throw Killed{};
+    if (StepsUntilKilled > 0) --StepsUntilKilled;
+  }
+
+  void Rename(const std::wstring& from, const std::wstring& to) {
+    Step();
+    Contents[to] = Contents.extract(from).mapped();
+  }
+
+  mutable std::deque<FileError> noErrors_;
+  mutable Operation faultyOperation_ = Operation::Exists;
+};
+
+}  // namespace tessera

@@ -1,0 +1,112 @@
+// Closing and starting Total Commander: what is done to it, and in what order.
+#include <gtest/gtest.h>
+
+#include "settings/RestartTotalCommander.h"
+#include "tests/unit/fakes/FakeClock.h"
+#include "tests/unit/fakes/FakeEnvironment.h"
+#include "tests/unit/fakes/FakePrograms.h"
+#include "tests/unit/fakes/FaultyFiles.h"
+
+namespace tessera {
+namespace {
+
+class RestartTotalCommanderTest : public testing::Test {
+ protected:
+  RestartTotalCommanderTest() { environment_.Variables[L"Commander_Path"] = L"C:\\TC"; }
+
+  void Run(bool closeIt) {
+    RestartRequest request;
+    request.WincmdPath = L"C:\\My Files\\Wincmd.ini";
+    request.CloseIt = closeIt;
+    Run(request);
+  }
+  void Run(const RestartRequest& request) {
+    RestartTotalCommander(programs_, clock_, files_, environment_, request);
+  }
+
+  Log log_;
+  FakePrograms programs_{log_};
+  FakeClock clock_{log_};
+  FaultyFiles files_;
+  FakeEnvironment environment_;
+};
+
+TEST_F(RestartTotalCommanderTest, CloseSendsOneRequestThenPauses) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Run(true);
+  EXPECT_EQ(log_, (Log{L"SetForeground 7", L"SendClose 7", L"DoEvents"}));
+}
+
+TEST_F(RestartTotalCommanderTest, CloseOnlyPausesWhenItIsNotRunning) {
+  Run(true);
+  EXPECT_EQ(log_, Log{L"DoEvents"});
+}
+
+TEST_F(RestartTotalCommanderTest, StartPausesThenStartsWithTheQuotedPath) {
+  Run(false);
+  EXPECT_EQ(log_,
+            (Log{L"DoEvents", L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\My Files\\Wincmd.ini\""}));
+}
+
+TEST_F(RestartTotalCommanderTest, StartBringsARunningOneToTheForeground) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Run(false);
+  EXPECT_EQ(log_.front(), L"SetForeground 7");
+  EXPECT_EQ(log_.size(), 3U);
+}
+
+TEST_F(RestartTotalCommanderTest, StartWithoutIniPassesNoArguments) {
+  RestartRequest request;
+  request.WithIni = false;
+  Run(request);
+  EXPECT_EQ(log_.back(), L"Start C:\\TC\\Totalcmd.exe");
+}
+
+TEST_F(RestartTotalCommanderTest, UnsetCommanderPathMeansTheRootOfTheDrive) {
+  environment_.Variables.clear();
+  files_.Contents = {{L"C:\\Tessera\\vantor.ini", "[Common]\r\nTCInstallDir=C:\\TC\r\n"}};
+  Run(false);
+  EXPECT_EQ(log_.back(), L"Start \\Totalcmd.exe /i=\"C:\\My Files\\Wincmd.ini\"");
+}
+
+TEST_F(RestartTotalCommanderTest, ReferencesInCommanderPathAreExpanded) {
+  environment_.Variables = {{L"Commander_Path", L"%drive%\\TC\\"}, {L"drive", L"D:"}};
+  Run(false);
+  EXPECT_EQ(log_.back(), L"Start D:\\TC\\Totalcmd.exe /i=\"C:\\My Files\\Wincmd.ini\"");
+}
+
+TEST_F(RestartTotalCommanderTest, The64BitProgramStartsOnlyWhenItIsAlone) {
+  files_.Contents = {{L"C:\\TC\\Totalcmd64.exe", ""}};
+  Run(false);
+  EXPECT_EQ(log_.back(), L"Start C:\\TC\\Totalcmd64.exe /i=\"C:\\My Files\\Wincmd.ini\"");
+
+  files_.Contents[L"C:\\TC\\Totalcmd.exe"] = "";
+  Run(false);
+  EXPECT_EQ(log_.back(), L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\My Files\\Wincmd.ini\"");
+}
+
+TEST_F(RestartTotalCommanderTest, FailedStartIsIgnored) {
+  programs_.StartSucceeds = false;
+  EXPECT_NO_THROW(Run(false));
+  EXPECT_EQ(log_.size(), 2U);
+}
+
+TEST(FindTotalCommander, LooksForItsWindowClass) {
+  Log log;
+  FakePrograms programs(log);
+  programs.Windows[L"OTHER"] = 5;
+  EXPECT_EQ(FindTotalCommander(programs), 0U);
+  programs.Windows[L"TTOTAL_CMD"] = 9;
+  EXPECT_EQ(FindTotalCommander(programs), 9U);
+}
+
+TEST(Pause, LastsHalfASecondWhileEventsAreHandled) {
+  FakeClock clock;
+  Pause(clock);
+  EXPECT_GE(clock.Seconds, 36000.5F);
+  EXPECT_LT(clock.Seconds, 36000.6F);
+  EXPECT_GT(clock.DoEventsCount, 50);
+}
+
+}  // namespace
+}  // namespace tessera

@@ -1,0 +1,391 @@
+// Saving while every single file operation fails in every way: the old content or the new one is in
+// place, the other one beside it where that was promised, and what is not saved stays unsaved.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "tests/unit/editor_world.h"
+#include "tests/unit/fakes/FaultyFiles.h"
+#include "tests/unit/fakes/MemoryFiles.h"
+
+namespace tessera {
+namespace {
+
+using world::IniFile;
+using World = world::EditorWorld<FaultyFiles>;
+using Lasts = FaultyFiles::FaultLasts;
+using FileTable = std::map<std::wstring, std::string>;
+
+constexpr FileError Faults[] = {FileError::AccessDenied,
+                                FileError::SharingViolation,
+                                FileError::LockViolation,
+                                FileError::DiskFull,
+                                FileError::Other,  // of a write: only a part was written
+                                FileError::UnableToRemoveReplaced,
+                                FileError::UnableToMoveReplacement,
+                                FileError::UnableToMoveReplacement2};
+
+const std::wstring OtherFile = L"C:\\TC\\keys.ini";
+constexpr std::size_t Pack = 4;
+
+/// One way of saving: the files that it writes, and how.
+struct Scenario {
+  const char* Name;
+  std::vector<std::wstring> Written;
+  bool KeepsCopies;
+  std::function<void(World&)> Prepare;  ///< from the start of the program to the save
+  std::function<void(World&)> Save;
+};
+
+constexpr const char* Content =
+    "[Configuration]\nkey = value ; kept\r\n\n[Shortcuts]\r\nC+F3=cm_View\r\nF3=cm_Copy\r\n"
+    "[user]\r\nmenu1=Paint\r\nkey1=1\r\n;end";
+
+void TakeKeys(World& world) {
+  world.Start();
+  world.Boxes.Answers = {BoxAnswer::Yes};
+  world.Assign(Pack, 3, L"F1");  // of the Start Menu
+}
+
+std::vector<Scenario> Scenarios() {
+  const auto save = [](World& world) { world.Program.FileSave(); };
+  return {
+      {"Wincmd.ini",
+       {IniFile},
+       true,
+       [](World& world) {
+         world.Disk.Contents[IniFile] = Content;
+         TakeKeys(world);
+       },
+       save},
+      {"both sections in two files",
+       {IniFile, OtherFile},
+       true,
+       [](World& world) {
+         world.Disk.Contents[IniFile] =
+             "[Shortcuts]\r\nRedirectSection=keys.ini\r\n[user]\r\nmenu1=Paint\r\nkey1=1\r\n";
+         world.Disk.Contents[OtherFile] = "[a]\nb\n[Shortcuts]\nF3=cm_Copy\nF8=cm_View\n[c]\nd=e";
+         TakeKeys(world);
+       },
+       save},
+      {"vantor.ini",
+       {world::SettingsFile},
+       false,
+       [](World& world) {
+         world.Disk.Contents[IniFile] = Content;
+         world.Disk.Contents[world::SettingsFile] =
+             "[Other]\nx=1\n[Tessera]\r\nFontSize=12\r\nMainWindowLeft=7";
+         world.Start();
+       },
+       [](World& world) { world.Program.Unload({.Left = 100, .Width = 9000}, {}); }},
+  };
+}
+
+/// A program that is about to save, with a backup from an earlier save.
+std::unique_ptr<World> Prepared(const Scenario& scenario) {
+  auto world = std::make_unique<World>();
+  scenario.Prepare(*world);
+  if (scenario.KeepsCopies) {
+    for (const std::wstring& path : scenario.Written)
+      world->Disk.Contents[path + L".bak"] = "older";
+  }
+  world->Disk.Calls.clear();
+  world->Disk.CallCount = 0;
+  return world;
+}
+
+/// The files before and after an undisturbed save.
+struct Contents {
+  FileTable Old, New;
+};
+
+Contents ContentsOf(const Scenario& scenario) {
+  Contents contents;
+  const auto world = Prepared(scenario);
+  contents.Old = world->Disk.Contents;
+  scenario.Save(*world);
+  contents.New = world->Disk.Contents;
+  for (const std::wstring& path : scenario.Written) {
+    EXPECT_NE(contents.Old.at(path), contents.New.at(path));
+  }
+  return contents;
+}
+
+bool Holds(const FaultyFiles& disk, const std::wstring& path, const std::string& content) {
+  const auto found = disk.Contents.find(path);
+  return found != disk.Contents.end() && found->second == content;
+}
+
+/// What must be true of one written file as long as the program runs.
+void CheckFile(const Scenario& scenario, const Contents& contents, const FaultyFiles& disk,
+               const std::wstring& path, bool modified) {
+  const std::string& before = contents.Old.at(path);
+  const std::string& after = contents.New.at(path);
+  const bool isNew = Holds(disk, path, after);
+  // Only where nothing can be renamed any more does the old content stay under another name.
+  const bool isAside = !disk.Contents.contains(path) && disk.FaultStays != Lasts::Once &&
+                       Holds(disk, path + L".tessera-old", before);
+  ASSERT_TRUE(isNew || isAside || Holds(disk, path, before)) << disk.Contents.contains(path);
+  if (!scenario.KeepsCopies) {
+    ASSERT_FALSE(disk.Contents.contains(path + L".bak"));
+    ASSERT_FALSE(disk.Contents.contains(path + L".unsaved"));
+    return;
+  }
+  if (isNew) {
+    ASSERT_TRUE(Holds(disk, path + L".bak", before) || Holds(disk, path + L".tessera-old", before))
+        << "which the next start makes the backup";
+  } else {
+    ASSERT_TRUE(modified) << "an error was dropped";
+    ASSERT_TRUE(Holds(disk, path + L".bak", "older"));
+  }
+}
+
+/// The files' state once the program has been started anew.
+void CheckRestart(const Scenario& scenario, const Contents& contents, const FaultyFiles& disk) {
+  World next;
+  next.Disk.Contents = disk.Contents;
+  next.Start();
+  for (const std::wstring& path : scenario.Written) {
+    const std::string& before = contents.Old.at(path);
+    const bool isNew = Holds(next.Disk, path, contents.New.at(path));
+    ASSERT_TRUE(isNew || Holds(next.Disk, path, before));
+    if (scenario.KeepsCopies) {
+      ASSERT_TRUE(Holds(next.Disk, path + L".bak", isNew ? before : "older"));
+    }
+    ASSERT_FALSE(next.Disk.Contents.contains(path + L".tessera-new"));
+    ASSERT_FALSE(next.Disk.Contents.contains(path + L".tessera-old"));
+  }
+}
+
+/// Saves with one fault. False when the save made too few calls to meet it.
+bool SaveWithFault(const Scenario& scenario, const Contents& contents, int call, FileError fault,
+                   Lasts lasts) {
+  const auto world = Prepared(scenario);
+  FaultyFiles& disk = world->Disk;
+  disk.FaultAtCall = call;
+  disk.Fault = fault;
+  disk.FaultStays = lasts;
+  scenario.Save(*world);
+  if (disk.CallCount <= call) return false;
+  const bool modified = world->Program.Modified();
+  for (const std::wstring& path : scenario.Written) {
+    CheckFile(scenario, contents, disk, path, modified);
+  }
+  EXPECT_LE(world->Time.SleptMilliseconds, 2000 * static_cast<int>(scenario.Written.size()));
+  CheckRestart(scenario, contents, disk);
+
+  // With the fault gone, the same program can still save.
+  disk.FaultAtCall = -1;
+  scenario.Save(*world);
+  for (const std::wstring& path : scenario.Written) {
+    EXPECT_TRUE(Holds(disk, path, contents.New.at(path)));
+    EXPECT_FALSE(modified && disk.Contents.contains(path + L".tessera-old"));
+  }
+  EXPECT_FALSE(world->Program.Modified());
+  return true;
+}
+
+TEST(SaveFaults, AnyFailingCallLeavesTheOldContentOrTheNewOne) {
+  for (const Scenario& scenario : Scenarios()) {
+    const Contents contents = ContentsOf(scenario);
+    for (const FileError fault : Faults) {
+      for (const Lasts lasts : {Lasts::Once, Lasts::ForItsOperation, Lasts::ForGood}) {
+        int call = 0;
+        for (;; ++call) {
+          SCOPED_TRACE(testing::Message()
+                       << scenario.Name << ", fault " << static_cast<int>(fault) << " lasting "
+                       << static_cast<int>(lasts) << " at call " << call);
+          if (!SaveWithFault(scenario, contents, call, fault, lasts)) break;
+          if (testing::Test::HasFailure()) return;
+        }
+        EXPECT_GE(call, 6) << scenario.Name;
+      }
+    }
+  }
+}
+
+/// Ends the program after so many elementary changes of a save; `fault` is met at call `call`.
+std::optional<FaultyFiles> Killed(const Scenario& scenario, int steps, int call, FileError fault) {
+  const auto world = Prepared(scenario);
+  world->Disk.StepsUntilKilled = steps;
+  world->Disk.FaultAtCall = call;
+  world->Disk.Fault = fault;
+  try {
+    scenario.Save(*world);
+    return std::nullopt;
+  } catch (const tessera::Killed&) {
+    world->Disk.StepsUntilKilled = -1;
+    world->Disk.FaultAtCall = -1;
+    return world->Disk;
+  }
+}
+
+TEST(SaveFaults, AnEndAtAnyMomentLeavesTheOldContentOrTheNewOne) {
+  for (const Scenario& scenario : Scenarios()) {
+    const Contents contents = ContentsOf(scenario);
+    for (const FileError fault :
+         {FileError::SharingViolation, FileError::UnableToMoveReplacement2}) {
+      for (int call = -1; call < 10; ++call) {
+        for (int steps = 0;; ++steps) {
+          SCOPED_TRACE(testing::Message() << scenario.Name << ", after " << steps
+                                          << " steps, with a fault at call " << call);
+          const auto disk = Killed(scenario, steps, call, fault);
+          if (!disk) break;
+          CheckRestart(scenario, contents, *disk);
+          if (testing::Test::HasFailure()) return;
+        }
+      }
+    }
+  }
+}
+
+TEST(SaveFaults, AReplaceThatFailsLeavesThePreparedContentAsUnsaved) {
+  for (const Scenario& scenario : Scenarios()) {
+    if (!scenario.KeepsCopies) continue;
+    const Contents contents = ContentsOf(scenario);
+    for (const FileError fault : Faults) {
+      const auto world = Prepared(scenario);
+      world->Disk.ReplaceErrors.assign(100, fault);
+      scenario.Save(*world);
+      const std::wstring& path = scenario.Written.front();
+      EXPECT_TRUE(Holds(world->Disk, path, contents.Old.at(path)));
+      EXPECT_TRUE(Holds(world->Disk, path + L".unsaved", contents.New.at(path)));
+      EXPECT_TRUE(world->Program.Modified());
+      world->Disk.ReplaceErrors.clear();
+      scenario.Save(*world);
+      EXPECT_TRUE(world->Disk.Contents == contents.New);
+    }
+  }
+}
+
+TEST(SaveFaults, AFileThatCouldNotBeReadAtTheOpenIsNotSaved) {
+  World world;
+  world.Disk.Contents[IniFile] = Content;
+  world.Program.Load();
+  world.Disk.ReadErrors.assign(8, FileError::SharingViolation);  // as often as it is tried
+  world.Program.Activate();
+  ASSERT_TRUE(world.Disk.ReadErrors.empty());
+  ASSERT_EQ(world.Program.Rows().Count(), 5U);
+  world.Assign(Pack, 0, L"X");
+  EXPECT_TRUE(world.Program.Modified());
+  world.Program.FileSave();
+  EXPECT_EQ(world.Disk.Contents[IniFile], Content);
+  EXPECT_TRUE(world.Program.Modified());
+  EXPECT_EQ(world.Boxes.BeepCount, 1);
+
+  world.Boxes.Answers = {BoxAnswer::No};
+  world.Program.OpenShortcutFile(false, IniFile, false);
+  world.Assign(Pack, 0, L"X");
+  world.Program.FileSave();
+  EXPECT_FALSE(world.Program.Modified());
+  EXPECT_NE(world.Disk.Contents[IniFile].find("C+F3=cm_View\r\n"), std::string::npos);
+}
+
+TEST(SaveFaults, AFileThatIsHeldForAMomentIsReadAllTheSame) {
+  World world;
+  world.Disk.Contents[IniFile] = Content;
+  world.Program.Load();
+  world.Disk.ReadErrors.assign(3, FileError::SharingViolation);
+  world.Program.Activate();
+  EXPECT_EQ(world.Program.Rows().At(1).CurrentKeys, L"F3");
+  world.Assign(Pack, 0, L"X");
+  world.Disk.ReadErrors.assign(3, FileError::LockViolation);
+  world.Program.FileSave();
+  EXPECT_FALSE(world.Program.Modified());
+}
+
+TEST(SaveFaults, SettingsThatCouldNotBeReadAreNotReplacedByDefaults) {
+  World world;
+  const std::string stored = "[Tessera]\r\nFontSize=20\r\n";
+  for (const FileError fault : Faults) {
+    world.Disk.Contents[world::SettingsFile] = stored;
+    world.Disk.ReadErrors.assign(100, fault);
+    world.Program.Load();
+    world.Disk.ReadErrors.clear();
+    world.Program.Unload({}, {});
+    EXPECT_EQ(world.Disk.Contents[world::SettingsFile], stored);
+  }
+}
+
+// -- Other programs
+
+/// Another program holds the file until the clock has moved on so far, and then may write it.
+class HeldFiles final : public MemoryFiles {
+ public:
+  const FakeClock* Time = nullptr;
+  int HeldFor = 0;                     ///< milliseconds of sleep
+  std::optional<std::string> Written;  ///< by the other program
+
+  [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override {
+    if (path == IniFile && IsHeld()) return FileError::SharingViolation;
+    const FileError error = MemoryFiles::Read(path, bytes);
+    if (Written && isSaving_ && path == IniFile) bytes = *Written;
+    return error;
+  }
+
+  [[nodiscard]] FileError Replace(const std::wstring& target, const std::wstring& replacement,
+                                  const std::wstring& backup) override {
+    if (target == IniFile && IsHeld()) return FileError::SharingViolation;
+    if (Written) Contents[IniFile] = *std::exchange(Written, {});
+    return MemoryFiles::Replace(target, replacement, backup);
+  }
+
+  FileError Write(const std::wstring& path, std::string_view bytes) override {
+    isSaving_ = isSaving_ || path.starts_with(IniFile);
+    return MemoryFiles::Write(path, bytes);
+  }
+
+ private:
+  [[nodiscard]] bool IsHeld() const { return isSaving_ && Time->SleptMilliseconds < HeldFor; }
+
+  bool isSaving_ = false;  ///< the hold begins when a save has read the file
+};
+
+TEST(SaveFaults, AFileHeldForAWhileIsSavedWithinTwoSecondsOrLeftAsItWas) {
+  for (int held = 10; held <= 3000; held += 10) {
+    world::EditorWorld<HeldFiles> world;
+    world.Disk.Time = &world.Time;
+    world.Disk.Contents[IniFile] = Content;
+    world.Start();
+    world.Assign(Pack, 0, L"X");
+    world.Disk.HeldFor = held;
+    world.Program.FileSave();
+    ASSERT_EQ(world.Program.Modified(), held > 2000) << held;
+    ASSERT_EQ(world.Disk.Contents[IniFile] == Content, held > 2000) << held;
+    ASSERT_EQ(world.Disk.Contents.contains(IniFile + L".unsaved"), held > 2000) << held;
+    ASSERT_LE(world.Time.SleptMilliseconds, 2000);
+  }
+}
+
+TEST(SaveFaults, WhatAnotherProgramWroteWhileItHeldTheFileStays) {
+  world::EditorWorld<HeldFiles> world;
+  world.Disk.Time = &world.Time;
+  world.Disk.Contents[IniFile] = Content;
+  world.Start();
+  world.Assign(Pack, 0, L"X");
+  world.Disk.HeldFor = 500;
+  world.Disk.Written = std::string(Content) + "\n[Last]\nc";
+  world.Program.FileSave();
+  EXPECT_FALSE(world.Program.Modified());
+  const std::string& saved = world.Disk.Contents[IniFile];
+  EXPECT_TRUE(saved.ends_with(";end\n[Last]\nc"));
+  EXPECT_NE(saved.find("X=cm_Pack\r\n"), std::string::npos);
+}
+
+TEST(SaveFaults, WhatAnotherProgramWroteBetweenOpenAndSaveStays) {
+  World world;
+  world.Disk.Contents[IniFile] = Content;
+  world.Start();
+  world.Assign(Pack, 0, L"X");
+  world.Disk.Contents[IniFile] = "[New]\na=b\n" + world.Disk.Contents[IniFile] + "\n[Last]\nc";
+  world.Program.FileSave();
+  const std::string& saved = world.Disk.Contents[IniFile];
+  EXPECT_EQ(saved.find("[New]\na=b\n[Configuration]\nkey = value ; kept\r\n"), 0U);
+  EXPECT_TRUE(saved.ends_with(";end\n[Last]\nc"));
+  EXPECT_NE(saved.find("X=cm_Pack\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tessera

@@ -1,0 +1,302 @@
+// What a save leaves in "Wincmd.ini".
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "shortcuts/SaveShortcuts.h"
+#include "shortcuts/WincmdIni.h"
+#include "tests/unit/fakes/FakeClock.h"
+#include "tests/unit/fakes/FakeEnvironment.h"
+#include "tests/unit/fakes/MemoryFiles.h"
+
+namespace tessera {
+namespace {
+
+constexpr const wchar_t* Path = L"C:\\tc\\wincmd.ini";
+
+class SaveShortcutsTest : public testing::Test {
+ protected:
+  /// Displays commands cm_1, cm_2 and so on below a heading, with these current keys.
+  void Show(const std::vector<std::wstring>& currentKeys) {
+    CommandEntry heading;
+    heading.Key = 1;
+    heading.Description = L"[File]";
+    heading.Tag = CommentBlockTag;
+    Shown.lvwHidden = {heading};
+    for (const std::wstring& keys : currentKeys) {
+      CommandEntry row;
+      row.Key = Shown.lvwHidden.size() + 1;
+      row.CommandName = L"cm_" + std::to_wstring(row.Key - 1);
+      row.CommandCode = std::to_wstring(100 + row.Key);
+      row.Description = row.CommandName;
+      row.DefaultKeys = L"---";
+      row.CurrentKeys = keys;
+      row.Tag = row.CommandCode;
+      Shown.lvwHidden.push_back(row);
+    }
+    BuildDisplayTable(Shown, Notation, [] {});
+  }
+
+  FileError Save() {
+    return SaveShortcuts(Shown, Notation, {Path, KeepUnknown}, Disk, Time, Surroundings);
+  }
+
+  /// The content that a save of these current keys gives an empty file.
+  std::string Saved(const std::vector<std::wstring>& currentKeys) {
+    Disk.Contents[Path] = "";
+    Show(currentKeys);
+    EXPECT_EQ(Save(), FileError::None);
+    return Disk.Contents[Path];
+  }
+
+  Catalogue Shown;
+  HotkeyNotation Notation;
+  bool KeepUnknown = false;
+  MemoryFiles Disk;
+  FakeClock Time;
+  FakeEnvironment Surroundings;
+};
+
+TEST_F(SaveShortcutsTest, EveryKeyIsALine) {
+  EXPECT_EQ(Saved({L"Ctrl + Alt + F1", L"---", L"F2 = Shift + A"}),
+            "[Shortcuts]\r\nCA+F1=cm_1\r\nF2=cm_3\r\nS+A=cm_3\r\n");
+}
+
+TEST_F(SaveShortcutsTest, AnEmptyCellAndTheMarkerAreNoKeys) {
+  Disk.Contents[Path] = "[A]\r\nx=1\r\n[Shortcuts]\r\nF5=cm_1\r\n[B]\r\ny=1\r\n";
+  Show({L"---", L""});
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[A]\r\nx=1\r\n[B]\r\ny=1\r\n");
+}
+
+TEST_F(SaveShortcutsTest, KeypadKeysLoseTheFirstNumOnly) {
+  EXPECT_EQ(Saved({L"Num +"}), "[Shortcuts]\r\n+=cm_1\r\n");
+  EXPECT_EQ(Saved({L"+"}), "[Shortcuts]\r\n+=cm_1\r\n");
+  EXPECT_EQ(Saved({L"Alt + Num +"}), "[Shortcuts]\r\nA++=cm_1\r\n");
+  EXPECT_EQ(Saved({L"Ctrl + Num *"}), "[Shortcuts]\r\nC+*=cm_1\r\n");
+  EXPECT_EQ(Saved({L"Num - = Num *"}), "[Shortcuts]\r\n-=cm_1\r\nNum *=cm_1\r\n");
+}
+
+TEST_F(SaveShortcutsTest, AReversedKeyIsWrittenInTotalCommandersOrder) {
+  Notation.ReverseOrderHotkey = true;
+  EXPECT_EQ(Saved({L"F1 + Ctrl + Alt", L"Num + + Alt", L"F3"}),
+            "[Shortcuts]\r\nCA+F1=cm_1\r\nA++=cm_2\r\nF3=cm_3\r\n");
+}
+
+TEST_F(SaveShortcutsTest, ACellIsSplitWhenItHoldsThePaddedSeparator) {
+  Notation.MultiHotkeySeparator = L" | ";
+  EXPECT_EQ(Saved({L"F1 | F2|F3 | "}), "[Shortcuts]\r\nF1=cm_1\r\nF2=cm_1\r\nF3=cm_1\r\n");
+  EXPECT_EQ(Saved({L"F1|F2"}), "[Shortcuts]\r\nF1|F2=cm_1\r\n");
+}
+
+TEST_F(SaveShortcutsTest, OfEqualKeysTheRowWrittenLastWins) {
+  EXPECT_EQ(Saved({L"F1", L"F2", L"f1"}), "[Shortcuts]\r\nF1=cm_3\r\nF2=cm_2\r\n");
+}
+
+TEST_F(SaveShortcutsTest, LinesFollowTheDisplayedOrder) {
+  Disk.Contents[Path] = "";
+  Show({L"F1", L"F2", L"F3"});
+  Shown.ListView1.RemoveHeadings();
+  Shown.ListView1.Sort(Column::Description, SortDirection::Descending);
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF3=cm_3\r\nF2=cm_2\r\nF1=cm_1\r\n");
+}
+
+TEST_F(SaveShortcutsTest, WhatWasReadIsWrittenBackAsItWas) {
+  const std::string content = "[Shortcuts]\r\nCA+F1=cm_1\r\nS+F2=cm_1\r\nA++=cm_2\r\n+=cm_3\r\n";
+  Disk.Contents[Path] = content;
+  Show({L"---", L"---", L"---"});
+  ReadShortcuts(Shown.lvwHidden, WincmdIni(Disk, Time, Surroundings, Path).Shortcuts(), Notation,
+                [] {});
+  BuildDisplayTable(Shown, Notation, [] {});
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], content);
+  EXPECT_EQ(Disk.Writes, 0);
+}
+
+TEST_F(SaveShortcutsTest, EverythingElseInTheFileStays) {
+  Disk.Contents[Path] =
+      "; mine\r\n[Configuration]\r\nSetEncoding=\xC3\x28\r\n\r\n[Shortcuts]\r\n; "
+      "keys\r\nF5=cm_1\r\n"
+      "F6=em_own\r\n\r\n[Left]\r\npath=c:\\\r\n";
+  Show({L"F7"});
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path],
+            "; mine\r\n[Configuration]\r\nSetEncoding=\xC3\x28\r\n\r\n[Shortcuts]\r\n; keys\r\n"
+            "F7=cm_1\r\n\r\n[Left]\r\npath=c:\\\r\n");
+}
+
+TEST_F(SaveShortcutsTest, ChangesThatOthersMadeMeanwhileStay) {
+  Disk.Contents[Path] = "[Left]\r\npath=c:\\\r\n[Shortcuts]\r\nF5=cm_1\r\n";
+  Show({L"---"});
+  ReadShortcuts(Shown.lvwHidden, WincmdIni(Disk, Time, Surroundings, Path).Shortcuts(), Notation,
+                [] {});
+  BuildDisplayTable(Shown, Notation, [] {});
+  Disk.Contents[Path] = "[Left]\r\npath=d:\\new\r\n[Shortcuts]\r\nF5=cm_1\r\n";
+  Shown.ListView1.Edit(2).CurrentKeys = L"F6";
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[Left]\r\npath=d:\\new\r\n[Shortcuts]\r\nF6=cm_1\r\n");
+}
+
+TEST_F(SaveShortcutsTest, TheFormerContentIsKeptAsACopy) {
+  Disk.Contents[Path] = "[Shortcuts]\r\nF5=cm_1\r\n";
+  Show({L"F6"});
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[std::wstring(Path) + L".bak"], "[Shortcuts]\r\nF5=cm_1\r\n");
+}
+
+TEST_F(SaveShortcutsTest, AMissingFileIsCreated) {
+  Show({L"F6"});
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\n");
+}
+
+// -- Start Menu keys
+
+TEST_F(SaveShortcutsTest, AStartMenuKeyThatWasTakenIsDeletedAndItsCaptionStays) {
+  Disk.Contents[Path] =
+      "[user]\r\nmenu1=a\r\nkey1=1\r\nmenu2=b\r\nkey2=13\r\n[Shortcuts]\r\nF5=cm_1\r\n";
+  Show({L"F5"});
+  Shown.StartMenuKeys[0] = {L"Ctrl + Alt + F1 *", L"a", L"key1"};
+  Shown.StartMenuKeys[12] = {L"Ctrl + Alt + Shift + F1", L"b", L"key2"};
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path],
+            "[user]\r\nmenu1=a\r\nmenu2=b\r\nkey2=13\r\n[Shortcuts]\r\nF5=cm_1\r\n");
+  EXPECT_EQ(Disk.Writes, 1);
+  EXPECT_EQ(Shown.StartMenuKeys[0].Key, L"");
+  EXPECT_EQ(Shown.StartMenuKeys[0].Caption, L"");
+  EXPECT_EQ(Shown.StartMenuKeys[0].ValueName, L"");
+  EXPECT_EQ(Shown.StartMenuKeys[12].Key, L"Ctrl + Alt + Shift + F1");
+}
+
+TEST_F(SaveShortcutsTest, AFailedSaveChangesNeitherFileNorCatalogue) {
+  const std::string content = "[user]\r\nmenu1=a\r\nkey1=1\r\n[Shortcuts]\r\nF5=cm_1\r\n";
+  Disk.Contents[Path] = content;
+  Show({L"F6"});
+  Shown.StartMenuKeys[0] = {L"Ctrl + Alt + F1 *", L"a", L"key1"};
+  Disk.WriteErrors = {FileError::DiskFull};
+  EXPECT_EQ(Save(), FileError::DiskFull);
+  EXPECT_EQ(Disk.Contents[Path], content);
+  EXPECT_EQ(Shown.StartMenuKeys[0].Key, L"Ctrl + Alt + F1 *");
+}
+
+TEST_F(SaveShortcutsTest, AFileThatCannotBeReadIsNotReplaced) {
+  Disk.Contents[Path] = "[Left]\r\npath=c:\\\r\n";
+  Show({L"F6"});
+  Disk.ReadErrors.assign(100, FileError::SharingViolation);
+  EXPECT_EQ(Save(), FileError::SharingViolation);
+  EXPECT_EQ(Disk.Contents[Path], "[Left]\r\npath=c:\\\r\n");
+  EXPECT_EQ(Disk.Writes, 0);
+}
+
+// -- Redirected sections
+
+TEST_F(SaveShortcutsTest, ARedirectedSectionIsWrittenToItsFileAlone) {
+  const std::string content =
+      "[Shortcuts]\r\nRedirectSection=%COMMANDER_PATH%\\s.ini\r\nF9=cm_1\r\n[Left]\r\na=b\r\n";
+  Surroundings.Variables[L"COMMANDER_PATH"] = L"D:\\Total";
+  Disk.Contents[Path] = content;
+  Disk.Contents[L"D:\\Total\\s.ini"] =
+      "[Other]\r\nx=1\r\n[Shortcuts]\r\nredirectsection=t.ini\r\nF5=cm_1\r\n";
+  Show({L"F6"});
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], content);
+  EXPECT_EQ(Disk.Contents[L"D:\\Total\\s.ini"],
+            "[Other]\r\nx=1\r\n[Shortcuts]\r\nredirectsection=t.ini\r\nF6=cm_1\r\n");
+  EXPECT_TRUE(Disk.Contents.contains(L"D:\\Total\\s.ini.bak"));
+  EXPECT_EQ(Disk.Writes, 1);
+}
+
+TEST_F(SaveShortcutsTest, ARedirectedFileThatIsMissingIsCreated) {
+  Disk.Contents[Path] = "[Shortcuts]\r\nRedirectSection=s.ini\r\n";
+  Show({L"F6"});
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[L"C:\\tc\\s.ini"], "[Shortcuts]\r\nF6=cm_1\r\n");
+}
+
+TEST_F(SaveShortcutsTest, TheRedirectingLineIsNeverLost) {
+  Disk.Contents[Path] = "[Shortcuts]\r\nF5=cm_1\r\nRedirectSection=0\r\n";
+  Show({L"---"});
+  for (const bool keepUnknown : {false, true}) {
+    KeepUnknown = keepUnknown;
+    EXPECT_EQ(Save(), FileError::None);
+    EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nRedirectSection=0\r\n");
+  }
+}
+
+TEST_F(SaveShortcutsTest, BothSectionsInOneOtherFileAreWrittenOnce) {
+  Disk.Contents[Path] =
+      "[Shortcuts]\r\nRedirectSection=1\r\n[user]\r\nRedirectSection=.\\u.ini\r\n"
+      "[Configuration]\r\nAlternateUserIni=u.ini\r\n";
+  Disk.Contents[L"C:\\tc\\u.ini"] = "[user]\r\nmenu1=a\r\nkey1=1\r\n[Shortcuts]\r\nF5=cm_1\r\n";
+  Show({L"F6"});
+  Shown.StartMenuKeys[0] = {L"Ctrl + Alt + F1 *", L"a", L"key1"};
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[L"C:\\tc\\u.ini"], "[user]\r\nmenu1=a\r\n[Shortcuts]\r\nF6=cm_1\r\n");
+  EXPECT_EQ(Disk.Writes, 1);
+}
+
+// -- Lines of unknown commands
+
+TEST_F(SaveShortcutsTest, LinesOfUnknownCommandsGoUnlessTheyAreToBeKept) {
+  const std::string content = "[Shortcuts]\r\nA+F5=em_own\r\nF5=cm_1\r\nF8=cm_exit 1\r\n";
+  Disk.Contents[Path] = content;
+  Show({L"F6"});
+  KeepUnknown = true;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\nA+F5=em_own\r\nF8=cm_exit 1\r\n");
+  KeepUnknown = false;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\n");
+}
+
+TEST_F(SaveShortcutsTest, AKeptLineGivesWayToACommandThatHasTakenItsKey) {
+  Disk.Contents[Path] = "[Shortcuts]\r\na+f5=em_own\r\nF8=em_two\r\n";
+  Show({L"Alt + F5"});
+  KeepUnknown = true;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nA+F5=cm_1\r\nF8=em_two\r\n");
+}
+
+TEST_F(SaveShortcutsTest, LinesOfKnownCommandsAreNotKept) {
+  Disk.Contents[Path] = "[Shortcuts]\r\nF5=CM_1\r\nF6=102\r\n";
+  Show({L"---"});
+  KeepUnknown = true;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "");
+}
+
+TEST_F(SaveShortcutsTest, OfLinesWithOneKeyTheFirstIsTheOneInForce) {
+  Disk.Contents[Path] = "[Shortcuts]\r\nF5=em_a\r\nF5=em_b\r\nF6=cm_1\r\nF6=em_c\r\n";
+  Show({L"---"});
+  KeepUnknown = true;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF5=em_a\r\n");
+}
+
+TEST_F(SaveShortcutsTest, AKeptLineReadsAsBefore) {
+  const std::vector<std::string> values{"em_own",
+                                        "\"\"em x\"\"",
+                                        "\" em \"",
+                                        "'\"a\" b'",
+                                        "\"a\" \"b\"",
+                                        "\xEF\xBB\xBF\xD0\xAF",
+                                        "\xEF\xBB\xBF\tem",
+                                        "\"em\t\"",
+                                        "\xE9",
+                                        ""};
+  for (const std::string& value : values) {
+    Disk.Contents[Path] = "[Shortcuts]\r\nF5=" + value + "\r\n";
+    const std::wstring before = ProfileFile(Disk, Path).ReadString(L"Shortcuts", L"F5", L"none");
+    Show({L"F6"});
+    KeepUnknown = true;
+    EXPECT_EQ(Save(), FileError::None);
+    const ProfileFile after(Disk, Path);
+    EXPECT_EQ(after.ReadString(L"Shortcuts", L"F5", L"none"), before) << value;
+    EXPECT_EQ(after.Entries(L"Shortcuts").size(), 2u);
+  }
+}
+
+}  // namespace
+}  // namespace tessera

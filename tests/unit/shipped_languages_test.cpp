@@ -1,0 +1,270 @@
+// The language files that are shipped, read as the program reads them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <set>
+#include <vector>
+
+#include "localisation/Texts.h"
+#include "localisation/TextTable.h"
+#include "platform/Text.h"
+#include "settings/ProfileFile.h"
+#include "shortcuts/HotkeyNotation.h"
+#include "tests/unit/fakes/MemoryFiles.h"
+
+namespace tessera {
+namespace {
+
+constexpr std::wstring_view Template = L"Template";
+
+std::wstring PathOf(std::wstring_view language) { return std::wstring(language) + L".lng"; }
+
+/// The bytes of all files in the folder of the languages, by name.
+std::map<std::wstring, std::string> ReadLanguageFolder() {
+  std::map<std::wstring, std::string> contents;
+  for (const auto& entry :
+       std::filesystem::directory_iterator(TESSERA_SOURCE_DIRECTORY "/Languages")) {
+    std::ifstream file(entry.path(), std::ios::binary);
+    contents[entry.path().filename().wstring()].assign(std::istreambuf_iterator<char>(file), {});
+  }
+  return contents;
+}
+
+class ShippedLanguages : public testing::Test {
+ protected:
+  ShippedLanguages() {
+    static const std::map<std::wstring, std::string> folder = ReadLanguageFolder();
+    files_.Contents = folder;
+  }
+
+  /// Calls `check(name, texts)` for every language, the template included.
+  template <typename Check>
+  void ForEach(Check check) const {
+    ASSERT_FALSE(files_.Contents.empty());
+    for (const auto& [path, bytes] : files_.Contents) {
+      SCOPED_TRACE(Encode(path));
+      Texts texts(files_);
+      ASSERT_TRUE(texts.UseLanguageFile(path));
+      check(path.substr(0, path.rfind(L'.')), texts);
+    }
+  }
+
+  /// Calls `check(english, translated)` for every text of every language.
+  template <typename Check>
+  void ForEachText(Check check) const {
+    ForEach([&](const std::wstring&, const Texts& texts) {
+      for (const BuiltInText& english : TextTable()) {
+        SCOPED_TRACE(english.Id);
+        check(english, texts.GetLangText(english.Id));
+      }
+    });
+  }
+
+  MemoryFiles files_;
+};
+
+/// The letter behind the "&"; 0 for a text without one.
+wchar_t MnemonicOf(std::wstring_view text) {
+  const std::size_t mark = text.find(L'&');
+  return mark == std::wstring_view::npos || mark + 1 == text.size() ? L'\0' : text[mark + 1];
+}
+
+bool IsLetter(wchar_t character) {
+  const bool latin =
+      (character >= L'A' && character <= L'Z') || (character >= L'a' && character <= L'z');
+  return latin || character >= 0xC0;
+}
+
+bool IsInvisible(wchar_t character) {
+  const auto code = static_cast<unsigned>(character);
+  const auto isWithin = [code](unsigned first, unsigned last) {
+    return code >= first && code <= last;
+  };
+  return code < 0x20 || isWithin(0x7F, 0x9F) || isWithin(0x200B, 0x200F) ||
+         isWithin(0x2028, 0x202E) || isWithin(0x2066, 0x2069) || code == 0xFEFF || code == 0xFFFD;
+}
+
+TEST_F(ShippedLanguages, AreTheseAndATemplate) {
+  for (const std::wstring_view language :
+       {L"Arabic", L"ChineseSimplified", L"French", L"German", L"Italian", L"Japanese", L"Polish",
+        L"Russian", L"Spanish", L"Template"}) {
+    EXPECT_TRUE(files_.Contents.contains(PathOf(language))) << Encode(language);
+  }
+}
+
+TEST_F(ShippedLanguages, HaveEveryTextOnceAndNothingElse) {
+  std::multiset<std::wstring> expected{L"CodePage"};
+  for (const BuiltInText& text : TextTable()) expected.insert(std::to_wstring(text.Id));
+
+  ForEach([&](const std::wstring& name, const Texts&) {
+    const ProfileFile file(files_, PathOf(name));
+    EXPECT_EQ(file.SectionNames(), std::vector<std::wstring>{L"UserLanguage"});
+    std::multiset<std::wstring> found;
+    for (const auto& [key, value] : file.Entries(L"UserLanguage")) {
+      EXPECT_NE(TrimBlanks(value), L"") << Encode(key);
+      if (key != L"RightToLeftLanguage") found.insert(key);
+    }
+    EXPECT_EQ(found, expected);
+  });
+}
+
+TEST_F(ShippedLanguages, AreUtf8AndSaySo) {
+  ForEach([&](const std::wstring& name, const Texts&) {
+    const std::string& bytes = files_.Contents.at(PathOf(name));
+    EXPECT_TRUE(bytes.starts_with(";")) << "a byte order mark, or no comment in the first line";
+    EXPECT_EQ(Encode(Decode(bytes, Utf8CodePage), Utf8CodePage), bytes);
+    EXPECT_EQ(ProfileFile(files_, PathOf(name)).ReadInteger(L"UserLanguage", L"CodePage", L"0"),
+              Utf8CodePage);
+  });
+}
+
+TEST_F(ShippedLanguages, EndEveryLineAsWindowsDoes) {
+  ForEach([&](const std::wstring& name, const Texts&) {
+    const std::string& bytes = files_.Contents.at(PathOf(name));
+    EXPECT_TRUE(bytes.ends_with("\r\n"));
+    EXPECT_EQ(std::ranges::count(bytes, '\n'), std::ranges::count(bytes, '\r'));
+    for (std::size_t end = bytes.find('\n'); end != std::string::npos;
+         end = bytes.find('\n', end + 1)) {
+      ASSERT_TRUE(end > 0 && bytes[end - 1] == '\r') << bytes.substr(0, end);
+    }
+  });
+}
+
+TEST_F(ShippedLanguages, HoldNoInvisibleCharacters) {
+  ForEachText([](const BuiltInText&, const std::wstring& text) {
+    EXPECT_TRUE(std::ranges::none_of(text, IsInvisible));
+  });
+}
+
+TEST_F(ShippedLanguages, FitWhereTheEnglishTextsFit) {
+  ForEachText([](const BuiltInText& english, const std::wstring& text) {
+    EXPECT_LE(text.size(), 2 * english.Text.size() + 12);
+  });
+}
+
+TEST_F(ShippedLanguages, EndAsTheEnglishTextsDo) {
+  ForEachText([](const BuiltInText& english, const std::wstring& text) {
+    EXPECT_EQ(text.ends_with(L"..."), english.Text.ends_with(L"..."));
+    EXPECT_EQ(text.ends_with(L" +"), english.Text.ends_with(L" +"));
+    if (english.Text.ends_with(L":")) {
+      EXPECT_TRUE(text.ends_with(L":") || text.ends_with(L"\uFF1A"));
+    }
+  });
+}
+
+TEST_F(ShippedLanguages, KeepTheNamesOfProgramsAndFiles) {
+  ForEachText([](const BuiltInText& english, const std::wstring& text) {
+    for (const std::wstring_view name : {L"Total Commander", L"[Wincmd.ini]", L"Totalcmd.inc"}) {
+      if (english.Text.find(name) != std::wstring_view::npos) {
+        EXPECT_NE(text.find(name), std::wstring::npos) << Encode(name);
+      }
+    }
+  });
+}
+
+TEST_F(ShippedLanguages, NameTheProgramThatIsRestarted) {
+  ForEach([](const std::wstring& name, const Texts& texts) {
+    if (name == Template) return;
+    EXPECT_NE(texts.GetLangText(116).find(L"Total Commander"), std::wstring::npos);
+  });
+}
+
+TEST_F(ShippedLanguages, HaveMnemonicsWhereTheEnglishTextsHaveThem) {
+  const std::set<int> mayHaveOne = {116, 1122, 1123};
+  ForEachText([&](const BuiltInText& english, const std::wstring& text) {
+    const auto marks = std::ranges::count(text, L'&');
+    if (mayHaveOne.contains(english.Id)) {
+      EXPECT_LE(marks, 1);
+    } else {
+      EXPECT_EQ(marks, std::ranges::count(english.Text, L'&'));
+    }
+    if (marks != 0) {
+      EXPECT_TRUE(IsLetter(MnemonicOf(text)));
+    }
+  });
+}
+
+TEST_F(ShippedLanguages, UseNoMnemonicTwiceInOnePlace) {
+  const std::vector<int> places[] = {
+      {101, 141, 161, 401, 402, 403},
+      {103, 104, 107, 110, 116, 117},
+      {142, 149, 150},
+      {1008, 1009, 1010, 1024, 1025, 1026},
+      {1008, 1009, 1010, 1044},
+      {1008, 1009, 1010, 1121, 1122, 1123},
+      {1008, 1009, 1010, 1090, 1091},
+  };
+  ForEach([&](const std::wstring&, const Texts& texts) {
+    for (const std::vector<int>& place : places) {
+      std::set<std::wstring> taken;
+      for (const int id : place) {
+        const wchar_t mnemonic = MnemonicOf(texts.GetLangText(id));
+        if (mnemonic == L'\0') continue;
+        EXPECT_TRUE(taken.insert(ToLower(std::wstring(1, mnemonic))).second) << id;
+      }
+    }
+  });
+}
+
+TEST_F(ShippedLanguages, AreRightToLeftWhereTheirLettersAre) {
+  const auto isWrittenToTheLeft = [](wchar_t letter) { return letter >= 0x590 && letter < 0x900; };
+  ForEach([&](const std::wstring&, const Texts& texts) {
+    EXPECT_EQ(texts.RightToLeft(), std::ranges::any_of(texts.GetLangText(101), isWrittenToTheLeft));
+  });
+}
+
+TEST_F(ShippedLanguages, CallTheModifiersByTheWordsThatReverseOrderRecognises) {
+  ForEach([](const std::wstring&, const Texts& texts) {
+    EXPECT_EQ(texts.GetLangText(404), L"Ctrl");
+    EXPECT_EQ(texts.GetLangText(405), L"Alt");
+    EXPECT_EQ(texts.GetLangText(406), L"Shift");
+  });
+}
+
+/// Takes every key with every set of modifiers from a data file's form to the one that is saved.
+void ExpectDefaultKeysAreSavedAsThemselves(const HotkeyNotation& notation) {
+  for (const std::wstring_view key : KeyVocabulary()) {
+    for (unsigned held = 0; held < 8; ++held) {
+      std::wstring words;
+      std::wstring letters;
+      const auto add = [&](unsigned bit, std::wstring_view word) {
+        if ((held & bit) == 0) return;
+        words.append(word).append(L"+");
+        letters += word.front();
+      };
+      add(1, L"Ctrl");
+      add(2, L"Alt");
+      add(4, L"Shift");
+      if (held != 0) letters += L'+';
+      EXPECT_EQ(notation.DisplayToNative(notation.DataFileToDisplay(words.append(key))),
+                letters.append(key));
+    }
+  }
+}
+
+TEST_F(ShippedLanguages, LeadEveryDefaultKeyToTheKeyThatIsSaved) {
+  ForEach([](const std::wstring&, const Texts& texts) {
+    HotkeyNotation notation;
+    notation.CtrlName = TrimBlanks(texts.GetLangText(404));
+    notation.AltName = TrimBlanks(texts.GetLangText(405));
+    notation.ShiftName = TrimBlanks(texts.GetLangText(406));
+    ExpectDefaultKeysAreSavedAsThemselves(notation);
+    notation.ReverseOrderHotkey = true;
+    ExpectDefaultKeysAreSavedAsThemselves(notation);
+  });
+}
+
+TEST_F(ShippedLanguages, HaveATemplateInTheEnglishOfTheProgram) {
+  Texts texts(files_);
+  ASSERT_TRUE(texts.UseLanguageFile(PathOf(Template)));
+  for (const BuiltInText& english : TextTable()) {
+    EXPECT_EQ(texts.GetLangText(english.Id), english.Text);
+  }
+}
+
+}  // namespace
+}  // namespace tessera

@@ -1,0 +1,37 @@
+// UTF-8 and UTF-16 without loss.
+#include "platform/Utf8.h"
+
+#include <gtest/gtest.h>
+
+namespace tessera {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(Utf8, UnpairedSurrogatesComeBack) {
+  const std::string units = "\x00\xD8\x41\x00\x00\xDC\x3D\xD8\x00\xDE"s;
+  const std::string bytes = Utf8FromUtf16Le(units);
+  EXPECT_EQ(bytes, "\xED\xA0\x80\x41\xED\xB0\x80\xF0\x9F\x98\x80");
+  EXPECT_EQ(Utf16LeFromUtf8(bytes), units);
+}
+
+TEST(Utf8, EveryUnitOfUtf16ComesBack) {
+  for (int unit = 0; unit < 0x10000; ++unit) {
+    const std::string bytes = {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+    ASSERT_EQ(Utf16LeFromUtf8(Utf8FromUtf16Le(bytes)), bytes);
+  }
+}
+
+TEST(Utf8, OddByteIsLeftOut) { EXPECT_EQ(Utf8FromUtf16Le("a\0b"s), "a"); }
+
+TEST(Utf8, CutLeavesNoPartOfACharacter) {
+  const std::string_view text = "a\xE2\x82\xAC\xF0\x9F\x98\x80z";
+  const std::size_t lengths[] = {0, 1, 1, 1, 4, 4, 4, 4, 8, 9, 9};
+  for (std::size_t limit = 0; limit < std::size(lengths); ++limit) {
+    EXPECT_EQ(CutUtf8(text, limit), text.substr(0, lengths[limit]));
+  }
+  EXPECT_EQ(CutUtf8("\x80\x80\x80\x80\x80\x80", 5).size(), 2u);
+}
+
+}  // namespace
+}  // namespace tessera

@@ -1,0 +1,63 @@
+// The clipboard of the real system, free and held by another.
+#include <windows.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <thread>
+
+#include "platform/win32/WindowsClipboard.h"
+
+namespace tessera {
+namespace {
+
+class WindowsClipboardTest : public testing::Test {
+ protected:
+  WindowsClipboardTest() { owner_.SetMain(window_); }
+  ~WindowsClipboardTest() override { DestroyWindow(window_); }
+
+  static HWND MakeWindow() {
+    return CreateWindowW(L"STATIC", L"", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+  }
+
+  std::wstring ClipboardText() const {
+    if (!OpenClipboard(window_)) return L"(cannot be opened)";
+    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
+    const auto* text = memory == nullptr ? nullptr : static_cast<wchar_t*>(GlobalLock(memory));
+    std::wstring copy = text == nullptr ? L"(no text)" : text;
+    if (text != nullptr) GlobalUnlock(memory);
+    CloseClipboard();
+    return copy;
+  }
+
+  HWND window_ = MakeWindow();
+  OwnerWindow owner_;
+  WindowsClipboard clipboard_{owner_};
+};
+
+TEST_F(WindowsClipboardTest, TextReplacesWhatWasThere) {
+  clipboard_.SetText(L"first");
+  EXPECT_EQ(ClipboardText(), L"first");
+  clipboard_.SetText(L"a\tb\r\n\x017C\x3042");
+  EXPECT_EQ(ClipboardText(), L"a\tb\r\n\x017C\x3042");
+}
+
+TEST_F(WindowsClipboardTest, AClipboardThatIsHeldForAMomentIsWaitedFor) {
+  const HANDLE held = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  std::thread holder([held] {
+    const HWND window = MakeWindow();
+    const bool opened = OpenClipboard(window) != FALSE;
+    SetEvent(held);
+    Sleep(60);
+    if (opened) CloseClipboard();
+    DestroyWindow(window);
+    EXPECT_TRUE(opened);
+  });
+  WaitForSingleObject(held, 5000);
+  clipboard_.SetText(L"after a wait");
+  holder.join();
+  CloseHandle(held);
+  EXPECT_EQ(ClipboardText(), L"after a wait");
+}
+
+}  // namespace
+}  // namespace tessera

@@ -1,0 +1,174 @@
+// The real file system: reading, replacing and what the system's errors become.
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "platform/win32/Handle.h"
+#include "platform/win32/WindowsClock.h"
+#include "platform/win32/WindowsFiles.h"
+#include "settings/ReplaceContent.h"
+
+namespace tessera {
+namespace {
+
+std::wstring TemporaryFolder() {
+  std::wstring path(MAX_PATH + 1, L'\0');
+  path.resize(GetTempPathW(static_cast<DWORD>(path.size()), path.data()));
+  return path + L"tessera files " + std::to_wstring(GetCurrentProcessId());
+}
+
+class WindowsFilesTest : public testing::Test {
+ protected:
+  WindowsFilesTest() { CreateDirectoryW(folder_.c_str(), nullptr); }
+  ~WindowsFilesTest() override {
+    for (const wchar_t* const name : {L"a", L"b", L"c", L"a.bak", L"a.unsaved"}) {
+      SetFileAttributesW(At(name).c_str(), FILE_ATTRIBUTE_NORMAL);
+      files_.Remove(At(name));
+    }
+    RemoveDirectoryW(folder_.c_str());
+  }
+
+  [[nodiscard]] std::wstring At(const std::wstring& name) const { return folder_ + L'\\' + name; }
+
+  void Put(const std::wstring& name, std::string_view bytes) {
+    ASSERT_EQ(files_.Write(At(name), bytes), FileError::None);
+  }
+
+  [[nodiscard]] std::string ContentOf(const std::wstring& name) const {
+    std::string bytes;
+    return files_.Read(At(name), bytes) == FileError::None ? bytes : "(cannot be read)";
+  }
+
+  /// Holds a file open and lets others read it, but not replace it.
+  [[nodiscard]] UniqueHandle Hold(const std::wstring& name) const {
+    return Own(CreateFileW(At(name).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                           0, nullptr));
+  }
+
+  WindowsFiles files_;
+  std::wstring folder_ = TemporaryFolder();
+};
+
+TEST_F(WindowsFilesTest, EveryByteIsWrittenAndRead) {
+  std::string bytes;
+  for (int i = 0; i < 256 * 300; ++i) bytes += static_cast<char>(i & 255);
+  Put(L"a", bytes);
+  EXPECT_EQ(ContentOf(L"a"), bytes);
+  Put(L"a", "");
+  EXPECT_EQ(ContentOf(L"a"), "");
+}
+
+TEST_F(WindowsFilesTest, OnlyAFileExists) {
+  Put(L"a", "x");
+  EXPECT_TRUE(files_.Exists(At(L"a")));
+  EXPECT_FALSE(files_.Exists(At(L"b")));
+  EXPECT_FALSE(files_.Exists(folder_));
+  EXPECT_FALSE(files_.Exists(L"///can\\not/find\\this/data\\\\\\"));
+  EXPECT_FALSE(files_.Exists(L""));
+}
+
+TEST_F(WindowsFilesTest, MissingFileAndMissingFolderAreNotFound) {
+  std::string bytes = "x";
+  EXPECT_EQ(files_.Read(At(L"b"), bytes), FileError::NotFound);
+  EXPECT_EQ(bytes, "");
+  EXPECT_EQ(files_.Read(At(L"none\\b"), bytes), FileError::NotFound);
+  EXPECT_EQ(files_.Write(At(L"none\\b"), "x"), FileError::NotFound);
+  EXPECT_EQ(files_.Remove(At(L"b")), FileError::NotFound);
+  EXPECT_EQ(files_.Move(At(L"b"), At(L"c")), FileError::NotFound);
+}
+
+TEST_F(WindowsFilesTest, ReplaceLeavesTheFormerFileAsBackup) {
+  Put(L"a", "old");
+  Put(L"b", "new");
+  Put(L"c", "older");
+  EXPECT_EQ(files_.Replace(At(L"a"), At(L"b"), At(L"c")), FileError::None);
+  EXPECT_EQ(ContentOf(L"a"), "new");
+  EXPECT_EQ(ContentOf(L"c"), "old");
+  EXPECT_FALSE(files_.Exists(At(L"b")));
+}
+
+TEST_F(WindowsFilesTest, ReplaceOfAMissingTargetIsNotFound) {
+  Put(L"b", "new");
+  EXPECT_EQ(files_.Replace(At(L"a"), At(L"b"), At(L"c")), FileError::NotFound);
+  EXPECT_EQ(ContentOf(L"b"), "new");
+}
+
+TEST_F(WindowsFilesTest, MoveReplacesItsTarget) {
+  Put(L"a", "old");
+  Put(L"b", "new");
+  EXPECT_EQ(files_.Move(At(L"b"), At(L"a")), FileError::None);
+  EXPECT_EQ(ContentOf(L"a"), "new");
+  EXPECT_FALSE(files_.Exists(At(L"b")));
+}
+
+TEST_F(WindowsFilesTest, FileHeldOpenIsReadButNotReplaced) {
+  Put(L"a", "old");
+  Put(L"b", "new");
+  const UniqueHandle held = Hold(L"a");
+  ASSERT_TRUE(held);
+  EXPECT_EQ(ContentOf(L"a"), "old");
+  EXPECT_NE(files_.Replace(At(L"a"), At(L"b"), At(L"c")), FileError::None);
+  EXPECT_EQ(ContentOf(L"a"), "old");
+  EXPECT_EQ(ContentOf(L"b"), "new");
+  EXPECT_EQ(files_.Write(At(L"a"), "x"), FileError::SharingViolation);
+}
+
+TEST_F(WindowsFilesTest, FileThatIsNoLinkResolvesToItself) {
+  Put(L"a", "x");
+  EXPECT_EQ(files_.Resolve(At(L"a")), At(L"a"));
+  EXPECT_EQ(files_.Resolve(At(L"b")), At(L"b"));
+}
+
+TEST_F(WindowsFilesTest, PathOfMoreThan260CharactersWorks) {
+  const std::wstring prefix = L"\\\\?\\";
+  std::wstring deep = folder_;
+  std::vector<std::wstring> folders;
+  for (int i = 0; i < 4; ++i) {
+    deep += L'\\' + std::wstring(80, L'd');
+    ASSERT_TRUE(CreateDirectoryW((prefix + deep).c_str(), nullptr));
+    folders.push_back(deep);
+  }
+  const std::wstring path = deep + L"\\a.ini";
+  std::string bytes;
+  EXPECT_EQ(files_.Write(path, "x"), FileError::None);
+  EXPECT_TRUE(files_.Exists(path));
+  EXPECT_EQ(files_.Read(path, bytes), FileError::None);
+  EXPECT_EQ(bytes, "x");
+  EXPECT_EQ(files_.Remove(path), FileError::None);
+  for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder)
+    EXPECT_TRUE(RemoveDirectoryW((prefix + *folder).c_str()));
+}
+
+TEST_F(WindowsFilesTest, SaveReplacesTheFileAndLeavesItsBackup) {
+  WindowsClock clock;
+  Put(L"a", "old");
+  EXPECT_EQ(ReplaceContent(files_, clock, At(L"a"), "new", KeepCopies::Yes), FileError::None);
+  EXPECT_EQ(ContentOf(L"a"), "new");
+  EXPECT_EQ(ContentOf(L"a.bak"), "old");
+  EXPECT_FALSE(files_.Exists(At(L"a.tessera-new")));
+  EXPECT_FALSE(files_.Exists(At(L"a.tessera-old")));
+}
+
+TEST_F(WindowsFilesTest, ReplaceKeepsTheAttributesOfTheTarget) {
+  if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr)
+    GTEST_SKIP() << "a replace under Wine gives the attributes of the replacement";
+  Put(L"a", "old");
+  Put(L"b", "new");
+  ASSERT_TRUE(SetFileAttributesW(At(L"a").c_str(), FILE_ATTRIBUTE_HIDDEN));
+  EXPECT_EQ(files_.Replace(At(L"a"), At(L"b"), At(L"c")), FileError::None);
+  EXPECT_NE(GetFileAttributesW(At(L"a").c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
+}
+
+TEST_F(WindowsFilesTest, SaveOfAFileHeldOpenLeavesItAndTheUnsavedContent) {
+  WindowsClock clock;
+  Put(L"a", "old");
+  const UniqueHandle held = Hold(L"a");
+  ASSERT_TRUE(held);
+  EXPECT_NE(ReplaceContent(files_, clock, At(L"a"), "new", KeepCopies::Yes), FileError::None);
+  EXPECT_EQ(ContentOf(L"a"), "old");
+  EXPECT_EQ(ContentOf(L"a.unsaved"), "new");
+  EXPECT_FALSE(files_.Exists(At(L"a.tessera-new")));
+}
+
+}  // namespace
+}  // namespace tessera

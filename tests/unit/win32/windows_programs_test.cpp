@@ -1,0 +1,84 @@
+// Finding and closing windows, and starting programs, on the real system.
+#include <windows.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/win32/WindowsFiles.h"
+#include "platform/win32/WindowsPrograms.h"
+
+namespace tessera {
+namespace {
+
+int closeRequests = 0;
+WORD closeParameter = 1;
+
+LRESULT CALLBACK CountCloseRequests(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_CLOSE) return DefWindowProcW(window, message, wParam, lParam);
+  ++closeRequests;
+  closeParameter = *reinterpret_cast<const WORD*>(lParam);
+  return 0;
+}
+
+TEST(WindowsPrograms, WindowIsFoundByItsClassAndAskedToCloseOnce) {
+  const OwnerWindow owner;
+  WindowsPrograms programs(owner);
+  const std::wstring name = L"TesseraTest" + std::to_wstring(GetCurrentProcessId());
+  EXPECT_EQ(programs.FindWindowOfClass(name), 0U);
+
+  WNDCLASSW windowClass{};
+  windowClass.lpfnWndProc = CountCloseRequests;
+  windowClass.lpszClassName = name.c_str();
+  ASSERT_NE(RegisterClassW(&windowClass), 0);
+  const HWND window = CreateWindowW(name.c_str(), L"title", WS_OVERLAPPEDWINDOW, 0, 0, 9, 9,
+                                    nullptr, nullptr, nullptr, nullptr);
+  ASSERT_NE(window, nullptr);
+  const WindowId found = programs.FindWindowOfClass(name);
+  EXPECT_EQ(found, reinterpret_cast<WindowId>(window));
+  programs.SendClose(found);
+  EXPECT_EQ(closeRequests, 1);
+  EXPECT_EQ(closeParameter, 0);
+  DestroyWindow(window);
+}
+
+TEST(WindowsPrograms, MissingProgramsAndDocumentsAreReported) {
+  const OwnerWindow owner;
+  WindowsPrograms programs(owner);
+  EXPECT_FALSE(programs.Start(L"C:\\no such folder\\none.exe /i=\"x\""));
+  EXPECT_FALSE(programs.OpenDocument(L"C:\\no such folder\\none.chm"));
+}
+
+TEST(WindowsPrograms, UnquotedPathWithBlanksStartsThatProgramAndNoOther) {
+  std::wstring folder(MAX_PATH + 1, L'\0');
+  folder.resize(GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()));
+  folder += L"tessera" + std::to_wstring(GetCurrentProcessId());
+  std::wstring shell(MAX_PATH + 1, L'\0');
+  shell.resize(GetSystemDirectoryW(shell.data(), static_cast<UINT>(shell.size())));
+  shell += L"\\cmd.exe";
+  const std::wstring decoy = folder + L"\\a.exe";
+  const std::wstring program = folder + L"\\a b\\c d.exe";
+  const std::wstring made = folder + L"\\made here";
+  ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr));
+  ASSERT_TRUE(CreateDirectoryW((folder + L"\\a b").c_str(), nullptr));
+  ASSERT_TRUE(CopyFileW(shell.c_str(), program.c_str(), TRUE));
+  WindowsFiles files;
+  ASSERT_EQ(files.Write(decoy, "not a program"), FileError::None);
+
+  EXPECT_TRUE(WindowsPrograms(OwnerWindow()).Start(program + L" /c mkdir \"" + made + L'"'));
+  bool isMade = false;
+  for (int tries = 0; tries < 200 && !isMade; ++tries) {
+    Sleep(50);
+    isMade = GetFileAttributesW(made.c_str()) != INVALID_FILE_ATTRIBUTES;
+  }
+  EXPECT_TRUE(isMade);
+
+  RemoveDirectoryW(made.c_str());
+  files.Remove(decoy);
+  for (int tries = 0; tries < 100 && files.Remove(program) == FileError::AccessDenied; ++tries)
+    Sleep(50);  // until the program has ended
+  RemoveDirectoryW((folder + L"\\a b").c_str());
+  RemoveDirectoryW(folder.c_str());
+}
+
+}  // namespace
+}  // namespace tessera
