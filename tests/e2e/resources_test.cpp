@@ -18,21 +18,30 @@ class ResourcesTest : public EndToEndTest {
  protected:
   void SetUp() override { StartAndLoad(); }
 
-  /// The first times take what stays for good, and the system keeps some of what it has drawn with.
-  /// What is lost each time is more than that.
+  /// The first times take what stays for good, and the system keeps device contexts with their
+  /// bitmaps for the next window, a few more now and then: that makes some rounds grow. What is
+  /// lost each time makes every round grow.
   template <typename Action>
   void ExpectNoGrowth(int times, Action action) {
+    constexpr int Rounds = 5;
+    const auto repeat = [&](int count) {
+      for (int time = 0; time < count; ++time) action();
+      return CountSystemObjects(program_->Process());
+    };
     constexpr int WarmUp = 8;
-    for (int time = 0; time < WarmUp; ++time) action();
-    const SystemObjects before = CountSystemObjects(program_->Process());
+    SystemObjects before = repeat(WarmUp);
     ASSERT_GT(before.Graphics, 0);
     ASSERT_GT(before.User, 0);
-    for (int time = 0; time < times; ++time) action();
-    const SystemObjects after = CountSystemObjects(program_->Process());
-    EXPECT_LT(after.Graphics - before.Graphics, times / 2);
-    EXPECT_LT(after.User - before.User, times / 2);
-    std::cout << times << " times: graphics objects " << before.Graphics << " to " << after.Graphics
-              << ", user objects " << before.User << " to " << after.User << "\n";
+    for (int round = 0; round < Rounds; ++round) {
+      const SystemObjects after = repeat(times);
+      std::cout << times << " times: graphics objects " << before.Graphics << " to "
+                << after.Graphics << ", user objects " << before.User << " to " << after.User
+                << "\n";
+      if (after.Graphics - before.Graphics < times / 2 && after.User - before.User < times / 2)
+        return;
+      before = after;
+    }
+    FAIL() << "Objects were lost in each of " << Rounds << " rounds";
   }
 
   static int Dialogs() { return LongRun() ? 100 : 10; }
