@@ -8,9 +8,10 @@ import html
 import re
 import struct
 import sys
-import tempfile
 from html.parser import HTMLParser
 from pathlib import Path
+
+import samples
 
 TEXT = re.compile(r'\{(\d+), L"((?:[^"\\]|\\.)*)"\}')
 SETTING = re.compile(r'Field\{\w+, L"(\w+)"')
@@ -195,33 +196,5 @@ BAD = {
 }
 
 
-def findings(check, files):
-    with tempfile.TemporaryDirectory() as folder:
-        for name, content in files.items():
-            path = Path(folder, name)
-            path.parent.mkdir(parents=True, exist_ok=True)
-            path.write_bytes(content.encode())
-        return list(check(Path(folder)))
-
-
-def report(title, problems):
-    for problem in problems:
-        print(f"  {problem}")
-    print(f"{'not ok' if problems else 'ok'} {title}")
-    return not problems
-
-
-def main():
-    good = True
-    for check, samples in BAD.items():
-        name = check.__name__.removeprefix("check_")
-        good &= report(f"help {name}: {check.__doc__}", list(check(Path("."))))
-        good &= report(f"help {name} accepts right help", findings(check, GOOD))
-        for sample in samples:
-            missed = [] if findings(check, GOOD | sample) else [f"nothing found in {sample}"]
-            good &= report(f"help {name} rejects {next(iter(sample.items()))}", missed)
-    return 0 if good else 1
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(samples.main(BAD, GOOD, "help "))

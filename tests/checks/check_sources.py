@@ -7,8 +7,9 @@ shows that the check can fail. Run at the root of the repository.
 import re
 import subprocess
 import sys
-import tempfile
 from pathlib import Path
+
+import samples
 
 # Lower folders first. A folder includes those of lower ranks and, in no circle, of its own.
 RANKS = {
@@ -199,33 +200,5 @@ GOOD = {
 }
 
 
-def findings(check, files):
-    with tempfile.TemporaryDirectory() as folder:
-        for name, content in files.items():
-            path = Path(folder, name)
-            path.parent.mkdir(parents=True, exist_ok=True)
-            path.write_bytes(content.encode())
-        return list(check(Path(folder)))
-
-
-def report(title, problems):
-    for problem in problems:
-        print(f"  {problem}")
-    print(f"{'not ok' if problems else 'ok'} {title}")
-    return not problems
-
-
-def main():
-    good = True
-    for check, samples in BAD.items():
-        name = check.__name__.removeprefix("check_")
-        good &= report(f"{name}: {check.__doc__}", list(check(Path("."))))
-        good &= report(f"{name} accepts right code", findings(check, GOOD))
-        for sample in samples:
-            missed = [] if findings(check, sample) else [f"nothing found in {sample}"]
-            good &= report(f"{name} rejects {next(iter(sample.items()))}", missed)
-    return 0 if good else 1
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(samples.main(BAD, GOOD))
