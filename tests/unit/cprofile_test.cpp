@@ -42,6 +42,10 @@ TEST_F(cProfileTest, IntegerIsTheLeadingNumber) {
 TEST_F(cProfileTest, WritingTheMarkerIsNoWrite) {
   Profile.WriteStringValue(L"s", L"k", MissingMarker, path);
   EXPECT_FALSE(Disk.Exists(path));
+  Disk.Contents[path] = "[s]\nk=v\n";
+  Profile.WriteStringValue(L"s", L"k", L"  " + std::wstring(MissingMarker) + L" ", path);
+  Profile.WriteStringValue(L"s", L"k", MissingMarker, path, true);
+  EXPECT_EQ(Disk.Contents[path], "[s]\nk=v\n");
 }
 
 TEST_F(cProfileTest, WritesAreOnDiskWhenTheCallReturns) {

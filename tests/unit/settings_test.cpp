@@ -112,6 +112,7 @@ TEST_F(SettingsTest, FileWithoutTheKeysGivesTheDefaultsOfTheKeys) {
   EXPECT_EQ(settings.SortedColumn, 3);
   EXPECT_EQ(settings.MultiHotkeySeparator, L" = ");
   EXPECT_EQ(settings.UndefinedHotkey, L"---");
+  EXPECT_EQ(settings.ShowControlsBackColor, 0);
   EXPECT_EQ(settings.KeepUnknownShortcuts, 0);
   EXPECT_EQ(files_.Contents[Path], "[Tessera]\r\n");
 }
@@ -141,6 +142,55 @@ TEST_F(SettingsTest, EveryKeyIsReadFromItsSection) {
   EXPECT_EQ(settings.ForegroundColor, 255);
   EXPECT_EQ(settings.AlwaysRestartTC, 1);
   EXPECT_EQ(settings.KeepUnknownShortcuts, 1);
+}
+
+TEST_F(SettingsTest, EveryStoredKeyIsWrittenBackAsItWasRead) {
+  const std::string content =
+      "[Common]\r\nLanguageFile=a.lng\r\nNumberOfRecentFiles=3\r\n"
+      "[Tessera]\r\nCommandListShowLines=1\r\nFixedBorders=2\r\nFlatUserInterface=3\r\n"
+      "ForegroundColor=4\r\nBackgroundColor=5\r\nFontName=f\r\nFontScript=6\r\nFontSize=7\r\n"
+      "FontStyle=8\r\nUseDefaultLanguage=9\r\nMainWindowTop=10\r\nMainWindowLeft=11\r\n"
+      "MainWindowHeight=12\r\nMainWindowWidth=13\r\nMainWindowMaxmized=0\r\nToolbarVisible=14\r\n"
+      "AlwaysRestartTC=15\r\nColumnHeadersPosition=p\r\nColumnHeadersSize=s\r\n"
+      "UseContextMenuKey=16\r\nSortedList=17\r\nSortOrder=18\r\nSortedColumn=19\r\n"
+      "ReverseOrderHotkey=20\r\nMultiHotkeySeparator=|\r\nUndefinedHotkey=u\r\n";
+  files_.Contents[Path] = content;
+  const Settings settings = Load();
+  const int numbers[] = {settings.CommandListShowLines,
+                         settings.FixedBorders,
+                         settings.FlatUserInterface,
+                         settings.ForegroundColor,
+                         settings.BackgroundColor,
+                         settings.FontScript,
+                         settings.FontSize,
+                         settings.FontStyle,
+                         settings.UseDefaultLanguage,
+                         settings.MainWindowTop,
+                         settings.MainWindowLeft,
+                         settings.MainWindowHeight,
+                         settings.MainWindowWidth,
+                         settings.ToolbarVisible,
+                         settings.AlwaysRestartTC,
+                         settings.UseContextMenuKey,
+                         settings.SortedList,
+                         settings.SortOrder,
+                         settings.SortedColumn,
+                         settings.ReverseOrderHotkey};
+  int expected = 0;
+  for (const int number : numbers) EXPECT_EQ(number, ++expected);
+  EXPECT_EQ(settings.FontName, L"f");
+  EXPECT_EQ(settings.ColumnHeadersPosition, L"p");
+  EXPECT_EQ(settings.ColumnHeadersSize, L"s");
+  EXPECT_EQ(settings.MultiHotkeySeparator, L" | ");
+  EXPECT_EQ(settings.UndefinedHotkey, L"u");
+  files_.Contents[Path] = "";
+  EXPECT_EQ(Save(settings), FileError::None);
+  std::vector<std::string> stored = Lines();
+  files_.Contents[Path] = content;
+  std::vector<std::string> read = Lines();
+  std::ranges::sort(stored);
+  std::ranges::sort(read);
+  EXPECT_EQ(stored, read);
 }
 
 TEST_F(SettingsTest, NumberOfRecentFilesIsClamped) {
