@@ -59,6 +59,10 @@ TEST_F(EditorTest, StoredSortValuesOutOfRangeAreRepairedAtStart) {
     EXPECT_EQ(editor.Options().SortedColumn, 3);
     EXPECT_EQ(editor.Options().SortOrder, 1);
     EXPECT_EQ(editor.List().IconOf(Column::Defaults), HeaderIcon::Descending);
+    ASSERT_EQ(editor.Rows().Count(), 3U);
+    EXPECT_EQ(editor.Rows().At(0).DefaultKeys, L"F5");
+    EXPECT_EQ(editor.Rows().At(1).DefaultKeys, L"F3 *");
+    EXPECT_EQ(editor.Rows().At(2).DefaultKeys, L"---");
   }
 }
 

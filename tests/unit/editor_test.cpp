@@ -23,8 +23,12 @@ TEST_F(EditorTest, TheFirstActivationShowsEveryRowInFileOrder) {
 TEST_F(EditorTest, ASecondActivationDoesNothing) {
   Start();
   const int reads = files_.Reads;
+  files_.Contents.erase(incPath);
+  files_.Contents.erase(iniPath);
   editor_.Activate();
   EXPECT_EQ(files_.Reads, reads);
+  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_EQ(editor_.Rows().Count(), 5U);
 }
 
 TEST_F(EditorTest, AnOpenReadsEachInputFileOnce) {
@@ -72,6 +76,10 @@ TEST_F(EditorTest, ASecondOpenWithUnsavedChangesAsksFirst) {
   EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
   EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"X");
   EXPECT_TRUE(editor_.Modified());
+
+  boxes_.Answers = {BoxAnswer::Cancel};
+  editor_.FileOpen();
+  EXPECT_TRUE(dialogs_.OpenRequests.empty());
 
   boxes_.Answers = {BoxAnswer::No};
   editor_.OpenShortcutFile(false, otherIniPath, false);
@@ -159,7 +167,11 @@ TEST_F(EditorTest, WithoutTotalcmdIncTheUserIsToldAndAsked) {
   ASSERT_EQ(boxes_.Shown.size(), 1U);
   EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find your Totalcmd.inc file !");
   EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Information);
+  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
+  ASSERT_EQ(dialogs_.OpenRequests.size(), 1U);
+  EXPECT_EQ(dialogs_.OpenRequests[0].Folder, L"");
   EXPECT_EQ(dialogs_.OpenRequests[0].FileName, L"Totalcmd.inc");
+  EXPECT_EQ(dialogs_.OpenRequests[0].Filter, FilterText(FileFilter::InternalCommands));
   EXPECT_EQ(editor_.Rows().Count(), 5U);
 }
 
@@ -187,6 +199,11 @@ TEST_F(EditorTest, TheChosenWincmdIniIsRemembered) {
   ASSERT_EQ(boxes_.Shown.size(), 1U);
   EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find Total Commander settings file [Wincmd.ini]");
   EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
+  ASSERT_EQ(dialogs_.OpenRequests.size(), 1U);
+  EXPECT_EQ(dialogs_.OpenRequests[0].Folder, L"C:\\TC\\");
+  EXPECT_EQ(dialogs_.OpenRequests[0].FileName, L"Wincmd.ini");
+  EXPECT_EQ(dialogs_.OpenRequests[0].Filter, FilterText(FileFilter::WincmdIni));
   EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"Alt + V");
   EXPECT_NE(SettingsFile().find("UserDefinedWincmd=C:\\TC\\Other.ini\r\n"), std::string::npos);
 }
@@ -210,7 +227,9 @@ TEST_F(EditorTest, WithoutTheDataFileTheUserIsToldAndTheChosenOneIsStored) {
   ASSERT_EQ(boxes_.Shown.size(), 1U);
   EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find data file! Please open one to continue");
   EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Critical);
+  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
   EXPECT_EQ(dialogs_.OpenRequests[0].FileName, L"tc default hotkeys.hky");
+  EXPECT_EQ(dialogs_.OpenRequests[0].Filter, FilterText(FileFilter::DefaultHotkeys));
   EXPECT_EQ(dialogs_.OpenRequests[0].Folder, L"C:\\Tessera\\Data Files");
   EXPECT_EQ(editor_.Rows().At(Copy).DefaultKeys, L"F5");
   EXPECT_NE(SettingsFile().find("DefaultHotKeysDataFile=D:\\keys.hky\r\n"), std::string::npos);
@@ -229,7 +248,11 @@ TEST_F(EditorTest, AMissingLanguageFileIsReportedAndTheBuiltInTextsAreUsed) {
   ASSERT_EQ(boxes_.Shown.size(), 1U);
   EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find language file!");
   EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Critical);
+  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
   EXPECT_EQ(editor_.Language().GetLangText(104), L"&Save");
+  EXPECT_NE(SettingsFile().find("UseDefaultLanguage=0"), std::string::npos);
+  editor_.Unload({}, {});
+  EXPECT_NE(SettingsFile().find("UseDefaultLanguage=1"), std::string::npos);
 }
 
 TEST_F(EditorTest, KeysAreShownWithTheModifierNamesOfTheLanguage) {
@@ -315,6 +338,22 @@ TEST_F(EditorTest, SaveAndRestartClosesWritesAndStarts) {
                  L"pause after it", L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""}));
   EXPECT_FALSE(editor_.Modified());
   EXPECT_EQ(editor_.Options().AlwaysRestartTC, 0);
+}
+
+TEST_F(EditorTest, WithTheSettingEverySaveRestartsAndOneThatIsNotRunningIsStarted) {
+  SettingsFile() = "[Tessera]\r\nAlwaysRestartTC=1\r\n";
+  Start();
+  Assign(Pack, L"X");
+  programs_.StartSucceeds = false;
+  boxes_.Answers = {BoxAnswer::Yes};
+  EXPECT_TRUE(editor_.QueryUnload());
+  EXPECT_EQ(log_, (Log{L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""}));
+  EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
+  EXPECT_EQ(boxes_.Shown.size(), 1U) << "a start that fails is not told";
+  Assign(Pack, L"Y");
+  editor_.FileSaveAndRestart();
+  EXPECT_EQ(log_.size(), 2U);
+  EXPECT_EQ(editor_.Options().AlwaysRestartTC, 1);
 }
 
 TEST_F(EditorTest, NothingIsDoneTwiceWhileASavePauses) {

@@ -69,6 +69,8 @@ TEST_F(HotkeyAssignmentTest, YesTakesADefaultKey) {
 TEST_F(HotkeyAssignmentTest, YesMovesACurrentKey) {
   WillAnswer({BoxAnswer::Yes});
   EXPECT_TRUE(assignment_.Assign(Pack, L"F7"));
+  EXPECT_EQ(boxes_.Shown.at(0).Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(boxes_.Shown.at(0).Default, BoxDefault::Second);
   EXPECT_EQ(Row(Pack).CurrentKeys, L"F7");
   EXPECT_EQ(Row(Refresh).CurrentKeys, L"F8");
 }
@@ -89,6 +91,8 @@ TEST_F(HotkeyAssignmentTest, AStartMenuKeyThatIsADefaultKeyTooIsAskedAboutTwice)
   EXPECT_EQ(boxes_.Shown[0].Text,
             L"Current hotkey for :  [Paint] in your Total Commander Start Menu\n\n"
             L"Do you want assign it to :  cm_Pack");
+  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(boxes_.Shown[0].Default, BoxDefault::Second);
   EXPECT_TRUE(boxes_.Shown[1].Text.starts_with(L"Default hotkey"));
   EXPECT_EQ(Slot(1).Key, L"f5 *");
 }
@@ -142,10 +146,23 @@ TEST_F(HotkeyAssignmentTest, AFormerKeyThatWasReplacedByATakenOneIsStillAskedAbo
             L"Current hotkey for :  cm_Refresh\n\nDo you want assign it to :  cm_Pack");
 }
 
+TEST_F(HotkeyAssignmentTest, AFormerKeyThatWasReplacedByADefaultKeyIsStillAskedAbout) {
+  WillAnswer({BoxAnswer::Yes});
+  ASSERT_TRUE(assignment_.Assign(Refresh, L"F5"));
+  EXPECT_EQ(Row(Refresh).CurrentKeys, L"F5");
+  WillAnswer({BoxAnswer::No});
+  EXPECT_FALSE(assignment_.Assign(Pack, L"F8"));
+  EXPECT_EQ(boxes_.Shown.back().Text,
+            L"Current hotkey for :  cm_Refresh\n\nDo you want assign it to :  cm_Pack");
+}
+
 TEST_F(HotkeyAssignmentTest, DeleteAllAnsweredWithNoChangesNothing) {
   WillAnswer({BoxAnswer::No});
   EXPECT_FALSE(assignment_.DeleteAll());
   ASSERT_EQ(boxes_.Shown.size(), 1U);
+  EXPECT_EQ(boxes_.Shown[0].Text,
+            L"You are about to delete Current Hotkeys for ALL commands.\n\nAre you sure?");
+  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::YesNo);
   EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Question);
   EXPECT_EQ(boxes_.Shown[0].Default, BoxDefault::Second);
   EXPECT_EQ(Row(View).CurrentKeys, L"F6");

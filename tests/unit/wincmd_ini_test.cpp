@@ -60,6 +60,9 @@ const Texts NoKeys{L"", L"---", L"---", L"---"};
 TEST(WincmdIni, ANameAndACodeBothFindTheCommand) {
   EXPECT_EQ(KeysAfterReading("CA+F1=cm_X\r\nS+F2=123\r\n"),
             (Texts{L"", L"Ctrl + Alt + F1 = Shift + F2", L"---", L"---"}));
+  const Texts sameKey{L"", L"Ctrl + Alt + F1", L"---", L"---"};
+  EXPECT_EQ(KeysAfterReading("CA+F1=cm_X\r\n"), sameKey);
+  EXPECT_EQ(KeysAfterReading("CA+F1=123\r\n"), sameKey);
 }
 
 TEST(WincmdIni, CommandsAreFoundWithoutRegardToLetterCase) {
