@@ -99,6 +99,7 @@ class frmMain {
   LRESULT OnListCustomDraw(NMLVCUSTOMDRAW& draw);
   bool DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw);
   void OnListItemChanged(const NMLISTVIEW& change);
+  void SelectListRow(int position);
   void FillListCell(LVITEMW& item) const;
   void SyncList();
   void SyncListSelection();

@@ -150,7 +150,9 @@ LRESULT frmMain::OnListNotify(NMHDR& header) {
     }
     case NM_CLICK:
     case NM_RCLICK:
-      // A click beside the rows takes the highlight away, but the editor keeps its selected row.
+      // A click counts on the row that is selected already, too.
+      SelectListRow(reinterpret_cast<const NMITEMACTIVATE&>(header).iItem);
+      // One beside the rows takes the highlight away, but the editor keeps its selected row.
       SyncListSelection();
       return 0;
     case NM_CUSTOMDRAW:
@@ -185,12 +187,17 @@ void frmMain::OnListItemChanged(const NMLISTVIEW& change) {
   }
   const int position =
       change.iItem >= 0 ? change.iItem : ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
+  SelectListRow(position);
+}
+
+void frmMain::SelectListRow(int position) {
   if (position < 0 || !AcceptsInput()) {
     return;
   }
   editor_.SelectRow(static_cast<std::size_t>(position));
   SyncPanel();
   SyncCommands();
+  SyncKeysList();
 }
 
 LRESULT frmMain::OnListCustomDraw(NMLVCUSTOMDRAW& draw) {
