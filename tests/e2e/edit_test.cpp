@@ -101,7 +101,7 @@ TEST_F(EditTest, EnterAssignsTheChosenKeyAndResetsThePanel) {
   EXPECT_FALSE(window_->ButtonEnabled(IDC_Toolbar2, IDM_assign));
 }
 
-TEST_F(EditTest, KeyWithoutModifiersCanBeAKeypadOperator) {
+TEST_F(EditTest, AKeypadOperatorIsGivenAsNum) {
   StartAndLoad();
   Select(L"cm_SrcTree");
   window_->ClickControl(IDC_chkCtrlAlt0);

@@ -50,7 +50,8 @@ TEST_F(StartTest, FirstRunWritesTheSettings) {
 
 TEST_F(StartTest, PanelIsDisabledForAHeadingRowAndEnabledForACommand) {
   StartAndLoad();
-  const std::array inputs{IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2, IDC_Combo1};
+  const std::array inputs{IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2, IDC_Combo1,
+                          IDC_cmdAllList};
   window_->ClickRow(0);
   for (const int id : inputs) EXPECT_FALSE(window_->Enabled(id)) << id;
   EXPECT_FALSE(window_->ButtonEnabled(IDC_Toolbar2, IDM_delete));
