@@ -4,7 +4,7 @@
 namespace tessera {
 
 void Editor::SelectRow(std::size_t position) {
-  if (position < catalogue_.ListView1.Count()) {
+  if (!busy_ && position < catalogue_.ListView1.Count()) {
     list_.ShowRowDetails(catalogue_.ListView1.At(position).Key);
     keysList_.Hide();
   }
@@ -16,11 +16,17 @@ void Editor::ClickColumn(int column) {
   }
 }
 
-void Editor::SetBox(int box, bool checked) { panel_.SetBox(box, checked); }
+void Editor::SetBox(int box, bool checked) {
+  if (!busy_) {
+    panel_.SetBox(box, checked);
+  }
+}
 
 void Editor::ChooseKey(int index) {
-  panel_.ChooseKey(index);
-  keysList_.FollowChooser();
+  if (!busy_) {
+    panel_.ChooseKey(index);
+    keysList_.FollowChooser();
+  }
 }
 
 void Editor::AssignKey() { Edit(&HotkeyPanel::Assign); }
@@ -47,15 +53,19 @@ PanelReaction Editor::KeyUp(const KeyEvent& event) {
   return busy_ ? PanelReaction{} : panel_.KeyUp(event);
 }
 
-PanelReaction Editor::TimerTick() { return panel_.TimerTick(); }
+PanelReaction Editor::TimerTick() { return busy_ ? PanelReaction{} : panel_.TimerTick(); }
 
 PanelReaction Editor::ToggleKeysList() {
   return busy_ || !panel_.InputsEnabled() ? PanelReaction{} : keysList_.ToggleKeysList();
 }
 
-PanelReaction Editor::SelectInKeysList(int index) { return keysList_.Select(index); }
+PanelReaction Editor::SelectInKeysList(int index) {
+  return busy_ ? PanelReaction{} : keysList_.Select(index);
+}
 
-PanelReaction Editor::KeyDownInKeysList(KeyCode code) { return keysList_.KeyDown(code); }
+PanelReaction Editor::KeyDownInKeysList(KeyCode code) {
+  return busy_ ? PanelReaction{} : keysList_.KeyDown(code);
+}
 
 void Editor::ReleaseMouseInKeysList() { keysList_.ReleaseMouse(); }
 

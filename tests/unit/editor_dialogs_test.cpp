@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "tests/unit/editor_fixture.h"
 
 namespace tessera {
@@ -162,6 +164,54 @@ TEST_F(EditorTest, AnotherLanguageIsInUseAfterTheOptions) {
   again.Apply();
   EXPECT_TRUE(editor_.EndOptions().LanguageChanged);
   EXPECT_EQ(editor_.Language().GetLangText(104), L"&Save");
+}
+
+TEST_F(EditorTest, TheDefaultLanguageLeavesTheLanguageFileAlone) {
+  /// Notes the paths that are looked at.
+  class WatchedFiles : public MemoryFiles {
+   public:
+    mutable std::vector<std::wstring> Paths;
+    [[nodiscard]] bool Exists(const std::wstring& path) const override {
+      Paths.push_back(path);
+      return MemoryFiles::Exists(path);
+    }
+    [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override {
+      Paths.push_back(path);
+      return MemoryFiles::Read(path, bytes);
+    }
+  };
+  const std::wstring language = L"C:\\de.lng";
+  WatchedFiles files;
+  files.Contents = files_.Contents;
+  files.Contents[language] = "[UserLanguage]\r\n104=Speichern\r\nRightToLeftLanguage=1\r\n";
+  const auto timesLookedAt = [&](const char* useDefault) {
+    files.Contents[settingsPath] = std::string("[Tessera]\r\nUseDefaultLanguage=") + useDefault +
+                                   "\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
+    files.Paths.clear();
+    Editor editor({files, registry_, environment_, boxes_, dialogs_, programs_, clock_, clipboard_},
+                  [](const LoadProgress&) {});
+    editor.Load();
+    editor.Activate();
+    editor.BeginExport();
+    editor.BeginOptions();
+    editor.EndOptions();
+    EXPECT_EQ(editor.Language().GetLangText(104), *useDefault == '1' ? L"&Save" : L"Speichern");
+    return std::ranges::count(files.Paths, language);
+  };
+  EXPECT_EQ(timesLookedAt("1"), 0);
+  EXPECT_GT(timesLookedAt("0"), 0);
+}
+
+TEST_F(EditorTest, AnotherLetterCaseOfThePathIsNoOtherLanguage) {
+  SettingsFile() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
+  files_.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
+  files_.Contents[L"C:\\DE.LNG"] = "[UserLanguage]\r\n104=Sichern\r\n";
+  Start();
+  OptionsSelection& options = editor_.BeginOptions();
+  options.EditLanguageFilePath(L"C:\\DE.LNG");
+  options.Apply();
+  EXPECT_FALSE(editor_.EndOptions().LanguageChanged);
+  EXPECT_EQ(editor_.Language().GetLangText(104), L"Speichern");
 }
 
 TEST_F(EditorTest, ALanguageFileThatIsMissingIsReportedOnce) {

@@ -3,6 +3,53 @@
 namespace tessera {
 namespace {
 
+/// Everything that events can set off; told apart from the rest of a test by happening while the
+/// editor is busy.
+void DoEverything(Editor& editor) {
+  // First, since the options reset the panel, which would hide what the others do to it.
+  editor.BeginOptions();
+  editor.EndOptions();
+  editor.BeginExport();
+  editor.EndExport();
+  editor.SelectRow(View);
+  editor.SetBox(0, true);
+  editor.ChooseKey(3);
+  editor.AssignKey();
+  editor.AddKey();
+  editor.DeleteKeys();
+  editor.DeleteAllKeys();
+  for (const KeyCode code : {KeyCode::Enter, KeyCode::Delete, KeyCode::Ctrl}) {
+    editor.KeyDown({.Code = code, .CtrlHeld = true});
+    editor.KeyUp({.Code = code});
+  }
+  editor.TimerTick();
+  editor.ToggleKeysList();
+  editor.SelectInKeysList(5);
+  editor.KeyDownInKeysList(KeyCode::Enter);
+  editor.ClickColumn(2);
+  editor.ToggleSortedList();
+  editor.FileOpen();
+  editor.OpenFile(otherIniPath);
+  editor.OpenRecentFile(1);
+  editor.ClearRecentFiles();
+  editor.FileSave();
+  editor.FileSaveAndRestart();
+  editor.Activate();
+  EXPECT_FALSE(editor.QueryUnload());
+}
+
+/// What the user sees of the rows and the panel.
+std::vector<std::wstring> Shown(const Editor& editor) {
+  std::vector<std::wstring> texts{editor.Caption(), editor.Panel().ComposeKey(),
+                                  std::to_wstring(editor.List().SelectedRow())};
+  for (std::size_t row = 0; row < editor.Rows().Count(); ++row) {
+    for (const Column column : {Column::Command, Column::Defaults, Column::Current}) {
+      texts.push_back(CellText(editor.Rows().At(row), column));
+    }
+  }
+  return texts;
+}
+
 // -- Editing
 
 TEST_F(EditorTest, AnEditEnablesSavingAndASaveDisablesIt) {
@@ -37,6 +84,49 @@ TEST_F(EditorTest, APositionOutsideTheListSelectsNothingElse) {
   editor_.SelectRow(5);
   editor_.SelectRow(static_cast<std::size_t>(-1));
   EXPECT_EQ(editor_.List().SelectedRow(), 3U);
+}
+
+// -- While a load or a save runs
+
+TEST_F(EditorTest, EventsDuringALoadChangeNothing) {
+  Start();
+  int disturbances = 0;
+  Editor* busyEditor = nullptr;
+  Editor editor(system_, [&](const LoadProgress&) {
+    if (busyEditor != nullptr && busyEditor->Busy()) {
+      ++disturbances;
+      DoEverything(*busyEditor);
+    }
+  });
+  busyEditor = &editor;
+  editor.Load();
+  editor.Activate();
+  EXPECT_GT(disturbances, 1);
+  EXPECT_EQ(Shown(editor), Shown(editor_));
+  EXPECT_FALSE(editor.Modified());
+  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(dialogs_.OpenRequests.empty());
+  EXPECT_TRUE(clipboard_.Texts.empty());
+  EXPECT_EQ(Ini(), iniContent);
+}
+
+TEST_F(EditorTest, EventsDuringASaveChangeNothing) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Assign(Pack, L"X");
+  const std::vector<std::wstring> before = Shown(editor_);
+  clock_.OnDoEvents = [this] { DoEverything(editor_); };
+  editor_.FileSaveAndRestart();
+  clock_.OnDoEvents = nullptr;
+  EXPECT_GT(clock_.DoEventsCount, 0);
+  // The options, which the window does not open at such a time, reset the panel.
+  EXPECT_EQ(editor_.Panel().ChosenKey(), NoKeyChosen);
+  Choose(L"X");
+  EXPECT_EQ(Shown(editor_), before);
+  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(clipboard_.Texts.empty());
+  EXPECT_EQ(std::count(log_.begin(), log_.end(), L"SendClose 7"), 1);
+  EXPECT_NE(Ini().find("X=cm_Pack\r\n"), std::string::npos);
 }
 
 // -- Order
