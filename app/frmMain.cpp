@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "app/resource.h"
-#include "resources/icons.h"
 
 namespace tessera {
 
@@ -45,14 +44,10 @@ frmMain::~frmMain() { windowsSystem_.SetMessageFilter(nullptr); }
 bool frmMain::Form_Load(std::wstring fileToOpen) {
   editor_.Load(std::move(fileToOpen));
   const HINSTANCE instance = GetModuleHandleW(nullptr);
-  icon_ = LoadIconOfSize(IDI_TESSERA, GetSystemMetrics(SM_CXICON));
-  smallIcon_ = LoadIconOfSize(IDI_TESSERA, GetSystemMetrics(SM_CXSMICON));
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof windowClass;
   windowClass.lpfnWndProc = WindowProcedure;
   windowClass.hInstance = instance;
-  windowClass.hIcon = icon_.get();
-  windowClass.hIconSm = smallIcon_.get();
   windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   windowClass.lpszClassName = WindowClass;
@@ -68,6 +63,7 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   dpi_ = static_cast<int>(GetDpiForWindow(window_));
   CreateControls();
   ApplyLanguage();
+  ApplyDpi();
   ApplyDisplaySettings();
   SetColumnWidths(ReadColumnLayout(editor_.Options()).Widths);
   Sync();

@@ -62,6 +62,7 @@ class frmMain {
   void ApplyLanguage();
   void ApplyDisplaySettings();
   void ApplyDpi();
+  void ApplyFonts();
   void ApplyPlacement();
   WindowPlacement CurrentPlacement() const;
   void LayOut();
@@ -95,6 +96,7 @@ class frmMain {
   void CreateCommandList();
   void LabelColumns();
   void ApplyListFont();
+  void LoadListImages();
   LRESULT OnListNotify(NMHDR& header);
   LRESULT OnListCustomDraw(NMLVCUSTOMDRAW& draw);
   bool DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw);
@@ -147,7 +149,6 @@ class frmMain {
   Unique<HICON> icon_;
   Unique<HICON> smallIcon_;
   Unique<HICON> allKeysIcon_;
-  int allKeysIconSize_ = 0;  ///< in pixels; 0 before it is loaded
   Unique<HFONT> font_;
   Unique<HFONT> listFont_;
   Unique<HBRUSH> translatorsBrush_;

@@ -16,9 +16,8 @@ void frmMain::ShowOptions() {
   const OptionsOutcome outcome = editor_.EndOptions();
   if (outcome.LanguageChanged) {
     ApplyLanguage();
-  } else {
-    ApplyDpi();
   }
+  ApplyFonts();
   ApplyDisplaySettings();
   React(outcome.Panel);
 }

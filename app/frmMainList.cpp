@@ -115,13 +115,19 @@ void frmMain::ApplyListFont() {
   Unique<HFONT> listFont(CreateFontIndirectW(&font));
   GiveFont(ListView1_, listFont.get());
   listFont_ = std::move(listFont);
-  const HWND header = ListView_GetHeader(ListView1_);
-  GiveFont(header, font_.get());
+  GiveFont(ListView_GetHeader(ListView1_), font_.get());
+  // The list has passed its own font on to the header, and placed its rows below that.
+  RECT inside{};
+  GetClientRect(ListView1_, &inside);
+  SendMessageW(ListView1_, WM_SIZE, SIZE_RESTORED, MAKELPARAM(inside.right, inside.bottom));
+}
+
+void frmMain::LoadListImages() {
   const int size = Scaled(16, dpi_);
   Unique<HIMAGELIST> rows = LoadImages(RowIcons, size);
   Unique<HIMAGELIST> headers = LoadImages(HeaderIcons, size);
   ListView_SetImageList(ListView1_, rows.get(), LVSIL_SMALL);
-  Header_SetImageList(header, headers.get());
+  Header_SetImageList(ListView_GetHeader(ListView1_), headers.get());
   ilsListView_ = std::move(rows);
   ilsColumnHeader_ = std::move(headers);
 }

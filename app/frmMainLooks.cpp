@@ -75,10 +75,26 @@ void frmMain::ApplyLanguage() {
   LabelToolbars();
   LabelColumns();
   LabelPanel();
-  ApplyDpi();
 }
 
 void frmMain::ApplyDpi() {
+  const auto showIcon = [this](WPARAM kind, int metric, Unique<HICON>& shown) {
+    const int size = GetSystemMetricsForDpi(metric, static_cast<UINT>(dpi_));
+    Unique<HICON> icon = LoadIconOfSize(IDI_TESSERA, size);
+    SendMessageW(window_, WM_SETICON, kind, reinterpret_cast<LPARAM>(icon.get()));
+    shown = std::move(icon);
+  };
+  showIcon(ICON_BIG, SM_CXICON, icon_);
+  showIcon(ICON_SMALL, SM_CXSMICON, smallIcon_);
+  Unique<HICON> allKeys = LoadIconOfSize(IDI_ALLKEYS, Scaled(AllKeysIconSize, dpi_));
+  SendMessageW(cmdAllList_, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(allKeys.get()));
+  allKeysIcon_ = std::move(allKeys);
+  LoadToolbarImages();
+  LoadListImages();
+  ApplyFonts();
+}
+
+void frmMain::ApplyFonts() {
   const LOGFONTW messageFont = MessageFont(dpi_, editor_.Options().FontScript);
   Unique<HFONT> font(CreateFontIndirectW(&messageFont));
   const auto give = [&font](HWND control) { GiveFont(control, font.get()); };
@@ -89,7 +105,6 @@ void frmMain::ApplyDpi() {
   give(Toolbar2_);
   frmKeysList_.ApplyFont(font.get(), dpi_);
   font_ = std::move(font);
-  LoadToolbarImages();
   ApplyListFont();
   LayOutPanel();
 }
@@ -112,7 +127,6 @@ void frmMain::ApplyDisplaySettings() {
   ListView_SetTextColor(ListView1_, ColourOf(settings.ForegroundColor));
   ListView_SetBkColor(ListView1_, ColourOf(settings.BackgroundColor));
   ListView_SetTextBkColor(ListView1_, ColourOf(settings.BackgroundColor));
-  ApplyListFont();
   InvalidateRect(ListView1_, nullptr, TRUE);
   LayOut();
 }
@@ -203,13 +217,6 @@ void frmMain::LayOutPanel() {
     const Area& area = areas[index];
     SetWindowPos(controls[index], nullptr, area.Left, area.Top, area.Width, area.Height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-  }
-  // This runs after every options dialog: an icon serves as long as its size does.
-  if (const int size = scaled(AllKeysIconSize); size != allKeysIconSize_) {
-    Unique<HICON> icon = LoadIconOfSize(IDI_ALLKEYS, size);
-    SendMessageW(cmdAllList_, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.get()));
-    allKeysIcon_ = std::move(icon);
-    allKeysIconSize_ = size;
   }
   const Area button = PlaceAllKeysButton(areas[4], dpi_);
   SetWindowPos(cmdAllList_, HWND_TOP, button.Left, button.Top, button.Width, button.Height,
