@@ -55,6 +55,7 @@ struct Opening {
 
   SampleProgram Program;
   FakeEnvironment Environment;
+  FakeClock Clock;
   HotkeyNotation Notation;
   Catalogue Commands;
   ProgressStep Step = [] {};
@@ -80,7 +81,8 @@ constexpr std::array Steps = {
                 }},
     OpeningStep{"read the current keys",
                 [](Opening& o) {
-                  const WincmdIni file(o.Program.Files, o.Environment, SampleProgram::IniPath);
+                  const WincmdIni file(o.Program.Files, o.Clock, o.Environment,
+                                       SampleProgram::IniPath);
                   ReadShortcuts(o.Commands.lvwHidden, file.Shortcuts(), o.Notation, o.Step);
                 }},
     OpeningStep{"make the displayed rows",
