@@ -34,18 +34,17 @@ bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view lowerPart) {
          text.end();
 }
 
-std::vector<std::wstring_view> UntrimmedPieces(std::wstring_view text,
-                                               std::wstring_view separator) {
-  std::vector<std::wstring_view> pieces;
+/// Gives `take` each piece, untrimmed. An empty separator separates nothing.
+template <typename Take>
+void ForEachPiece(std::wstring_view text, std::wstring_view separator, Take take) {
   if (!separator.empty()) {
     for (std::size_t at = text.find(separator); at != std::wstring_view::npos;
          at = text.find(separator)) {
-      pieces.push_back(text.substr(0, at));
+      take(text.substr(0, at));
       text.remove_prefix(at + separator.size());
     }
   }
-  pieces.push_back(text);
-  return pieces;
+  take(text);
 }
 
 std::wstring Joined(const std::vector<std::wstring>& pieces, std::wstring_view separator) {
@@ -63,9 +62,8 @@ std::span<const std::wstring_view> KeyVocabulary() { return Vocabulary; }
 
 std::vector<std::wstring> SplitText(std::wstring_view text, std::wstring_view separator) {
   std::vector<std::wstring> pieces;
-  for (const std::wstring_view piece : UntrimmedPieces(text, separator)) {
-    pieces.push_back(TrimBlanks(piece));
-  }
+  ForEachPiece(text, separator,
+               [&](std::wstring_view piece) { pieces.push_back(TrimBlanks(piece)); });
   return pieces;
 }
 
@@ -155,12 +153,14 @@ std::wstring HotkeyNotation::ApplyReverseOrder(std::wstring_view text) const {
   if (!ReverseOrderHotkey) return std::wstring(text);
 
   std::vector<std::wstring> keys;
-  for (const std::wstring_view piece : UntrimmedPieces(text, MultiHotkeySeparator)) {
-    std::wstring key(UntrimmedPieces(piece, Joint).back());
+  ForEachPiece(text, MultiHotkeySeparator, [&](std::wstring_view piece) {
+    std::wstring_view name;
+    ForEachPiece(piece, Joint, [&](std::wstring_view last) { name = last; });
+    std::wstring key(name);
     const std::wstring prefix = ModifierPrefix(piece);
     if (!prefix.empty()) key.append(Joint).append(prefix, 0, prefix.size() - Joint.size());
     keys.push_back(std::move(key));
-  }
+  });
   return Joined(keys, MultiHotkeySeparator);
 }
 

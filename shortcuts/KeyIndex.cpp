@@ -4,47 +4,36 @@
 #include <utility>
 
 #include "platform/Text.h"
+#include "platform/TextHash.h"
 
 namespace tessera {
 
 namespace {
 
-// FNV-1a, which hashes every beginning of a text in one walk along it.
-constexpr std::uint64_t HashOfNothing = 14695981039346656037U;
-
-std::uint64_t Extend(std::uint64_t hash, wchar_t character) {
-  return (hash ^ static_cast<std::uint64_t>(character)) * 1099511628211U;
-}
-
-std::uint64_t HashOf(std::wstring_view text) {
-  std::uint64_t hash = HashOfNothing;
-  for (const wchar_t character : text) hash = Extend(hash, character);
-  return hash;
-}
+std::size_t HashOf(std::wstring_view text) { return HashIgnoringCase()(text); }
 
 /// Gives `take` the hashes of the text and of all its beginnings that end before a blank.
 template <typename Take>
 void ForEachHashOfKey(std::wstring_view text, Take take) {
-  std::uint64_t hash = HashOfNothing;
-  for (const wchar_t character : text) {
-    if (character == L' ') take(hash);
-    hash = Extend(hash, character);
+  for (std::size_t end = text.find(L' '); end < text.size(); end = text.find(L' ', end + 1)) {
+    take(HashOf(text.substr(0, end)));
   }
-  take(hash);
+  take(HashOf(text));
 }
 
 bool IsKeyOf(std::wstring_view text, std::wstring_view key) {
-  return text.starts_with(key) && (text.size() == key.size() || text[key.size()] == L' ');
+  return EqualIgnoringCase(text.substr(0, key.size()), key) &&
+         (text.size() == key.size() || text[key.size()] == L' ');
 }
 
 template <typename Groups, typename Id>
-void AddToGroup(Groups& groups, std::uint64_t hash, Id id) {
+void AddToGroup(Groups& groups, std::size_t hash, Id id) {
   auto& group = groups[hash];
   group.insert(group.end(), id);
 }
 
 template <typename Groups, typename Id>
-void RemoveFromGroup(Groups& groups, std::uint64_t hash, Id id) {
+void RemoveFromGroup(Groups& groups, std::size_t hash, Id id) {
   const auto group = groups.find(hash);
   if (group == groups.end()) return;
   group->second.erase(id);
@@ -53,7 +42,7 @@ void RemoveFromGroup(Groups& groups, std::uint64_t hash, Id id) {
 
 /// The first entry of a group that really is meant: different texts may share a hash.
 template <typename Groups, typename Predicate>
-std::optional<KeyIndex::EntryId> FirstOfGroup(const Groups& groups, std::uint64_t hash,
+std::optional<KeyIndex::EntryId> FirstOfGroup(const Groups& groups, std::size_t hash,
                                               const Predicate& isMeant) {
   const auto group = groups.find(hash);
   if (group == groups.end()) return std::nullopt;
@@ -67,7 +56,7 @@ std::optional<KeyIndex::EntryId> FirstOfGroup(const Groups& groups, std::uint64_
 
 std::size_t KeyIndex::Count() const { return count_; }
 
-const KeyIndex::Entry& KeyIndex::At(EntryId id) const { return Stored(id); }
+const KeyIndex::Entry& KeyIndex::At(EntryId id) const { return entries_.at(id).value(); }
 
 std::vector<KeyIndex::EntryId> KeyIndex::Ids() const {
   std::vector<EntryId> ids;
@@ -79,77 +68,77 @@ std::vector<KeyIndex::EntryId> KeyIndex::Ids() const {
 }
 
 std::optional<KeyIndex::EntryId> KeyIndex::FindWhole(std::wstring_view text) const {
-  const std::wstring folded = ToLower(text);
-  return FirstOfGroup(byWhole_, HashOf(folded),
-                      [&](EntryId id) { return Stored(id).Folded == folded; });
+  return FirstOfGroup(byWhole_, HashOf(text),
+                      [&](EntryId id) { return EqualIgnoringCase(At(id).Text, text); });
 }
 
 std::optional<KeyIndex::EntryId> KeyIndex::FindKey(std::wstring_view key) const {
-  const std::wstring folded = ToLower(key);
-  return FirstOfGroup(ByKey(), HashOf(folded),
-                      [&](EntryId id) { return IsKeyOf(Stored(id).Folded, folded); });
+  return FirstOfGroup(ForEdits().ByKey, HashOf(key),
+                      [&](EntryId id) { return IsKeyOf(At(id).Text, key); });
 }
 
 KeyIndex::EntryId KeyIndex::Add(std::wstring text, RowKey owner) {
   const EntryId id = entries_.size();
-  std::wstring folded = ToLower(text);
-  AddToTextGroups(id, *entries_.emplace_back(StoredEntry{{std::move(text)}, std::move(folded)}));
-  SetOwner(id, owner);
+  AddToGroups(id, *entries_.emplace_back(Entry{std::move(text), owner}));
+  if (forEdits_) forEdits_->AddOwned(id, owner);
   ++count_;
   return id;
 }
 
 void KeyIndex::SetText(EntryId id, std::wstring text) {
-  StoredEntry& entry = entries_.at(id).value();
-  RemoveFromTextGroups(id, entry);
-  entry.Folded = ToLower(text);
+  Entry& entry = entries_.at(id).value();
+  RemoveFromGroups(id, entry);
   entry.Text = std::move(text);
-  AddToTextGroups(id, entry);
+  AddToGroups(id, entry);
 }
 
 void KeyIndex::SetOwner(EntryId id, RowKey owner) {
-  StoredEntry& entry = entries_.at(id).value();
-  if (owner >= byOwner_.size()) byOwner_.resize(owner + 1);
-  if (entry.Owner < byOwner_.size()) std::erase(byOwner_[entry.Owner], id);
-  byOwner_[owner].push_back(id);
+  Entry& entry = entries_.at(id).value();
+  std::erase(ForEdits().ByOwner.at(entry.Owner), id);
+  forEdits_->AddOwned(id, owner);
   entry.Owner = owner;
 }
 
 void KeyIndex::RemoveOwnedBy(RowKey owner) {
-  if (owner >= byOwner_.size()) return;
-  for (const EntryId id : byOwner_[owner]) {
-    RemoveFromTextGroups(id, Stored(id));
+  if (owner >= ForEdits().ByOwner.size()) return;
+  for (const EntryId id : std::exchange(forEdits_->ByOwner[owner], {})) {
+    RemoveFromGroups(id, At(id));
     entries_[id].reset();
     --count_;
   }
-  byOwner_[owner].clear();
 }
 
 void KeyIndex::Clear() { *this = KeyIndex(); }
 
-const KeyIndex::StoredEntry& KeyIndex::Stored(EntryId id) const { return entries_.at(id).value(); }
+void KeyIndex::EditIndexes::AddOwned(EntryId id, RowKey owner) {
+  if (owner >= ByOwner.size()) ByOwner.resize(owner + 1);
+  ByOwner[owner].push_back(id);
+}
 
-const KeyIndex::Groups& KeyIndex::ByKey() const {
-  if (!byKey_) {
-    byKey_.emplace();
+KeyIndex::EditIndexes& KeyIndex::ForEdits() const {
+  if (!forEdits_) {
+    forEdits_.emplace();
     for (const EntryId id : Ids()) {
-      ForEachHashOfKey(Stored(id).Folded,
-                       [&](std::uint64_t hash) { AddToGroup(*byKey_, hash, id); });
+      const Entry& entry = At(id);
+      ForEachHashOfKey(entry.Text,
+                       [&](std::size_t hash) { AddToGroup(forEdits_->ByKey, hash, id); });
+      forEdits_->AddOwned(id, entry.Owner);
     }
   }
-  return *byKey_;
+  return *forEdits_;
 }
 
-void KeyIndex::AddToTextGroups(EntryId id, const StoredEntry& entry) {
-  AddToGroup(byWhole_, HashOf(entry.Folded), id);
-  if (!byKey_) return;
-  ForEachHashOfKey(entry.Folded, [&](std::uint64_t hash) { AddToGroup(*byKey_, hash, id); });
+void KeyIndex::AddToGroups(EntryId id, const Entry& entry) {
+  AddToGroup(byWhole_, HashOf(entry.Text), id);
+  if (!forEdits_) return;
+  ForEachHashOfKey(entry.Text, [&](std::size_t hash) { AddToGroup(forEdits_->ByKey, hash, id); });
 }
 
-void KeyIndex::RemoveFromTextGroups(EntryId id, const StoredEntry& entry) {
-  RemoveFromGroup(byWhole_, HashOf(entry.Folded), id);
-  if (!byKey_) return;
-  ForEachHashOfKey(entry.Folded, [&](std::uint64_t hash) { RemoveFromGroup(*byKey_, hash, id); });
+void KeyIndex::RemoveFromGroups(EntryId id, const Entry& entry) {
+  RemoveFromGroup(byWhole_, HashOf(entry.Text), id);
+  if (!forEdits_) return;
+  ForEachHashOfKey(entry.Text,
+                   [&](std::size_t hash) { RemoveFromGroup(forEdits_->ByKey, hash, id); });
 }
 
 }  // namespace tessera

@@ -2,7 +2,6 @@
 // to letter case. A look-up costs the same however long the list is.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <set>
 #include <string>
@@ -48,26 +47,26 @@ class KeyIndex {
   void Clear();
 
  private:
-  struct StoredEntry : Entry {
-    std::wstring Folded;  ///< the text in lower case
+  /// The entries whose texts have a hash in common, the first one first.
+  using Groups = std::unordered_map<std::size_t, std::set<EntryId>>;
+
+  struct EditIndexes {
+    Groups ByKey;  ///< under the whole text, and each part of it that ends before a blank
+    std::vector<std::vector<EntryId>> ByOwner;
+
+    void AddOwned(EntryId id, RowKey owner);
   };
 
-  /// The entries whose texts have a hash in common, the first one first.
-  using Groups = std::unordered_map<std::uint64_t, std::set<EntryId>>;
+  EditIndexes& ForEdits() const;
+  void AddToGroups(EntryId id, const Entry& entry);
+  void RemoveFromGroups(EntryId id, const Entry& entry);
 
-  [[nodiscard]] const StoredEntry& Stored(EntryId id) const;
-  [[nodiscard]] const Groups& ByKey() const;
-  void AddToTextGroups(EntryId id, const StoredEntry& entry);
-  void RemoveFromTextGroups(EntryId id, const StoredEntry& entry);
-
-  std::vector<std::optional<StoredEntry>> entries_;  ///< by id; nothing once removed
+  std::vector<std::optional<Entry>> entries_;  ///< by id; nothing once removed
   std::size_t count_ = 0;
   Groups byWhole_;
 
-  /// Under the whole text, and each part of it that ends before a blank. Made at the first FindKey:
-  /// opening a file asks for whole texts alone.
-  mutable std::optional<Groups> byKey_;
-  std::vector<std::vector<EntryId>> byOwner_;
+  /// Made when first asked for: opening a file looks up whole texts alone.
+  mutable std::optional<EditIndexes> forEdits_;
 };
 
 }  // namespace tessera
