@@ -20,9 +20,10 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
   for (const Run& run : runs) {
     if (run.error_occurred) {
       GetErrorStream() << run.benchmark_name() << ": " << run.error_message << "\n";
-    } else if (run.aggregate_name == "median") {
-      times_.emplace_back(run.run_name.function_name + "/" + run.run_name.args,
-                          run.GetAdjustedRealTime());
+    } else if (run.run_type == Run::RT_Iteration) {
+      const auto [time, isFirst] = times_.emplace(
+          run.run_name.function_name + "/" + run.run_name.args, run.GetAdjustedCPUTime());
+      if (!isFirst) time->second = std::min(time->second, run.GetAdjustedCPUTime());
     }
   }
 }
@@ -50,8 +51,7 @@ void RatioReporter::Finalize() {
 
 /// Not a number for a benchmark that did not run, so that its row cannot meet a goal.
 double RatioReporter::TimeOf(const std::string& name) const {
-  const auto found = std::find_if(times_.begin(), times_.end(),
-                                  [&](const auto& time) { return time.first == name; });
+  const auto found = times_.find(name);
   return found == times_.end() ? std::numeric_limits<double>::quiet_NaN() : found->second;
 }
 

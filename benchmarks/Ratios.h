@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <limits>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,8 @@ struct Ratio {
   double Goal = std::numeric_limits<double>::infinity();  ///< the largest ratio wanted, if any is
 };
 
-/// Prints a table of ratios from the median times of a run.
+/// Prints a table of ratios of processor times. Of repetitions the quickest counts: whatever else
+/// runs on the machine only ever adds time.
 class RatioReporter : public benchmark::BenchmarkReporter {
  public:
   explicit RatioReporter(std::vector<Ratio> ratios);
@@ -33,7 +35,7 @@ class RatioReporter : public benchmark::BenchmarkReporter {
   [[nodiscard]] double TimeOf(const std::string& name) const;
 
   std::vector<Ratio> ratios_;
-  std::vector<std::pair<std::string, double>> times_;
+  std::map<std::string, double> times_;
   bool everyRatioKnown_ = true;
 };
 
