@@ -1,6 +1,7 @@
 // The order in which things happen: start, opening, saving, editing, closing.
 #include "app/Editor.h"
 
+#include <memory>
 #include <utility>
 
 #include "localisation/TextTable.h"
@@ -229,7 +230,9 @@ void Editor::LoadCatalogue() {
   if (catalogue_.lvwHidden.empty()) {
     std::string bytes;
     if (system_.FileSystem.Read(totalcmdIncPath_, bytes) == FileError::None) {
-      catalogue_.lvwHidden = ReadInternalCommands(bytes, notation_.UndefinedHotkey, step);
+      catalogue_.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(bytes));
+      catalogue_.lvwHidden =
+          ReadInternalCommands(*catalogue_.Text, notation_.UndefinedHotkey, step);
     }
   }
   AskForMissingDataFile();

@@ -176,7 +176,7 @@ void frmMain::FillListCell(LVITEMW& item) const {
   }
   const CommandEntry& row = rows.At(position);
   if ((item.mask & LVIF_TEXT) != 0) {
-    const std::wstring& text = CellText(row, Columns[item.iSubItem]);
+    const std::wstring text(CellText(row, Columns[item.iSubItem]));
     lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
   }
   if ((item.mask & LVIF_IMAGE) != 0) {

@@ -9,6 +9,7 @@
 #include "export/ClipboardTable.h"
 #include "localisation/Texts.h"
 #include "platform/Text.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 namespace {
@@ -91,7 +92,7 @@ void StableSort(benchmark::State& state) {
   std::vector<std::wstring> texts;
   for (std::size_t position = 0; position < program.Editor.Rows().Count(); ++position) {
     const CommandEntry& row = program.Editor.Rows().At(position);
-    if (!row.IsHeading()) texts.push_back(CellText(row, ColumnOf(state)));
+    if (!row.IsHeading()) texts.emplace_back(CellText(row, ColumnOf(state)));
   }
   for (auto _ : state) {
     std::vector<std::wstring> sorted = texts;
@@ -129,9 +130,8 @@ DisplayTable RowsWithKeys(int count) {
   for (std::size_t row = 0; row < rows.size(); ++row) {
     const std::wstring number = std::to_wstring(row);
     rows[row].Key = row + 1;
-    rows[row].Description = L"Does what command " + number + L" is for";
-    rows[row].CommandName = L"cm_Command" + number;
-    rows[row].Tag = number;
+    rows[row].Description = Kept(L"Does what command " + number + L" is for");
+    rows[row].CommandName = Kept(L"cm_Command" + number);
     rows[row].DefaultKeys = L"---";
     rows[row].CurrentKeys = L"Ctrl + Shift + K" + number;
   }

@@ -71,8 +71,10 @@ constexpr std::array Steps = {
                 [](Opening& o) {
                   std::string bytes;
                   static_cast<void>(o.Program.Files.Read(SampleProgram::CommandsPath, bytes));
+                  o.Commands.Text =
+                      std::make_shared<const std::wstring>(DecodeInternalCommands(bytes));
                   o.Commands.lvwHidden =
-                      ReadInternalCommands(bytes, o.Notation.UndefinedHotkey, o.Step);
+                      ReadInternalCommands(*o.Commands.Text, o.Notation.UndefinedHotkey, o.Step);
                 }},
     OpeningStep{"fill in the default keys",
                 [](Opening& o) {

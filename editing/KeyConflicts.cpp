@@ -8,7 +8,7 @@ namespace {
 constexpr const wchar_t* LineBreaks = L"\n\n";
 
 std::wstring AssignItToQuestion(const Texts& texts, const CommandEntry& row) {
-  return texts.GetLangText(3060) + L"  " + row.CommandName;
+  return (texts.GetLangText(3060) + L"  ").append(row.CommandName);
 }
 
 }  // namespace
@@ -34,13 +34,13 @@ std::wstring StartMenuQuestion(const Texts& texts, const StartMenuSlot& slot,
 
 std::wstring DefaultKeyQuestion(const Texts& texts, const CommandEntry& owner,
                                 const CommandEntry& row) {
-  return texts.GetLangText(3203) + L"  " + owner.CommandName + L"\t" + LineBreaks +
+  return (texts.GetLangText(3203) + L"  ").append(owner.CommandName) + L"\t" + LineBreaks +
          AssignItToQuestion(texts, row) + L"\t";
 }
 
 std::wstring CurrentKeyQuestion(const Texts& texts, const CommandEntry& owner,
                                 const CommandEntry& row) {
-  return texts.GetLangText(3204) + L"  " + owner.CommandName + LineBreaks +
+  return (texts.GetLangText(3204) + L"  ").append(owner.CommandName) + LineBreaks +
          AssignItToQuestion(texts, row);
 }
 

@@ -14,8 +14,10 @@ constexpr std::array<Column, 4> AllColumns{Column::Description, Column::Command,
                                            Column::Current};
 constexpr std::array<int, 4> HeadingTexts{3003, 3004, 3200, 3201};
 
-void AppendCell(std::wstring& text, const std::wstring& cell, std::size_t width) {
-  text.append(cell, 0, width).append(width - std::min(width, cell.size()), L' ').append(1, L'\t');
+void AppendCell(std::wstring& text, std::wstring_view cell, std::size_t width) {
+  text.append(cell.substr(0, width))
+      .append(width - std::min(width, cell.size()), L' ')
+      .append(1, L'\t');
 }
 
 bool HasKey(const CommandEntry& row, const ExportColumns& columns,

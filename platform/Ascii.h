@@ -1,6 +1,9 @@
 // The quick way for texts of ASCII alone, which nearly all texts of the files are.
 #pragma once
 
+#include <algorithm>
+#include <string>
+#include <string_view>
 #include <type_traits>
 
 namespace tessera {
@@ -12,6 +15,12 @@ template <typename Text>
   Bits bits = 0;
   for (const auto character : text) bits = static_cast<Bits>(bits | static_cast<Bits>(character));
   return bits < 0x80;
+}
+
+[[nodiscard]] inline std::wstring FromAscii(std::string_view bytes) {
+  std::wstring text(bytes.size(), L'\0');
+  std::copy(bytes.begin(), bytes.end(), text.begin());
+  return text;
 }
 
 template <typename Character>

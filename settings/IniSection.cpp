@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "platform/Lines.h"
 #include "settings/IniText.h"
 
 namespace tessera {

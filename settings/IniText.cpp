@@ -30,23 +30,6 @@ std::string_view WithoutSpaces(std::string_view text) {
 
 bool HasLineBreak(std::string_view text) { return std::any_of(text.begin(), text.end(), EndsLine); }
 
-std::vector<std::string_view> SplitIntoLines(std::string_view text) {
-  std::vector<std::string_view> lines;
-  lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
-  // Each of the two is looked for again only once it is passed, so that no byte is seen twice.
-  std::size_t carriageReturn = text.find('\r');
-  std::size_t lineFeed = text.find('\n');
-  for (std::size_t begin = 0; begin < text.size();) {
-    std::size_t end = std::min({carriageReturn, lineFeed, text.size()});
-    if (end < text.size()) end += text.substr(end, 2) == IniLineEnd ? 2 : 1;
-    lines.push_back(text.substr(begin, end - begin));
-    begin = end;
-    if (carriageReturn < begin) carriageReturn = text.find('\r', begin);
-    if (lineFeed < begin) lineFeed = text.find('\n', begin);
-  }
-  return lines;
-}
-
 std::optional<IniEntry> EntryOf(std::string_view line) {
   const std::size_t equals = line.find('=');
   if (equals == std::string_view::npos || IsComment(line)) return std::nullopt;

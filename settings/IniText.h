@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <string_view>
-#include <vector>
 
 namespace tessera {
 
@@ -26,9 +25,6 @@ struct IniEntry {
 [[nodiscard]] std::string_view WithoutSpaces(std::string_view text);
 
 [[nodiscard]] bool HasLineBreak(std::string_view text);
-
-/// Lines with their ends; LF, CR LF and a lone CR end a line.
-[[nodiscard]] std::vector<std::string_view> SplitIntoLines(std::string_view text);
 
 /// Name and value of a line; nothing for a comment and for a line without "=".
 [[nodiscard]] std::optional<IniEntry> EntryOf(std::string_view line);

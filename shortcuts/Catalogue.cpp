@@ -25,7 +25,7 @@ void BuildDisplayTable(Catalogue& catalogue, const HotkeyNotation& notation,
   std::vector<CommandEntry> rows = catalogue.lvwHidden;
   for (CommandEntry& row : rows) {
     step();
-    row.CommandCode.clear();
+    row.CommandCode = {};
     row.Icon = IconOf(row, notation.UndefinedHotkey);
   }
   catalogue.ListView1.Fill(std::move(rows));

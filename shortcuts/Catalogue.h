@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <string>
 #include <vector>
 
 #include "shortcuts/CommandEntry.h"
@@ -16,10 +18,11 @@ namespace tessera {
 using ProgressStep = std::function<void()>;
 
 struct Catalogue {
-  std::vector<CommandEntry> lvwHidden;  ///< the master rows, read once per run
-  DisplayTable ListView1;               ///< what is shown, edited, saved and exported
-  KeyIndex lvwDefKeys;                  ///< the default keys of the displayed rows, one by one
-  KeyIndex lvwCurrKeys;                 ///< their current keys
+  std::shared_ptr<const std::wstring> Text;  ///< of "Totalcmd.inc"; the rows hold views of it
+  std::vector<CommandEntry> lvwHidden;       ///< the master rows, read once per run
+  DisplayTable ListView1;                    ///< what is shown, edited, saved and exported
+  KeyIndex lvwDefKeys;                       ///< the default keys of the displayed rows, one by one
+  KeyIndex lvwCurrKeys;                      ///< their current keys
   StartMenuKeyTable StartMenuKeys;
 };
 

@@ -19,14 +19,16 @@ inline constexpr std::wstring_view CommentBlockTag = L"commentblock";
 /// Marks a key text or cell as taken away or overridden.
 inline constexpr std::wstring_view OverriddenMark = L" *";
 
+/// The views are parts of a text that whoever makes a row keeps alive: with texts of their own,
+/// rows would make up most of the time and memory of opening a file.
 struct CommandEntry {
   RowKey Key = 0;
-  std::wstring Description;  ///< of a heading row, the heading
-  std::wstring CommandName;  ///< empty for a heading row, as are the next three
-  std::wstring CommandCode;  ///< decimal text
-  std::wstring DefaultKeys;  ///< in display notation, joined by the key separator
-  std::wstring CurrentKeys;  ///< likewise
-  std::wstring Tag;          ///< the code, or CommentBlockTag
+  std::wstring_view Description;  ///< of a heading row, the heading
+  std::wstring_view CommandName;  ///< empty for a heading row, as are the code and the keys
+  std::wstring_view CommandCode;  ///< decimal text
+  std::wstring_view Tag;          ///< the code, or CommentBlockTag
+  std::wstring DefaultKeys;       ///< in display notation, joined by the key separator
+  std::wstring CurrentKeys;       ///< likewise
   RowIcon Icon = RowIcon::None;
   bool DefaultKeysAreRed = false;
 

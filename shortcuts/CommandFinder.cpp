@@ -3,20 +3,22 @@
 
 #include <algorithm>
 
-#include "settings/ProfileFile.h"
-
 namespace tessera {
 
 CommandFinder::CommandFinder(std::span<const CommandEntry> rows,
                              std::span<const std::pair<std::wstring, std::wstring>> lines) {
   rowsByValue_.reserve(lines.size());
   for (const auto& [name, value] : lines) {
-    if (!value.empty()) rowsByValue_.try_emplace(value);
+    if (value.empty()) continue;
+    rowsByValue_.try_emplace(value);
+    if (value.size() >= lengths_.size()) lengths_.resize(value.size() + 1);
+    lengths_[value.size()] = true;
   }
   for (std::size_t row = 0; row < rows.size(); ++row) {
     const CommandEntry& entry = rows[row];
-    for (const std::wstring* text : {&entry.CommandName, &entry.CommandCode, &entry.DefaultKeys}) {
-      Rows* const found = RowsOf(*text);
+    for (const std::wstring_view text :
+         {entry.CommandName, entry.CommandCode, std::wstring_view(entry.DefaultKeys)}) {
+      Rows* const found = RowsOf(text);
       if (found != nullptr && !found->First) found->First = row;
     }
     AddCurrentKeys(row, entry.CurrentKeys);
@@ -42,8 +44,7 @@ void CommandFinder::AddCurrentKeys(std::size_t row, std::wstring_view keys) {
 }
 
 CommandFinder::Rows* CommandFinder::RowsOf(std::wstring_view text) {
-  // A longer text need not be hashed: no value that is read from a file can be as long.
-  if (text.size() >= ProfileBufferLength) return nullptr;
+  if (text.size() >= lengths_.size() || !lengths_[text.size()]) return nullptr;
   const auto found = rowsByValue_.find(text);
   return found == rowsByValue_.end() ? nullptr : &found->second;
 }

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "platform/TextHash.h"
 #include "shortcuts/CommandEntry.h"
@@ -40,6 +41,9 @@ class CommandFinder {
   [[nodiscard]] Rows* RowsOf(std::wstring_view text);
 
   std::unordered_map<std::wstring, Rows, HashIgnoringCase, EqualsIgnoringCase> rowsByValue_;
+
+  /// The lengths that values have: most texts of rows are of another, and need not be hashed.
+  std::vector<bool> lengths_;
 };
 
 }  // namespace tessera

@@ -10,7 +10,7 @@
 
 namespace tessera {
 
-const std::wstring& CellText(const CommandEntry& row, Column column) {
+std::wstring_view CellText(const CommandEntry& row, Column column) {
   switch (column) {
     case Column::Description:
       return row.Description;

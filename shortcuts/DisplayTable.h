@@ -3,7 +3,7 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "shortcuts/CommandEntry.h"
@@ -15,7 +15,8 @@ enum class Column { Description = 1, Command = 2, Defaults = 3, Current = 4 };
 
 enum class SortDirection { Ascending = 0, Descending = 1 };
 
-[[nodiscard]] const std::wstring& CellText(const CommandEntry& row, Column column);
+/// Valid until the row is changed.
+[[nodiscard]] std::wstring_view CellText(const CommandEntry& row, Column column);
 
 class DisplayTable {
  public:

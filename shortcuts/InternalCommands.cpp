@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Lines.h"
 #include "platform/Text.h"
 #include "settings/ProfileFile.h"
 
@@ -14,28 +15,14 @@ namespace {
 constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 constexpr std::wstring_view CommandPrefix = L"cm_";
 
-std::wstring DecodeFile(std::string_view bytes) {
-  if (!bytes.starts_with(Utf8Mark)) return Decode(bytes);
-  return Decode(bytes.substr(Utf8Mark.size()), Utf8CodePage);
+bool IsBlank(wchar_t character) {
+  return character == L' ' || character == L'\t' || character == L'\r' || character == L'\n';
 }
-
-bool IsBlank(wchar_t character) { return character == L' ' || character == L'\t'; }
 
 std::wstring_view Trimmed(std::wstring_view text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
   return text;
-}
-
-/// Takes the first line off the text. CR LF, LF and CR each end one.
-std::wstring_view TakeLine(std::wstring_view& text) {
-  const auto isEnd = [](wchar_t character) { return character == L'\r' || character == L'\n'; };
-  const auto end =
-      static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isEnd) - text.begin());
-  const std::wstring_view line = text.substr(0, end);
-  text.remove_prefix(end);
-  text.remove_prefix(text.starts_with(L"\r\n") ? 2 : std::min<std::size_t>(1, text.size()));
-  return line;
 }
 
 bool IsCommand(std::wstring_view line) {
@@ -74,14 +61,19 @@ CommandEntry HeadingOfLine(std::wstring_view line) {
 
 }  // namespace
 
-std::vector<CommandEntry> ReadInternalCommands(std::string_view bytes,
+std::wstring DecodeInternalCommands(std::string_view bytes) {
+  if (!bytes.starts_with(Utf8Mark)) return Decode(bytes);
+  return Decode(bytes.substr(Utf8Mark.size()), Utf8CodePage);
+}
+
+std::vector<CommandEntry> ReadInternalCommands(std::wstring_view text,
                                                const std::wstring& undefinedHotkey,
                                                const ProgressStep& step) {
-  const std::wstring content = DecodeFile(bytes);
+  const std::vector<std::wstring_view> lines = SplitIntoLines(text);
   std::vector<CommandEntry> rows;
-  rows.reserve(static_cast<std::size_t>(std::count(content.begin(), content.end(), L'\n')) + 1);
-  for (std::wstring_view rest = content; !rest.empty();) {
-    const std::wstring_view line = Trimmed(TakeLine(rest));
+  rows.reserve(lines.size());
+  for (const std::wstring_view untrimmed : lines) {
+    const std::wstring_view line = Trimmed(untrimmed);
     step();
     if (line.empty()) continue;
     CommandEntry row = IsCommand(line) ? CommandOfLine(line, undefinedHotkey) : HeadingOfLine(line);

@@ -9,9 +9,12 @@
 
 namespace tessera {
 
-/// The rows of the file's content, in its order, without any keys: both key columns of a command
-/// hold `undefinedHotkey`. The bytes are in the ANSI code page, or UTF-8 behind a byte order mark.
-[[nodiscard]] std::vector<CommandEntry> ReadInternalCommands(std::string_view bytes,
+/// The file's content, which is in the ANSI code page, or UTF-8 behind a byte order mark.
+[[nodiscard]] std::wstring DecodeInternalCommands(std::string_view bytes);
+
+/// The rows of the content, in its order, without any keys: both key columns of a command hold
+/// `undefinedHotkey`. The rows hold views of `text`.
+[[nodiscard]] std::vector<CommandEntry> ReadInternalCommands(std::wstring_view text,
                                                              const std::wstring& undefinedHotkey,
                                                              const ProgressStep& step);
 

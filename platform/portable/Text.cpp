@@ -56,7 +56,7 @@ wchar_t UpperOf(wchar_t character) {
 
 std::wstring Decode(std::string_view bytes, unsigned codePage) {
   if (codePage == Utf8CodePage) return WideFromUtf8(bytes);
-  if (IsAscii(bytes)) return {bytes.begin(), bytes.end()};
+  if (IsAscii(bytes)) return FromAscii(bytes);
   std::wstring text(bytes.size(), L'\0');
   std::transform(bytes.begin(), bytes.end(), text.begin(), FromWindows1252);
   return text;

@@ -50,7 +50,7 @@ std::wstring Mapped(std::wstring_view text, wchar_t (*mapAscii)(wchar_t), DWORD 
 
 std::wstring Decode(std::string_view bytes, unsigned codePage) {
   // Every ANSI code page begins with ASCII; others, which a file may ask for, need not.
-  if (codePage == AnsiCodePage && IsAscii(bytes)) return {bytes.begin(), bytes.end()};
+  if (codePage == AnsiCodePage && IsAscii(bytes)) return FromAscii(bytes);
   const unsigned page = Effective(codePage);
   if (page == Utf8CodePage) return WideFromUtf8(bytes);
   const int length = static_cast<int>(bytes.size());

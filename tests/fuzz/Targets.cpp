@@ -76,8 +76,8 @@ void RunIni(std::string_view bytes) {
   check(document);
 }
 
-std::vector<CommandEntry> Commands(std::string_view bytes) {
-  std::vector<CommandEntry> rows = ReadInternalCommands(bytes, L"---", [] {});
+std::vector<CommandEntry> Commands(std::wstring_view text) {
+  std::vector<CommandEntry> rows = ReadInternalCommands(text, L"---", [] {});
   for (std::size_t i = 0; i < rows.size(); ++i) {
     Require(rows[i].Key == i + 1, "the rows are not numbered");
     Require(!rows[i].IsHeading() || rows[i].CommandName.empty(), "a heading has a name");
@@ -93,7 +93,8 @@ void RunCommands(std::string_view bytes) {
   const FakeEnvironment surroundings;
   const std::wstring path = L"C:\\Wincmd.ini";
   Catalogue catalogue;
-  catalogue.lvwHidden = Commands(Take(bytes));
+  catalogue.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(Take(bytes)));
+  catalogue.lvwHidden = Commands(*catalogue.Text);
   disk.Contents[L"C:\\keys.hky"] = Take(bytes);
   disk.Contents[path] = bytes;
   FillDefaultKeys(catalogue.lvwHidden, ProfileFile(disk, L"C:\\keys.hky"), notation, [] {});

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/unit/kept.h"
+
 namespace tessera {
 namespace {
 
@@ -21,8 +23,8 @@ CommandEntry Command(RowKey key, const std::wstring& defaults, const std::wstrin
   CommandEntry row;
   row.Key = key;
   row.Description = L"description";
-  row.CommandName = L"cm_" + std::to_wstring(key);
-  row.CommandCode = std::to_wstring(100 + key);
+  row.CommandName = Kept(L"cm_" + std::to_wstring(key));
+  row.CommandCode = Kept(std::to_wstring(100 + key));
   row.DefaultKeys = defaults;
   row.CurrentKeys = current;
   row.Tag = row.CommandCode;

@@ -2,6 +2,7 @@
 
 #include "export/ClipboardTable.h"
 #include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/unit/kept.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera {
@@ -23,8 +24,8 @@ DisplayTable TableOf(const std::vector<std::array<std::wstring, 4>>& texts) {
   for (const auto& [description, command, defaults, current] : texts) {
     CommandEntry row;
     row.Key = rows.size() + 1;
-    row.Description = description;
-    row.CommandName = command;
+    row.Description = Kept(description);
+    row.CommandName = Kept(command);
     row.DefaultKeys = defaults;
     row.CurrentKeys = current;
     rows.push_back(row);

@@ -7,6 +7,7 @@
 
 #include "platform/Text.h"
 #include "shortcuts/CommandFinder.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 namespace {
@@ -15,11 +16,11 @@ CommandEntry Command(const std::wstring& name, const std::wstring& code,
                      const std::wstring& defaults = L"---", const std::wstring& current = L"---") {
   CommandEntry row;
   row.Description = L"text";
-  row.CommandName = name;
-  row.CommandCode = code;
+  row.CommandName = Kept(name);
+  row.CommandCode = Kept(code);
   row.DefaultKeys = defaults;
   row.CurrentKeys = current;
-  row.Tag = code;
+  row.Tag = row.CommandCode;
   return row;
 }
 
@@ -71,8 +72,9 @@ std::optional<std::size_t> SearchFromFront(const std::vector<CommandEntry>& rows
                                            const std::wstring& value) {
   if (value.empty()) return std::nullopt;
   for (std::size_t row = 0; row < rows.size(); ++row) {
-    for (const std::wstring& text : {rows[row].CommandName, rows[row].CommandCode,
-                                     rows[row].DefaultKeys, rows[row].CurrentKeys}) {
+    for (const std::wstring_view text :
+         {rows[row].CommandName, rows[row].CommandCode, std::wstring_view(rows[row].DefaultKeys),
+          std::wstring_view(rows[row].CurrentKeys)}) {
       if (EqualIgnoringCase(text, value)) return row;
     }
   }

@@ -50,7 +50,8 @@ class Session {
     const WincmdIni wincmd(Disk, Time, Surroundings, IniPath);
     Tables.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), Notation);
     if (Tables.lvwHidden.empty()) {
-      Tables.lvwHidden = ReadInternalCommands(commands, Notation.UndefinedHotkey, [] {});
+      Tables.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(commands));
+      Tables.lvwHidden = ReadInternalCommands(*Tables.Text, Notation.UndefinedHotkey, [] {});
     }
     FillDefaultKeys(Tables.lvwHidden, ProfileFile(Disk, DataPath), Notation, [] {});
     ReadShortcuts(Tables.lvwHidden, wincmd.Shortcuts(), Notation, [] {});

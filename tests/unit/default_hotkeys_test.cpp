@@ -6,17 +6,18 @@
 
 #include "shortcuts/DefaultHotkeys.h"
 #include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 namespace {
 
 CommandEntry Command(const std::wstring& code) {
   CommandEntry row;
-  row.CommandName = L"cm_" + code;
-  row.CommandCode = code;
+  row.CommandName = Kept(L"cm_" + code);
+  row.CommandCode = Kept(code);
   row.DefaultKeys = L"old";
   row.CurrentKeys = L"F9";
-  row.Tag = code;
+  row.Tag = row.CommandCode;
   return row;
 }
 

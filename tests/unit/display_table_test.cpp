@@ -7,6 +7,7 @@
 
 #include "platform/Text.h"
 #include "shortcuts/DisplayTable.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 namespace {
@@ -14,7 +15,7 @@ namespace {
 CommandEntry Heading(RowKey key, const std::wstring& text) {
   CommandEntry row;
   row.Key = key;
-  row.Description = text;
+  row.Description = Kept(text);
   row.Tag = CommentBlockTag;
   return row;
 }
@@ -22,11 +23,11 @@ CommandEntry Heading(RowKey key, const std::wstring& text) {
 CommandEntry Command(RowKey key, const std::wstring& description, const std::wstring& defaults) {
   CommandEntry row;
   row.Key = key;
-  row.Description = description;
-  row.CommandName = L"cm_" + std::to_wstring(key);
+  row.Description = Kept(description);
+  row.CommandName = Kept(L"cm_" + std::to_wstring(key));
   row.DefaultKeys = defaults;
   row.CurrentKeys = L"---";
-  row.Tag = std::to_wstring(key);
+  row.Tag = Kept(std::to_wstring(key));
   return row;
 }
 

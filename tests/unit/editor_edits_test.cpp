@@ -44,7 +44,7 @@ std::vector<std::wstring> Shown(const Editor& editor) {
                                   std::to_wstring(editor.List().SelectedRow())};
   for (std::size_t row = 0; row < editor.Rows().Count(); ++row) {
     for (const Column column : {Column::Command, Column::Defaults, Column::Current}) {
-      texts.push_back(CellText(editor.Rows().At(row), column));
+      texts.emplace_back(CellText(editor.Rows().At(row), column));
     }
   }
   return texts;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/FindRow.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 
@@ -12,7 +13,7 @@ DisplayTable TableOf(const std::vector<std::wstring>& descriptions) {
   for (const std::wstring& description : descriptions) {
     CommandEntry row;
     row.Key = rows.size() + 1;
-    row.Description = description;
+    row.Description = Kept(description);
     rows.push_back(std::move(row));
   }
   DisplayTable table;

@@ -3,6 +3,7 @@
 
 #include <random>
 
+#include "platform/Lines.h"
 #include "settings/IniDocument.h"
 
 namespace tessera {

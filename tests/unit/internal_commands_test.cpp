@@ -5,12 +5,13 @@
 #include <string>
 
 #include "shortcuts/InternalCommands.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 namespace {
 
 std::vector<CommandEntry> Read(std::string_view bytes) {
-  return ReadInternalCommands(bytes, L"none", [] {});
+  return ReadInternalCommands(Kept(DecodeInternalCommands(bytes)), L"none", [] {});
 }
 
 TEST(InternalCommands, ACommandLineHasNameCodeAndDescription) {
@@ -122,8 +123,8 @@ TEST(InternalCommands, EmptyAndBlankLinesTakeNoKey) {
 TEST(InternalCommands, AnyLineEndEndsALine) {
   for (const std::string end : {"\r\n", "\n", "\r"}) {
     int steps = 0;
-    const auto rows = ReadInternalCommands("cm_A=1;a" + end + end + "cm_B=2;b" + end, L"---",
-                                           [&steps] { ++steps; });
+    const std::wstring text = DecodeInternalCommands("cm_A=1;a" + end + end + "cm_B=2;b" + end);
+    const auto rows = ReadInternalCommands(text, L"---", [&steps] { ++steps; });
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(rows[0].Description, L"a");
     EXPECT_EQ(rows[1].Description, L"b");
@@ -167,7 +168,8 @@ TEST(InternalCommands, AnyBytesAreRead) {
   std::string bytes(10'000'000, '\0');
   for (char& byte : bytes) byte = static_cast<char>(random() & 0xFF);
   std::size_t steps = 0;
-  const auto rows = ReadInternalCommands(bytes, L"---", [&steps] { ++steps; });
+  const std::wstring text = DecodeInternalCommands(bytes);
+  const auto rows = ReadInternalCommands(text, L"---", [&steps] { ++steps; });
   ASSERT_FALSE(rows.empty());
   EXPECT_LE(rows.size(), steps);
   EXPECT_EQ(rows.back().Key, rows.size());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shortcuts/Catalogue.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 
@@ -21,9 +22,9 @@ inline CommandEntry SampleCommand(RowKey key, const std::wstring& name,
                                   const std::wstring& defaults, const std::wstring& current) {
   CommandEntry row;
   row.Key = key;
-  row.Description = name + L" description";
-  row.CommandName = L"cm_" + name;
-  row.CommandCode = std::to_wstring(100 + key);
+  row.Description = Kept(name + L" description");
+  row.CommandName = Kept(L"cm_" + name);
+  row.CommandCode = Kept(std::to_wstring(100 + key));
   row.Tag = row.CommandCode;
   row.DefaultKeys = defaults;
   row.CurrentKeys = current;

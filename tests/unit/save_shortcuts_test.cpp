@@ -9,6 +9,7 @@
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 #include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 namespace {
@@ -27,8 +28,8 @@ class SaveShortcutsTest : public testing::Test {
     for (const std::wstring& keys : currentKeys) {
       CommandEntry row;
       row.Key = Shown.lvwHidden.size() + 1;
-      row.CommandName = L"cm_" + std::to_wstring(row.Key - 1);
-      row.CommandCode = std::to_wstring(100 + row.Key);
+      row.CommandName = Kept(L"cm_" + std::to_wstring(row.Key - 1));
+      row.CommandCode = Kept(std::to_wstring(100 + row.Key));
       row.Description = row.CommandName;
       row.DefaultKeys = L"---";
       row.CurrentKeys = keys;

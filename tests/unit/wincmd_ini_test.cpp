@@ -8,6 +8,7 @@
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 #include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/unit/kept.h"
 
 namespace tessera {
 namespace {
@@ -143,8 +144,8 @@ TEST(WincmdIni, ASectionOverFourThousandCharactersIsReadWhole) {
 
 TEST(WincmdIni, AValueIsCutAtTheBuffersLength) {
   std::vector<CommandEntry> rows = SampleRows();
-  rows[1].CommandName = L"cm_" + std::wstring(4092, L'x');
-  rows[2].CommandName = L"cm_" + std::wstring(4093, L'x');
+  rows[1].CommandName = Kept(L"cm_" + std::wstring(4092, L'x'));
+  rows[2].CommandName = Kept(L"cm_" + std::wstring(4093, L'x'));
   ReadShortcuts(rows,
                 FileWith("[Shortcuts]\r\nF1=cm_" + std::string(4092, 'x') + "\r\nF2=cm_" +
                          std::string(4093, 'x') + "\r\n"),
@@ -158,8 +159,8 @@ TEST(WincmdIni, ManyCommandsAndManyKeysAreRead) {
   std::string content = "[Shortcuts]\r\n";
   for (int command = 0; command < 20'000; ++command) {
     CommandEntry row;
-    row.CommandName = L"cm_" + std::to_wstring(command);
-    row.CommandCode = std::to_wstring(command);
+    row.CommandName = Kept(L"cm_" + std::to_wstring(command));
+    row.CommandCode = Kept(std::to_wstring(command));
     row.DefaultKeys = row.CurrentKeys = L"---";
     rows.push_back(row);
     content += "K" + std::to_string(command) + "=CM_" + std::to_string(command) + "\r\n";
