@@ -42,11 +42,10 @@ class KeysListTest : public EndToEndTest {
   }
 
   static void MoveTo(const Dialog& list, int index) {
-    WaitFor("entry " + std::to_string(index), [&] {
-      if (Selected(list) == index) return true;
+    for (int next = Selected(list) + 1; next <= index; ++next) {
       Press(VK_DOWN);
-      return false;
-    });
+      WaitFor("entry " + std::to_string(next), [&] { return Selected(list) == next; });
+    }
   }
 
   void CheckClick(const Dialog& list, int index) {
