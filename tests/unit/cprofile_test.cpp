@@ -114,7 +114,7 @@ TEST_F(cProfileTest, ListThatDoesNotFitIsCutInItsLastText) {
     EXPECT_EQ(Profile.FileSectionsNameUpperIndex(), expectedUpper) << length;
     EXPECT_EQ(Profile.FileSectionsNameList(1), last) << length;
   }
-  for (const std::size_t length : {0, 1, 2}) {
+  for (const std::size_t length : {0U, 1U, 2U}) {
     Profile.ReadFileSectionsName(path, length);
     EXPECT_EQ(Profile.FileSectionsNameUpperIndex(), -1);
   }
