@@ -175,7 +175,7 @@ void IniDocument::ReplaceEntries(std::string_view section,
   std::optional<std::size_t> firstReplaced;
   for (std::size_t i = 1; i < lines.size(); ++i) {
     const auto entry = EntryOf(lines[i]);
-    if (!entry || (keep && keep(entry->Name))) continue;
+    if (!entry || keep(entry->Name)) continue;
     lines[i] = {};
     if (!firstReplaced) firstReplaced = i;
   }

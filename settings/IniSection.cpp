@@ -63,12 +63,12 @@ void IniSection::InsertBehindKeys(std::size_t number, std::string_view line) {
 
 void IniSection::RemoveLine(std::size_t number) {
   Contents& contents = Opened();
-  const auto entry = EntryOf(contents.Lines[number]);
+  const std::string_view key = EntryOf(contents.Lines[number])->Name;
   contents.Lines[number] = {};
-  if (!contents.FirstLines || !entry) return;
-  contents.FirstLines->erase(entry->Name);
+  if (!contents.FirstLines) return;
+  contents.FirstLines->erase(key);
   if (!contents.HasRepeatedKeys) return;
-  if (const auto next = Search(entry->Name, number + 1)) AddToIndex(*next);
+  if (const auto next = Search(key, number + 1)) AddToIndex(*next);
 }
 
 IniSection::Contents& IniSection::Opened() const {

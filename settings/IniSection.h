@@ -44,6 +44,8 @@ class IniSection {
 
   /// Inserts a line behind all lines that have a key.
   void InsertBehindKeys(std::size_t number, std::string_view line);
+
+  /// Removes a line that has a key.
   void RemoveLine(std::size_t number);
 
  private:

@@ -198,7 +198,7 @@ void ProfileFile::ReplaceEntries(std::wstring_view section,
     encoded.emplace_back(EncodeName(name), EncodeValue(TrimBlanks(value)));
   }
   document_.ReplaceEntries(EncodeName(section), encoded,
-                           [&](std::string_view name) { return keep && keep(DecodeName(name)); });
+                           [&](std::string_view name) { return keep(DecodeName(name)); });
   isChanged_ = true;
 }
 

@@ -368,7 +368,7 @@ TEST(IniDocumentProperties, AnyUtf16ComesBackAsItWas) {
 
 TEST(IniDocument, AnEmptiedSectionStaysInFrontOfAnotherOfItsName) {
   IniDocument document("[s]\r\nk=v\r\n[S]\r\nhidden=1\r\n");
-  document.ReplaceEntries("s", {}, nullptr);
+  document.ReplaceEntries("s", {}, KeepNone);
   EXPECT_EQ(document.Bytes(), "[s]\r\n[S]\r\nhidden=1\r\n");
   EXPECT_FALSE(document.Find("s", "hidden"));
 }

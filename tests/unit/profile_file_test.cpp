@@ -230,6 +230,7 @@ TEST(Rounding, IsHalfToEvenAndStaysInRange) {
   EXPECT_EQ(RoundTo32Bits(0.5), 0);
   EXPECT_EQ(RoundTo32Bits(1e10), 2147483647);
   EXPECT_EQ(RoundTo32Bits(-1e10), std::numeric_limits<int>::min());
+  EXPECT_EQ(RoundTo32Bits(std::numeric_limits<double>::quiet_NaN()), 0);
 }
 
 TEST(TrimBlanks, TakesSpacesOnly) {

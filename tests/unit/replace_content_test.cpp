@@ -216,6 +216,13 @@ TEST(ClearLeftOvers, FormerContentReturnsWhenTheFileIsGone) {
   EXPECT_EQ(files.Contents, (FileTable{{Path, "old"}}));
 }
 
+TEST(ClearLeftOvers, PreparedContentOfAFileThatNeverWasGoes) {
+  FaultyFiles files;
+  files.Contents = {{Prepared, "part"}};
+  ClearLeftOvers(files, Path, KeepCopies::Yes);
+  EXPECT_EQ(files.Contents, FileTable{});
+}
+
 TEST(ClearLeftOvers, NothingGoesWhileTheFileCannotBeRead) {
   FaultyFiles files;
   files.Contents = {{Prepared, "new"}, {Former, "old"}};

@@ -277,16 +277,9 @@ TEST_F(SaveShortcutsTest, OfLinesWithOneKeyTheFirstIsTheOneInForce) {
 }
 
 TEST_F(SaveShortcutsTest, AKeptLineReadsAsBefore) {
-  const std::vector<std::string> values{"em_own",
-                                        "\"\"em x\"\"",
-                                        "\" em \"",
-                                        "'\"a\" b'",
-                                        "\"a\" \"b\"",
-                                        "\xEF\xBB\xBF\xD0\xAF",
-                                        "\xEF\xBB\xBF\tem",
-                                        "\"em\t\"",
-                                        "\xE9",
-                                        ""};
+  const std::vector<std::string> values{
+      "em_own",      "\"\"em x\"\"",         "\" em \"",         "'\"a\" b'", "\"'em'\"", "'em\"",
+      "\"a\" \"b\"", "\xEF\xBB\xBF\xD0\xAF", "\xEF\xBB\xBF\tem", "\"em\t\"",  "\xE9",     ""};
   for (const std::string& value : values) {
     Disk.Contents[Path] = "[Shortcuts]\r\nF5=" + value + "\r\n";
     const std::wstring before = ProfileFile(Disk, Path).ReadString(L"Shortcuts", L"F5", L"none");
