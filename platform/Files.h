@@ -29,7 +29,8 @@ class Files {
   /// True for a file whose length can be read; false for a directory and on any error.
   [[nodiscard]] virtual bool Exists(const std::wstring& path) const = 0;
 
-  /// Reads the whole file; `bytes` is empty unless the result is None.
+  /// Reads the whole file; `bytes` is empty unless the result is None. SharingViolation tells also
+  /// that another program changed the length meanwhile.
   [[nodiscard]] virtual FileError Read(const std::wstring& path, std::string& bytes) const = 0;
 
   /// The file that a symbolic link at `path` leads to; `path` itself when it is no link or nothing.

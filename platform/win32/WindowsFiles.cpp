@@ -87,10 +87,14 @@ FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const
     if (ReadFile(file.get(), content.data() + done, NextStep(content.size() - done), &count,
                  nullptr) == FALSE)
       return LastError();
-    if (count == 0) break;  // the file was cut short meanwhile
+    if (count == 0) break;  // the file has been cut short
     done += count;
   }
-  content.resize(done);
+  // A file that another program is writing: what was read of it may be neither its old content nor
+  // its new one.
+  if (done < content.size() || GetFileSizeEx(file.get(), &size) == FALSE ||
+      static_cast<std::size_t>(size.QuadPart) != done)
+    return FileError::SharingViolation;
   bytes = std::move(content);
   return FileError::None;
 }

@@ -1,6 +1,8 @@
 // The real file system: reading, replacing and what the system's errors become.
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <thread>
 #include <vector>
 
 #include "platform/win32/Handle.h"
@@ -113,6 +115,55 @@ TEST_F(WindowsFilesTest, FileHeldOpenIsReadButNotReplaced) {
   EXPECT_EQ(files_.Write(At(L"a"), "x"), FileError::SharingViolation);
 }
 
+/// Changes the length of a file back and forth, as a program does that writes it, until it ends.
+class RestlessWriter {
+ public:
+  static constexpr LONGLONG Short = 1000;
+  static constexpr LONGLONG Long = 1000000;
+
+  explicit RestlessWriter(const std::wstring& path)
+      : file_(Own(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                              nullptr, OPEN_EXISTING, 0, nullptr))),
+        thread_([this] {
+          for (LONGLONG length = Short; !ends_; length = Short + Long - length) {
+            FILE_END_OF_FILE_INFO end{};
+            end.EndOfFile.QuadPart = length;
+            SetFileInformationByHandle(file_.get(), FileEndOfFileInfo, &end, sizeof end);
+          }
+        }) {}
+  ~RestlessWriter() {
+    ends_ = true;
+    thread_.join();
+  }
+  RestlessWriter(const RestlessWriter&) = delete;
+  RestlessWriter& operator=(const RestlessWriter&) = delete;
+
+ private:
+  std::atomic<bool> ends_ = false;
+  UniqueHandle file_;
+  std::thread thread_;
+};
+
+TEST_F(WindowsFilesTest, PartOfAFileThatIsBeingWrittenIsNotTakenForTheWhole) {
+  Put(L"a", std::string(RestlessWriter::Long, 'x'));
+  const RestlessWriter writer(At(L"a"));
+  int refused = 0;
+  // As many reads as meet a change of the length for certain.
+  for (int read = 0; read < 20000 && refused < 20; ++read) {
+    std::string bytes;
+    const FileError error = files_.Read(At(L"a"), bytes);
+    if (error == FileError::None) {
+      ASSERT_TRUE(bytes.size() == RestlessWriter::Short || bytes.size() == RestlessWriter::Long)
+          << bytes.size();
+    } else {
+      ASSERT_EQ(error, FileError::SharingViolation);
+      ASSERT_EQ(bytes, "");
+      ++refused;
+    }
+  }
+  EXPECT_GT(refused, 0);
+}
+
 TEST_F(WindowsFilesTest, FileThatIsNoLinkResolvesToItself) {
   Put(L"a", "x");
   EXPECT_EQ(files_.Resolve(At(L"a")), At(L"a"));
@@ -157,6 +208,24 @@ TEST_F(WindowsFilesTest, ReplaceKeepsTheAttributesOfTheTarget) {
   ASSERT_TRUE(SetFileAttributesW(At(L"a").c_str(), FILE_ATTRIBUTE_HIDDEN));
   EXPECT_EQ(files_.Replace(At(L"a"), At(L"b"), At(L"c")), FileError::None);
   EXPECT_NE(GetFileAttributesW(At(L"a").c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
+}
+
+TEST_F(WindowsFilesTest, SaveOfAFileHeldForAMomentWaitsForIt) {
+  WindowsClock clock;
+  for (const int held : {10, 100, 600}) {
+    Put(L"a", "old");
+    UniqueHandle handle = Hold(L"a");
+    ASSERT_TRUE(handle);
+    std::thread holder([&handle, held] {
+      Sleep(static_cast<DWORD>(held));
+      handle.reset();
+    });
+    EXPECT_EQ(ReplaceContent(files_, clock, At(L"a"), "new", KeepCopies::Yes), FileError::None);
+    holder.join();
+    EXPECT_EQ(ContentOf(L"a"), "new");
+    EXPECT_EQ(ContentOf(L"a.bak"), "old");
+    EXPECT_FALSE(files_.Exists(At(L"a.unsaved")));
+  }
 }
 
 TEST_F(WindowsFilesTest, SaveOfAFileHeldOpenLeavesItAndTheUnsavedContent) {
