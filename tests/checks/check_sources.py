@@ -27,6 +27,7 @@ OTHER_TESTS = {
     "fuzz_regressions": "replays what the fuzzers found, over all readers",
     "hostile_values": "gives the whole program values that no one should store",
     "ini_properties": "holds the whole INI engine to a second reader, over random files",
+    "other_programs": "lets another program hold and change every file that is saved",
     "profile_oracle": "compares the whole INI engine with the profile functions of the system",
     "profile_windows_cases": "holds the whole INI engine to what was measured on Windows",
     "save_faults": "fails every file operation of every way of saving",

@@ -2,6 +2,7 @@
 // place, the other one beside it where that was promised, and what is not saved stays unsaved.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -133,12 +134,17 @@ void CheckFile(const Scenario& scenario, const Contents& contents, const FaultyF
     ASSERT_FALSE(disk.Contents.contains(path + L".unsaved"));
     return;
   }
+  const bool isPrepared = std::ranges::count(disk.Calls, L"Replace " + path) > 0;
+  const bool isUnsaved = Holds(disk, path + L".unsaved", after);
+  ASSERT_TRUE(isUnsaved || !disk.Contents.contains(path + L".unsaved")) << "a part of the content";
   if (isNew) {
     ASSERT_TRUE(Holds(disk, path + L".bak", before) || Holds(disk, path + L".tessera-old", before))
         << "which the next start makes the backup";
+    ASSERT_FALSE(isUnsaved);
   } else {
     ASSERT_TRUE(modified) << "an error was dropped";
     ASSERT_TRUE(Holds(disk, path + L".bak", "older"));
+    ASSERT_TRUE(isUnsaved || !isPrepared || disk.FaultStays != Lasts::Once);
   }
 }
 
@@ -307,84 +313,6 @@ TEST(SaveFaults, SettingsThatCouldNotBeReadAreNotReplacedByDefaults) {
     world.Program.Unload({}, {});
     EXPECT_EQ(world.Disk.Contents[world::SettingsFile], stored);
   }
-}
-
-// -- Other programs
-
-/// Another program holds the file until the clock has moved on so far, and then may write it.
-class HeldFiles final : public MemoryFiles {
- public:
-  const FakeClock* Time = nullptr;
-  int HeldFor = 0;                     ///< milliseconds of sleep
-  std::optional<std::string> Written;  ///< by the other program
-
-  [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override {
-    if (path == IniFile && IsHeld()) return FileError::SharingViolation;
-    const FileError error = MemoryFiles::Read(path, bytes);
-    if (Written && isSaving_ && path == IniFile) bytes = *Written;
-    return error;
-  }
-
-  [[nodiscard]] FileError Replace(const std::wstring& target, const std::wstring& replacement,
-                                  const std::wstring& backup) override {
-    if (target == IniFile && IsHeld()) return FileError::SharingViolation;
-    if (Written) Contents[IniFile] = *std::exchange(Written, {});
-    return MemoryFiles::Replace(target, replacement, backup);
-  }
-
-  FileError Write(const std::wstring& path, std::string_view bytes) override {
-    isSaving_ = isSaving_ || path.starts_with(IniFile);
-    return MemoryFiles::Write(path, bytes);
-  }
-
- private:
-  [[nodiscard]] bool IsHeld() const { return isSaving_ && Time->SleptMilliseconds < HeldFor; }
-
-  bool isSaving_ = false;  ///< the hold begins when a save has read the file
-};
-
-TEST(SaveFaults, AFileHeldForAWhileIsSavedWithinTwoSecondsOrLeftAsItWas) {
-  for (int held = 10; held <= 3000; held += 10) {
-    world::EditorWorld<HeldFiles> world;
-    world.Disk.Time = &world.Time;
-    world.Disk.Contents[IniFile] = Content;
-    world.Start();
-    world.Assign(Pack, 0, L"X");
-    world.Disk.HeldFor = held;
-    world.Program.FileSave();
-    ASSERT_EQ(world.Program.Modified(), held > 2000) << held;
-    ASSERT_EQ(world.Disk.Contents[IniFile] == Content, held > 2000) << held;
-    ASSERT_EQ(world.Disk.Contents.contains(IniFile + L".unsaved"), held > 2000) << held;
-    ASSERT_LE(world.Time.SleptMilliseconds, 2000);
-  }
-}
-
-TEST(SaveFaults, WhatAnotherProgramWroteWhileItHeldTheFileStays) {
-  world::EditorWorld<HeldFiles> world;
-  world.Disk.Time = &world.Time;
-  world.Disk.Contents[IniFile] = Content;
-  world.Start();
-  world.Assign(Pack, 0, L"X");
-  world.Disk.HeldFor = 500;
-  world.Disk.Written = std::string(Content) + "\n[Last]\nc";
-  world.Program.FileSave();
-  EXPECT_FALSE(world.Program.Modified());
-  const std::string& saved = world.Disk.Contents[IniFile];
-  EXPECT_TRUE(saved.ends_with(";end\n[Last]\nc"));
-  EXPECT_NE(saved.find("X=cm_Pack\r\n"), std::string::npos);
-}
-
-TEST(SaveFaults, WhatAnotherProgramWroteBetweenOpenAndSaveStays) {
-  World world;
-  world.Disk.Contents[IniFile] = Content;
-  world.Start();
-  world.Assign(Pack, 0, L"X");
-  world.Disk.Contents[IniFile] = "[New]\na=b\n" + world.Disk.Contents[IniFile] + "\n[Last]\nc";
-  world.Program.FileSave();
-  const std::string& saved = world.Disk.Contents[IniFile];
-  EXPECT_EQ(saved.find("[New]\na=b\n[Configuration]\nkey = value ; kept\r\n"), 0U);
-  EXPECT_TRUE(saved.ends_with(";end\n[Last]\nc"));
-  EXPECT_NE(saved.find("X=cm_Pack\r\n"), std::string::npos);
 }
 
 }  // namespace

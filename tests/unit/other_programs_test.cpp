@@ -1,0 +1,138 @@
+// Saving while another program holds or changes the very file.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <utility>
+
+#include "tests/unit/editor_world.h"
+#include "tests/unit/fakes/MemoryFiles.h"
+
+namespace tessera {
+namespace {
+
+using world::IniFile;
+
+const std::wstring OtherFile = L"C:\\TC\\keys.ini";
+constexpr std::size_t Pack = 4;
+
+/// From the moment in which a save has read it, another program holds one file until the clock has
+/// moved on so far, and then may write it.
+class HeldFiles final : public MemoryFiles {
+ public:
+  const FakeClock* Time = nullptr;
+  std::wstring Held = IniFile;
+  int HeldFor = 0;                     ///< milliseconds of sleep
+  std::optional<std::string> Written;  ///< by the other program
+
+  [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override {
+    if (path == Held && IsHeld()) return FileError::SharingViolation;
+    const FileError error = MemoryFiles::Read(path, bytes);
+    if (Written && isSaving_ && path == Held) bytes = *Written;
+    return error;
+  }
+
+  [[nodiscard]] FileError Replace(const std::wstring& target, const std::wstring& replacement,
+                                  const std::wstring& backup) override {
+    if (target == Held && IsHeld()) return FileError::SharingViolation;
+    if (Written) Contents[Held] = *std::exchange(Written, {});
+    return MemoryFiles::Replace(target, replacement, backup);
+  }
+
+  FileError Write(const std::wstring& path, std::string_view bytes) override {
+    isSaving_ = isSaving_ || path.starts_with(Held);
+    return MemoryFiles::Write(path, bytes);
+  }
+
+ private:
+  [[nodiscard]] bool IsHeld() const { return isSaving_ && Time->SleptMilliseconds < HeldFor; }
+
+  bool isSaving_ = false;
+};
+
+using World = world::EditorWorld<HeldFiles>;
+
+/// Text before section "Shortcuts", its lines, text behind it.
+struct Parts {
+  std::string Before, Keys, Behind;
+
+  [[nodiscard]] std::string Whole() const { return Before + "[Shortcuts]\r\n" + Keys + Behind; }
+};
+
+const Parts Old{"[Configuration]\nkey = value ; kept\r\n\n", "F3=cm_Copy\r\n", ";end\n[c]\nd=e"};
+const std::string Unsaved = "F3=cm_Copy\r\nX=cm_Pack\r\n";
+
+/// A program with an unsaved change to the keys in `file`.
+void Start(World& world, const std::wstring& file) {
+  world.Disk.Time = &world.Time;
+  world.Disk.Held = file;
+  if (file != IniFile) world.Disk.Contents[IniFile] = "[Shortcuts]\r\nRedirectSection=keys.ini\r\n";
+  world.Disk.Contents[file] = Old.Whole();
+  world.Start();
+  world.Assign(Pack, 0, L"X");
+  ASSERT_TRUE(world.Program.Modified());
+}
+
+TEST(OtherPrograms, AFileHeldForAWhileIsSavedWithinTwoSecondsOrLeftAsItWas) {
+  for (const std::wstring& file : {IniFile, OtherFile}) {
+    for (int held = 10; held <= 3000; held += 10) {
+      World world;
+      Start(world, file);
+      world.Disk.HeldFor = held;
+      world.Program.FileSave();
+      const bool gaveUp = held > 2000;
+      ASSERT_EQ(world.Program.Modified(), gaveUp) << held;
+      const Parts expected{Old.Before, gaveUp ? Old.Keys : Unsaved, Old.Behind};
+      ASSERT_EQ(world.Disk.Contents[file], expected.Whole()) << held;
+      ASSERT_EQ(world.Disk.Contents.contains(file + L".unsaved"), gaveUp) << held;
+      ASSERT_LE(world.Time.SleptMilliseconds, 2000);
+    }
+  }
+}
+
+TEST(OtherPrograms, WhatOneWroteWhileItHeldTheFileStays) {
+  for (const std::wstring& file : {IniFile, OtherFile}) {
+    World world;
+    Start(world, file);
+    world.Disk.HeldFor = 500;
+    world.Disk.Written = Old.Whole() + "\n[Last]\nc";
+    world.Program.FileSave();
+    EXPECT_FALSE(world.Program.Modified());
+    EXPECT_EQ(world.Disk.Contents[file],
+              (Parts{Old.Before, Unsaved, Old.Behind + "\n[Last]\nc"}.Whole()));
+  }
+}
+
+TEST(OtherPrograms, WhatOneWroteBetweenOpenAndSaveStays) {
+  for (const std::wstring& file : {IniFile, OtherFile}) {
+    World world;
+    Start(world, file);
+    world.Disk.Contents[file] = Parts{"[New]\na=b\n" + Old.Before, Old.Keys, "[Last]\nc"}.Whole();
+    world.Program.FileSave();
+    EXPECT_EQ(world.Disk.Contents[file],
+              (Parts{"[New]\na=b\n" + Old.Before, Unsaved, "[Last]\nc"}.Whole()));
+  }
+}
+
+TEST(OtherPrograms, SettingsHeldForAWhileAreSavedOrLeftAsTheyWere) {
+  const std::string stored = "[Other]\nx=1\n[Tessera]\r\nMainWindowLeft=7\r\n";
+  for (int held = 100; held <= 3000; held += 100) {
+    World world;
+    world.Disk.Time = &world.Time;
+    world.Disk.Held = world::SettingsFile;
+    world.Disk.Contents[world::SettingsFile] = stored;
+    world.Start();
+    const std::string before = world.Disk.Contents[world::SettingsFile] +=
+        "[Meanwhile]\n\xE4 = 1\n";
+    world.Disk.HeldFor = held;
+    world.Program.Unload({.Left = 100}, {});
+    const std::string& after = world.Disk.Contents[world::SettingsFile];
+    ASSERT_EQ(after == before, held > 2000) << held;
+    ASSERT_TRUE(after.starts_with("[Other]\nx=1\n[Tessera]\r\n")) << held;
+    ASSERT_TRUE(after.ends_with("[Meanwhile]\n\xE4 = 1\n") ||
+                after.find("[Meanwhile]\n\xE4 = 1\n[") != std::string::npos)
+        << held;
+  }
+}
+
+}  // namespace
+}  // namespace tessera
