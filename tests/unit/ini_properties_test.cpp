@@ -7,240 +7,12 @@
 #include <vector>
 
 #include "settings/IniDocument.h"
+#include "tests/unit/random_ini_file.h"
 #include "tests/unit/rounds.h"
+#include "tests/unit/simple_ini_reader.h"
 
 namespace tessera {
 namespace {
-
-using namespace std::literals;
-
-/// A text as code units: the bytes of an ANSI file, the 16-bit units of a UTF-16 file.
-using Units = std::u32string;
-
-// -- The second reader
-
-constexpr bool IsBlank(char32_t unit) { return unit <= 0x20; }
-
-Units Trimmed(Units text) {
-  while (!text.empty() && IsBlank(text.front())) text.erase(0, 1);
-  while (!text.empty() && IsBlank(text.back())) text.pop_back();
-  return text;
-}
-
-/// Upper case of the letters that the random files use.
-Units Upper(Units text) {
-  for (char32_t& unit : text) {
-    const bool isLetter = (unit >= 'a' && unit <= 'z') || (unit >= 0xE0 && unit <= 0xF6);
-    if (isLetter) unit -= 0x20;
-  }
-  return text;
-}
-
-struct Line {
-  enum class Kind { Header, Comment, Key, Other } Is = Kind::Other;
-  Units Name, Value;
-};
-
-Line LineOf(const Units& text) {
-  const Units line = Trimmed(text);
-  if (line.starts_with(U';')) return {Line::Kind::Comment, {}, {}};
-  if (line.starts_with(U'[')) {
-    // The line is not trimmed at its end here: a NUL there belongs to the name.
-    Units name = text.substr(text.find(U'[') + 1);
-    name = name.substr(0, name.find(U']'));
-    while (!name.empty() && IsBlank(name.front())) name.erase(0, 1);
-    while (!name.empty() && IsBlank(name.back()) && name.back() != 0) name.pop_back();
-    return {Line::Kind::Header, name, {}};
-  }
-  const std::size_t equals = line.find(U'=');
-  if (equals == Units::npos) return {Line::Kind::Other, line, {}};
-  return {Line::Kind::Key, Trimmed(line.substr(0, equals)), Trimmed(line.substr(equals + 1))};
-}
-
-class SimpleReader {
- public:
-  explicit SimpleReader(const std::string& bytes) {
-    Units text;
-    if (bytes.starts_with("\xFF\xFE")) {
-      for (std::size_t i = 2; i + 1 < bytes.size(); i += 2) {
-        text += static_cast<char32_t>(static_cast<unsigned char>(bytes[i]) |
-                                      static_cast<unsigned char>(bytes[i + 1]) << 8U);
-      }
-    } else {
-      for (const char byte : bytes) text += static_cast<unsigned char>(byte);
-    }
-    Units line;
-    for (const char32_t unit : text + U"\n") {
-      if (unit != '\r' && unit != '\n') {
-        line += unit;
-        continue;
-      }
-      if (!Trimmed(line).empty()) lines_.push_back(LineOf(line));
-      line.clear();
-    }
-  }
-
-  [[nodiscard]] std::vector<Units> Sections() const {
-    std::vector<Units> names;
-    for (const Line& line : lines_) {
-      if (line.Is == Line::Kind::Header) names.push_back(line.Name);
-    }
-    return names;
-  }
-
-  /// The lines of the first section of that name.
-  [[nodiscard]] std::vector<Line> LinesOf(const Units& section) const {
-    std::vector<Line> lines;
-    bool isInside = false;
-    for (const Line& line : lines_) {
-      if (line.Is == Line::Kind::Header) {
-        if (isInside) break;
-        isInside = Upper(line.Name) == Upper(section);
-      } else if (isInside) {
-        lines.push_back(line);
-      }
-    }
-    return lines;
-  }
-
-  [[nodiscard]] std::optional<Units> Find(const Units& section, const Units& key) const {
-    for (const Line& line : LinesOf(section)) {
-      if (line.Is == Line::Kind::Key && Upper(line.Name) == Upper(key)) return line.Value;
-    }
-    return std::nullopt;
-  }
-
- private:
-  std::vector<Line> lines_;
-};
-
-/// What the engine gives, as units: UTF-8, which may hold single surrogates, for a UTF-16 file.
-Units UnitsOf(std::string_view text, bool isUtf16) {
-  Units units;
-  for (std::size_t i = 0; i < text.size();) {
-    const auto byteAt = [&](std::size_t at) {
-      return static_cast<char32_t>(static_cast<unsigned char>(at < text.size() ? text[at] : 0));
-    };
-    const char32_t first = byteAt(i);
-    if (!isUtf16 || first < 0x80) {
-      units += first;
-      i += 1;
-    } else if (first < 0xE0) {
-      units += (first & 0x1FU) << 6U | (byteAt(i + 1) & 0x3FU);
-      i += 2;
-    } else if (first < 0xF0) {
-      units += (first & 0xFU) << 12U | (byteAt(i + 1) & 0x3FU) << 6U | (byteAt(i + 2) & 0x3FU);
-      i += 3;
-    } else {
-      const char32_t point = ((first & 7U) << 18U | (byteAt(i + 1) & 0x3FU) << 12U |
-                              (byteAt(i + 2) & 0x3FU) << 6U | (byteAt(i + 3) & 0x3FU)) -
-                             0x10000U;
-      units += 0xD800U + (point >> 10U);
-      units += 0xDC00U + (point & 0x3FFU);
-      i += 4;
-    }
-  }
-  return units;
-}
-
-/// The units of a name as the engine takes it: bytes, or UTF-8. Names here are below U+0100.
-std::string NameFor(const Units& name, bool isUtf16) {
-  std::string bytes;
-  for (const char32_t unit : name) {
-    if (isUtf16 && unit >= 0x80) {
-      bytes += static_cast<char>(0xC0U | unit >> 6U);
-      bytes += static_cast<char>(0x80U | (unit & 0x3FU));
-    } else {
-      bytes += static_cast<char>(unit);
-    }
-  }
-  return bytes;
-}
-
-// -- Random files
-
-class RandomFile {
- public:
-  explicit RandomFile(std::mt19937& engine) : engine_(engine) {}
-
-  [[nodiscard]] std::size_t Below(std::size_t limit) { return engine_() % limit; }
-
-  template <std::size_t Count>
-  std::string OneOf(const std::string_view (&choices)[Count]) {
-    return std::string(choices[Below(Count)]);
-  }
-
-  std::string Name() {
-    return OneOf({"a", "b", "B", "c d", "", "\xE9", "\xC9", "s", "\"q\"", "A+=", "key", "KEY"});
-  }
-
-  std::string Value() {
-    switch (Below(12)) {
-      case 0:
-        return "\xE4\xF6";  // as TotalCommander's SetEncoding
-      case 1:
-        return "\xEF\xBB\xBF\xD0\xAF";
-      case 2:
-        return RandomBytes(Below(30));
-      case 3:
-        return Below(200) == 0 ? std::string(70000, 'x') : "x";
-      default:
-        return OneOf({"", "1", "\"quoted\"", "a=b", "; no comment", "[x]", "v \t", "longer value"});
-    }
-  }
-
-  std::string Bytes() {
-    lineEnd_ = OneOf({"\r\n", "\n", "\r", "mixed"});
-    std::string text = OneOf({"", "", "", "\xEF\xBB\xBF", "\r\n", ";top\n", "\xFF", "\xFE\xFF"});
-    for (std::size_t lines = Below(24); lines > 0; --lines) text += AnyLine();
-    if (Below(2) == 0) text += OneOf({"k=last", "[open", ";end", "alone", "k=", " "});
-    return Below(4) == 0 ? AsUtf16(text) : text;
-  }
-
- private:
-  std::string RandomBytes(std::size_t length) {
-    std::string bytes;
-    while (bytes.size() < length) {
-      const char byte = static_cast<char>(Below(256));
-      if (byte != '\r' && byte != '\n') bytes += byte;
-    }
-    return bytes;
-  }
-
-  std::string LineEnd() {
-    return lineEnd_ == "mixed" ? OneOf({"\r\n", "\n", "\r", "\r\r\n", "\n\r"}) : lineEnd_;
-  }
-
-  std::string AnyLine() {
-    static constexpr std::string_view blanks[] = {"", "", "", " ", "\t", "\0 "sv, "\x1A", "\x0B"};
-    const std::string blank = OneOf(blanks);
-    switch (Below(8)) {
-      case 0:
-        return blank + "[" + OneOf(blanks) + Name() + blank +
-               OneOf({"]", "]", "]", "", "]x", "]]"}) + LineEnd();
-      case 1:
-        return blank + ";" + Value() + LineEnd();
-      case 2:
-        return OneOf({"alone", "", "", "\0\x01\x1A"sv, "==", "x]", "=v"}) + LineEnd();
-      default:
-        return blank + Name() + OneOf(blanks) + "=" + blank + Value() + LineEnd();
-    }
-  }
-
-  /// Each byte as a character, some of them beyond Latin, and sometimes half a character more.
-  std::string AsUtf16(const std::string& text) {
-    std::string bytes = "\xFF\xFE";
-    for (const char byte : text) {
-      const bool isPlain = static_cast<unsigned char>(byte) < 0xF8 || Below(2) == 0;
-      bytes += byte;
-      bytes += static_cast<char>(isPlain ? 0 : OneOf({"\x04", "\xD8", "\xDC", "\x20"}).front());
-    }
-    return Below(8) == 0 ? bytes + 'Z' : bytes;
-  }
-
-  std::mt19937& engine_;
-  std::string lineEnd_;
-};
 
 /// Asks engine and reader the same about the whole file.
 void ExpectSameAnswers(const IniDocument& document, const SimpleReader& reader, bool isUtf16) {
@@ -252,8 +24,9 @@ void ExpectSameAnswers(const IniDocument& document, const SimpleReader& reader, 
   for (const char* section : {"a", "B", "c d", "", "\xE9", "s", " key "}) {
     const Units sectionUnits = UnitsOf(WithoutSpaces(section), false);
     const std::string sectionName = NameFor(UnitsOf(section, false), isUtf16);
+    const std::vector<Line> linesRead = reader.LinesOf(sectionUnits);
     std::vector<Units> expected;
-    for (const Line& line : reader.LinesOf(sectionUnits)) {
+    for (const Line& line : linesRead) {
       if (line.Is == Line::Kind::Key) expected.push_back(line.Name + U"=" + line.Value);
       if (line.Is == Line::Kind::Other) expected.push_back(line.Name);
     }
@@ -263,7 +36,8 @@ void ExpectSameAnswers(const IniDocument& document, const SimpleReader& reader, 
     }
     ASSERT_EQ(lines, expected);
     for (const char* key : {"a", "b", "C D", "", "\xC9", "\"q\"", "A+", " key"}) {
-      const auto expectedValue = reader.Find(sectionUnits, UnitsOf(WithoutSpaces(key), false));
+      const auto expectedValue =
+          SimpleReader::ValueIn(linesRead, UnitsOf(WithoutSpaces(key), false));
       const auto found = document.Find(sectionName, NameFor(UnitsOf(key, false), isUtf16));
       ASSERT_EQ(found.has_value(), expectedValue.has_value()) << section << "/" << key;
       ASSERT_EQ(UnitsOf(found.value_or(""), isUtf16), expectedValue.value_or(U""))
@@ -319,7 +93,7 @@ std::pair<std::size_t, std::size_t> ChangedLines(const std::string& before,
 
 TEST(IniProperties, AnEditTouchesOnlyItsLineAndReadsBack) {
   std::mt19937 engine(2);
-  for (int i = 0; i < Rounds(5000); ++i) {
+  for (int i = 0; i < Rounds(10'000); ++i) {
     RandomFile random(engine);
     const std::string file = random.Bytes();
     const bool isUtf16 = file.starts_with("\xFF\xFE");
@@ -348,6 +122,103 @@ TEST(IniProperties, AnEditTouchesOnlyItsLineAndReadsBack) {
       ASSERT_LE(added, 4U);
       ASSERT_NO_FATAL_FAILURE(ExpectSameAnswers(document, SimpleReader(document.Bytes()), isUtf16));
     }
+  }
+}
+
+/// A file without the key lines of one section, but for those named "key".
+struct Emptied {
+  std::string Rest;
+  std::string Header;         ///< the section's line; empty when there is no such section
+  bool HasLinesLeft = false;  ///< in the section, besides blank ones
+  int Sections = 0;           ///< of that name
+};
+
+Emptied WithoutKeysOf(const std::string& file, const Units& section) {
+  const bool isUtf16 = file.starts_with("\xFF\xFE");
+  Emptied emptied;
+  bool isInside = false;
+  for (std::string_view bytes : LinesWithEnds(file)) {
+    if (isUtf16 && bytes.data() == file.data()) {
+      emptied.Rest = bytes.substr(0, 2);
+      bytes.remove_prefix(2);
+    }
+    const Line line = LineOf(RawUnits(bytes, isUtf16));
+    if (line.Is == Line::Kind::Header) {
+      const bool isNamed = Upper(line.Name) == Upper(section);
+      emptied.Sections += isNamed ? 1 : 0;
+      isInside = isNamed && emptied.Sections == 1;
+      if (isInside) emptied.Header = bytes;
+    } else if (isInside) {
+      if (line.Is == Line::Kind::Key && Upper(line.Name) != U"KEY") continue;
+      const bool isBlank = line.Is == Line::Kind::Other && line.Name.empty();
+      emptied.HasLinesLeft = emptied.HasLinesLeft || !isBlank;
+    }
+    emptied.Rest += bytes;
+  }
+  return emptied;
+}
+
+/// The text in the encoding of a file.
+std::string BytesFor(std::string_view text, bool isUtf16) {
+  std::string bytes;
+  for (const char byte : text) {
+    bytes += byte;
+    if (isUtf16) bytes += '\0';
+  }
+  return bytes;
+}
+
+/// `file` without `block`, which must stand in it, nor the line end that the line before it got.
+std::string Without(std::string file, const std::string& block, const Emptied& emptied,
+                    bool isUtf16) {
+  const std::size_t at = file.find(block);
+  if (at == std::string::npos) return "(the new lines are missing)";
+  file.erase(at, block.size());
+  const std::string lineEnd = BytesFor("\r\n", isUtf16);
+  const bool gotEnd = at >= lineEnd.size() &&
+                      file.compare(at - lineEnd.size(), lineEnd.size(), lineEnd) == 0 &&
+                      file.size() == emptied.Rest.size() + lineEnd.size();
+  return gotEnd ? file.erase(at - lineEnd.size(), lineEnd.size()) : file;
+}
+
+using Entries = std::vector<std::pair<std::string, std::string>>;
+
+/// Replaces a section's keys with new ones, but for "key", and compares the whole file.
+void ExpectNothingElseChanged(const std::string& file, const Units& section,
+                              const Entries& entries) {
+  const bool isUtf16 = file.starts_with("\xFF\xFE");
+  IniDocument document(file);
+  document.ReplaceEntries(NameFor(section, isUtf16), entries,
+                          [](std::string_view key) { return key == "key" || key == "KEY"; });
+  const std::string after = document.Bytes();
+  Emptied emptied = WithoutKeysOf(file, section);
+  if (entries.empty()) {
+    if (emptied.Sections == 1 && !emptied.HasLinesLeft)
+      emptied.Rest.erase(emptied.Rest.find(emptied.Header), emptied.Header.size());
+    ASSERT_EQ(after, emptied.Rest);
+    return;
+  }
+  std::string lines = emptied.Sections == 0 ? "[" + NameFor(section, false) + "]\r\n" : "";
+  for (const auto& [name, value] : entries) {
+    lines.append(name).append("=").append(value).append("\r\n");
+    ASSERT_EQ(SimpleReader(after).Find(section, UnitsOf(name, false)), UnitsOf(value, false));
+  }
+  ASSERT_EQ(Without(after, BytesFor(lines, isUtf16), emptied, isUtf16), emptied.Rest);
+}
+
+TEST(IniProperties, ReplacedEntriesTouchNothingButTheSectionsKeyLines) {
+  std::mt19937 engine(3);
+  for (int i = 0; i < Rounds(10'000); ++i) {
+    RandomFile random(engine);
+    const std::string file = random.Bytes();
+    // Nothing can stand behind half a character.
+    if (file.starts_with("\xFF\xFE") && file.size() % 2 != 0) continue;
+    const Units section = UnitsOf(random.OneOf({"s", "a", "c d", "new"}), false);
+    Entries entries;
+    for (std::size_t count = random.Below(4); entries.size() < count;)
+      entries.emplace_back("fresh " + std::to_string(entries.size()), "v");
+    ASSERT_NO_FATAL_FAILURE(ExpectNothingElseChanged(file, section, entries))
+        << i << ": " << testing::PrintToString(file);
   }
 }
 
