@@ -22,7 +22,8 @@ inline constexpr unsigned Utf8CodePage = 65001;
 [[nodiscard]] std::wstring ToLower(std::wstring_view text);
 [[nodiscard]] std::wstring ToUpper(std::wstring_view text);
 
-/// True when both are the same text but for letter case. The one comparison of this kind.
+/// True when both are the same text in upper case. The one comparison of this kind; TextHash.h has
+/// the hash that goes with it.
 [[nodiscard]] bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right);
 
 /// Order of two texts in the user's locale, letter case ignored: below, equal to or above 0.

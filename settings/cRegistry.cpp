@@ -34,9 +34,8 @@ struct KeyAddress {
 /// The parts of a key path; nothing when it does not begin with the name of a root key.
 std::optional<KeyAddress> AddressOf(std::wstring_view keyPath) {
   const std::size_t end = keyPath.find(L'\\');
-  const std::wstring rootName = ToUpper(keyPath.substr(0, end));
   for (const auto& [name, root] : RootKeys) {
-    if (name != rootName) continue;
+    if (!EqualIgnoringCase(name, keyPath.substr(0, end))) continue;
     const bool hasSubkey = end != std::wstring_view::npos;
     return KeyAddress{root, hasSubkey ? std::wstring(keyPath.substr(end + 1)) : std::wstring()};
   }

@@ -1,11 +1,12 @@
 // Writes the keys of the catalogue in Total Commander's notation.
 #include "shortcuts/SaveShortcuts.h"
 
-#include <set>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
 #include "platform/Text.h"
+#include "platform/TextHash.h"
 #include "shortcuts/CommandFinder.h"
 #include "shortcuts/RedirectSection.h"
 #include "shortcuts/WincmdIni.h"
@@ -65,11 +66,12 @@ void AppendUnknownLines(Lines& lines, const ProfileFile& file,
                         const std::vector<CommandEntry>& catalogueRows) {
   Lines linesInForce = file.Entries(ShortcutsSection);
   const CommandFinder finder(catalogueRows, linesInForce);
-  std::set<std::wstring> names{ToLower(RedirectSectionKey)};
-  for (const auto& [name, value] : lines) names.insert(ToLower(name));
+  std::unordered_set<std::wstring, HashIgnoringCase, EqualsIgnoringCase> names;
+  names.emplace(RedirectSectionKey);
+  for (const auto& [name, value] : lines) names.insert(name);
   for (auto& [name, value] : linesInForce) {
     // A known command takes the name as well: a later line of that name is not in force.
-    if (!names.insert(ToLower(name)).second || finder.Find(value)) continue;
+    if (!names.insert(name).second || finder.Find(value)) continue;
     lines.emplace_back(std::move(name), Protected(value));
   }
 }

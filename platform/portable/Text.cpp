@@ -81,11 +81,6 @@ std::wstring ToUpper(std::wstring_view text) {
   return upper;
 }
 
-bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right) {
-  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                    [](wchar_t l, wchar_t r) { return UpperOf(l) == UpperOf(r); });
-}
-
 int CompareTexts(std::wstring_view left, std::wstring_view right) {
   const auto [l, r] = std::mismatch(left.begin(), left.end(), right.begin(), right.end(),
                                     [](wchar_t a, wchar_t b) { return LowerOf(a) == LowerOf(b); });

@@ -82,12 +82,6 @@ std::wstring ToUpper(std::wstring_view text) {
   return Mapped(text, AsciiUpper<wchar_t>, LCMAP_UPPERCASE);
 }
 
-bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right) {
-  return left.size() == right.size() &&
-         CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
-                              static_cast<int>(right.size()), TRUE) == CSTR_EQUAL;
-}
-
 int CompareTexts(std::wstring_view left, std::wstring_view right) {
   const int result = CompareStringEx(LOCALE_NAME_USER_DEFAULT, NORM_IGNORECASE, left.data(),
                                      static_cast<int>(left.size()), right.data(),

@@ -1,0 +1,28 @@
+// Texts that are equal but for letter case are one key.
+#include <gtest/gtest.h>
+
+#include "platform/TextHash.h"
+
+namespace tessera {
+namespace {
+
+TEST(TextHash, TextsThatAreEqualIgnoringCaseHaveOneHash) {
+  const std::pair<std::wstring_view, std::wstring_view> cases[] = {
+      {L"", L""},
+      {L"CM_SrcComments", L"cm_srccomments"},
+      {L"Ctrl + \u00C9", L"ctrl + \u00E9"},
+      {L"\u03C3", L"\u03C2"},  // two small letters with one capital
+  };
+  for (const auto& [left, right] : cases) {
+    EXPECT_TRUE(EqualsIgnoringCase()(left, right));
+    EXPECT_EQ(HashIgnoringCase()(left), HashIgnoringCase()(right));
+  }
+  EXPECT_NE(HashIgnoringCase()(L"F1"), HashIgnoringCase()(L"F2"));
+}
+
+TEST(TextHash, BytesOfAsciiHashLikeTheirText) {
+  EXPECT_EQ(HashOfAscii(std::string_view("Menu1")), HashIgnoringCase()(L"mENU1"));
+}
+
+}  // namespace
+}  // namespace tessera
