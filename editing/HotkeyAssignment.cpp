@@ -35,9 +35,8 @@ bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
   if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, false)) {
     return false;
   }
-  std::wstring& keys = catalogue_.ListView1.Edit(row).CurrentKeys;
   // The key may have been the row's own last one, which the check has just taken out of the cell.
-  keys = keys == notation_.UndefinedHotkey ? key : keys + notation_.MultiHotkeySeparator + key;
+  notation_.AddKey(catalogue_.ListView1.Edit(row).CurrentKeys, key);
   return true;
 }
 

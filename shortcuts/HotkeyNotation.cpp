@@ -86,6 +86,14 @@ std::vector<std::wstring> HotkeyNotation::KeysOf(std::wstring_view column) const
   return SplitText(column, TrimmedSeparator());
 }
 
+void HotkeyNotation::AddKey(std::wstring& column, std::wstring_view key) const {
+  if (column == UndefinedHotkey) {
+    column = key;
+  } else {  // in place, as a command may have very many keys
+    column.append(MultiHotkeySeparator).append(key);
+  }
+}
+
 std::wstring HotkeyNotation::ModifierPrefix(std::wstring_view text) const {
   std::wstring prefix;
   // Deliberately the English words, whatever the names in force: data files are written with them.
@@ -113,8 +121,9 @@ std::wstring HotkeyNotation::NativeToDisplay(std::wstring_view nativeKey,
   if (Contains(modifiers, L"S")) display.append(ShiftName).append(Joint);
   display = ApplyReverseOrder(display + WithNum(key));
 
-  if (existing == UndefinedHotkey) return display;
-  return std::wstring(existing).append(MultiHotkeySeparator).append(display);
+  std::wstring column(existing);
+  AddKey(column, display);
+  return column;
 }
 
 std::wstring HotkeyNotation::DataFileToDisplay(std::wstring_view value) const {

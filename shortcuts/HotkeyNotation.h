@@ -31,6 +31,9 @@ struct HotkeyNotation {
   /// The single keys of a key column, trimmed; none for the undefined marker and for "".
   [[nodiscard]] std::vector<std::wstring> KeysOf(std::wstring_view column) const;
 
+  /// Adds a displayed key behind those of the column, or in the place of the undefined marker.
+  void AddKey(std::wstring& column, std::wstring_view key) const;
+
   /// "Ctrl + " and so on for each of the English words Ctrl, Alt and Shift that the text holds, in
   /// any letter case, in the names in force.
   [[nodiscard]] std::wstring ModifierPrefix(std::wstring_view text) const;

@@ -72,11 +72,7 @@ void ReadShortcuts(std::vector<CommandEntry>& rows, const ProfileFile& file,
     std::wstring& keys = rows[*row].CurrentKeys;
     const std::wstring key = notation.NativeToDisplay(name, notation.UndefinedHotkey);
     finder.RemoveCurrentKeys(*row, keys);
-    if (keys == notation.UndefinedHotkey) {
-      keys = key;
-    } else {  // in place, as a command may have very many keys
-      keys.append(notation.MultiHotkeySeparator).append(key);
-    }
+    notation.AddKey(keys, key);
     finder.AddCurrentKeys(*row, keys);
   }
 }
