@@ -11,9 +11,6 @@ namespace tessera {
 
 namespace {
 
-constexpr Column Columns[] = {Column::Description, Column::Command, Column::Defaults,
-                              Column::Current};
-constexpr int HeaderTextIds[] = {3003, 3004, 3200, 3201};
 constexpr int CommandTextId = 3004;
 constexpr int DefaultsSubItem = 2;
 
@@ -80,13 +77,12 @@ void frmMain::CreateCommandList() {
 
 void frmMain::LabelColumns() {
   SetAccessibleName(ListView1_, editor_.Language().GetLangText(CommandTextId));
-  for (int column = 0; column < 4; ++column) {
-    std::wstring text = editor_.Language().GetLangText(HeaderTextIds[column]);
+  for (std::size_t column = 0; column < ColumnTextIds.size(); ++column) {
+    std::wstring text = editor_.Language().GetLangText(ColumnTextIds[column]);
     LVCOLUMNW label{};
     label.mask = LVCF_TEXT;
     label.pszText = text.data();
-    SendMessageW(ListView1_, LVM_SETCOLUMNW, static_cast<WPARAM>(column),
-                 reinterpret_cast<LPARAM>(&label));
+    SendMessageW(ListView1_, LVM_SETCOLUMNW, column, reinterpret_cast<LPARAM>(&label));
   }
 }
 
@@ -176,7 +172,7 @@ void frmMain::FillListCell(LVITEMW& item) const {
   }
   const CommandEntry& row = rows.At(position);
   if ((item.mask & LVIF_TEXT) != 0) {
-    const std::wstring text(CellText(row, Columns[item.iSubItem]));
+    const std::wstring text(CellText(row, AllColumns[static_cast<std::size_t>(item.iSubItem)]));
     lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
   }
   if ((item.mask & LVIF_IMAGE) != 0) {
@@ -293,12 +289,11 @@ void frmMain::ShowSelectedRow() {
 
 void frmMain::SyncHeaderIcons() {
   const HWND header = ListView_GetHeader(ListView1_);
-  for (int column = 0; column < 4; ++column) {
-    const HeaderIcon icon = editor_.List().IconOf(Columns[column]);
+  for (std::size_t column = 0; column < AllColumns.size(); ++column) {
+    const HeaderIcon icon = editor_.List().IconOf(AllColumns[column]);
     HDITEMW item{};
     item.mask = HDI_FORMAT | HDI_IMAGE;
-    SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column),
-                 reinterpret_cast<LPARAM>(&item));
+    SendMessageW(header, HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&item));
     const int shownFormat = item.fmt;
     const int shownImage = item.iImage;
     constexpr int IconFormat = HDF_IMAGE | HDF_BITMAP_ON_RIGHT;
@@ -306,8 +301,7 @@ void frmMain::SyncHeaderIcons() {
     item.fmt = hasIcon ? shownFormat | IconFormat : shownFormat & ~IconFormat;
     item.iImage = hasIcon ? static_cast<int>(icon) - 1 : 0;
     if (item.fmt != shownFormat || (hasIcon && item.iImage != shownImage)) {
-      SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(column),
-                   reinterpret_cast<LPARAM>(&item));
+      SendMessageW(header, HDM_SETITEMW, column, reinterpret_cast<LPARAM>(&item));
     }
   }
 }

@@ -10,10 +10,6 @@ namespace {
 constexpr const wchar_t* LineEnd = L"\r\n";
 constexpr const wchar_t* StartMenuTitle = L"Total Commander Start Menu shortcuts:";
 
-constexpr std::array<Column, 4> AllColumns{Column::Description, Column::Command, Column::Defaults,
-                                           Column::Current};
-constexpr std::array<int, 4> HeadingTexts{3003, 3004, 3200, 3201};
-
 void AppendCell(std::wstring& text, std::wstring_view cell, std::size_t width) {
   text.append(cell.substr(0, width))
       .append(width - std::min(width, cell.size()), L' ')
@@ -31,7 +27,7 @@ std::wstring HeadingLine(const ExportColumns& columns, const std::array<std::siz
   std::wstring line;
   for (std::size_t i = 0; i < AllColumns.size(); ++i) {
     if (columns[i]) {
-      const std::wstring heading = texts.GetLangText(HeadingTexts[i]);
+      const std::wstring heading = texts.GetLangText(ColumnTextIds[i]);
       // The last heading is always written whole, deliberately, and the others are cut.
       AppendCell(line, heading, AllColumns[i] == Column::Current ? heading.size() : widths[i]);
     }

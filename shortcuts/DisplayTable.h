@@ -1,6 +1,7 @@
 // The displayed rows: in file order with the headings, or sorted by a column without them.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -12,6 +13,12 @@ namespace tessera {
 
 /// The columns of the command list, by their 1-based index.
 enum class Column { Description = 1, Command = 2, Defaults = 3, Current = 4 };
+
+inline constexpr std::array AllColumns{Column::Description, Column::Command, Column::Defaults,
+                                       Column::Current};
+
+/// The text IDs of their headings, in the same order.
+inline constexpr std::array ColumnTextIds{3003, 3004, 3200, 3201};
 
 enum class SortDirection { Ascending = 0, Descending = 1 };
 
