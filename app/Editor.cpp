@@ -1,36 +1,19 @@
-// The order in which things happen: start, opening, saving, editing, closing.
+// The order in which things happen at the start, when a file is opened, and at the end.
 #include "app/Editor.h"
 
 #include <memory>
 #include <utility>
 
+#include "app/BusyTime.h"
 #include "localisation/TextTable.h"
 #include "settings/cProfile.h"
 #include "settings/LocateTotalCommander.h"
 #include "settings/Paths.h"
-#include "settings/RestartTotalCommander.h"
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/InternalCommands.h"
-#include "shortcuts/SaveShortcuts.h"
 #include "shortcuts/WincmdIni.h"
 
 namespace tessera {
-
-namespace {
-
-/// Marks the time in which commands and edits do nothing, also when it ends by an exception.
-class BusyTime {
- public:
-  explicit BusyTime(bool& busy) : busy_(busy) { busy_ = true; }
-  ~BusyTime() { busy_ = false; }
-  BusyTime(const BusyTime&) = delete;
-  BusyTime& operator=(const BusyTime&) = delete;
-
- private:
-  bool& busy_;
-};
-
-}  // namespace
 
 Editor::Editor(const System& system, std::function<void(const LoadProgress&)> showProgress)
     : system_(system),
@@ -122,8 +105,6 @@ std::wstring Editor::FindWincmdIni(const LocateSources& sources) {
   return path;
 }
 
-bool Editor::QueryUnload() { return !busy_ && ChangesMayGo(); }
-
 void Editor::Unload(const WindowPlacement& placement, const ColumnLayout& columns) {
   StoreColumnLayout(columns, settings_);
   if (!placement.Minimised) {
@@ -140,38 +121,6 @@ void Editor::Unload(const WindowPlacement& placement, const ColumnLayout& column
 
 void Editor::FileOpen() { OpenShortcutFile(true, {}, true); }
 
-void Editor::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
-
-void Editor::FileSaveAndRestart() { Save(true); }
-
-void Editor::Save(bool restarts) {
-  if (busy_ || !modified_) {
-    return;
-  }
-  if (wincmdUnread_) {
-    // A save would drop every key that the list does not show.
-    system_.Boxes.Beep();
-    return;
-  }
-  const BusyTime busy(busy_);
-  RestartRequest restart{.WincmdPath = wincmdPath_, .CloseIt = true};
-  if (restarts) {
-    RestartTotalCommander(system_.OtherPrograms, system_.Time, system_.FileSystem,
-                          system_.Surroundings, restart);
-  }
-  const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0};
-  const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.FileSystem,
-                                        system_.Time, commanderEnvironment_);
-  if (error == FileError::None) {
-    SetModified(false);
-  }
-  if (restarts) {
-    restart.CloseIt = false;
-    RestartTotalCommander(system_.OtherPrograms, system_.Time, system_.FileSystem,
-                          system_.Surroundings, restart);
-  }
-}
-
 void Editor::ToggleToolbar() { settings_.ToolbarVisible = settings_.ToolbarVisible != 0 ? 0 : 1; }
 
 void Editor::ToggleSortedList() {
@@ -184,12 +133,6 @@ void Editor::ToggleSortedList() {
     list_.SortCommandList();
   }
   keysList_.Hide();
-}
-
-void Editor::RefreshRestartItems() {
-  const bool running = FindTotalCommander(system_.OtherPrograms) != 0;
-  restartButtonEnabled_ = running;
-  saveAndRestartEnabled_ = running && modified_;
 }
 
 void Editor::OpenShortcutFile(bool browse, std::wstring path, bool addToRecent) {
@@ -254,33 +197,6 @@ void Editor::AskForMissingDataFile() {
   cProfile(system_.FileSystem, system_.Time)
       .WriteStringValue(ProgramSection, L"DefaultHotKeysDataFile", settings_.DefaultHotKeysDataFile,
                         SettingsPath(system_.Surroundings));
-}
-
-BoxAnswer Editor::AskToSaveChanges() {
-  if (!modified_) {
-    return BoxAnswer::No;
-  }
-  const BoxAnswer answer =
-      system_.Boxes.Show(texts_.GetLangText(3020) + L"  " + wincmdPath_ + L"\n",
-                         BoxButtons::YesNoCancel, BoxIcon::Exclamation);
-  if (answer == BoxAnswer::Yes) {
-    FileSave();
-  }
-  return answer;
-}
-
-bool Editor::ChangesMayGo() {
-  const BoxAnswer answer = AskToSaveChanges();
-  const bool saveFailed = answer == BoxAnswer::Yes && modified_;
-  if (saveFailed) {
-    system_.Boxes.Beep();
-  }
-  return answer != BoxAnswer::Cancel && !saveFailed;
-}
-
-void Editor::SetModified(bool modified) {
-  modified_ = modified;
-  saveAndRestartEnabled_ = modified;
 }
 
 void Editor::ApplyLanguage() {

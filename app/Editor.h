@@ -24,8 +24,6 @@
 
 namespace tessera {
 
-inline constexpr std::wstring_view ProgramTitle = L"Tessera";
-
 /// Where the window stands, in twips.
 struct WindowPlacement {
   bool Minimised = false;

@@ -5,6 +5,9 @@
 
 namespace tessera {
 
+/// The title of every box, and of the main window.
+inline constexpr wchar_t ProgramTitle[] = L"Tessera";
+
 enum class BoxButtons { Ok, YesNo, YesNoCancel };
 enum class BoxIcon { Critical, Question, Exclamation, Information };
 enum class BoxDefault { First, Second };

@@ -28,7 +28,7 @@ BoxAnswer WindowsMessageBoxes::Show(const std::wstring& text, BoxButtons buttons
   const ButtonStyle& style = ButtonStyles.at(static_cast<std::size_t>(buttons));
   const UINT defaultStyle = defaultButton == BoxDefault::Second ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
   const int answer =
-      MessageBoxW(owner_.Current(), text.c_str(), L"Tessera",
+      MessageBoxW(owner_.Current(), text.c_str(), ProgramTitle,
                   style.Style | IconStyles.at(static_cast<std::size_t>(icon)) | defaultStyle);
   return answer == 0 ? style.WhenNotShown : static_cast<BoxAnswer>(answer);
 }
