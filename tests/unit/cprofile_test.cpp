@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 
+#include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/MemoryFiles.h"
 
 namespace tessera {
@@ -12,17 +13,10 @@ namespace {
 
 const std::wstring path = L"C:\\some.ini";
 
-class NoClock : public Clock {
- public:
-  [[nodiscard]] float SecondsSinceMidnight() const override { return 0; }
-  void DoEvents() override {}
-  void Sleep(int /*milliseconds*/) override {}
-};
-
 class cProfileTest : public testing::Test {
  protected:
   MemoryFiles Disk;
-  NoClock Time;
+  FakeClock Time;
   cProfile Profile{Disk, Time};
 };
 

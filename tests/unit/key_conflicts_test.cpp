@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "editing/KeyConflicts.h"
+#include "tests/unit/fakes/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera {
@@ -49,18 +50,7 @@ TEST_F(KeyConflicts, LetterCaseDoesNotMatterInTheIndexes) {
 }
 
 TEST(KeyQuestions, SayWhoHasTheKeyAndWhoGetsIt) {
-  class NoFiles : public Files {
-   public:
-    bool Exists(const std::wstring&) const override { return false; }
-    FileError Read(const std::wstring&, std::string&) const override { return FileError::NotFound; }
-    std::wstring Resolve(const std::wstring& path) const override { return path; }
-    FileError Write(const std::wstring&, std::string_view) override { return FileError::Other; }
-    FileError Replace(const std::wstring&, const std::wstring&, const std::wstring&) override {
-      return FileError::Other;
-    }
-    FileError Move(const std::wstring&, const std::wstring&) override { return FileError::Other; }
-    FileError Remove(const std::wstring&) override { return FileError::Other; }
-  } const noFiles;
+  const MemoryFiles noFiles;
   const Texts texts(noFiles);
   const Catalogue catalogue = SampleCatalogue();
   const CommandEntry& owner = catalogue.ListView1.Row(View);

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "settings/ProfileFile.h"
+#include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/MemoryFiles.h"
 
 namespace tessera {
@@ -12,13 +13,6 @@ namespace {
 using namespace std::string_literals;
 
 const std::wstring path = L"C:\\some.ini";
-
-class NoClock : public Clock {
- public:
-  [[nodiscard]] float SecondsSinceMidnight() const override { return 0; }
-  void DoEvents() override {}
-  void Sleep(int /*milliseconds*/) override {}
-};
 
 class ProfileFileTest : public testing::Test {
  protected:
@@ -34,7 +28,7 @@ class ProfileFileTest : public testing::Test {
   }
 
   MemoryFiles Disk;
-  NoClock Time;
+  FakeClock Time;
 };
 
 TEST_F(ProfileFileTest, AbsentKeyGivesTheDefaultWithoutItsTrailingBlanks) {

@@ -8,19 +8,13 @@
 #include "platform/Text.h"
 #include "settings/cProfile.h"
 #include "settings/IniDocument.h"
+#include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/MemoryFiles.h"
 
 namespace tessera {
 namespace {
 
 const std::wstring path = L"C:\\case.ini";
-
-class NoClock : public Clock {
- public:
-  [[nodiscard]] float SecondsSinceMidnight() const override { return 0; }
-  void DoEvents() override {}
-  void Sleep(int /*milliseconds*/) override {}
-};
 
 struct Call {
   std::string Function;
@@ -211,7 +205,7 @@ class Machine {
   }
 
   MemoryFiles files_;
-  NoClock clock_;
+  FakeClock clock_;
   cProfile profile_{files_, clock_};
 };
 

@@ -3,39 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include "tests/unit/fakes/FaultyFiles.h"
 
 namespace tessera {
 namespace {
-
-/// Files in memory that are only read, and how often they were looked at.
-class LanguageFiles : public Files {
- public:
-  std::map<std::wstring, std::string> Contents;
-  mutable int Accesses = 0;
-
-  bool Exists(const std::wstring& path) const override {
-    ++Accesses;
-    return Contents.contains(path);
-  }
-  FileError Read(const std::wstring& path, std::string& bytes) const override {
-    ++Accesses;
-    const auto found = Contents.find(path);
-    bytes = found == Contents.end() ? std::string() : found->second;
-    return found == Contents.end() ? FileError::NotFound : FileError::None;
-  }
-  std::wstring Resolve(const std::wstring& path) const override { return path; }
-  FileError Write(const std::wstring&, std::string_view) override {
-    return FileError::AccessDenied;
-  }
-  FileError Replace(const std::wstring&, const std::wstring&, const std::wstring&) override {
-    return FileError::AccessDenied;
-  }
-  FileError Move(const std::wstring&, const std::wstring&) override {
-    return FileError::AccessDenied;
-  }
-  FileError Remove(const std::wstring&) override { return FileError::AccessDenied; }
-};
 
 const std::wstring Path = L"C:\\Tessera\\Languages\\Test.lng";
 
@@ -48,7 +19,7 @@ class TextsTest : public testing::Test {
     return texts_;
   }
 
-  LanguageFiles files_;
+  FaultyFiles files_;
   Texts texts_{files_};
 };
 
@@ -57,7 +28,7 @@ TEST_F(TextsTest, StartWithTheBuiltInOnes) {
   EXPECT_EQ(texts_.GetLangText(3209),
             L"Hotkeys in this list has not saved yet to your Total Commander configuration file.");
   EXPECT_FALSE(texts_.RightToLeft());
-  EXPECT_EQ(files_.Accesses, 0);
+  EXPECT_EQ(files_.CallCount, 0);
 }
 
 TEST_F(TextsTest, ComeFromTheLanguageFile) {
@@ -116,11 +87,11 @@ TEST_F(TextsTest, AreCutAt4095Bytes) {
 
 TEST_F(TextsTest, AreReadOnce) {
   With("[UserLanguage]\r\nRightToLeftLanguage=1\r\n1008=x\r\n");
-  const int accesses = files_.Accesses;
+  const int calls = files_.CallCount;
   files_.Contents[Path] = "[UserLanguage]\r\n1008=y\r\n";
   EXPECT_EQ(texts_.GetLangText(1008), L"x");
   EXPECT_TRUE(texts_.RightToLeft());
-  EXPECT_EQ(files_.Accesses, accesses);
+  EXPECT_EQ(files_.CallCount, calls);
 }
 
 TEST_F(TextsTest, MayBeRightToLeftWithoutATextOfTheirOwn) {
@@ -185,10 +156,10 @@ TEST_F(TextsTest, AreThoseOfTheLanguageChosenLast) {
 
 TEST_F(TextsTest, AreBuiltInAgainWhenTheLanguageIsLeft) {
   With("[UserLanguage]\r\nRightToLeftLanguage=1\r\n1008=x\r\n").UseBuiltIn();
-  const int accesses = files_.Accesses;
+  const int calls = files_.CallCount;
   EXPECT_EQ(texts_.GetLangText(1008), L"OK");
   EXPECT_FALSE(texts_.RightToLeft());
-  EXPECT_EQ(files_.Accesses, accesses);
+  EXPECT_EQ(files_.CallCount, calls);
 }
 
 }  // namespace
