@@ -109,13 +109,10 @@ ColumnLayout frmMain::CurrentColumns() const {
 void frmMain::ApplyListFont() {
   const LOGFONTW font = FontOf(editor_.Options(), dpi_);
   Unique<HFONT> listFont(CreateFontIndirectW(&font));
+  // The list passes it on to its header, and places its rows below that: a header with a font of
+  // its own would make them jump.
   GiveFont(ListView1_, listFont.get());
   listFont_ = std::move(listFont);
-  GiveFont(ListView_GetHeader(ListView1_), font_.get());
-  // The list has passed its own font on to the header, and placed its rows below that.
-  RECT inside{};
-  GetClientRect(ListView1_, &inside);
-  SendMessageW(ListView1_, WM_SIZE, SIZE_RESTORED, MAKELPARAM(inside.right, inside.bottom));
 }
 
 void frmMain::LoadListImages() {

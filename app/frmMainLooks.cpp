@@ -18,6 +18,7 @@ constexpr UINT CopyGlobalData = 0x0049;
 
 /// What a control of the panel needs beside its text, for 96 pixels an inch.
 constexpr int BoxMarkWidth = 22;
+constexpr int BoxFocusHeight = 4;
 constexpr int PanelMargin = 10;
 constexpr int ItemGap = 12;
 constexpr int ChooserWidth = 150;
@@ -206,8 +207,12 @@ void frmMain::LayOutPanel() {
   const Texts& texts = editor_.Language();
   for (const int textId : {400, 401, 402, 403}) {
     const SIZE text = TextSize(window_, font_.get(), texts.GetLangText(textId));
-    const int mark = items.empty() ? 0 : scaled(BoxMarkWidth);
-    items.push_back({scaled(items.empty() ? PanelMargin : ItemGap), text.cx + mark, text.cy});
+    if (items.empty()) {
+      items.push_back({scaled(PanelMargin), text.cx, text.cy});
+    } else {
+      items.push_back(
+          {scaled(ItemGap), text.cx + scaled(BoxMarkWidth), text.cy + scaled(BoxFocusHeight)});
+    }
   }
   items.push_back({scaled(ItemGap), scaled(ChooserWidth), chooser.Height});
   items.push_back({scaled(ItemGap), buttons.cx, buttons.cy});

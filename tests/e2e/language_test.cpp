@@ -94,9 +94,48 @@ class LanguageTest : public EndToEndTest {
     });
   }
 
-  static bool RightAligned(const Window& window, int id) {
-    const LONG_PTR style = GetWindowLongPtrW(window.Control(id), GWL_EXSTYLE);
-    return (style & (WS_EX_RIGHT | WS_EX_RTLREADING | WS_EX_LAYOUTRTL)) != 0;
+  /// A mirrored control begins its lines at the right and reads them from there.
+  static bool Mirrored(const Window& window, int id) {
+    return (GetWindowLongPtrW(window.Control(id), GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+  }
+
+  static LONG LeftOf(const Window& window, int id) { return RectangleOf(window.Control(id)).left; }
+
+  /// Labels, boxes, buttons and frames of all windows, and the order in which they stand.
+  void ExpectDirection(bool fromTheRight) {
+    for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2,
+                         IDC_cmdAllList, IDC_ListView1, IDC_Toolbar1})
+      EXPECT_EQ(Mirrored(*window_, id), fromTheRight) << id;
+    EXPECT_EQ(LeftOf(*window_, IDC_lblHotkey) > LeftOf(*window_, IDC_chkCtrlAlt0), fromTheRight);
+    window_->Command(IDM_mnuViewOptions);
+    const Dialog options = NextDialog(L"frmOptions");
+    for (const int id :
+         {IDC_Frame1, IDC_chkShowgridlines, IDC_Frame7, IDC_Label3, IDC_Label4, IDC_cmdChangeFont,
+          IDC_chkAlwaysRestartTC, IDC_optUseDefaultLanguage, IDC_optUseOtheLanguage,
+          IDC_cmdBrowseForLangFile, IDC_tbsOptions, IDC_cmdOK, IDC_cmdCancel, IDC_cmdApply})
+      EXPECT_EQ(Mirrored(options, id), fromTheRight) << id;
+    EXPECT_FALSE(Mirrored(options, IDC_txtLanguageFilePath)) << "paths read from the left";
+    EXPECT_EQ(LeftOf(options, IDC_cmdOK) > LeftOf(options, IDC_cmdCancel), fromTheRight);
+    PostMessageW(options.Handle(), WM_CLOSE, 0, 0);
+    options.WaitUntilClosed();
+    window_->Command(IDM_mnuFileExportToClipboard);
+    const Dialog exportDialog = NextDialog(L"frmExportToClipboard");
+    for (const int id : {IDC_Frame1, IDC_chkColumn0, IDC_chkColumn3, IDC_cmdOK, IDC_cmdCancel})
+      EXPECT_EQ(Mirrored(exportDialog, id), fromTheRight) << id;
+    PostMessageW(exportDialog.Handle(), WM_CLOSE, 0, 0);
+    exportDialog.WaitUntilClosed();
+  }
+
+  /// The first menu opens at the end where reading begins.
+  void ExpectMenuAtTheRight(bool right) {
+    BringToFront(window_->Handle());
+    Press(VK_F10);
+    Press(VK_DOWN);
+    WaitFor("the menu to open", [&] { return !window_->OpenMenus().empty(); });
+    const RECT menu = RectangleOf(window_->OpenMenus().front());
+    const RECT window = RectangleOf(window_->Handle());
+    EXPECT_EQ(menu.left - window.left > window.right - menu.right, right);
+    CloseMenus();
   }
 };
 
@@ -133,13 +172,8 @@ TEST_F(LanguageTest, ArabicReadsFromTheRight) {
   UseLanguageFile(Shipped(L"Arabic.lng"));
   StartAndLoad();
   EXPECT_EQ(window_->Header(0).Text, L"\u0627\u0644\u0648\u0635\u0641");
-  EXPECT_TRUE(RightAligned(*window_, IDC_lblHotkey));
-  EXPECT_TRUE(RightAligned(*window_, IDC_chkCtrlAlt0));
-  window_->Command(IDM_mnuViewOptions);
-  const Dialog dialog = NextDialog(L"frmOptions");
-  for (const int id : {IDC_Frame1, IDC_chkShowgridlines, IDC_Label3, IDC_optUseOtheLanguage,
-                       IDC_cmdOK, IDC_cmdApply})
-    EXPECT_TRUE(RightAligned(dialog, id)) << id;
+  ExpectDirection(true);
+  ExpectMenuAtTheRight(true);
 }
 
 TEST_F(LanguageTest, DirectionAloneKeepsTheEnglishTexts) {
@@ -147,21 +181,30 @@ TEST_F(LanguageTest, DirectionAloneKeepsTheEnglishTexts) {
   StartAndLoad();
   EXPECT_EQ(window_->Header(0).Text, L"Description");
   EXPECT_EQ(window_->ControlText(IDC_lblHotkey), L"Hotkey:");
-  EXPECT_TRUE(RightAligned(*window_, IDC_lblHotkey));
+  ExpectDirection(true);
 }
 
 TEST_F(LanguageTest, EnglishReadsFromTheLeft) {
   StartAndLoad();
-  EXPECT_FALSE(RightAligned(*window_, IDC_lblHotkey));
-  EXPECT_FALSE(RightAligned(*window_, IDC_chkCtrlAlt0));
+  ExpectDirection(false);
+  ExpectMenuAtTheRight(false);
 }
 
 TEST_F(LanguageTest, EmptyAndAbsentTextsAreTheBuiltInOnes) {
-  UseLanguageFile(OwnFile("[UserLanguage]\r\n1008=\r\n1009=Weg\r\n3003=Was\r\n3004=\r\n"));
+  UseLanguageFile(
+      OwnFile("[UserLanguage]\r\n1008=\r\n1009=Weg\r\n3003=Was\r\n3004=\r\n"
+              "0=Zero\r\n-=Line\r\n"));
   StartAndLoad();
   EXPECT_EQ(window_->Header(0).Text, L"Was");
   EXPECT_EQ(window_->Header(1).Text, L"Command");
   EXPECT_EQ(window_->Header(2).Text, L"Default Hotkey");
+  const HWND menu = window_->OpenMenu('V');
+  const LONG toolbar = WaitForMenuEntry(menu, L"&Toolbar").Top;
+  const LONG sortedList = WaitForMenuEntry(menu, L"Sorted &List").Top;
+  const LONG options = WaitForMenuEntry(menu, L"&Options...").Top;
+  EXPECT_GT(options - sortedList, sortedList - toolbar);
+  EXPECT_LT(options - sortedList, 2 * (sortedList - toolbar)) << "a line, and no text";
+  CloseMenus();
   const Dialog dialog = OpenOptions('V', 'O');
   EXPECT_EQ(dialog.ControlText(IDC_cmdOK), L"OK");
   EXPECT_EQ(dialog.ControlText(IDC_cmdCancel), L"Weg");

@@ -148,11 +148,14 @@ TEST_F(OptionsTest, CancelEscapeAndTheCloseButtonForgetTheBoxes) {
   const std::array<void (*)(Dialog&), 3> ways{[](Dialog& dialog) { dialog.CloseBy(IDC_cmdCancel); },
                                               [](Dialog& dialog) { dialog.CloseByKey(VK_ESCAPE); },
                                               [](Dialog& dialog) { dialog.CloseByCaption(); }};
+  const RECT before = window_->CellRectangle(1, 1);
   for (const auto& close : ways) {
     Dialog dialog = OpenOptions();
     Toggle(dialog, Boxes[0]);
     close(dialog);
     WaitUntilApplied();
+    const RECT after = window_->CellRectangle(1, 1);
+    EXPECT_NE(EqualRect(&after, &before), FALSE) << "the rows stay in their places";
     EXPECT_EQ(Setting(Boxes[0].Setting), "0");
     EXPECT_FALSE(ListHasGridLines());
   }

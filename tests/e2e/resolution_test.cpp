@@ -1,0 +1,267 @@
+// Texts fit into their controls in every language and at every usual resolution, and the window
+// follows a change of the resolution.
+// clang-format off
+#include <windows.h>  // must come first
+#include <commctrl.h>
+// clang-format on
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "app/resource.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/RemoteMemory.h"
+#include "tests/e2e/Wait.h"
+
+namespace tessera::e2e {
+namespace {
+
+constexpr std::array Resolutions{96, 144, 192};
+
+/// Texts in a font of the system, as big as the system makes it at that resolution.
+class Ruler {
+ public:
+  Ruler(int dpi, LOGFONTW NONCLIENTMETRICSW::*font) : context_(CreateCompatibleDC(nullptr)) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
+                               static_cast<UINT>(dpi));
+    font_ = CreateFontIndirectW(&(metrics.*font));
+    SelectObject(context_, font_);
+  }
+  ~Ruler() {
+    DeleteDC(context_);
+    DeleteObject(font_);
+  }
+  Ruler(const Ruler&) = delete;
+  Ruler& operator=(const Ruler&) = delete;
+
+  [[nodiscard]] SIZE Measure(const std::wstring& text) const {
+    RECT room{};
+    DrawTextW(context_, text.c_str(), -1, &room, DT_CALCRECT | DT_SINGLELINE);
+    return {room.right, room.bottom};
+  }
+
+ private:
+  HDC context_;
+  HFONT font_ = nullptr;
+};
+
+bool IsOfClass(HWND window, const wchar_t* name) {
+  std::array<wchar_t, 64> own{};
+  GetClassNameW(window, own.data(), own.size());
+  return lstrcmpiW(own.data(), name) == 0;
+}
+
+BOOL CALLBACK AddWindow(HWND window, LPARAM windows) {
+  reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+  return TRUE;
+}
+
+/// All controls of a window, hidden ones too.
+std::vector<HWND> ControlsOf(const Window& window) {
+  std::vector<HWND> controls;
+  EnumChildWindows(window.Handle(), AddWindow, reinterpret_cast<LPARAM>(&controls));
+  return controls;
+}
+
+/// The resolution at which programs start; the usual one again at the end.
+class StartResolution {
+ public:
+  explicit StartResolution(DWORD dpi) { Set(dpi); }
+  ~StartResolution() { Set(96); }
+  StartResolution(const StartResolution&) = delete;
+  StartResolution& operator=(const StartResolution&) = delete;
+
+ private:
+  static void Set(DWORD dpi) {
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"LogPixels", REG_DWORD, &dpi,
+                    sizeof dpi);
+  }
+};
+
+class ResolutionTest : public EndToEndTest {
+ protected:
+  /// The name of a shipped language file; empty for the built-in texts.
+  void StartWith(const std::wstring& language) {
+    std::string settings = "[Tessera]\r\n";
+    if (!language.empty())
+      settings += "UseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
+                  Utf8(folder_.Program() + L"Languages\\" + language) + "\r\n";
+    WriteBytes(folder_.SettingsFile(), settings);
+    Start();
+    memory_ = std::make_unique<RemoteMemory>(program_->Process(), sizeof(RECT));
+    WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });
+  }
+
+  /// Tells a window that it stands on a screen of that resolution now, where it should take that
+  /// place.
+  void ChangeResolution(const Window& window, int dpi, const RECT& suggested) const {
+    memory_->Put(suggested);
+    Send(window.Handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), memory_->At());
+  }
+
+  /// The size that a control asks for itself.
+  template <typename Size>
+  [[nodiscard]] Size Ask(HWND control, UINT message, WPARAM first = 0) const {
+    memory_->Put(Size{});
+    Send(control, message, first, memory_->At());
+    return memory_->Get<Size>();
+  }
+
+  [[nodiscard]] SIZE NeededBy(HWND control, const Ruler& ruler) const {
+    const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
+    if (IsOfClass(control, WC_STATICW)) return ruler.Measure(TextOf(control));
+    if (IsOfClass(control, TOOLBARCLASSNAMEW)) return Ask<SIZE>(control, TB_GETMAXSIZE);
+    if (IsOfClass(control, WC_TABCONTROLW)) {
+      const auto last = static_cast<WPARAM>(Send(control, TCM_GETITEMCOUNT) - 1);
+      EXPECT_EQ(Send(control, TCM_GETROWCOUNT), 1) << "rows of tabs";
+      const RECT tab = Ask<RECT>(control, TCM_GETITEMRECT, last);
+      return {tab.right, tab.bottom};
+    }
+    if (!IsOfClass(control, WC_BUTTONW) || (style & BS_ICON) != 0) return {};
+    switch (style & BS_TYPEMASK) {
+      case BS_OWNERDRAW:
+        return {};
+      case BS_GROUPBOX:
+        return ruler.Measure(L"  " + TextOf(control) + L"  ");
+      default:
+        return Ask<SIZE>(control, BCM_GETIDEALSIZE);
+    }
+  }
+
+  /// Every control has the room that it needs, inside of what it stands on.
+  void ExpectThatAllFits(const Window& window, int dpi) const {
+    const Ruler ruler(dpi, &NONCLIENTMETRICSW::lfMessageFont);
+    int measured = 0;
+    for (const HWND control : ControlsOf(window)) {
+      const SIZE needed = NeededBy(control, ruler);
+      if (needed.cx == 0) continue;
+      ++measured;
+      RECT inside{};
+      GetClientRect(control, &inside);
+      RECT around{};
+      GetClientRect(GetParent(control), &around);
+      RECT place = RectangleOf(control);
+      MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+      const bool fits = needed.cx <= inside.right && needed.cy <= inside.bottom &&
+                        place.left >= 0 && place.top >= 0 && place.right <= around.right &&
+                        place.bottom <= around.bottom;
+      EXPECT_TRUE(fits) << Utf8(TextOf(control)) << " (" << GetDlgCtrlID(control) << ") needs "
+                        << needed.cx << " x " << needed.cy << " and has " << inside.right << " x "
+                        << inside.bottom << ", at " << place.left << ", " << place.top << " in "
+                        << around.right << " x " << around.bottom;
+    }
+    EXPECT_GE(measured, 6) << "controls with texts";
+  }
+
+  void ExpectThatTheTitleFits(const Window& window, int dpi) const {
+    const RECT place = RectangleOf(window.Handle());
+    const Ruler ruler(dpi, &NONCLIENTMETRICSW::lfCaptionFont);
+    const auto metric = [dpi](int which) {
+      return GetSystemMetricsForDpi(which, static_cast<UINT>(dpi));
+    };
+    EXPECT_LE(ruler.Measure(window.Caption()).cx + metric(SM_CXSIZE) + 4 * metric(SM_CXFIXEDFRAME),
+              place.right - place.left)
+        << Utf8(window.Caption());
+  }
+
+  /// Opens a dialog of the program, calls `look` with it, and closes it.
+  template <typename Look>
+  void WithDialog(int command, const std::wstring& className, Look look) {
+    window_->Command(command);
+    const Dialog dialog = NextDialog(className);
+    look(dialog);
+    PostMessageW(dialog.Handle(), WM_CLOSE, 0, 0);
+    dialog.WaitUntilClosed();
+  }
+
+  template <typename Look>
+  void WithEachDialog(Look look) {
+    WithDialog(IDM_mnuViewOptions, L"frmOptions", look);
+    WithDialog(IDM_mnuFileExportToClipboard, L"frmExportToClipboard", look);
+  }
+
+  /// The files that are shipped; the template among them has the English texts.
+  [[nodiscard]] std::vector<std::wstring> Languages() const {
+    std::vector<std::wstring> names;
+    for (const auto& file : std::filesystem::directory_iterator(folder_.Program() + L"Languages"))
+      names.push_back(file.path().filename().wstring());
+    return names;
+  }
+
+  [[nodiscard]] std::map<int, std::array<LONG, 4>> Places() const {
+    std::map<int, std::array<LONG, 4>> places;
+    for (const HWND control : ControlsOf(*window_)) {
+      const RECT place = RectangleOf(control);
+      places[GetDlgCtrlID(control)] = {place.left, place.top, place.right, place.bottom};
+    }
+    return places;
+  }
+
+  /// Of the program, for what its windows are told and asked.
+  std::unique_ptr<RemoteMemory> memory_;
+};
+
+TEST_F(ResolutionTest, TextsFitInEveryLanguage) {
+  const std::vector<std::wstring> languages = Languages();
+  ASSERT_GT(languages.size(), 9U);
+  for (const std::wstring& language : languages) {
+    SCOPED_TRACE(Utf8(language));
+    StartWith(language);
+    WithEachDialog([&](const Dialog& dialog) {
+      for (const int dpi : Resolutions) {
+        SCOPED_TRACE(std::to_string(dpi) + " pixels an inch");
+        ChangeResolution(dialog, dpi, RectangleOf(dialog.Handle()));
+        ExpectThatAllFits(dialog, dpi);
+        ExpectThatTheTitleFits(dialog, dpi);
+      }
+    });
+    for (const int dpi : Resolutions) {
+      SCOPED_TRACE(std::to_string(dpi) + " pixels an inch");
+      ChangeResolution(*window_, dpi, {20, 20, 30, 30});  // the window gets its smallest size
+      ExpectThatAllFits(*window_, dpi);
+    }
+    Close();
+  }
+}
+
+TEST_F(ResolutionTest, ProgramStartsInIt) {
+  int toolbarHeight = 0;
+  for (const int dpi : Resolutions) {
+    SCOPED_TRACE(std::to_string(dpi) + " pixels an inch");
+    const StartResolution resolution(static_cast<DWORD>(dpi));
+    StartWith(L"German.lng");
+    const RECT toolbar = RectangleOf(window_->Control(IDC_Toolbar1));
+    EXPECT_GT(toolbar.bottom - toolbar.top, toolbarHeight);
+    toolbarHeight = toolbar.bottom - toolbar.top;
+    ExpectThatAllFits(*window_, dpi);
+    WithEachDialog([&](const Dialog& dialog) {
+      ExpectThatAllFits(dialog, dpi);
+      ExpectThatTheTitleFits(dialog, dpi);
+    });
+    Close();
+  }
+}
+
+TEST_F(ResolutionTest, WindowFollowsItThereAndBack) {
+  StartWith(L"");
+  const RECT place = RectangleOf(window_->Handle());
+  const auto places = Places();
+  const auto widths = window_->ColumnWidths();
+  const RECT suggested{30, 40, 1030, 840};
+  ChangeResolution(*window_, 144, suggested);
+  const RECT followed = RectangleOf(window_->Handle());
+  EXPECT_NE(EqualRect(&followed, &suggested), FALSE);
+  for (std::size_t column = 0; column < widths.size(); ++column)
+    EXPECT_NEAR(window_->ColumnWidths().at(column), widths.at(column) * 3 / 2, 1);
+  EXPECT_NE(Places(), places);
+  ChangeResolution(*window_, 96, place);
+  EXPECT_EQ(Places(), places);
+  EXPECT_EQ(window_->ColumnWidths(), widths);
+}
+
+}  // namespace
+}  // namespace tessera::e2e
