@@ -1,6 +1,8 @@
 // Writes the keys of the catalogue in Total Commander's notation.
 #include "shortcuts/SaveShortcuts.h"
 
+#include <algorithm>
+#include <iterator>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -38,14 +40,25 @@ std::vector<std::wstring> NativeKeys(const std::wstring& currentKeys,
   return keys;
 }
 
+/// In a file, every character up to the space is a blank.
+constexpr bool IsBlank(wchar_t character) { return character <= L' '; }
+
+/// The key as its line's name is read from the file.
+std::wstring AsName(const std::wstring& key) {
+  const auto begin = std::find_if_not(key.begin(), key.end(), IsBlank);
+  const auto end = std::find_if_not(key.rbegin(), std::make_reverse_iterator(begin), IsBlank);
+  return {begin, end.base()};
+}
+
 Lines LinesOfCatalogue(const DisplayTable& table, const HotkeyNotation& notation) {
   Lines lines;
   for (std::size_t position = 0; position < table.Count(); ++position) {
     const CommandEntry& row = table.At(position);
     if (row.CurrentKeys.empty() || row.CurrentKeys == notation.UndefinedHotkey) continue;
-    for (std::wstring& key : NativeKeys(row.CurrentKeys, notation)) {
+    for (const std::wstring& key : NativeKeys(row.CurrentKeys, notation)) {
+      std::wstring name = AsName(key);
       // A line without a name would bind nothing.
-      if (!key.empty()) lines.emplace_back(std::move(key), row.CommandName);
+      if (!name.empty()) lines.emplace_back(std::move(name), row.CommandName);
     }
   }
   return lines;
@@ -56,8 +69,7 @@ std::wstring Protected(const std::wstring& value) {
   if (value.empty()) return value;
   const bool quoted = value.size() > 1 && value.front() == value.back() &&
                       (value.front() == L'"' || value.front() == L'\'');
-  // In a file, every character up to the space is a blank.
-  const bool blank = value.front() <= L' ' || value.back() <= L' ';
+  const bool blank = IsBlank(value.front()) || IsBlank(value.back());
   return quoted || blank ? L'"' + value + L'"' : value;
 }
 

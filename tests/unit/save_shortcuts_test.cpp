@@ -260,6 +260,14 @@ TEST_F(SaveShortcutsTest, AKeptLineGivesWayToACommandThatHasTakenItsKey) {
   EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nA+F5=cm_1\r\nF8=em_two\r\n");
 }
 
+TEST_F(SaveShortcutsTest, AKeyIsWrittenWithoutTheControlCharactersAroundItsName) {
+  Disk.Contents[Path] = "[Shortcuts]\r\nF=em_own\r\n";
+  Show({L"\x01\tF\x02", L"\x03"});
+  KeepUnknown = true;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF=cm_1\r\n");
+}
+
 TEST_F(SaveShortcutsTest, LinesOfKnownCommandsAreNotKept) {
   Disk.Contents[Path] = "[Shortcuts]\r\nF5=CM_1\r\nF6=102\r\n";
   Show({L"---"});
