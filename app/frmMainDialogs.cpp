@@ -13,12 +13,15 @@ void frmMain::ShowExport() {
 
 void frmMain::ShowOptions() {
   frmOptions_.Show(window_, editor_.BeginOptions());
+  ApplyFonts();
+  ApplyDisplaySettings();
+  // May show a box, behind which the window is to have its new looks.
   const OptionsOutcome outcome = editor_.EndOptions();
   if (outcome.LanguageChanged) {
     ApplyLanguage();
+    ApplyFonts();
+    ApplyDisplaySettings();
   }
-  ApplyFonts();
-  ApplyDisplaySettings();
   React(outcome.Panel);
 }
 

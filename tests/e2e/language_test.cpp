@@ -44,6 +44,7 @@ class LanguageTest : public EndToEndTest {
 
   void ChooseLanguageFile(const std::wstring& path) {
     Dialog dialog = OpenOptions('V', 'O');
+    dialog.ClickControl(IDC_chkShowgridlines);
     dialog.ClickTab(IDC_tbsOptions, 3);
     dialog.ClickControl(IDC_optUseOtheLanguage);
     WaitFor("the text box", [&] { return dialog.Enabled(IDC_txtLanguageFilePath); });
@@ -234,6 +235,9 @@ TEST_F(LanguageTest, ChosenFileThatIsMissingIsToldAndTheTextsStayEnglish) {
   ChooseLanguageFile(folder_.Root() + L"nowhere.lng");
   const Box box = NextBox();
   EXPECT_EQ(box.Text, L"Cannot find language file!");
+  EXPECT_NE(Send(window_->Control(IDC_ListView1), LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_GRIDLINES,
+            0)
+      << "the window has its new looks before the box is shown";
   Answer(box, IDOK);
   Select(L"cm_SrcTree");
   EXPECT_EQ(window_->Header(0).Text, L"Description");
