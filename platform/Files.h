@@ -1,6 +1,7 @@
 // The file system as the program needs it: whole files, read and replaced at once.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,14 @@ enum class FileError {
   Other,
 };
 
+/// Two stamps of a file differ when it was written between them, but for a write of the same length
+/// within one tick of the file system's clock.
+struct FileStamp {
+  std::uint64_t Time = 0;
+  std::uint64_t Length = 0;
+  bool operator==(const FileStamp&) const = default;
+};
+
 class Files {
  public:
   virtual ~Files() = default;
@@ -32,6 +41,9 @@ class Files {
   /// Reads the whole file; `bytes` is empty unless the result is None. SharingViolation tells also
   /// that another program changed the length meanwhile.
   [[nodiscard]] virtual FileError Read(const std::wstring& path, std::string& bytes) const = 0;
+
+  /// The stamp of a file as it is now, without reading it; an empty one when it cannot be told.
+  [[nodiscard]] virtual FileStamp Stamp(const std::wstring& path) const = 0;
 
   /// The file that a symbolic link at `path` leads to; `path` itself when it is no link or nothing.
   [[nodiscard]] virtual std::wstring Resolve(const std::wstring& path) const = 0;

@@ -105,15 +105,16 @@ std::optional<std::wstring> ProfileSection::Find(std::wstring_view key,
                                                    : wrapped.substr(0, bufferLength - 1));
 }
 
-ProfileFile::ProfileFile(const Files& files, std::wstring path) : path_(std::move(path)) {
-  readError_ = files.Read(path_, bytes_);
-  document_ = IniDocument(bytes_);
+ProfileFile::ProfileFile(const Files& files, std::wstring path)
+    : path_(std::move(path)), former_{{}, files.Stamp(path_)} {
+  readError_ = files.Read(path_, former_.Bytes);
+  document_ = IniDocument(former_.Bytes);
 }
 
 ProfileFile::ProfileFile(const Files& files, Clock& clock, std::wstring path)
-    : path_(std::move(path)) {
-  readError_ = ReadWhenFree(files, clock, path_, bytes_);
-  document_ = IniDocument(bytes_);
+    : path_(std::move(path)), former_{{}, files.Stamp(path_)} {
+  readError_ = ReadWhenFree(files, clock, path_, former_.Bytes);
+  document_ = IniDocument(former_.Bytes);
 }
 
 const std::wstring& ProfileFile::Path() const { return path_; }
@@ -208,10 +209,10 @@ FileError ProfileFile::Save(Files& files, Clock& clock, KeepCopies copies) {
   if (readError_ != FileError::None && !isMissing) return readError_;
   if (!isChanged_) return FileError::None;
   std::string bytes = document_.Bytes();
-  if (bytes == bytes_ && !isMissing) return FileError::None;
-  const FileError error = ReplaceContent(files, clock, path_, bytes, copies, &bytes_);
+  if (bytes == former_.Bytes && !isMissing) return FileError::None;
+  const FileError error = ReplaceContent(files, clock, path_, bytes, copies, &former_);
   if (error != FileError::None) return error;
-  bytes_ = std::move(bytes);
+  former_ = {std::move(bytes), files.Stamp(path_)};
   readError_ = FileError::None;
   isChanged_ = false;
   return FileError::None;

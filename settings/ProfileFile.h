@@ -136,7 +136,7 @@ class ProfileFile {
   [[nodiscard]] std::string EncodeValue(std::wstring_view value) const;
 
   std::wstring path_;
-  std::string bytes_;  ///< of the file as read or last saved
+  FormerContent former_;  ///< of the file as read or last saved
   FileError readError_ = FileError::None;
   IniDocument document_;
   unsigned codePage_ = AnsiCodePage;

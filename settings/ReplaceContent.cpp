@@ -119,7 +119,7 @@ FileError SaveFromTheStart(const std::function<FileError()>& save) {
 }
 
 FileError ReplaceContent(Files& files, Clock& clock, const std::wstring& path,
-                         std::string_view bytes, KeepCopies copies, const std::string* former) {
+                         std::string_view bytes, KeepCopies copies, const FormerContent* former) {
   const Names names{files.Resolve(path)};
   Patience patience(clock);
 
@@ -129,10 +129,11 @@ FileError ReplaceContent(Files& files, Clock& clock, const std::wstring& path,
     return error;
   }
   error = patience.Try([&] {
-    // Whoever held the file may have written it.
-    const bool mayDiffer = former != nullptr && patience.HasWaited();
-    return mayDiffer && Differs(files, names.Target, *former) ? FileError::ChangedMeanwhile
-                                                              : Swap(files, names);
+    // Whoever held the file may have written it, and so may others while the new content was made.
+    const bool mayDiffer =
+        former != nullptr && (patience.HasWaited() || files.Stamp(names.Target) != former->Stamp);
+    return mayDiffer && Differs(files, names.Target, former->Bytes) ? FileError::ChangedMeanwhile
+                                                                    : Swap(files, names);
   });
   if (error == FileError::None)
     TidyUp(files, patience, names, copies);

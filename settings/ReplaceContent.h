@@ -25,14 +25,20 @@ enum class KeepCopies {
 /// ChangedMeanwhile; three times at most. Gives the last result.
 [[nodiscard]] FileError SaveFromTheStart(const std::function<FileError()>& save);
 
+/// What a file held when it was read, with the stamp that it had just before.
+struct FormerContent {
+  std::string Bytes;
+  FileStamp Stamp;
+};
+
 /// Writes `bytes` to a temporary file beside `path` and swaps it in. A link is followed. A file
 /// held open for a moment is tried again for at most two seconds. Gives None when the new content
 /// is in place; after any error the file at `path` is as it was. ChangedMeanwhile tells that
-/// another program, after such a wait, had left something else there than `former`, which `bytes`
-/// were made from; null leaves that out.
+/// another program has left something else there than `former`, which `bytes` were made from; null
+/// leaves that out.
 [[nodiscard]] FileError ReplaceContent(Files& files, Clock& clock, const std::wstring& path,
                                        std::string_view bytes, KeepCopies copies,
-                                       const std::string* former = nullptr);
+                                       const FormerContent* former = nullptr);
 
 /// Clears up what a save of `path` left when the program was killed in it; reads no file when there
 /// is nothing. The former content returns when the file itself is gone, and else gets the name that

@@ -62,6 +62,8 @@ UniqueHandle OpenExisting(const std::wstring& path, DWORD access) {
                          FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
+std::uint64_t Joined(DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; }
+
 DWORD NextStep(std::size_t remaining) {
   return static_cast<DWORD>(std::min(remaining, LargestStep));
 }
@@ -97,6 +99,14 @@ FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const
     return FileError::SharingViolation;
   bytes = std::move(content);
   return FileError::None;
+}
+
+FileStamp WindowsFiles::Stamp(const std::wstring& path) const {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) == FALSE)
+    return {};
+  return {Joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime),
+          Joined(data.nFileSizeHigh, data.nFileSizeLow)};
 }
 
 std::wstring WindowsFiles::Resolve(const std::wstring& path) const {

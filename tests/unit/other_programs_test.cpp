@@ -16,7 +16,7 @@ const std::wstring OtherFile = L"C:\\TC\\keys.ini";
 constexpr std::size_t Pack = 4;
 
 /// From the moment in which a save has read it, another program holds one file until the clock has
-/// moved on so far, and then may write it.
+/// moved on so far, and then may write it; held for no time, it is written at that very moment.
 class HeldFiles final : public MemoryFiles {
  public:
   const FakeClock* Time = nullptr;
@@ -40,6 +40,7 @@ class HeldFiles final : public MemoryFiles {
 
   FileError Write(const std::wstring& path, std::string_view bytes) override {
     isSaving_ = isSaving_ || path.starts_with(Held);
+    if (HeldFor == 0 && Written) Contents[Held] = *std::exchange(Written, {});
     return MemoryFiles::Write(path, bytes);
   }
 
@@ -94,6 +95,18 @@ TEST(OtherPrograms, WhatOneWroteWhileItHeldTheFileStays) {
     World world;
     Start(world, file);
     world.Disk.HeldFor = 500;
+    world.Disk.Written = Old.Whole() + "\n[Last]\nc";
+    world.Program.FileSave();
+    EXPECT_FALSE(world.Program.Modified());
+    EXPECT_EQ(world.Disk.Contents[file],
+              (Parts{Old.Before, Unsaved, Old.Behind + "\n[Last]\nc"}.Whole()));
+  }
+}
+
+TEST(OtherPrograms, WhatOneWroteWhileTheSaveWasPreparedStays) {
+  for (const std::wstring& file : {IniFile, OtherFile}) {
+    World world;
+    Start(world, file);
     world.Disk.Written = Old.Whole() + "\n[Last]\nc";
     world.Program.FileSave();
     EXPECT_FALSE(world.Program.Modified());

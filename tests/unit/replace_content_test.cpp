@@ -263,12 +263,30 @@ TEST(ExistsOrReturns, FileOfAKilledSaveIsThereAgain) {
 }
 
 TEST_F(ReplaceContentTest, ContentThatChangedDuringAWaitIsNotReplaced) {
-  const std::string former = "old";
-  files_.Contents = {{Path, "by another program"}};
+  files_.Contents = {{Path, "old"}};
+  const FormerContent former{"old", files_.Stamp(Path)};
+  files_.Contents = {{Path, "odd"}};  // with a stamp that does not tell
   files_.ReplaceErrors = {FileError::SharingViolation};
   EXPECT_EQ(ReplaceContent(files_, clock_, Path, "new", KeepCopies::Yes, &former),
             FileError::ChangedMeanwhile);
+  EXPECT_EQ(files_.Contents[Path], "odd");
+}
+
+TEST_F(ReplaceContentTest, ContentWithAnotherStampIsNotReplaced) {
+  files_.Contents = {{Path, "old"}};
+  const FormerContent former{"old", files_.Stamp(Path)};
+  files_.Contents = {{Path, "by another program"}};
+  EXPECT_EQ(ReplaceContent(files_, clock_, Path, "new", KeepCopies::Yes, &former),
+            FileError::ChangedMeanwhile);
   EXPECT_EQ(files_.Contents[Path], "by another program");
+  EXPECT_EQ(clock_.SleepCount, 0);
+}
+
+TEST_F(ReplaceContentTest, SameContentWithAnotherStampIsReplaced) {
+  files_.Contents = {{Path, "old"}};
+  const FormerContent former{"old", {}};
+  EXPECT_EQ(ReplaceContent(files_, clock_, Path, "new", KeepCopies::Yes, &former), FileError::None);
+  EXPECT_EQ(files_.Contents[Path], "new");
 }
 
 TEST(SaveFromTheStart, IsTriedThreeTimesWhileTheFileChanges) {

@@ -39,6 +39,11 @@ class MemoryFiles : public Files {
     return FileError::None;
   }
 
+  [[nodiscard]] FileStamp Stamp(const std::wstring& path) const override {
+    const auto found = Contents.find(Resolve(path));
+    return found == Contents.end() ? FileStamp{} : FileStamp{1, found->second.size()};
+  }
+
   [[nodiscard]] std::wstring Resolve(const std::wstring& path) const override {
     const auto found = Links.find(path);
     return found == Links.end() ? path : found->second;

@@ -69,6 +69,17 @@ TEST_F(WindowsFilesTest, OnlyAFileExists) {
   EXPECT_FALSE(files_.Exists(L""));
 }
 
+TEST_F(WindowsFilesTest, StampTellsThatAFileWasWritten) {
+  EXPECT_EQ(files_.Stamp(At(L"a")), FileStamp{});
+  Put(L"a", "old");
+  const FileStamp first = files_.Stamp(At(L"a"));
+  EXPECT_EQ(first.Length, 3U);
+  EXPECT_EQ(files_.Stamp(At(L"a")), first);
+  Sleep(50);  // beyond a tick
+  Put(L"a", "new");
+  EXPECT_NE(files_.Stamp(At(L"a")), first);
+}
+
 TEST_F(WindowsFilesTest, MissingFileAndMissingFolderAreNotFound) {
   std::string bytes = "x";
   EXPECT_EQ(files_.Read(At(L"b"), bytes), FileError::NotFound);
