@@ -64,9 +64,13 @@ Program::Program(const std::wstring& executable, const std::optional<std::wstrin
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION started{};
-  if (CreateProcessW(executable.c_str(), commandLine.data(), nullptr, nullptr, FALSE,
-                     CREATE_UNICODE_ENVIRONMENT, environment.data(), folder.c_str(), &startup,
-                     &started) == FALSE)
+  const auto start = [&] {
+    return CreateProcessW(executable.c_str(), commandLine.data(), nullptr, nullptr, FALSE,
+                          CREATE_UNICODE_ENVIRONMENT, environment.data(), folder.c_str(), &startup,
+                          &started) != FALSE;
+  };
+  // Under Wine the start may fail so, once, when another process has just been killed.
+  if (!start() && (GetLastError() != ERROR_INTERNAL_ERROR || !start()))
     throw std::runtime_error("The program does not start, error " + std::to_string(GetLastError()));
   CloseHandle(started.hThread);
   process_ = Own(started.hProcess);

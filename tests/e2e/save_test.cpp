@@ -107,5 +107,30 @@ TEST_F(SaveTest, FileThatIsHeldOpenKeepsItsContentAndTheChangesStayUnsaved) {
   EXPECT_FALSE(Exists(folder_.WincmdIni() + L".unsaved"));
 }
 
+TEST_F(SaveTest, WhatAnotherProgramWritesBeforeAndDuringASaveStays) {
+  StartAndLoad();
+  const std::string before = "[Before]\r\na=\xE4 ;kept\r\n\r\n" + original_;
+  WriteBytes(folder_.WincmdIni(), before);
+  MakeAChange();
+  const std::string more = "[During]\r\nb=2";
+  {
+    const UniqueHandle held = Own(CreateFileW(folder_.WincmdIni().c_str(), GENERIC_WRITE,
+                                              FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(held);
+    window_->ClickButton(IDC_Toolbar1, IDM_mnuFileSave);
+    WaitFor("the save to wait for the file",
+            [&] { return Exists(folder_.WincmdIni() + L".tessera-new"); });
+    SetFilePointer(held.get(), 0, nullptr, FILE_END);
+    DWORD written = 0;
+    ASSERT_TRUE(
+        WriteFile(held.get(), more.data(), static_cast<DWORD>(more.size()), &written, nullptr));
+  }
+  WaitFor("the save to end", [&] { return !Modified(); });
+  const std::string expected = WithShortcuts(before + more, ExpectedShortcuts(window_->Rows()));
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni()), expected);
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni() + L".bak"), before + more);
+  EXPECT_FALSE(Exists(folder_.WincmdIni() + L".unsaved"));
+}
+
 }  // namespace
 }  // namespace tessera::e2e
