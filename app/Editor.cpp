@@ -214,7 +214,7 @@ void Editor::ApplyLanguage() {
 void Editor::ReadModifierNames() {
   // A blank name would be found in every key, and a save would then give it all modifiers.
   const auto nameOf = [this](int textId) {
-    const std::wstring name = TrimBlanks(texts_.GetLangText(textId));
+    const std::wstring name(TrimBlanks(texts_.GetLangText(textId)));
     return name.empty() ? std::wstring(BuiltInTextOf(textId)) : name;
   };
   notation_.CtrlName = nameOf(404);

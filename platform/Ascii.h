@@ -8,6 +8,10 @@
 
 namespace tessera {
 
+[[nodiscard]] constexpr bool IsAscii(wchar_t character) {
+  return static_cast<std::make_unsigned_t<wchar_t>>(character) < 0x80;
+}
+
 template <typename Text>
 [[nodiscard]] constexpr bool IsAscii(const Text& text) {
   using Bits = std::make_unsigned_t<typename Text::value_type>;

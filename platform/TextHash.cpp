@@ -2,11 +2,22 @@
 #include "platform/TextHash.h"
 
 namespace tessera {
+namespace {
 
-std::size_t HashIgnoringCase::operator()(std::wstring_view text) const {
-  if (IsAscii(text)) return HashOfAscii(text);
+std::size_t HashOfUpper(std::wstring_view text) {
   TextHash hash;
   for (const wchar_t character : ToUpper(text)) hash.Add(static_cast<std::uint64_t>(character));
+  return hash.Value();
+}
+
+}  // namespace
+
+std::size_t HashIgnoringCase::operator()(std::wstring_view text) const {
+  TextHash hash;
+  for (const wchar_t character : text) {
+    if (!IsAscii(character)) return HashOfUpper(text);
+    hash.Add(static_cast<std::uint64_t>(AsciiUpper(character)));
+  }
   return hash.Value();
 }
 

@@ -2,6 +2,7 @@
 #include "settings/IniDocument.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/Text.h"
 #include "platform/Utf8.h"
@@ -206,8 +207,18 @@ unsigned IniDocument::NameCodePage() const {
 
 IniSection* IniDocument::SectionNamed(std::string_view name) const {
   Divide();
-  const auto found = sectionsByName_.find(WithoutSpaces(name));
-  return found == sectionsByName_.end() ? nullptr : &sections_[found->second];
+  name = WithoutSpaces(name);
+  // A single look-up is quicker without the index, which pays from the second one on.
+  if (!std::exchange(wasSearched_, true)) {
+    const IniNameEqual equal{NameCodePage()};
+    const auto found =
+        std::find_if(sections_.begin() + 1, sections_.end(),
+                     [&](const IniSection& section) { return equal(section.Name(), name); });
+    return found == sections_.end() ? nullptr : &*found;
+  }
+  if (!sectionsByName_) IndexSections();
+  const auto found = sectionsByName_->find(name);
+  return found == sectionsByName_->end() ? nullptr : &sections_[found->second];
 }
 
 void IniDocument::Divide() const {
@@ -227,8 +238,16 @@ void IniDocument::Divide() const {
 
 void IniDocument::AddSection(std::string_view text) const {
   const IniSection& added = sections_.emplace_back(text, NameCodePage());
-  // What stands before the first header has no name. Of equal names the first one counts.
-  if (sections_.size() > 1) sectionsByName_.emplace(added.Name(), sections_.size() - 1);
+  if (sectionsByName_) sectionsByName_->emplace(added.Name(), sections_.size() - 1);
+}
+
+/// Of equal names the first one counts. What stands before the first header has no name.
+void IniDocument::IndexSections() const {
+  sectionsByName_.emplace(sections_.size(), IniNameHash{NameCodePage()},
+                          IniNameEqual{NameCodePage()});
+  for (std::size_t i = 1; i < sections_.size(); ++i) {
+    sectionsByName_->emplace(sections_[i].Name(), i);
+  }
 }
 
 std::string IniDocument::Text() const {
@@ -241,7 +260,8 @@ std::string IniDocument::Text() const {
 
 void IniDocument::Reset(std::string text) {
   sections_.clear();
-  sectionsByName_ = SectionIndex(0, IniNameHash{NameCodePage()}, IniNameEqual{NameCodePage()});
+  wasSearched_ = false;
+  sectionsByName_.reset();
   texts_.clear();
   Store(std::move(text));
 }

@@ -2,8 +2,8 @@
 // functions. An edit touches only the lines it is about; every other byte stays.
 #pragma once
 
-#include <deque>
 #include <functional>
+#include <list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -90,6 +90,7 @@ class IniDocument {
   /// Finds the headers, once.
   void Divide() const;
   void AddSection(std::string_view text) const;
+  void IndexSections() const;
 
   /// The whole content, in the encoding of names and values.
   [[nodiscard]] std::string Text() const;
@@ -109,10 +110,11 @@ class IniDocument {
   void PutLines(const IniSection& section, const LineList& lines);
 
   Encoding encoding_ = Encoding::Ansi;
-  std::string oddByte_;            ///< the half of a character at the end of a UTF-16 file
-  std::deque<std::string> texts_;  ///< the content read, then every line written since
+  std::string oddByte_;           ///< the half of a character at the end of a UTF-16 file
+  std::list<std::string> texts_;  ///< the content read, then every line written since
   mutable std::vector<IniSection> sections_;  ///< the first holds what stands before all headers
-  mutable SectionIndex sectionsByName_;
+  mutable bool wasSearched_ = false;
+  mutable std::optional<SectionIndex> sectionsByName_;
 };
 
 /// A value without the one pair of equal quotes (" or ') around it, where it has one.

@@ -32,8 +32,9 @@ std::optional<std::size_t> IniSection::LineOf(std::string_view key) const {
     contents_->WasSearched = true;
     return Search(key, 1);
   }
-  const auto found = FirstLines().find(key);
-  if (found == FirstLines().end()) return std::nullopt;
+  const Index& index = FirstLines();
+  const auto found = index.find(key);
+  if (found == index.end()) return std::nullopt;
   return found->second;
 }
 

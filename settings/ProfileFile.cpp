@@ -68,9 +68,9 @@ std::string DecimalText(double number) {
 
 bool IsMissing(std::wstring_view value) { return value == MissingMarker; }
 
-std::wstring TrimBlanks(std::wstring_view text) {
+std::wstring_view TrimBlanks(std::wstring_view text) {
   const std::size_t begin = std::min(text.find_first_not_of(L' '), text.size());
-  return std::wstring(text.substr(begin, text.find_last_not_of(L' ') + 1 - begin));
+  return text.substr(begin, text.find_last_not_of(L' ') + 1 - begin);
 }
 
 double LeadingNumber(std::wstring_view text) {
@@ -168,7 +168,7 @@ void ProfileFile::UseCodePage(unsigned codePage) { codePage_ = codePage; }
 
 void ProfileFile::WriteString(std::wstring_view section, std::wstring_view key,
                               std::wstring_view value, bool quoted) {
-  const std::wstring trimmed = TrimBlanks(value);
+  const std::wstring_view trimmed = TrimBlanks(value);
   if (IsMissing(trimmed)) return;
   const std::string bytes = EncodeValue(trimmed);
   document_.Set(EncodeName(section), EncodeName(key), quoted ? '"' + bytes + '"' : bytes);

@@ -26,7 +26,7 @@ inline constexpr std::wstring_view MissingMarker = L"///can\\not/find\\this/data
 inline constexpr std::size_t ProfileBufferLength = 4096;
 
 /// A text of the program's own is trimmed of blanks at both ends (spaces only).
-[[nodiscard]] std::wstring TrimBlanks(std::wstring_view text);
+[[nodiscard]] std::wstring_view TrimBlanks(std::wstring_view text);
 
 /// The leading number of a text: decimal, with optional sign, fraction and exponent; 0 when there
 /// is none.

@@ -160,7 +160,7 @@ void WriteSettings(const Settings& settings, ProfileFile& file) {
 
 /// The trimmed text, or `replacement` when nothing is left of it.
 std::wstring TrimmedOr(std::wstring_view text, std::wstring_view replacement) {
-  std::wstring trimmed = TrimBlanks(text);
+  std::wstring trimmed(TrimBlanks(text));
   return trimmed.empty() ? std::wstring(replacement) : trimmed;
 }
 

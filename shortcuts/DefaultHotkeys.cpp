@@ -20,7 +20,11 @@ void FillDefaultKeys(std::vector<CommandEntry>& rows, const ProfileFile& dataFil
     step();
     if (row.IsHeading()) continue;
     const auto value = section.Find(row.CommandCode, BufferLength);
-    row.DefaultKeys = value ? notation.DataFileToDisplay(*value) : absent;
+    if (value) {
+      row.DefaultKeys = notation.DataFileToDisplay(*value);
+    } else {
+      row.DefaultKeys = absent;
+    }
   }
 }
 

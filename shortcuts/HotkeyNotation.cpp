@@ -63,7 +63,7 @@ std::span<const std::wstring_view> KeyVocabulary() { return Vocabulary; }
 std::vector<std::wstring> SplitText(std::wstring_view text, std::wstring_view separator) {
   std::vector<std::wstring> pieces;
   ForEachPiece(text, separator,
-               [&](std::wstring_view piece) { pieces.push_back(TrimBlanks(piece)); });
+               [&](std::wstring_view piece) { pieces.emplace_back(TrimBlanks(piece)); });
   return pieces;
 }
 
@@ -72,14 +72,16 @@ std::wstring WithNum(std::wstring_view key) {
   return std::wstring(isOperator ? L"Num " : L"").append(key);
 }
 
-std::wstring KeyPart(std::wstring_view text) {
+std::wstring_view KeyPart(std::wstring_view text) {
   // A "+" at the end is the key itself, not what joins it.
   const std::size_t plus =
       text.size() < 2 ? std::wstring_view::npos : text.rfind(L'+', text.size() - 2);
   return TrimBlanks(plus == std::wstring_view::npos ? text : text.substr(plus + 1));
 }
 
-std::wstring HotkeyNotation::TrimmedSeparator() const { return TrimBlanks(MultiHotkeySeparator); }
+std::wstring_view HotkeyNotation::TrimmedSeparator() const {
+  return TrimBlanks(MultiHotkeySeparator);
+}
 
 std::vector<std::wstring> HotkeyNotation::KeysOf(std::wstring_view column) const {
   if (column.empty() || column == UndefinedHotkey) return {};
@@ -106,20 +108,22 @@ std::wstring HotkeyNotation::ModifierPrefix(std::wstring_view text) const {
 std::wstring HotkeyNotation::NativeToDisplay(std::wstring_view nativeKey,
                                              std::wstring_view existing) const {
   std::wstring_view modifiers;
-  std::wstring key(nativeKey);
+  std::wstring key;
   const std::size_t plus = nativeKey.find(L'+');
   if (TrimBlanks(nativeKey) == L"+") {
     key = L"+";  // joins nothing here: it is the keypad plus
   } else if (plus != std::wstring_view::npos) {
     modifiers = nativeKey.substr(0, plus);
     key = ToUpper(TrimBlanks(nativeKey.substr(plus + 1)));
+  } else {
+    key = nativeKey;
   }
 
   std::wstring display;
   if (Contains(modifiers, L"C")) display.append(CtrlName).append(Joint);
   if (Contains(modifiers, L"A")) display.append(AltName).append(Joint);
   if (Contains(modifiers, L"S")) display.append(ShiftName).append(Joint);
-  display = ApplyReverseOrder(display + WithNum(key));
+  display = ApplyReverseOrder(std::move(display.append(WithNum(key))));
 
   std::wstring column(existing);
   AddKey(column, display);
@@ -128,15 +132,15 @@ std::wstring HotkeyNotation::NativeToDisplay(std::wstring_view nativeKey,
 
 std::wstring HotkeyNotation::DataFileToDisplay(std::wstring_view value) const {
   // Deliberate: several keys without any modifier keep the "=" between them as written.
-  const std::wstring prefix = ModifierPrefix(value);
-  if (prefix.empty()) return std::wstring(value);
+  std::wstring display = ModifierPrefix(value);
+  if (display.empty()) return std::wstring(value);
 
-  const std::wstring separator = TrimmedSeparator();
+  const std::wstring_view separator = TrimmedSeparator();
   if (!Contains(value, L"=") && !Contains(value, separator)) {
-    return ApplyReverseOrder(prefix + KeyPart(value));
+    return ApplyReverseOrder(std::move(display.append(KeyPart(value))));
   }
   std::vector<std::wstring> keys = SplitText(Joined(SplitText(value, L"="), separator), separator);
-  for (std::wstring& key : keys) key = ModifierPrefix(key) + KeyPart(key);
+  for (std::wstring& key : keys) key = ModifierPrefix(key).append(KeyPart(key));
   return ApplyReverseOrder(Joined(keys, MultiHotkeySeparator));
 }
 
@@ -145,7 +149,7 @@ std::wstring HotkeyNotation::DisplayToNative(std::wstring_view displayKey) const
   if (Contains(displayKey, CtrlName)) native += L'C';
   if (Contains(displayKey, AltName)) native += L'A';
   if (Contains(displayKey, ShiftName)) native += L'S';
-  if (native.empty()) return TrimBlanks(displayKey);
+  if (native.empty()) return std::wstring(TrimBlanks(displayKey));
 
   native += L'+';
   if (ReverseOrderHotkey) {
@@ -158,8 +162,8 @@ std::wstring HotkeyNotation::DisplayToNative(std::wstring_view displayKey) const
   return native;
 }
 
-std::wstring HotkeyNotation::ApplyReverseOrder(std::wstring_view text) const {
-  if (!ReverseOrderHotkey) return std::wstring(text);
+std::wstring HotkeyNotation::ApplyReverseOrder(std::wstring text) const {
+  if (!ReverseOrderHotkey) return text;
 
   std::vector<std::wstring> keys;
   ForEachPiece(text, MultiHotkeySeparator, [&](std::wstring_view piece) {

@@ -26,7 +26,7 @@ struct HotkeyNotation {
   bool ReverseOrderHotkey = false;
 
   /// The separator without its blanks, which is what a column is split at.
-  [[nodiscard]] std::wstring TrimmedSeparator() const;
+  [[nodiscard]] std::wstring_view TrimmedSeparator() const;
 
   /// The single keys of a key column, trimmed; none for the undefined marker and for "".
   [[nodiscard]] std::vector<std::wstring> KeysOf(std::wstring_view column) const;
@@ -54,7 +54,7 @@ struct HotkeyNotation {
   /// The same keys with the key name first, when ReverseOrderHotkey is set. Modifiers are
   /// recognised by their English words only; others are dropped. Not for keys that are reversed
   /// already.
-  [[nodiscard]] std::wstring ApplyReverseOrder(std::wstring_view text) const;
+  [[nodiscard]] std::wstring ApplyReverseOrder(std::wstring text) const;
 };
 
 /// The displayed name of a key: a keypad operator's is "Num " and the operator.
@@ -62,6 +62,6 @@ struct HotkeyNotation {
 
 /// The key name of a "+"-joined text, trimmed: what follows its last "+" that is not its last
 /// character; all of the text when it has no such "+".
-[[nodiscard]] std::wstring KeyPart(std::wstring_view text);
+[[nodiscard]] std::wstring_view KeyPart(std::wstring_view text);
 
 }  // namespace tessera

@@ -44,7 +44,7 @@ std::wstring WithoutDots(std::wstring_view path) {
 
 std::wstring PathOfSection(const ProfileFile& wincmdIni, std::wstring_view section,
                            const Environment& environment) {
-  std::wstring target = TrimBlanks(wincmdIni.ReadString(section, RedirectSectionKey, L"0"));
+  std::wstring target(TrimBlanks(wincmdIni.ReadString(section, RedirectSectionKey, L"0")));
   if (target == L"1") {
     target = TrimBlanks(wincmdIni.ReadString(L"Configuration", L"AlternateUserIni", L""));
   }

@@ -25,10 +25,8 @@ wchar_t FromWindows1252(char byte) {
   return code >= 0x80 && code < 0xA0 ? upperControls[code - 0x80] : static_cast<wchar_t>(code);
 }
 
-bool IsAsciiCharacter(wchar_t character) { return character >= 0 && character < 0x80; }
-
 char ToWindows1252(wchar_t character) {
-  if (IsAsciiCharacter(character)) return static_cast<char>(character);
+  if (IsAscii(character)) return static_cast<char>(character);
   const auto* const found = std::find(upperControls.begin(), upperControls.end(), character);
   if (found != upperControls.end())
     return static_cast<char>(0x80 + (found - upperControls.begin()));
@@ -43,12 +41,12 @@ locale_t CaseLocale() {
 }
 
 wchar_t LowerOf(wchar_t character) {
-  if (IsAsciiCharacter(character)) return AsciiLower(character);
+  if (IsAscii(character)) return AsciiLower(character);
   return static_cast<wchar_t>(towlower_l(static_cast<wint_t>(character), CaseLocale()));
 }
 
 wchar_t UpperOf(wchar_t character) {
-  if (IsAsciiCharacter(character)) return AsciiUpper(character);
+  if (IsAscii(character)) return AsciiUpper(character);
   return static_cast<wchar_t>(towupper_l(static_cast<wint_t>(character), CaseLocale()));
 }
 
@@ -82,8 +80,9 @@ std::wstring ToUpper(std::wstring_view text) {
 }
 
 int CompareTexts(std::wstring_view left, std::wstring_view right) {
-  const auto [l, r] = std::mismatch(left.begin(), left.end(), right.begin(), right.end(),
-                                    [](wchar_t a, wchar_t b) { return LowerOf(a) == LowerOf(b); });
+  const auto [l, r] =
+      std::mismatch(left.begin(), left.end(), right.begin(), right.end(),
+                    [](wchar_t a, wchar_t b) { return a == b || LowerOf(a) == LowerOf(b); });
   if (l == left.end() || r == right.end()) return (l != left.end()) - (r != right.end());
   return LowerOf(*l) < LowerOf(*r) ? -1 : 1;
 }

@@ -148,7 +148,7 @@ void RunNotation(std::string_view bytes) {
   notation.ReverseOrderHotkey = (flags & 1) != 0;
   const bool checksRoundTrip = (flags & 2) != 0;  // which takes long
   bytes.remove_prefix(std::min<std::size_t>(1, bytes.size()));
-  const std::wstring separator = TrimBlanks(Decode(Take(bytes)));
+  const std::wstring separator(TrimBlanks(Decode(Take(bytes))));
   if (!separator.empty()) notation.MultiHotkeySeparator = L' ' + separator + L' ';
   if (checksRoundTrip) CheckRoundTrip(notation);
   for (std::string_view rest = bytes; !rest.empty();) {
