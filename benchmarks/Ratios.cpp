@@ -39,13 +39,7 @@ void RatioReporter::Finalize() {
     everyRatioKnown_ = everyRatioKnown_ && !std::isnan(value);
     // Neither of the two was asked for.
     if (std::isnan(measured) && std::isnan(reference)) continue;
-    out << std::left << std::setw(72) << ratio.What << std::right << std::fixed
-        << std::setprecision(2) << std::setw(8) << value << std::setw(7);
-    if (std::isinf(ratio.Goal)) {
-      out << "-\n";
-    } else {
-      out << ratio.Goal << (value <= ratio.Goal ? "\n" : "  MISSED\n");
-    }
+    PrintRatio(out, ratio.What, value, ratio.Goal);
   }
 }
 

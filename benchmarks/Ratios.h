@@ -3,10 +3,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <limits>
 #include <map>
 #include <string>
 #include <vector>
+
+#include "benchmarks/RatioRow.h"
 
 namespace tessera {
 
@@ -15,7 +16,7 @@ struct Ratio {
   std::string Measured;   ///< the name of a benchmark
   std::string Reference;  ///< the name of another one
   double Scale = 1;       ///< the ratio of their sizes, which the times are divided by
-  double Goal = std::numeric_limits<double>::infinity();  ///< the largest ratio wanted, if any is
+  double Goal = NoGoal;   ///< the largest ratio wanted, if any is
 };
 
 /// Prints a table of ratios of processor times. Of repetitions the quickest counts: whatever else

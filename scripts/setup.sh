@@ -9,7 +9,7 @@ run=("${build[@]}" wine wine64 fonts-wine xvfb xdotool imagemagick)
 test=("${run[@]}" g++ googletest clang-format-14 clang-tidy-14 python3)
 fuzz=(cmake ninja-build clang-14 libclang-rt-14-dev)
 coverage=(cmake ninja-build googletest clang-14 llvm-14 python3)
-bench=(cmake ninja-build g++ libbenchmark-dev libsimpleini-dev libinih-dev)
+bench=("${run[@]}" g++ libbenchmark-dev libsimpleini-dev libinih-dev)
 
 wanted=()
 for purpose in "$@"; do

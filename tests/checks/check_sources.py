@@ -24,6 +24,7 @@ SHARED_BY_WINDOWS = "app/resource.h"
 # Tests that are not named after one source file, and why.
 OTHER_TESTS = {
     "conflict_model": "holds the whole program to a model of its rules over random edits",
+    "growth": "counts what the operations of the whole program run",
     "fuzz_regressions": "replays what the fuzzers found, over all readers",
     "hostile_values": "gives the whole program values that no one should store",
     "ini_properties": "holds the whole INI engine to a second reader, over random files",
@@ -54,7 +55,7 @@ def code_files(root):
 
 def belongs_to_windows(file):
     return (file.name.startswith("frm") or file.as_posix() == "app/main.cpp"
-            or file.parts[:2] in (("platform", "win32"), ("tests", "e2e"))
+            or file.parts[:2] in (("platform", "win32"), ("tests", "e2e"), ("benchmarks", "win32"))
             or file.parts[:3] == ("tests", "unit", "win32"))
 
 
