@@ -23,6 +23,11 @@ if(TESSERA_SANITIZE)
   target_link_options(tessera_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+option(TESSERA_COUNT "Count the blocks of code that tests run; by GCC" OFF)
+if(TESSERA_COUNT)
+  target_compile_options(tessera_options INTERFACE -fsanitize-coverage=trace-pc)
+endif()
+
 function(tessera_library name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PUBLIC tessera_options)

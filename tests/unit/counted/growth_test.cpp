@@ -1,0 +1,146 @@
+// How the work of each operation grows with the number of commands. What is counted are the blocks
+// of code that are run: the same on every machine, however busy it is.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+#include "benchmarks/SampleProgram.h"
+#include "export/ClipboardTable.h"
+#include "localisation/Texts.h"
+#include "settings/IniDocument.h"
+
+namespace {
+
+std::uint64_t blocksRun = 0;
+
+}  // namespace
+
+/// The compiler puts a call of this at the beginning of every block.
+extern "C"
+    __attribute__((no_sanitize("address"), no_sanitize("undefined"), no_sanitize_coverage)) void
+    __sanitizer_cov_trace_pc();
+
+void __sanitizer_cov_trace_pc() { ++blocksRun; }
+
+namespace tessera {
+namespace {
+
+constexpr int Few = 500;
+constexpr int Many = 8 * Few;
+
+/// Growth with the number of commands; costs that do not grow at all make it smaller.
+constexpr double Linear = 8 * 1.2;
+/// log(4000) is 1.33 times log(500).
+constexpr double LinearTimesLogarithm = 8 * 1.33 * 1.2;
+constexpr double Constant = 1.2;
+
+template <typename Work>
+double BlocksOf(Work work) {
+  const std::uint64_t before = blocksRun;
+  work();
+  return static_cast<double>(blocksRun - before);
+}
+
+/// How many times as many blocks `work` runs on many commands as on few, once they are opened.
+template <typename Work>
+double GrowthOf(Work work) {
+  const auto blocksFor = [&](int commands) {
+    SampleProgram program(commands);
+    program.Start();
+    // The first edit makes the indexes that edits need.
+    program.Editor.SelectRow(1);
+    program.Editor.ChooseKey(1);
+    program.Editor.AssignKey();
+    return BlocksOf([&] { work(program); });
+  };
+  const double few = blocksFor(Few);
+  EXPECT_GT(few, 0);
+  return blocksFor(Many) / few;
+}
+
+TEST(Growth, OpeningGrowsAsTheCommands) {
+  const auto blocksFor = [](int commands) {
+    SampleProgram program(commands);
+    program.Editor.Load();
+    return BlocksOf([&] { program.Editor.Activate(); });
+  };
+  const double few = blocksFor(Few);
+  EXPECT_GT(few, Few);
+  EXPECT_LT(blocksFor(Many) / few, Linear);
+}
+
+TEST(Growth, SavingGrowsAsTheCommands) {
+  EXPECT_LT(GrowthOf([](SampleProgram& program) { program.Editor.FileSave(); }), Linear);
+}
+
+TEST(Growth, SortingGrowsAsTheRowsTimesTheirLogarithm) {
+  for (const Column column :
+       {Column::Description, Column::Command, Column::Defaults, Column::Current}) {
+    const auto sort = [&](SampleProgram& program) {
+      DisplayTable rows = program.Editor.Rows();
+      rows.RemoveHeadings();
+      rows.Sort(column, SortDirection::Descending);
+    };
+    EXPECT_LT(GrowthOf(sort), LinearTimesLogarithm) << static_cast<int>(column);
+  }
+}
+
+TEST(Growth, GoingBackToFileOrderGrowsAsTheRows) {
+  const auto back = [](SampleProgram& program) {
+    DisplayTable rows = program.Editor.Rows();
+    rows.RestoreFileOrder();
+  };
+  EXPECT_LT(GrowthOf(back), Linear);
+}
+
+TEST(Growth, AssigningAKeyCostsTheSameAmongManyCommands) {
+  const auto assign = [](SampleProgram& program) {
+    for (int key = 0; key < 60; ++key) {
+      program.Editor.SelectRow(static_cast<std::size_t>(2 + key));
+      program.Editor.ChooseKey(key);
+      program.Editor.AssignKey();
+    }
+  };
+  EXPECT_LT(GrowthOf(assign), Constant);
+}
+
+TEST(Growth, DeletingAKeyCostsTheSameAmongManyCommands) {
+  const auto remove = [](SampleProgram& program) {
+    for (std::size_t row = 1; row < 200; ++row) {
+      program.Editor.SelectRow(row);
+      program.Editor.DeleteKeys();
+    }
+  };
+  EXPECT_LT(GrowthOf(remove), Constant);
+}
+
+TEST(Growth, DeletingAllKeysGrowsAsTheCommands) {
+  EXPECT_LT(GrowthOf([](SampleProgram& program) { program.Editor.DeleteAllKeys(); }), Linear);
+}
+
+TEST(Growth, ExportingGrowsAsTheRows) {
+  const MemoryFiles files;
+  const Texts texts(files);
+  const auto write = [&](SampleProgram& program) {
+    static_cast<void>(
+        BuildExportText(program.Editor.Rows(), {true, true, true, true}, texts, L"---"));
+  };
+  EXPECT_LT(GrowthOf(write), Linear);
+}
+
+TEST(Growth, LookingUpEveryKeyOfAnIniFileGrowsAsTheKeys) {
+  const auto blocksFor = [](int keys) {
+    std::string bytes = "[S]\r\n";
+    for (int key = 0; key < keys; ++key) bytes += std::to_string(key) + "=value\r\n";
+    return BlocksOf([&] {
+      const IniDocument document(bytes);
+      for (int key = 0; key < keys; ++key) {
+        EXPECT_TRUE(document.Find("S", std::to_string(key)));
+      }
+    });
+  };
+  EXPECT_LT(blocksFor(Many) / blocksFor(Few), Linear);
+}
+
+}  // namespace
+}  // namespace tessera
