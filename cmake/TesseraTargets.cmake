@@ -13,7 +13,7 @@ if(WIN32)
     UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00)
   target_link_options(tessera_options INTERFACE -static)
   target_link_libraries(tessera_options INTERFACE
-    comctl32 comdlg32 advapi32 shell32 ole32 uuid uxtheme)
+    comctl32 advapi32 shell32 ole32 uuid uxtheme)
 endif()
 
 option(TESSERA_SANITIZE "Address and undefined-behaviour sanitizers" OFF)

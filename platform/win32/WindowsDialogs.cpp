@@ -17,12 +17,23 @@ constexpr int TenthsOfPointPerInch = 720;
 constexpr DWORD FileFlags =
     OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
 
+/// Shows a dialog of the system; false when it is cancelled or there is none. The library of the
+/// dialogs brings others along: loaded with the program, it would delay its start and fill memory.
+template <typename Dialog>
+bool Show(const char* function, Dialog& dialog) {
+  const HMODULE library = LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (library == nullptr) return false;
+  const auto show = reinterpret_cast<BOOL(WINAPI*)(Dialog*)>(
+      reinterpret_cast<void*>(GetProcAddress(library, function)));
+  return show != nullptr && show(&dialog) != FALSE;
+}
+
 const wchar_t* TextOrNull(const std::wstring& text) {
   return text.empty() ? nullptr : text.c_str();
 }
 
 /// Shows one of the two file dialogs, which share everything but their function.
-std::optional<std::wstring> ChooseFile(BOOL(WINAPI* show)(LPOPENFILENAMEW), DWORD flags, HWND owner,
+std::optional<std::wstring> ChooseFile(const char* function, DWORD flags, HWND owner,
                                        const FileDialogRequest& request) {
   std::wstring filter = request.Filter + L'|';  // the list ends with an empty description
   std::ranges::replace(filter, L'|', L'\0');
@@ -38,7 +49,7 @@ std::optional<std::wstring> ChooseFile(BOOL(WINAPI* show)(LPOPENFILENAMEW), DWOR
   dialog.lpstrInitialDir = TextOrNull(request.Folder);
   dialog.lpstrTitle = TextOrNull(request.Title);
   dialog.Flags = flags;
-  if (show(&dialog) == FALSE) return std::nullopt;
+  if (!Show(function, dialog)) return std::nullopt;
   return std::wstring(file.c_str());
 }
 
@@ -53,7 +64,7 @@ UniqueDeviceContext DefaultPrinter() {
   PRINTDLGW dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.Flags = PD_RETURNDEFAULT | PD_RETURNDC | PD_NOWARNING;
-  if (PrintDlgW(&dialog) == FALSE) return {};
+  if (!Show("PrintDlgW", dialog)) return {};
   if (dialog.hDevMode != nullptr) GlobalFree(dialog.hDevMode);
   if (dialog.hDevNames != nullptr) GlobalFree(dialog.hDevNames);
   return UniqueDeviceContext(dialog.hDC);
@@ -91,12 +102,12 @@ FontRecord FromLogicalFont(const LOGFONTW& logical, int pointSizeInTenths) {
 WindowsDialogs::WindowsDialogs(const OwnerWindow& owner) : owner_(owner) {}
 
 std::optional<std::wstring> WindowsDialogs::Open(const FileDialogRequest& request) {
-  return ChooseFile(GetOpenFileNameW, FileFlags, owner_.Current(), request);
+  return ChooseFile("GetOpenFileNameW", FileFlags, owner_.Current(), request);
 }
 
 std::optional<std::wstring> WindowsDialogs::Save(const FileDialogRequest& request) {
   const DWORD overwrite = request.AskBeforeOverwrite ? DWORD{OFN_OVERWRITEPROMPT} : DWORD{0};
-  return ChooseFile(GetSaveFileNameW, FileFlags | overwrite, owner_.Current(), request);
+  return ChooseFile("GetSaveFileNameW", FileFlags | overwrite, owner_.Current(), request);
 }
 
 std::optional<std::uint32_t> WindowsDialogs::Color() {
@@ -104,7 +115,7 @@ std::optional<std::uint32_t> WindowsDialogs::Color() {
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = owner_.Current();
   dialog.lpCustColors = customColors_.data();
-  if (ChooseColorW(&dialog) == FALSE) return std::nullopt;
+  if (!Show("ChooseColorW", dialog)) return std::nullopt;
   return dialog.rgbResult;
 }
 
@@ -123,7 +134,7 @@ bool WindowsDialogs::Font(FontRecord& font) {
   dialog.rgbColors = RGB(0, 0, 0);
   dialog.nSizeMin = SmallestPointSize;
   dialog.nSizeMax = LargestPointSize;
-  if (ChooseFontW(&dialog) == FALSE) return false;
+  if (!Show("ChooseFontW", dialog)) return false;
   font = FromLogicalFont(logical, dialog.iPointSize);
   return true;
 }
