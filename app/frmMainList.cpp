@@ -251,7 +251,8 @@ void frmMain::SyncList() {
   syncing_ = false;
   SyncListSelection();
   SyncHeaderIcons();
-  InvalidateRect(ListView1_, nullptr, FALSE);
+  // With its background: an icon may have gone.
+  InvalidateRect(ListView1_, nullptr, TRUE);
 }
 
 void frmMain::SyncListSelection() {

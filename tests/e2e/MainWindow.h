@@ -46,6 +46,7 @@ class MainWindow : public Window {
   [[nodiscard]] std::array<int, 4> ColumnWidths() const;
   [[nodiscard]] std::array<int, 4> ColumnOrder() const;
   [[nodiscard]] RECT CellRectangle(int position, int column) const;  ///< on the screen
+  [[nodiscard]] RECT IconRectangle(int position) const;              ///< likewise
 
   void ClickRow(int position);
 

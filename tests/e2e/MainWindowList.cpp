@@ -126,6 +126,11 @@ RECT MainWindow::CellRectangle(int position, int column) const {
                      asked);
 }
 
+RECT MainWindow::IconRectangle(int position) const {
+  return RectangleBy(Control(IDC_ListView1), LVM_GETITEMRECT, static_cast<WPARAM>(position),
+                     {LVIR_ICON, 0, 0, 0});
+}
+
 void MainWindow::ClickRow(int position) {
   BringToFront(Handle());
   Send(Control(IDC_ListView1), LVM_ENSUREVISIBLE, static_cast<WPARAM>(position));

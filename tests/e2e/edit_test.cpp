@@ -144,11 +144,16 @@ TEST_F(EditTest, DeleteKeyTakesTheKeysAwayAndFreesTheDefaultOnes) {
   EXPECT_TRUE(Modified());
 }
 
-TEST_F(EditTest, DeleteButtonTakesTheKeysAway) {
+TEST_F(EditTest, DeleteButtonTakesTheKeysAndTheIconAway) {
   StartAndLoad();
-  Select(L"cm_SrcComments");
+  Select(L"cm_VerticalPanels");
+  const RECT icon = window_->IconRectangle(window_->SelectedRow());
+  const int area = (icon.right - icon.left) * (icon.bottom - icon.top);
+  const auto blank = [&icon] { return CountPixels(icon, GetSysColor(COLOR_WINDOW)); };
+  WaitFor("the row's icon", [&] { return blank() < area / 2; });
   window_->ClickButton(IDC_Toolbar2, IDM_delete);
-  WaitForKeys(L"cm_SrcComments", L"---");
+  WaitForKeys(L"cm_VerticalPanels", L"---");
+  WaitFor("the icon to go", [&] { return blank() == area; });
 }
 
 TEST_F(EditTest, DeletingAllKeysAsksFirst) {
