@@ -50,6 +50,9 @@ Start StartOnce(const std::wstring& executable, const std::wstring& commander, i
     if (!program.Running() || elapsed() > Limit) throw std::runtime_error("no list was filled");
     Sleep(1);
   }
+  // The rows are on the screen once nothing is left to be painted.
+  if (WaitForInputIdle(program.Process(), Limit * 1000) != 0)
+    throw std::runtime_error("the list was not painted");
   const Start start{elapsed(), PrivateBytesOf(program)};
   PostMessageW(program.WaitForWindow(), WM_CLOSE, 0, 0);
   static_cast<void>(program.WaitForEnd());
