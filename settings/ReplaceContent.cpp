@@ -64,10 +64,14 @@ class Patience {
   int nextPause_ = FirstPause;
 };
 
-/// True when the file can be read and holds something else.
-bool Differs(const Files& files, const std::wstring& path, const std::string& content) {
+/// None when the file holds that content, and when it cannot be read for good: the replace tells
+/// what that means. One that is being written is to be looked at again.
+FileError CompareWith(const std::string& content, const Files& files, const std::wstring& path) {
   std::string present;
-  return files.Read(path, present) == FileError::None && present != content;
+  const FileError error = files.Read(path, present);
+  if (error == FileError::SharingViolation) return error;
+  return error == FileError::None && present != content ? FileError::ChangedMeanwhile
+                                                        : FileError::None;
 }
 
 /// One try to put the prepared content in place. After an error the former content is in place
@@ -132,8 +136,9 @@ FileError ReplaceContent(Files& files, Clock& clock, const std::wstring& path,
     // Whoever held the file may have written it, and so may others while the new content was made.
     const bool mayDiffer =
         former != nullptr && (patience.HasWaited() || files.Stamp(names.Target) != former->Stamp);
-    return mayDiffer && Differs(files, names.Target, former->Bytes) ? FileError::ChangedMeanwhile
-                                                                    : Swap(files, names);
+    const FileError difference =
+        mayDiffer ? CompareWith(former->Bytes, files, names.Target) : FileError::None;
+    return difference == FileError::None ? Swap(files, names) : difference;
   });
   if (error == FileError::None)
     TidyUp(files, patience, names, copies);
@@ -153,7 +158,9 @@ void ClearLeftOvers(Files& files, const std::wstring& path, KeepCopies copies) {
     target = files.Move(names.Former(), names.Target);
   } else if (hasFormer && target == FileError::None) {
     // The same content twice stems from a save that was not completed.
-    const bool isBackup = copies == KeepCopies::Yes && Differs(files, names.Former(), content);
+    const bool isBackup =
+        copies == KeepCopies::Yes &&
+        CompareWith(content, files, names.Former()) == FileError::ChangedMeanwhile;
     if (isBackup)
       (void)files.Move(names.Former(), names.Backup());
     else

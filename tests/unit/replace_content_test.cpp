@@ -289,6 +289,17 @@ TEST_F(ReplaceContentTest, SameContentWithAnotherStampIsReplaced) {
   EXPECT_EQ(files_.Contents[Path], "new");
 }
 
+TEST_F(ReplaceContentTest, ContentThatIsBeingWrittenIsWaitedFor) {
+  files_.Contents = {{Path, "old"}};
+  const FormerContent former{"old", files_.Stamp(Path)};
+  files_.Contents = {{Path, "by another program"}};
+  files_.ReadErrors = {FileError::SharingViolation};
+  EXPECT_EQ(ReplaceContent(files_, clock_, Path, "new", KeepCopies::Yes, &former),
+            FileError::ChangedMeanwhile);
+  EXPECT_EQ(files_.Contents[Path], "by another program");
+  EXPECT_EQ(clock_.SleepCount, 1);
+}
+
 TEST(SaveFromTheStart, IsTriedThreeTimesWhileTheFileChanges) {
   int saves = 0;
   EXPECT_EQ(SaveFromTheStart([&] {
