@@ -32,6 +32,8 @@ void Editor::Save(bool restarts) {
                                         system_.Time, commanderEnvironment_);
   if (error == FileError::None) {
     SetModified(false);
+  } else {
+    system_.Boxes.Beep();
   }
   if (restarts) {
     restart.CloseIt = false;
@@ -62,9 +64,6 @@ BoxAnswer Editor::AskToSaveChanges() {
 bool Editor::ChangesMayGo() {
   const BoxAnswer answer = AskToSaveChanges();
   const bool saveFailed = answer == BoxAnswer::Yes && modified_;
-  if (saveFailed) {
-    system_.Boxes.Beep();
-  }
   return answer != BoxAnswer::Cancel && !saveFailed;
 }
 

@@ -158,6 +158,15 @@ TEST_F(EditorTest, YesSavesAndCloses) {
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
 }
 
+TEST_F(EditorTest, ASaveThatFailsBeeps) {
+  Start();
+  Assign(Pack, L"X");
+  files_.ReplaceErrors.assign(100, FileError::AccessDenied);
+  editor_.FileSave();
+  EXPECT_TRUE(editor_.Modified());
+  EXPECT_EQ(boxes_.BeepCount, 1);
+}
+
 TEST_F(EditorTest, ItDoesNotCloseOverASaveThatFailed) {
   Start();
   Assign(Pack, L"X");
