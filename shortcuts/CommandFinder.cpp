@@ -7,6 +7,8 @@ namespace tessera {
 
 CommandFinder::CommandFinder(std::span<const CommandEntry> rows,
                              std::span<const std::pair<std::wstring, std::wstring>> lines) {
+  // Nearly every text of a row is no value; an empty bucket tells so without a look at a value.
+  rowsByValue_.max_load_factor(0.25F);
   rowsByValue_.reserve(lines.size());
   for (const auto& [name, value] : lines) {
     if (value.empty()) continue;
