@@ -8,6 +8,10 @@
 
 namespace tessera {
 
+[[nodiscard]] constexpr bool IsAscii(char character) {
+  return static_cast<unsigned char>(character) < 0x80;
+}
+
 [[nodiscard]] constexpr bool IsAscii(wchar_t character) {
   return static_cast<std::make_unsigned_t<wchar_t>>(character) < 0x80;
 }

@@ -14,12 +14,14 @@ std::size_t IniNameHash::operator()(std::string_view name) const {
 }
 
 bool IniNameEqual::operator()(std::string_view left, std::string_view right) const {
-  if (left == right) return true;
-  if (IsAscii(left) && IsAscii(right)) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char l, char r) { return AsciiUpper(l) == AsciiUpper(r); });
+  const std::size_t common = std::min(left.size(), right.size());
+  for (std::size_t at = 0; at < common; ++at) {
+    if (!IsAscii(left[at]) || !IsAscii(right[at])) {
+      return left == right || EqualIgnoringCase(Decode(left, CodePage), Decode(right, CodePage));
+    }
+    if (AsciiUpper(left[at]) != AsciiUpper(right[at])) return false;
   }
-  return EqualIgnoringCase(Decode(left, CodePage), Decode(right, CodePage));
+  return left.size() == right.size();
 }
 
 }  // namespace tessera

@@ -1,8 +1,6 @@
 // The lines of a section, split and indexed only when they are asked for.
 #include "settings/IniSection.h"
 
-#include <algorithm>
-
 #include "platform/Lines.h"
 #include "settings/IniText.h"
 
@@ -11,12 +9,7 @@ namespace tessera {
 IniSection::IniSection(std::string_view text, unsigned codePage)
     : text_(text), codePage_(codePage) {}
 
-std::string_view IniSection::Name() const {
-  const std::string_view header = text_.substr(std::min(text_.find('['), text_.size()));
-  const auto endsLine = [](char byte) { return byte == '\r' || byte == '\n'; };
-  const auto* const end = std::find_if(header.begin(), header.end(), endsLine);
-  return HeaderName({header.begin(), end});
-}
+std::string_view IniSection::Name() const { return HeaderName(text_); }
 
 const std::vector<std::string_view>& IniSection::Lines() const { return Opened().Lines; }
 

@@ -35,7 +35,8 @@ struct IniEntry {
 /// True when the first character that is no blank is "[".
 [[nodiscard]] bool IsHeader(std::string_view line);
 
-/// The name in a header line: up to the first "]", or to the end of a line that has none.
-[[nodiscard]] std::string_view HeaderName(std::string_view line);
+/// The name in the header line that a text begins with: up to the first "]", or to the end of the
+/// line when it has none.
+[[nodiscard]] std::string_view HeaderName(std::string_view text);
 
 }  // namespace tessera
