@@ -32,6 +32,10 @@ void EndToEndTest::StartAndLoad() {
   WaitFor(std::to_string(rows) + " rows", [&] { return window_->RowCount() == rows; });
   WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });
   BringToFront(window_->Handle());
+  // A window manager that still has to put the window on the screen would lay it over an open menu.
+  WaitFor("the window to be on the screen", [&] {
+    return CountPixels(window_->CellRectangle(0, 1), GetSysColor(COLOR_HIGHLIGHT)) > 0;
+  });
 }
 
 void EndToEndTest::Close() {
