@@ -27,7 +27,7 @@ Editor::Editor(const System& system, std::function<void(const LoadProgress&)> sh
       recentFiles_(texts_, system.Boxes),
       dialogs_(system.StandardDialogs),
       commanderEnvironment_(system.Surroundings),
-      progress_(std::move(showProgress)) {}
+      progress_(system.Time, std::move(showProgress)) {}
 
 const DisplayTable& Editor::Rows() const { return catalogue_.ListView1; }
 

@@ -14,12 +14,14 @@ constexpr int MoreRoom = 300;
 /// A load of more steps than the bar can count leaves it where it is.
 constexpr int LastMaximum = 2000000000;
 
+constexpr float SecondsBetweenEvents = 0.05F;
+
 int PercentOf(int value, int maximum) { return value / (maximum / 100); }
 
 }  // namespace
 
-LoadProgress::LoadProgress(std::function<void(const LoadProgress&)> show)
-    : show_(std::move(show)) {}
+LoadProgress::LoadProgress(Clock& clock, std::function<void(const LoadProgress&)> show)
+    : clock_(clock), show_(std::move(show)) {}
 
 bool LoadProgress::Visible() const { return visible_; }
 
@@ -31,7 +33,8 @@ void LoadProgress::Start() {
   visible_ = true;
   maximum_ = FirstMaximum;
   value_ = FirstValue;
-  shownPercent_ = 0;
+  percent_ = 0;
+  handledAt_ = clock_.SecondsSinceMidnight();
   show_(*this);
 }
 
@@ -43,16 +46,27 @@ void LoadProgress::Step() {
   if (value_ > FirstMaximum) {
     maximum_ += MoreRoom;
   }
-  // Showing every step would take longer than the work itself.
-  if (const int percent = PercentOf(value_, maximum_); percent != shownPercent_) {
-    shownPercent_ = percent;
-    show_(*this);
+  // Showing every step would take longer than the work itself, and so would asking for the time.
+  if (const int percent = PercentOf(value_, maximum_);
+      percent != std::exchange(percent_, percent)) {
+    ShowWhenDue();
   }
 }
 
 void LoadProgress::Finish() {
   visible_ = false;
   show_(*this);
+}
+
+void LoadProgress::ShowWhenDue() {
+  const float elapsed = clock_.SecondsSinceMidnight() - handledAt_;
+  // Less than none: midnight has passed.
+  if (elapsed < SecondsBetweenEvents && elapsed >= 0) {
+    return;
+  }
+  show_(*this);
+  clock_.DoEvents();
+  handledAt_ = clock_.SecondsSinceMidnight();
 }
 
 }  // namespace tessera

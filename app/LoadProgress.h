@@ -3,12 +3,15 @@
 
 #include <functional>
 
+#include "platform/Clock.h"
+
 namespace tessera {
 
 class LoadProgress {
  public:
-  /// `show` is called when the bar has visibly moved.
-  explicit LoadProgress(std::function<void(const LoadProgress&)> show);
+  /// `show` is called at the start, at the end, and between them when the bar has visibly moved, at
+  /// most every 50 milliseconds. Then events are handled too: a short load has no time for them.
+  LoadProgress(Clock& clock, std::function<void(const LoadProgress&)> show);
 
   [[nodiscard]] bool Visible() const;
   [[nodiscard]] int Maximum() const;
@@ -19,11 +22,15 @@ class LoadProgress {
   void Finish();
 
  private:
+  void ShowWhenDue();
+
+  Clock& clock_;
   std::function<void(const LoadProgress&)> show_;
   bool visible_ = false;
   int maximum_ = 1500;
   int value_ = 1;
-  int shownPercent_ = 0;
+  int percent_ = 0;
+  float handledAt_ = 0;  ///< when events were last; seconds since midnight
 };
 
 }  // namespace tessera

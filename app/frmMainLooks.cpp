@@ -242,7 +242,6 @@ void frmMain::ShowProgress(const LoadProgress& progress) {
     ShowWindow(ProgressBar1_, progress.Visible() ? SW_SHOWNA : SW_HIDE);
     SetCursor(LoadCursorW(nullptr, progress.Visible() ? IDC_WAIT : IDC_ARROW));
   }
-  system_.Time.DoEvents();
 }
 
 bool frmMain::IsTranslatorsControl(LPARAM control) const {

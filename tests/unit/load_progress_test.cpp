@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "app/LoadProgress.h"
+#include "tests/unit/fakes/FakeClock.h"
 
 namespace tessera {
 namespace {
 
 TEST(LoadProgress, StartsWithRoomFor1500Steps) {
-  LoadProgress progress([](const LoadProgress&) {});
+  FakeClock clock;
+  LoadProgress progress(clock, [](const LoadProgress&) {});
   EXPECT_FALSE(progress.Visible());
   progress.Start();
   EXPECT_TRUE(progress.Visible());
@@ -15,7 +17,8 @@ TEST(LoadProgress, StartsWithRoomFor1500Steps) {
 }
 
 TEST(LoadProgress, GrowsBy300WithEachStepBeyondItsFirstMaximum) {
-  LoadProgress progress([](const LoadProgress&) {});
+  FakeClock clock;
+  LoadProgress progress(clock, [](const LoadProgress&) {});
   progress.Start();
   for (int step = 1; step < 1500; ++step) {
     progress.Step();
@@ -32,7 +35,9 @@ TEST(LoadProgress, GrowsBy300WithEachStepBeyondItsFirstMaximum) {
 TEST(LoadProgress, IsShownAtMostOncePerPercentAndAtTheEnd) {
   int shown = 0;
   bool visible = false;
-  LoadProgress progress([&](const LoadProgress& bar) {
+  FakeClock clock;
+  clock.StepPerReading = 0.1F;
+  LoadProgress progress(clock, [&](const LoadProgress& bar) {
     ++shown;
     visible = bar.Visible();
   });
@@ -47,8 +52,48 @@ TEST(LoadProgress, IsShownAtMostOncePerPercentAndAtTheEnd) {
   EXPECT_LT(shown, 250);
 }
 
+TEST(LoadProgress, HandlesNoEventsWhileALoadIsShort) {
+  int shown = 0;
+  FakeClock clock;
+  LoadProgress progress(clock, [&](const LoadProgress&) { ++shown; });
+  progress.Start();
+  clock.Seconds += 0.03F;
+  for (int step = 0; step < 1500; ++step) {
+    progress.Step();
+  }
+  progress.Finish();
+  EXPECT_EQ(shown, 2);
+  EXPECT_EQ(clock.DoEventsCount, 0);
+}
+
+TEST(LoadProgress, HandlesEventsEvery50Milliseconds) {
+  FakeClock clock;
+  LoadProgress progress(clock, [](const LoadProgress&) {});
+  progress.Start();
+  for (int percent = 0; percent < 100; ++percent) {
+    clock.Seconds += 0.03125F;
+    for (int step = 0; step < 15; ++step) {
+      progress.Step();
+    }
+  }
+  EXPECT_EQ(clock.DoEventsCount, 50);
+}
+
+TEST(LoadProgress, HandlesEventsWhenMidnightHasPassed) {
+  FakeClock clock;
+  clock.Seconds = 86399;
+  LoadProgress progress(clock, [](const LoadProgress&) {});
+  progress.Start();
+  clock.Seconds = 1;
+  for (int step = 0; step < 100; ++step) {
+    progress.Step();
+  }
+  EXPECT_EQ(clock.DoEventsCount, 1);
+}
+
 TEST(LoadProgress, StaysWithinWhatABarCanShowHoweverLongTheLoad) {
-  LoadProgress progress([](const LoadProgress&) {});
+  FakeClock clock;
+  LoadProgress progress(clock, [](const LoadProgress&) {});
   progress.Start();
   for (int step = 0; step < 8000000; ++step) {
     progress.Step();
