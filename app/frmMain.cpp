@@ -76,7 +76,6 @@ void frmMain::Show(int showCommand) {
   const bool maximised = editor_.Options().MainWindowMaxmized == 1;
   lastFocus_ = ListView1_;
   ShowWindow(window_, maximised ? SW_SHOWMAXIMIZED : showCommand);
-  UpdateWindow(window_);
 }
 
 LRESULT CALLBACK frmMain::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
