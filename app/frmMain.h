@@ -54,6 +54,7 @@ class frmMain {
   void ShowExport();
   void ShowOptions();
   void ToggleKeysList();
+  void PrepareKeysList();
   void SyncKeysList();
   void MoveKeysList();
 
@@ -113,6 +114,7 @@ class frmMain {
   // -- The panel (frmMainPanel.cpp)
   void CreatePanel();
   void LabelPanel();
+  std::wstring ChooserName() const;
   void SyncPanel();
   bool OnPanelCommand(int id, int notification);
   bool FilterKey(const MSG& message);

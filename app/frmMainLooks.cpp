@@ -60,7 +60,6 @@ void frmMain::CreateControls() {
   CreateCommandList();
   CreatePanel();
   CreateToolbars();
-  frmKeysList_.Create(window_);
   ProgressBar1_ = CreateControl(window_, PROGRESS_CLASSW, 0, 0, IDC_ProgressBar1);
   SetWindowPos(ProgressBar1_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
   DragAcceptFiles(window_, TRUE);

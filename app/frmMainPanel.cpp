@@ -68,10 +68,12 @@ void frmMain::LabelPanel() {
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
     SetText(chkCtrlAlt_[box], texts.GetLangText(BoxTextIds[box]));
   }
-  const std::wstring name = WithoutMnemonic(texts.GetLangText(400));
-  SetAccessibleName(Combo1_, name);
-  SetText(cmdAllList_, name);
-  frmKeysList_.SetName(name);
+  SetAccessibleName(Combo1_, ChooserName());
+  SetText(cmdAllList_, ChooserName());
+}
+
+std::wstring frmMain::ChooserName() const {
+  return WithoutMnemonic(editor_.Language().GetLangText(400));
 }
 
 void frmMain::SyncPanel() {

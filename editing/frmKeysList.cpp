@@ -30,6 +30,9 @@ frmKeysList::~frmKeysList() {
 }
 
 void frmKeysList::Create(HWND owner) {
+  if (window_ != nullptr) {
+    return;
+  }
   const HINSTANCE instance = GetModuleHandleW(nullptr);
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof windowClass;
@@ -46,13 +49,16 @@ void frmKeysList::Create(HWND owner) {
   List1_ = CreateControl(window_, WC_LISTBOXW,
                          WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
                          WS_EX_CLIENTEDGE, IDC_List1);
-  SetWindowSubclass(List1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
   for (const std::wstring_view key : KeyVocabulary()) {
     SendMessageW(List1_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
   }
+  SetWindowSubclass(List1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void frmKeysList::ApplyFont(HFONT font, int dpi) {
+  if (window_ == nullptr) {
+    return;
+  }
   GiveFont(List1_, font);
   const int rowHeight = static_cast<int>(TextSize(List1_, font, L"Xg").cy) + Scaled(1, dpi);
   SendMessageW(List1_, LB_SETITEMHEIGHT, 0, rowHeight);
