@@ -5,6 +5,7 @@
 #include "app/frmMain.h"
 #include "app/resource.h"
 #include "dialogs/cFontDlg.h"
+#include "platform/win32/Icons.h"
 #include "resources/icons.h"
 
 namespace tessera {

@@ -6,6 +6,7 @@
 #include "app/resource.h"
 #include "app/ToolbarSpecification.h"
 #include "localisation/Mnemonic.h"
+#include "platform/win32/Icons.h"
 #include "resources/icons.h"
 
 namespace tessera {

@@ -1,4 +1,4 @@
-// Helpers around controls, icons and fonts.
+// Helpers around controls and fonts.
 #include "platform/win32/Controls.h"
 
 #include <oleacc.h>
@@ -16,20 +16,6 @@ constexpr GUID AccessibleName{
     0x608d3df8, 0x8128, 0x4aa7, {0xa4, 0x28, 0xf5, 0x5e, 0x49, 0x26, 0x72, 0x91}};
 
 }  // namespace
-
-Unique<HICON> LoadIconOfSize(int id, int size) {
-  return Unique<HICON>(static_cast<HICON>(LoadImageW(
-      GetModuleHandleW(nullptr), MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
-}
-
-Unique<HIMAGELIST> LoadImages(std::span<const int> iconIds, int size) {
-  Unique<HIMAGELIST> images(
-      ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(iconIds.size()), 1));
-  for (const int id : iconIds) {
-    ImageList_AddIcon(images.get(), LoadIconOfSize(id, size).get());
-  }
-  return images;
-}
 
 LOGFONTW MessageFont(int dpi, int characterSet) {
   NONCLIENTMETRICSW metrics{};

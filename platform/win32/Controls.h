@@ -8,7 +8,6 @@
 #include <windowsx.h>
 
 #include <memory>
-#include <span>
 #include <string>
 #include <type_traits>
 
@@ -19,6 +18,7 @@ namespace tessera {
 struct ObjectReleaser {
   void operator()(HFONT font) const noexcept { DeleteObject(font); }
   void operator()(HBRUSH brush) const noexcept { DeleteObject(brush); }
+  void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
   void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }
   void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
   void operator()(HIMAGELIST images) const noexcept { ImageList_Destroy(images); }
@@ -26,12 +26,6 @@ struct ObjectReleaser {
 
 template <typename Object>
 using Unique = std::unique_ptr<std::remove_pointer_t<Object>, ObjectReleaser>;
-
-/// The icon resource of that ID at exactly that size; null when there is none.
-[[nodiscard]] Unique<HICON> LoadIconOfSize(int id, int size);
-
-/// An image list of icon resources, in their order.
-[[nodiscard]] Unique<HIMAGELIST> LoadImages(std::span<const int> iconIds, int size);
 
 /// The font that the system uses for messages, at that resolution and in that character set.
 [[nodiscard]] LOGFONTW MessageFont(int dpi, int characterSet);
