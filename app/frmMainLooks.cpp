@@ -141,7 +141,9 @@ void frmMain::ApplyPlacement() {
     return;
   }
   // Moving to another screen may change the resolution, and with it what the twips stand for.
-  for (int attempt = 0; attempt < 2; ++attempt) {
+  int dpi = 0;
+  for (int attempt = 0; attempt < 2 && dpi != dpi_; ++attempt) {
+    dpi = dpi_;
     const Area stored{TwipsToPixels(settings.MainWindowLeft, dpi_),
                       TwipsToPixels(settings.MainWindowTop, dpi_),
                       TwipsToPixels(settings.MainWindowWidth, dpi_),

@@ -95,15 +95,17 @@ HWND CreateToolbar(HWND parent, int id, std::span<const Button> buttons, int fir
   // A text that no button shows is what its tool tip and its accessible name are.
   SendMessageW(toolbar, TB_SETEXTENDEDSTYLE, 0,
                TBSTYLE_EX_DRAWDDARROWS | TBSTYLE_EX_MIXEDBUTTONS | TBSTYLE_EX_DOUBLEBUFFER);
+  std::vector<TBBUTTON> added;
   for (int image = firstImage; const Button& button : buttons) {
     const bool separator = button.Style == BTNS_SEP;
-    TBBUTTON added{};
-    added.iBitmap = separator ? 0 : image++;
-    added.idCommand = button.Id;
-    added.fsState = TBSTATE_ENABLED;
-    added.fsStyle = button.Style;
-    SendMessageW(toolbar, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&added));
+    TBBUTTON shown{};
+    shown.iBitmap = separator ? 0 : image++;
+    shown.idCommand = button.Id;
+    shown.fsState = TBSTATE_ENABLED;
+    shown.fsStyle = button.Style;
+    added.push_back(shown);
   }
+  SendMessageW(toolbar, TB_ADDBUTTONSW, added.size(), reinterpret_cast<LPARAM>(added.data()));
   return toolbar;
 }
 

@@ -69,7 +69,11 @@ void SetEnabled(HWND control, bool enabled) {
 
 void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on) {
   const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, styleIndex));
-  SetWindowLongPtrW(control, styleIndex, static_cast<LONG_PTR>(on ? style | bits : style & ~bits));
+  const DWORD wanted = on ? style | bits : style & ~bits;
+  if (wanted == style) {
+    return;
+  }
+  SetWindowLongPtrW(control, styleIndex, static_cast<LONG_PTR>(wanted));
   SetWindowPos(control, nullptr, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
@@ -115,6 +119,9 @@ void Place(HWND control, const Area& area) {
 }
 
 void SetRightToLeft(HWND window, bool rightToLeft) {
+  if (((GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0) == rightToLeft) {
+    return;
+  }
   SetStyleBits(window, GWL_EXSTYLE, WS_EX_LAYOUTRTL, rightToLeft);
   InvalidateRect(window, nullptr, TRUE);
   for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;

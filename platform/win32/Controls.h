@@ -46,7 +46,8 @@ void SetAccessibleName(HWND control, const std::wstring& name);
 /// Does nothing when it is so already: no flicker, no lost focus.
 void SetEnabled(HWND control, bool enabled);
 
-/// Adds or takes away bits of a control's style, and lets its frame follow.
+/// Adds or takes away bits of a control's style, and lets its frame follow. Does nothing when it is
+/// so already.
 void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
 
 /// The size of a text on one line in that font; an "&" that marks a mnemonic takes no room.
@@ -63,7 +64,7 @@ void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
 
 void Place(HWND control, const Area& area);
 
-/// Gives a window and all that is in it the direction of a language.
+/// Gives a window and all that is in it the direction of a language, unless it has that already.
 void SetRightToLeft(HWND window, bool rightToLeft);
 
 }  // namespace tessera
