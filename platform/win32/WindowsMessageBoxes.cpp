@@ -19,6 +19,12 @@ constexpr std::array<ButtonStyle, 3> ButtonStyles{
 constexpr std::array<UINT, 4> IconStyles{MB_ICONERROR, MB_ICONQUESTION, MB_ICONWARNING,
                                          MB_ICONINFORMATION};
 
+/// A box reads from the side from which its owner does.
+UINT DirectionStyle(HWND owner) {
+  const bool rightToLeft = (GetWindowLongPtrW(owner, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+  return rightToLeft ? MB_RTLREADING | MB_RIGHT : 0U;
+}
+
 }  // namespace
 
 WindowsMessageBoxes::WindowsMessageBoxes(const OwnerWindow& owner) : owner_(owner) {}
@@ -27,9 +33,10 @@ BoxAnswer WindowsMessageBoxes::Show(const std::wstring& text, BoxButtons buttons
                                     BoxDefault defaultButton) {
   const ButtonStyle& style = ButtonStyles.at(static_cast<std::size_t>(buttons));
   const UINT defaultStyle = defaultButton == BoxDefault::Second ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
-  const int answer =
-      MessageBoxW(owner_.Current(), text.c_str(), ProgramTitle,
-                  style.Style | IconStyles.at(static_cast<std::size_t>(icon)) | defaultStyle);
+  const HWND owner = owner_.Current();
+  const int answer = MessageBoxW(owner, text.c_str(), ProgramTitle,
+                                 style.Style | IconStyles.at(static_cast<std::size_t>(icon)) |
+                                     defaultStyle | DirectionStyle(owner));
   return answer == 0 ? style.WhenNotShown : static_cast<BoxAnswer>(answer);
 }
 
