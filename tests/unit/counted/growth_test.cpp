@@ -142,5 +142,19 @@ TEST(Growth, LookingUpEveryKeyOfAnIniFileGrowsAsTheKeys) {
   EXPECT_LT(blocksFor(Many) / blocksFor(Few), Linear);
 }
 
+TEST(Growth, ApplyingALanguageGrowsAsTheLinesOfItsFile) {
+  const auto blocksFor = [](int lines) {
+    MemoryFiles files;
+    std::string& bytes = files.Contents[L"C:\\own.lng"] = "[UserLanguage]\r\n";
+    for (int id = 0; id < lines; ++id) bytes += std::to_string(id) + "=Text\r\n";
+    return BlocksOf([&] {
+      Texts texts(files);
+      EXPECT_TRUE(texts.UseLanguageFile(L"C:\\own.lng"));
+      for (int id = 0; id < lines; ++id) EXPECT_EQ(texts.GetLangText(id), L"Text");
+    });
+  };
+  EXPECT_LT(blocksFor(Many) / blocksFor(Few), Linear);
+}
+
 }  // namespace
 }  // namespace tessera
