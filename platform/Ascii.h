@@ -1,7 +1,6 @@
 // The quick way for texts of ASCII alone, which nearly all texts of the files are.
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -26,9 +25,7 @@ template <typename Text>
 }
 
 [[nodiscard]] inline std::wstring FromAscii(std::string_view bytes) {
-  std::wstring text(bytes.size(), L'\0');
-  std::copy(bytes.begin(), bytes.end(), text.begin());
-  return text;
+  return {bytes.begin(), bytes.end()};
 }
 
 template <typename Character>

@@ -10,14 +10,16 @@
 
 namespace tessera {
 
-/// FNV-1a over the characters of a text.
+/// A polynomial of the characters of a text. Texts that differ at their end alone, as the codes of
+/// commands do, get values near each other: looked up in a row, they are found side by side in
+/// memory, which is what counts in a large table.
 class TextHash {
  public:
-  void Add(std::uint64_t character) { value_ = (value_ ^ character) * 0x100000001B3u; }
+  void Add(std::uint64_t character) { value_ = value_ * 131 + character; }
   [[nodiscard]] std::size_t Value() const { return static_cast<std::size_t>(value_); }
 
  private:
-  std::uint64_t value_ = 0xCBF29CE484222325u;
+  std::uint64_t value_ = 0;
 };
 
 /// What HashIgnoringCase gives for a text of ASCII alone, which may be of bytes here.

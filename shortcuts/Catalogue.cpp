@@ -22,9 +22,11 @@ void AddKeys(KeyIndex& index, const std::wstring& column, RowKey owner,
 
 void BuildDisplayTable(Catalogue& catalogue, const HotkeyNotation& notation,
                        const ProgressStep& step) {
-  std::vector<CommandEntry> rows = catalogue.lvwHidden;
-  for (CommandEntry& row : rows) {
+  std::vector<CommandEntry> rows;
+  rows.reserve(catalogue.lvwHidden.size());
+  for (const CommandEntry& master : catalogue.lvwHidden) {
     step();
+    CommandEntry& row = rows.emplace_back(master);
     row.CommandCode = {};
     row.Icon = IconOf(row, notation.UndefinedHotkey);
   }
@@ -37,7 +39,7 @@ void BuildKeyIndexes(Catalogue& catalogue, const HotkeyNotation& notation) {
   catalogue.lvwCurrKeys.Clear();
   for (std::size_t position = 0; position < catalogue.ListView1.Count(); ++position) {
     const CommandEntry& row = catalogue.ListView1.At(position);
-    if (row.Icon == RowIcon::CommentBlock) continue;
+    if (row.Icon != RowIcon::HasKey) continue;
     AddKeys(catalogue.lvwDefKeys, row.DefaultKeys, row.Key, notation);
     AddKeys(catalogue.lvwCurrKeys, row.CurrentKeys, row.Key, notation);
   }

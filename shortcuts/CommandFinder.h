@@ -19,7 +19,8 @@ namespace tessera {
 /// An index over the texts of rows; a look-up costs the same however many there are.
 class CommandFinder {
  public:
-  /// Of the values only those of `lines` can be looked up: other texts need no index.
+  /// Of the values only those of `lines` can be looked up: other texts need no index. The lines
+  /// must outlive the finder.
   CommandFinder(std::span<const CommandEntry> rows,
                 std::span<const std::pair<std::wstring, std::wstring>> lines);
 
@@ -40,7 +41,7 @@ class CommandFinder {
   /// Null for a text that no line has as its value.
   [[nodiscard]] Rows* RowsOf(std::wstring_view text);
 
-  std::unordered_map<std::wstring, Rows, HashIgnoringCase, EqualsIgnoringCase> rowsByValue_;
+  std::unordered_map<std::wstring_view, Rows, HashIgnoringCase, EqualsIgnoringCase> rowsByValue_;
 
   /// The lengths that values have: most texts of rows are of another, and need not be hashed.
   std::vector<bool> lengths_;

@@ -2,7 +2,6 @@
 #include "shortcuts/InternalCommands.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "platform/Lines.h"
 #include "platform/Text.h"
@@ -29,14 +28,13 @@ bool IsCommand(std::wstring_view line) {
   return EqualIgnoringCase(line.substr(0, CommandPrefix.size()), CommandPrefix);
 }
 
-CommandEntry CommandOfLine(std::wstring_view line, const std::wstring& undefinedHotkey) {
+void ReadCommand(std::wstring_view line, const std::wstring& undefinedHotkey, CommandEntry& row) {
   // A sign that is missing deliberately stands at the last character, which the name or the code
   // then loses.
   const std::size_t last = line.size() - 1;
   const std::size_t equals = std::min(line.find(L'='), last);
   const std::size_t semicolon = std::min(line.find(L';'), last);
 
-  CommandEntry row;
   row.CommandName = Trimmed(line.substr(0, equals));
   if (semicolon > equals) {
     row.CommandCode = Trimmed(line.substr(equals + 1, semicolon - equals - 1));
@@ -45,18 +43,15 @@ CommandEntry CommandOfLine(std::wstring_view line, const std::wstring& undefined
   row.DefaultKeys = undefinedHotkey;
   row.CurrentKeys = undefinedHotkey;
   row.Tag = row.CommandCode;
-  return row;
 }
 
-CommandEntry HeadingOfLine(std::wstring_view line) {
+void ReadHeading(std::wstring_view line, CommandEntry& row) {
   const std::size_t equals = line.ends_with(L'0') ? line.rfind(L'=') : std::wstring_view::npos;
   const bool endsInZero =
       equals != std::wstring_view::npos && LeadingNumber(Trimmed(line.substr(equals + 1))) == 0.0;
 
-  CommandEntry row;
   row.Description = endsInZero ? line.substr(0, equals) : line;
   row.Tag = CommentBlockTag;
-  return row;
 }
 
 }  // namespace
@@ -76,9 +71,13 @@ std::vector<CommandEntry> ReadInternalCommands(std::wstring_view text,
     const std::wstring_view line = Trimmed(untrimmed);
     step();
     if (line.empty()) continue;
-    CommandEntry row = IsCommand(line) ? CommandOfLine(line, undefinedHotkey) : HeadingOfLine(line);
-    row.Key = rows.size() + 1;
-    rows.push_back(std::move(row));
+    CommandEntry& row = rows.emplace_back();
+    row.Key = rows.size();
+    if (IsCommand(line)) {
+      ReadCommand(line, undefinedHotkey, row);
+    } else {
+      ReadHeading(line, row);
+    }
   }
   return rows;
 }

@@ -57,15 +57,16 @@ class KeyIndex {
     void AddOwned(EntryId id, RowKey owner);
   };
 
+  Groups& ByWhole() const;
   EditIndexes& ForEdits() const;
   void AddToGroups(EntryId id, const Entry& entry);
   void RemoveFromGroups(EntryId id, const Entry& entry);
 
   std::vector<std::optional<Entry>> entries_;  ///< by id; nothing once removed
   std::size_t count_ = 0;
-  Groups byWhole_;
 
-  /// Made when first asked for: opening a file looks up whole texts alone.
+  // Made when first asked for: opening a file looks up the whole texts of default keys alone.
+  mutable std::optional<Groups> byWhole_;
   mutable std::optional<EditIndexes> forEdits_;
 };
 

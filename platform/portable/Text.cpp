@@ -34,6 +34,12 @@ char ToWindows1252(wchar_t character) {
   return sameCode ? static_cast<char>(character) : '?';
 }
 
+std::string Windows1252Of(std::wstring_view text) {
+  std::string bytes(text.size(), '\0');
+  std::transform(text.begin(), text.end(), bytes.begin(), ToWindows1252);
+  return bytes;
+}
+
 /// Letter cases of all characters, whatever the locale of the process.
 locale_t CaseLocale() {
   static const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
@@ -61,10 +67,7 @@ std::wstring Decode(std::string_view bytes, unsigned codePage) {
 }
 
 std::string Encode(std::wstring_view text, unsigned codePage) {
-  if (codePage == Utf8CodePage) return Utf8FromWide(text);
-  std::string bytes(text.size(), '\0');
-  std::transform(text.begin(), text.end(), bytes.begin(), ToWindows1252);
-  return bytes;
+  return codePage == Utf8CodePage ? Utf8FromWide(text) : Windows1252Of(text);
 }
 
 std::wstring ToLower(std::wstring_view text) {

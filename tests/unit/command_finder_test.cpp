@@ -24,18 +24,19 @@ CommandEntry Command(const std::wstring& name, const std::wstring& code,
   return row;
 }
 
-/// A finder that can look up each of `values`.
-CommandFinder FinderOf(const std::vector<CommandEntry>& rows,
-                       const std::vector<std::wstring>& values) {
+/// Lines with each of `values`, all of which a finder can then look up.
+std::vector<std::pair<std::wstring, std::wstring>> LinesOf(
+    const std::vector<std::wstring>& values) {
   std::vector<std::pair<std::wstring, std::wstring>> lines;
   for (const std::wstring& value : values) lines.emplace_back(L"F1", value);
-  return {rows, lines};
+  return lines;
 }
 
 TEST(CommandFinder, FindsNameCodeAndKeysWithoutRegardToLetterCase) {
   const std::vector<CommandEntry> rows{Command(L"cm_A", L"1", L"F1", L"---"),
                                        Command(L"cm_B", L"2", L"---", L"Ctrl + F2 = F3")};
-  const CommandFinder finder = FinderOf(rows, {L"CM_b", L"1", L"f1", L"ctrl + f2 = f3", L"---"});
+  const auto lines = LinesOf({L"CM_b", L"1", L"f1", L"ctrl + f2 = f3", L"---"});
+  const CommandFinder finder(rows, lines);
   EXPECT_EQ(finder.Find(L"CM_b"), 1u);
   EXPECT_EQ(finder.Find(L"1"), 0u);
   EXPECT_EQ(finder.Find(L"f1"), 0u);
@@ -46,7 +47,8 @@ TEST(CommandFinder, FindsNameCodeAndKeysWithoutRegardToLetterCase) {
 TEST(CommandFinder, MatchesNothingButWholeTexts) {
   const std::vector<CommandEntry> rows{Command(L"cm_A", L"12")};
   for (const wchar_t* value : {L"cm_", L"cm_AB", L"1", L"text", L"cm_A ", L"cm_A 1"}) {
-    EXPECT_EQ(FinderOf(rows, {value}).Find(value), std::nullopt) << value;
+    const auto lines = LinesOf({value});
+    EXPECT_EQ(CommandFinder(rows, lines).Find(value), std::nullopt) << value;
   }
 }
 
@@ -55,7 +57,8 @@ TEST(CommandFinder, AnEmptyValueNamesNoRow) {
   heading.Description = L"[File]";
   heading.Tag = CommentBlockTag;
   const std::vector<CommandEntry> rows{heading, Command(L"cm_A", L"")};
-  const CommandFinder finder = FinderOf(rows, {L"", L"[File]"});
+  const auto lines = LinesOf({L"", L"[File]"});
+  const CommandFinder finder(rows, lines);
   EXPECT_EQ(finder.Find(L""), std::nullopt);
   EXPECT_EQ(finder.Find(L"[File]"), std::nullopt);
 }
@@ -63,7 +66,8 @@ TEST(CommandFinder, AnEmptyValueNamesNoRow) {
 TEST(CommandFinder, TheFirstOfSeveralRowsWins) {
   const std::vector<CommandEntry> rows{Command(L"cm_A", L"7"), Command(L"7", L"cm_a"),
                                        Command(L"cm_A", L"7")};
-  const CommandFinder finder = FinderOf(rows, {L"7", L"cm_a"});
+  const auto lines = LinesOf({L"7", L"cm_a"});
+  const CommandFinder finder(rows, lines);
   EXPECT_EQ(finder.Find(L"7"), 0u);
   EXPECT_EQ(finder.Find(L"cm_a"), 0u);
 }
@@ -88,7 +92,8 @@ TEST(CommandFinder, FollowsEveryChangeOfCurrentKeys) {
   const auto text = [&] { return texts[random() % texts.size()]; };
   std::vector<CommandEntry> rows;
   for (int row = 0; row < 12; ++row) rows.push_back(Command(text(), text(), text(), text()));
-  CommandFinder finder = FinderOf(rows, texts);
+  const auto lines = LinesOf(texts);
+  CommandFinder finder(rows, lines);
   for (int change = 0; change < 2000; ++change) {
     const std::size_t row = random() % rows.size();
     finder.RemoveCurrentKeys(row, rows[row].CurrentKeys);
