@@ -16,7 +16,8 @@ constexpr int LastMaximum = 2000000000;
 
 constexpr float SecondsBetweenEvents = 0.05F;
 
-int PercentOf(int value, int maximum) { return value / (maximum / 100); }
+/// To ask for the time at each step would take longer than the work itself.
+constexpr unsigned StepsBetweenLooks = 16;
 
 }  // namespace
 
@@ -33,23 +34,20 @@ void LoadProgress::Start() {
   visible_ = true;
   maximum_ = FirstMaximum;
   value_ = FirstValue;
-  percent_ = 0;
   handledAt_ = clock_.SecondsSinceMidnight();
   show_(*this);
 }
 
 void LoadProgress::Step() {
+  if (++steps_ % StepsBetweenLooks == 0) {
+    ShowWhenDue();
+  }
   if (maximum_ >= LastMaximum) {
     return;
   }
   ++value_;
   if (value_ > FirstMaximum) {
     maximum_ += MoreRoom;
-  }
-  // Showing every step would take longer than the work itself, and so would asking for the time.
-  if (const int percent = PercentOf(value_, maximum_);
-      percent != std::exchange(percent_, percent)) {
-    ShowWhenDue();
   }
 }
 

@@ -9,8 +9,8 @@ namespace tessera {
 
 class LoadProgress {
  public:
-  /// `show` is called at the start, at the end, and between them when the bar has visibly moved, at
-  /// most every 50 milliseconds. Then events are handled too: a short load has no time for them.
+  /// `show` is called at the start, at the end, and between them every 50 milliseconds. Then events
+  /// are handled too: a short load has no time for them.
   LoadProgress(Clock& clock, std::function<void(const LoadProgress&)> show);
 
   [[nodiscard]] bool Visible() const;
@@ -29,7 +29,7 @@ class LoadProgress {
   bool visible_ = false;
   int maximum_ = 1500;
   int value_ = 1;
-  int percent_ = 0;
+  unsigned steps_ = 0;
   float handledAt_ = 0;  ///< when events were last; seconds since midnight
 };
 
