@@ -13,12 +13,7 @@ std::size_t HashOfUpper(std::wstring_view text) {
 }  // namespace
 
 std::size_t HashIgnoringCase::operator()(std::wstring_view text) const {
-  TextHash hash;
-  for (const wchar_t character : text) {
-    if (!IsAscii(character)) return HashOfUpper(text);
-    hash.Add(static_cast<std::uint64_t>(AsciiUpper(character)));
-  }
-  return hash.Value();
+  return IsAscii(text) ? HashOfAscii(text) : HashOfUpper(text);
 }
 
 }  // namespace tessera
