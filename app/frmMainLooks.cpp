@@ -144,10 +144,12 @@ void frmMain::ApplyPlacement() {
   int dpi = 0;
   for (int attempt = 0; attempt < 2 && dpi != dpi_; ++attempt) {
     dpi = dpi_;
+    // The system makes no window smaller: where it then reaches decides whether it can be reached.
+    const SIZE smallest = SmallestSize();
     const Area stored{TwipsToPixels(settings.MainWindowLeft, dpi_),
                       TwipsToPixels(settings.MainWindowTop, dpi_),
-                      TwipsToPixels(settings.MainWindowWidth, dpi_),
-                      TwipsToPixels(settings.MainWindowHeight, dpi_)};
+                      std::max<int>(TwipsToPixels(settings.MainWindowWidth, dpi_), smallest.cx),
+                      std::max<int>(TwipsToPixels(settings.MainWindowHeight, dpi_), smallest.cy)};
     const Area area = MakeReachable(stored, Screens(), dpi_);
     SetWindowPos(window_, nullptr, area.Left, area.Top, area.Width, area.Height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
@@ -234,7 +236,10 @@ void frmMain::LayOutPanel() {
 SIZE frmMain::SmallestSize() const {
   RECT frame{0, 0, panelWidth_ + Scaled(10, dpi_), frameHeight_ + Scaled(160, dpi_)};
   AdjustWindowRectExForDpi(&frame, WS_OVERLAPPEDWINDOW, TRUE, 0, static_cast<UINT>(dpi_));
-  return {frame.right - frame.left, frame.bottom - frame.top};
+  // Texts of any length must not make the window larger than its screen.
+  const Area screen = WorkArea(window_);
+  return {std::min<LONG>(frame.right - frame.left, screen.Width),
+          std::min<LONG>(frame.bottom - frame.top, screen.Height)};
 }
 
 void frmMain::ShowProgress(const LoadProgress& progress) {
