@@ -34,7 +34,8 @@ void EndToEndTest::StartAndLoad() {
   BringToFront(window_->Handle());
   // A window manager that still has to put the window on the screen would lay it over an open menu.
   WaitFor("the window to be on the screen", [&] {
-    return CountPixels(window_->CellRectangle(0, 1), GetSysColor(COLOR_HIGHLIGHT)) > 0;
+    return CountPixels(RectangleOf(window_->Control(IDC_lblHotkey)), GetSysColor(COLOR_BTNTEXT)) >
+           0;
   });
 }
 
