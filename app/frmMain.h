@@ -54,7 +54,7 @@ class frmMain {
   void ShowExport();
   void ShowOptions();
   void ToggleKeysList();
-  void PrepareKeysList();
+  void CreateKeysList();
   void SyncKeysList();
   void MoveKeysList();
 
@@ -114,7 +114,6 @@ class frmMain {
   // -- The panel (frmMainPanel.cpp)
   void CreatePanel();
   void LabelPanel();
-  std::wstring ChooserName() const;
   void SyncPanel();
   bool OnPanelCommand(int id, int notification);
   bool FilterKey(const MSG& message);

@@ -32,20 +32,17 @@ void frmMain::ToggleKeysList() {
 }
 
 // Few users open the list, so it is made when it first opens.
-void frmMain::PrepareKeysList() {
-  if (frmKeysList_.Visible()) {
-    return;
-  }
+void frmMain::CreateKeysList() {
   frmKeysList_.Create(window_);
   frmKeysList_.ApplyFont(font_.get(), dpi_);
-  frmKeysList_.SetName(ChooserName());
+  LabelPanel();
 }
 
 void frmMain::SyncKeysList() {
   const KeysList& list = editor_.AllKeys();
   SetEnabled(Toolbar2_, list.PanelToolbarEnabled());
-  if (list.Visible()) {
-    PrepareKeysList();
+  if (list.Visible() && !frmKeysList_.Created()) {
+    CreateKeysList();
   }
   frmKeysList_.Select(list.Selection());
   if (list.Visible() == frmKeysList_.Visible()) {

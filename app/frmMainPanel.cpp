@@ -68,12 +68,10 @@ void frmMain::LabelPanel() {
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
     SetText(chkCtrlAlt_[box], texts.GetLangText(BoxTextIds[box]));
   }
-  SetAccessibleName(Combo1_, ChooserName());
-  SetText(cmdAllList_, ChooserName());
-}
-
-std::wstring frmMain::ChooserName() const {
-  return WithoutMnemonic(editor_.Language().GetLangText(400));
+  const std::wstring name = WithoutMnemonic(texts.GetLangText(400));
+  SetAccessibleName(Combo1_, name);
+  SetText(cmdAllList_, name);
+  frmKeysList_.SetName(name);
 }
 
 void frmMain::SyncPanel() {

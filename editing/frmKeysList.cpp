@@ -30,9 +30,6 @@ frmKeysList::~frmKeysList() {
 }
 
 void frmKeysList::Create(HWND owner) {
-  if (window_ != nullptr) {
-    return;
-  }
   const HINSTANCE instance = GetModuleHandleW(nullptr);
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof windowClass;
@@ -55,6 +52,8 @@ void frmKeysList::Create(HWND owner) {
   SetWindowSubclass(List1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
+bool frmKeysList::Created() const { return window_ != nullptr; }
+
 void frmKeysList::ApplyFont(HFONT font, int dpi) {
   if (window_ == nullptr) {
     return;
@@ -72,6 +71,9 @@ void frmKeysList::ApplyFont(HFONT font, int dpi) {
 }
 
 void frmKeysList::SetName(const std::wstring& name) {
+  if (window_ == nullptr) {
+    return;
+  }
   SetText(window_, name);
   SetAccessibleName(List1_, name);
 }

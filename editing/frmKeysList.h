@@ -24,9 +24,10 @@ class frmKeysList {
   frmKeysList(const frmKeysList&) = delete;
   frmKeysList& operator=(const frmKeysList&) = delete;
 
-  /// Makes the window, hidden, with the key vocabulary in its list, unless there is one already.
-  /// Before that there is nothing that the other functions could change or show.
+  /// Makes the window, hidden, with the key vocabulary in its list. Before that there is nothing
+  /// that the other functions could change or show.
   void Create(HWND owner);
+  [[nodiscard]] bool Created() const;
 
   /// Gives the list the size that suits the font, which stays the caller's.
   void ApplyFont(HFONT font, int dpi);

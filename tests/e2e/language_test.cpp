@@ -157,7 +157,12 @@ TEST_F(LanguageTest, StoredLanguageIsAppliedAtTheStart) {
 TEST_F(LanguageTest, DefaultLanguageCanBeChosenAgain) {
   UseLanguageFile(Shipped(L"German.lng"));
   StartAndLoad();
-  Dialog dialog = OpenOptions('A', 'O');
+  Select(L"cm_SrcTree");
+  window_->ClickControl(IDC_cmdAllList);
+  const Dialog keysList = NextDialog(L"frmKeysList");
+  EXPECT_EQ(keysList.Caption(), L"Tastenk\u00FCrzel:");
+  window_->Command(IDM_mnuViewOptions);
+  Dialog dialog = NextDialog(L"frmOptions");
   dialog.ClickTab(IDC_tbsOptions, 3);
   EXPECT_EQ(dialog.ControlText(IDC_txtLanguageFilePath), Shipped(L"German.lng"));
   dialog.ClickControl(IDC_optUseDefaultLanguage);
@@ -165,6 +170,7 @@ TEST_F(LanguageTest, DefaultLanguageCanBeChosenAgain) {
   dialog.CloseBy(IDC_cmdOK);
   WaitFor("English headings", [&] { return window_->Header(0).Text == L"Description"; });
   EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileSave), L"Save");
+  EXPECT_EQ(keysList.Caption(), L"Hotkey:");
   EXPECT_EQ(Setting("UseDefaultLanguage"), "1");
   EXPECT_EQ(Setting("LanguageFile", "Common"), Utf8(Shipped(L"German.lng")));
 }
