@@ -45,7 +45,8 @@ void frmMain::SyncKeysList() {
     CreateKeysList();
   }
   frmKeysList_.Select(list.Selection());
-  if (list.Visible() == frmKeysList_.Visible()) {
+  // While the window is minimised the system hides the list with it.
+  if (list.Visible() == frmKeysList_.Visible() || IsIconic(window_) != FALSE) {
     return;
   }
   if (list.Visible()) {

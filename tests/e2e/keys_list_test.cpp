@@ -171,6 +171,16 @@ TEST_F(KeysListTest, ClickOnARowHidesIt) {
   }
 }
 
+TEST_F(KeysListTest, IsHiddenWhileTheWindowIsMinimised) {
+  const Dialog list = OpenList();
+  PostMessageW(window_->Handle(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+  list.WaitUntilClosed();
+  Send(window_->Handle(), WM_COMMAND, IDM_mnuViewToolbar);
+  EXPECT_FALSE(IsWindowVisible(list.Handle())) << "what happens meanwhile does not show it";
+  PostMessageW(window_->Handle(), WM_SYSCOMMAND, SC_RESTORE, 0);
+  WaitFor("the list", [&] { return IsWindowVisible(list.Handle()) != FALSE; });
+}
+
 TEST_F(KeysListTest, ChosenKeyCanBeAssigned) {
   window_->ClickControl(IDC_chkCtrlAlt0);
   window_->ClickControl(IDC_chkCtrlAlt1);
