@@ -32,10 +32,9 @@ void EndToEndTest::StartAndLoad() {
   WaitFor(std::to_string(rows) + " rows", [&] { return window_->RowCount() == rows; });
   WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });
   BringToFront(window_->Handle());
-  // A window manager that still has to put the window on the screen would lay it over an open menu.
-  WaitFor("the window to be on the screen", [&] {
-    return CountPixels(RectangleOf(window_->Control(IDC_lblHotkey)), GetSysColor(COLOR_BTNTEXT)) >
-           0;
+  // A window that is still to be put on the screen and painted may then lie over an open menu.
+  WaitFor("the window to be painted", [&] {
+    return CountPixels(RectangleOf(window_->Control(IDC_Frame1)), GetSysColor(COLOR_BTNFACE)) > 0;
   });
 }
 
