@@ -108,6 +108,14 @@ bool MainWindow::InMenu() const {
   return (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE)) != 0;
 }
 
+void MainWindow::CloseMenus() {
+  WaitFor("the menus to close", [&] {
+    if (!InMenu()) return true;
+    Press(VK_ESCAPE);
+    return false;
+  });
+}
+
 HWND MainWindow::OpenMenu(WORD letter) {
   BringToFront(Handle());
   {

@@ -87,6 +87,9 @@ class MainWindow : public Window {
   /// True while a menu of the window is open or its menu bar has the focus.
   [[nodiscard]] bool InMenu() const;
 
+  /// Leaves every open menu and the menu bar.
+  void CloseMenus();
+
   /// Chooses a command without input, as assistive programs do.
   void Command(int command) const;
 

@@ -3,6 +3,7 @@
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"
+#include "tests/e2e/MenuPicture.h"
 #include "tests/e2e/Screen.h"
 #include "tests/e2e/Wait.h"
 
@@ -112,11 +113,21 @@ TEST_F(EditTest, AKeypadOperatorIsGivenAsNum) {
 }
 
 TEST_F(EditTest, ASecondKeyIsAdded) {
+  const auto addEnabled = [&] {
+    const HWND menu = window_->OpenButtonMenu(IDC_Toolbar2, IDM_assign);
+    const bool enabled = WaitForMenuEntry(menu, L"Add Hotkey").Enabled;
+    window_->CloseMenus();
+    return enabled;
+  };
   StartAndLoad();
+  Select(L"cm_SrcTree");
+  window_->ChooseKey(L"Z");
+  EXPECT_FALSE(addEnabled()) << "there is no first key";
   Select(L"cm_SrcComments");
   ASSERT_EQ(RowOf(L"cm_SrcComments")[3], L"Ctrl + Alt + F1");
   window_->ClickControl(IDC_chkCtrlAlt1);
   window_->ChooseKey(L"Z");
+  EXPECT_TRUE(addEnabled());
   window_->ChooseFromButtonMenu(IDC_Toolbar2, IDM_assign, 1);
   WaitForKeys(L"cm_SrcComments", L"Ctrl + Alt + F1 = Alt + Z");
   EXPECT_TRUE(Modified());
@@ -161,7 +172,10 @@ TEST_F(EditTest, DeletingAllKeysAsksFirst) {
   const std::vector<RowTexts> before = window_->Rows();
   Select(L"cm_SrcTree");
   const int selected = window_->SelectedRow();
-  window_->ChooseFromButtonMenu(IDC_Toolbar2, IDM_delete, 1);
+  const HWND menu = window_->OpenButtonMenu(IDC_Toolbar2, IDM_delete);
+  EXPECT_TRUE(WaitForMenuEntry(menu, L"Delete All Hotkeys").Enabled);
+  Press(VK_DOWN);
+  Press(VK_RETURN);
   const Box box = NextBox();
   EXPECT_EQ(Utf8(box.Text),
             "You are about to delete Current Hotkeys for ALL commands.\n\nAre you sure?");
@@ -191,6 +205,21 @@ TEST_F(EditTest, ModifierKeysToggleTheirBoxes) {
       WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
       EXPECT_FALSE(window_->InMenu());
     }
+}
+
+TEST_F(EditTest, TheContextMenuKeyStandsInForAlt) {
+  WriteBytes(folder_.SettingsFile(), "[Tessera]\r\nUseContextMenuKey=1\r\n");
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  for (const bool checked : {true, false}) {
+    Press(VK_APPS);
+    WaitFor("box Alt to change", [&] { return window_->BoxChecked(IDC_chkCtrlAlt1) == checked; });
+    WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
+  }
+  Press(VK_MENU);
+  WaitFor("the menu bar", [&] { return window_->InMenu(); });
+  window_->CloseMenus();
+  EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt1));
 }
 
 TEST_F(EditTest, EscapeAndBackspaceResetThePanel) {

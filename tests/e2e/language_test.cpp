@@ -69,7 +69,7 @@ class LanguageTest : public EndToEndTest {
          {L"\u00D6&ffnen...", L"&Speichern", L"In die Z&wischenablage exportieren...",
           L"&Zuletzt ge\u00F6ffnete Dateien", L"&Beenden"})
       (void)WaitForMenuEntry(menu, caption);
-    CloseMenus();
+    window_->CloseMenus();
   }
 
   void ExpectGermanDialogs() {
@@ -85,14 +85,6 @@ class LanguageTest : public EndToEndTest {
     EXPECT_EQ(exportDialog.Caption(), L"Zu exportierende Spalten");
     EXPECT_EQ(exportDialog.ControlText(IDC_chkColumn1), L"Befehl");
     EXPECT_EQ(exportDialog.ControlText(IDC_cmdCancel), L"Abbrechen");
-  }
-
-  void CloseMenus() {
-    WaitFor("the menus to close", [&] {
-      if (!window_->InMenu()) return true;
-      Press(VK_ESCAPE);
-      return false;
-    });
   }
 
   /// A mirrored control begins its lines at the right and reads them from there.
@@ -136,7 +128,7 @@ class LanguageTest : public EndToEndTest {
     const RECT menu = RectangleOf(window_->OpenMenus().front());
     const RECT window = RectangleOf(window_->Handle());
     EXPECT_EQ(menu.left - window.left > window.right - menu.right, right);
-    CloseMenus();
+    window_->CloseMenus();
   }
 };
 
@@ -211,7 +203,7 @@ TEST_F(LanguageTest, EmptyAndAbsentTextsAreTheBuiltInOnes) {
   const LONG options = WaitForMenuEntry(menu, L"&Options...").Top;
   EXPECT_GT(options - sortedList, sortedList - toolbar);
   EXPECT_LT(options - sortedList, 2 * (sortedList - toolbar)) << "a line, and no text";
-  CloseMenus();
+  window_->CloseMenus();
   const Dialog dialog = OpenOptions('V', 'O');
   EXPECT_EQ(dialog.ControlText(IDC_cmdOK), L"OK");
   EXPECT_EQ(dialog.ControlText(IDC_cmdCancel), L"Weg");

@@ -29,14 +29,6 @@ class MenuTest : public EndToEndTest {
     }
   }
 
-  void CloseMenus() {
-    WaitFor("the menus to close", [&] {
-      if (!window_->InMenu()) return true;
-      Press(VK_ESCAPE);
-      return false;
-    });
-  }
-
   void CloseFileDialog() { AnswerByKey(WaitForFileDialog(program_->Id()), VK_ESCAPE); }
 
   /// Of the list, in the coordinates of the window's inside.
@@ -50,9 +42,9 @@ class MenuTest : public EndToEndTest {
 TEST_F(MenuTest, MenusHoldTheirCommandsInOrder) {
   ExpectEntries(window_->OpenMenu('F'), {L"&Open...", L"&Save", L"Save and Restart Bainioka",
                                          L"&Export To Clipboard...", L"&Recent Files", L"E&xit"});
-  CloseMenus();
+  window_->CloseMenus();
   ExpectEntries(window_->OpenMenu('V'), {L"&Toolbar", L"Sorted &List", L"&Options..."});
-  CloseMenus();
+  window_->CloseMenus();
   ExpectEntries(window_->OpenMenu('H'), {L"Help &Topics"});
 }
 
@@ -147,7 +139,7 @@ TEST_F(MenuTest, HiddenToolbarLeavesTheListOnePixelBelowTheTop) {
 TEST_F(MenuTest, SaveIsEnabledWhileThereAreUnsavedChanges) {
   const auto enabledInMenu = [&](const std::wstring& caption) {
     const bool enabled = WaitForMenuEntry(window_->OpenMenu('F'), caption).Enabled;
-    CloseMenus();
+    window_->CloseMenus();
     return enabled;
   };
   EXPECT_FALSE(enabledInMenu(L"&Save"));
@@ -159,7 +151,7 @@ TEST_F(MenuTest, SaveIsEnabledWhileThereAreUnsavedChanges) {
   EXPECT_FALSE(WaitForMenuEntry(window_->OpenButtonMenu(IDC_Toolbar1, IDM_mnuFileSave),
                                 L"Save and Restart Bainioka")
                    .Enabled);
-  CloseMenus();
+  window_->CloseMenus();
   window_->ChooseFromMenu('F', 'S');
   WaitFor("the save to end", [&] { return !Modified(); });
 }

@@ -42,14 +42,6 @@ class RecentTest : public EndToEndTest {
     Press(VK_RETURN);
   }
 
-  void CloseMenus() {
-    WaitFor("the menus to close", [&] {
-      if (!window_->InMenu()) return true;
-      Press(VK_ESCAPE);
-      return false;
-    });
-  }
-
   void WaitUntilOpen(const std::wstring& path) {
     WaitFor(Utf8(path) + " to be open", [&] { return window_->Caption() == path + L" - Tessera"; });
     WaitFor("the window to answer", [&] { return window_->SelectedRow() == 0; });
@@ -171,7 +163,7 @@ TEST_F(RecentTest, ClearedListIsEmptyAndSaysSo) {
   const HWND menu = OpenRecentMenu();
   EXPECT_FALSE(WaitForMenuEntry(menu, L"No Recent Files").Enabled);
   EXPECT_FALSE(WaitForMenuEntry(menu, L"Clear List").Enabled);
-  CloseMenus();
+  window_->CloseMenus();
   const HWND buttonMenu = window_->OpenButtonMenu(IDC_Toolbar1, IDM_mnuFileOpen);
   (void)WaitForMenuEntry(buttonMenu, L"No Recent Files");
 }

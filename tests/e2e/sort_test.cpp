@@ -51,6 +51,7 @@ TEST_F(SortTest, EachColumnSortsBothWaysAndFileOrderComesBack) {
   ToggleSortedView();
   ExpectSorted(2, false);
   const int ascending = window_->Header(2).Icon;
+  EXPECT_EQ(ascending, 0);
   bool descending = false;
   for (const int column : {0, 1, 3, 2}) {
     // The first click keeps the order of the column before; the second one turns it round.

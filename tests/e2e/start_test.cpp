@@ -70,11 +70,11 @@ TEST_F(StartTest, RowsSelectedByAutomationAreSelectedRows) {
   WaitFor("the panel to be enabled", [&] { return window_->Enabled(IDC_Combo1); });
 }
 
+// The file's name in it, ".\Wincmd.ini", begins at the folder that it names.
 TEST_F(StartTest, RegistryLeadsToTheFilesWithoutTheEnvironmentVariable) {
   const std::vector<RowTexts> expected = ExpectedRows(folder_);
   commanderPath_.reset();
   folder_.InstallDir.Set(folder_.Commander().substr(0, folder_.Commander().size() - 1));
-  folder_.IniFileName.Set(folder_.WincmdIni());
   StartAndLoad();
   EXPECT_EQ(Utf8(window_->Caption()), Utf8(folder_.WincmdIni() + L" - Tessera"));
   EXPECT_TRUE(SameRows(window_->Rows(), expected));

@@ -102,8 +102,10 @@ TEST(Catalogue, IndexesEverySingleKeyOfTheCommands) {
 TEST(Catalogue, AHeadingIsNeverIndexed) {
   CommandEntry heading = Heading(1);
   heading.DefaultKeys = L"F1";
+  heading.CurrentKeys = L"F2";
   const Catalogue catalogue = Opened({heading});
   EXPECT_EQ(catalogue.lvwDefKeys.Count(), 0u);
+  EXPECT_EQ(catalogue.lvwCurrKeys.Count(), 0u);
 }
 
 TEST(Catalogue, TheUndefinedMarkerInForceIsNoKey) {

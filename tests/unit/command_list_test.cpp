@@ -105,11 +105,13 @@ TEST_F(CommandListTest, GoingBackToFileOrderResetsTheStoredSort) {
   settings_.SortedColumn = 2;
   list_.SortCommandList();
   list_.RestoreFileOrder();
+  EXPECT_EQ(Icons(), (std::vector{None, None, None, None}));
   EXPECT_EQ(settings_.SortedList, 0);
   EXPECT_EQ(settings_.SortedColumn, 3);
   EXPECT_EQ(settings_.SortOrder, 1);
   list_.SortCommandList();
   EXPECT_EQ(Icons(), (std::vector{None, None, Down, None}));
+  EXPECT_EQ(Order(), (std::vector{Search, Copy, Refresh, View, Pack, Sync}));
 }
 
 TEST_F(CommandListTest, AHeadingRowCanBeSelectedButIsNoCommand) {

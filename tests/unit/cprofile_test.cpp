@@ -82,10 +82,14 @@ TEST_F(cProfileTest, KeyNamesAreSortedByCharacterCode) {
 
 TEST_F(cProfileTest, EmptyListHasUpperIndexMinusOne) {
   EXPECT_EQ(Profile.SectionKeysNameOnlyUpperIndex(), -1);
-  Disk.Contents[path] = "[s]\n;only a comment\n";
+  Disk.Contents[path] = "[t]\na=1\n[s]\n;only a comment\n";
+  Profile.ReadSectionKeysNameOnly(L"t", path, 4096);
+  ASSERT_EQ(Profile.SectionKeysNameOnlyUpperIndex(), 0);
   Profile.ReadSectionKeysNameOnly(L"s", path, 4096);
   EXPECT_EQ(Profile.SectionKeysNameOnlyUpperIndex(), -1);
   Profile.SortKeysNameOnlyList();
+  Profile.ReadSectionKeysNameAndValue(L"t", path, 4096);
+  ASSERT_EQ(Profile.SectionKeysNameAndValueUpperIndex(), 0);
   Profile.ReadSectionKeysNameAndValue(L"none", path, 4096);
   EXPECT_EQ(Profile.SectionKeysNameAndValueUpperIndex(), -1);
 }

@@ -80,6 +80,16 @@ TEST_F(EditorTest, ARedirectedSectionIsFoundByTheFolderOfTotalCommander) {
   EXPECT_EQ(files_.Contents[L"C:\\TC\\keys.ini"], "[Shortcuts]\r\nX=cm_Pack\r\n");
 }
 
+// The folder that was found counts for files alone, deliberately.
+TEST_F(EditorTest, ARestartLooksWhereTheEnvironmentVariablePoints) {
+  environment_.Variables.clear();
+  SettingsFile() = "[Common]\r\nTCInstallDir=C:\\TC\r\n";
+  Start();
+  Assign(Pack, L"X");
+  editor_.FileSaveAndRestart();
+  EXPECT_EQ(log_, Log{L"Start \\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""});
+}
+
 // -- Help
 
 TEST_F(EditorTest, AMissingHelpFileIsReportedAndNothingElseHappens) {

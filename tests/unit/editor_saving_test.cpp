@@ -29,13 +29,16 @@ TEST_F(EditorTest, ASaveReleasesAStartMenuKeyThatWasTaken) {
 }
 
 TEST_F(EditorTest, SavingWithoutChangesTouchesNothing) {
+  SettingsFile() = "[Tessera]\r\nAlwaysRestartTC=1\r\n";
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
   Start();
-  files_.Reads = files_.Writes = 0;
+  files_.Reads = files_.Writes = clock_.DoEventsCount = 0;
   editor_.FileSave();
   editor_.FileSaveAndRestart();
   EXPECT_EQ(files_.Reads, 0);
   EXPECT_EQ(files_.Writes, 0);
-  EXPECT_TRUE(log_.empty());
+  EXPECT_EQ(clock_.DoEventsCount, 0);
+  EXPECT_TRUE(log_.empty()) << "Total Commander is not even asked to close";
 }
 
 TEST_F(EditorTest, ASaveThatFailsKeepsTheChangesUnsaved) {

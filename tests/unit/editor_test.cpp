@@ -206,6 +206,13 @@ TEST_F(EditorTest, TheChosenWincmdIniIsRemembered) {
   EXPECT_EQ(dialogs_.OpenRequests[0].Filter, FilterText(FileFilter::WincmdIni));
   EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"Alt + V");
   EXPECT_NE(SettingsFile().find("UserDefinedWincmd=C:\\TC\\Other.ini\r\n"), std::string::npos);
+
+  Editor next(system_, [](const LoadProgress&) {});
+  next.Load();
+  next.Activate();
+  EXPECT_EQ(next.Caption(), otherIniPath + L" - Tessera");
+  EXPECT_EQ(boxes_.Shown.size(), 1U) << "it is used without a question";
+  EXPECT_EQ(dialogs_.OpenRequests.size(), 1U);
 }
 
 TEST_F(EditorTest, ACancelledSearchForWincmdIniLeavesAnEmptyListAndAWorkingProgram) {
@@ -279,6 +286,16 @@ TEST_F(EditorTest, UnloadStoresWindowColumnsAndSort) {
        {"MainWindowLeft=100", "MainWindowTop=200", "MainWindowWidth=9000", "MainWindowHeight=8000",
         "MainWindowMaxmized=0", "ColumnHeadersPosition=2,1,4,3",
         "ColumnHeadersSize=100,200,300,400", "SortedList=1"}) {
+    EXPECT_NE(SettingsFile().find(std::string(line) + "\r\n"), std::string::npos) << line;
+  }
+}
+
+TEST_F(EditorTest, UnloadInFileOrderStoresTheSortThatIsNext) {
+  SettingsFile() = "[Tessera]\r\nSortedList=1\r\nSortedColumn=2\r\nSortOrder=0\r\n";
+  Start();
+  editor_.ToggleSortedList();
+  editor_.Unload({}, {});
+  for (const char* line : {"SortedList=0", "SortedColumn=3", "SortOrder=1"}) {
     EXPECT_NE(SettingsFile().find(std::string(line) + "\r\n"), std::string::npos) << line;
   }
 }

@@ -177,6 +177,7 @@ TEST_F(HotkeyPanelTest, WithTheOptionTheContextMenuKeyTogglesTheAltBoxAndAltDoes
   EXPECT_EQ(panel_.KeyDown(AltPressed).FocusTo, Focus::Unchanged);
   EXPECT_FALSE(panel_.KeyUp(AltReleased).StartTimer);
   EXPECT_FALSE(panel_.BoxChecked(Alt));
+  EXPECT_EQ(static_cast<int>(ContextMenu.Code), 93) << "the system's code of that key";
   for (const bool checked : {true, false, true}) {
     EXPECT_EQ(panel_.KeyDown(ContextMenu).FocusTo, Focus::Chooser);
     EXPECT_EQ(panel_.BoxChecked(Alt), checked);

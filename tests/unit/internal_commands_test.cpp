@@ -55,7 +55,7 @@ TEST(InternalCommands, TheFirstSignsDivideACommandLine) {
       {"cm_=;x", L"cm_", L"", L"x"},
       {"cm_Foo=-7;Bar", L"cm_Foo", L"-7", L"Bar"},
       {"cm_Foo=5=6;Bar", L"cm_Foo", L"5=6", L"Bar"},
-      {"cm_Foo;a=b", L"cm_Foo;a", L"", L"b"},
+      {"cm_Foo;a=b", L"cm_Foo;a", L"", L"a=b"},
   };
   for (const CommandCase& expected : cases) {
     const auto rows = Read(expected.Line);
@@ -63,6 +63,7 @@ TEST(InternalCommands, TheFirstSignsDivideACommandLine) {
     EXPECT_EQ(rows[0].CommandName, expected.Name) << expected.Line;
     EXPECT_EQ(rows[0].CommandCode, expected.Code) << expected.Line;
     EXPECT_EQ(rows[0].Tag, expected.Code) << expected.Line;
+    EXPECT_EQ(rows[0].Description, expected.Description) << expected.Line;
   }
 }
 

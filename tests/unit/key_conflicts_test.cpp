@@ -27,6 +27,7 @@ TEST_F(KeyConflicts, TheRowsOnlyKeyIsTheSameKey) {
   EXPECT_EQ(KindOf(View, L"F6"), ConflictKind::SameKey);
   EXPECT_EQ(KindOf(Refresh, L"F7 = F8"), ConflictKind::SameKey);
   EXPECT_EQ(KindOf(Refresh, L"F7"), ConflictKind::CurrentKey);
+  EXPECT_EQ(KindOf(Sync, L"F9"), ConflictKind::SameKey) << "also when it is another's default key";
 }
 
 TEST_F(KeyConflicts, NamesTheOwner) {

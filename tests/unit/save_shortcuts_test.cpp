@@ -114,6 +114,9 @@ TEST_F(SaveShortcutsTest, WhatWasReadIsWrittenBackAsItWas) {
   EXPECT_EQ(Save(), FileError::None);
   EXPECT_EQ(Disk.Contents[Path], content);
   EXPECT_EQ(Disk.Writes, 0);
+  Disk.Contents[Path].clear();
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Disk.Contents[Path], content);
 }
 
 TEST_F(SaveShortcutsTest, EverythingElseInTheFileStays) {

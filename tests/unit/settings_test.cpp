@@ -214,9 +214,12 @@ TEST_F(SettingsTest, EmptyUndefinedMarkerFallsBack) {
 }
 
 TEST_F(SettingsTest, IntegersAreRoundedHalfToEvenAndClamped) {
-  const Settings settings =
-      LoadLines("FontSize=10.5\r\nMainWindowTop=99999\r\nMainWindowLeft=-99999\r\nSortOrder=5\r\n");
+  const Settings settings = LoadLines(
+      "FontSize=10.5\r\nFontScript=2.5\r\nFontStyle=3.5\r\n"
+      "MainWindowTop=99999\r\nMainWindowLeft=-99999\r\nSortOrder=5\r\n");
   EXPECT_EQ(settings.FontSize, 10);
+  EXPECT_EQ(settings.FontScript, 2);
+  EXPECT_EQ(settings.FontStyle, 4);
   EXPECT_EQ(settings.MainWindowTop, 32767);
   EXPECT_EQ(settings.MainWindowLeft, -32768);
   EXPECT_EQ(settings.SortOrder, 5) << "repaired only when it is applied";
