@@ -57,6 +57,8 @@ TEST_F(HostileTest, EveryWindowIsShownAndTheFileIsSaved) {
     manyKeys.append("K").append(std::to_string(key)).append("=cm_SrcShort\r\n");
   WriteBytes(folder_.WincmdIni(), "[Shortcuts]\r\n" + manyKeys + "A+1=cm_SrcTree\r\n\r\n[a]\r\nb");
   StartAndLoad();
+  const RECT window = RectangleOf(window_->Handle());
+  EXPECT_LE(window.right - window.left, GetSystemMetrics(SM_CXSCREEN));
   EXPECT_TRUE(window_->Header(1).Text.starts_with(L"%s%99999999s%n &"));
   ShowDialog(IDM_mnuViewOptions, L"frmOptions");
   ShowDialog(IDM_mnuFileExportToClipboard, L"frmExportToClipboard");
