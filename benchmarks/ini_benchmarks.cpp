@@ -110,12 +110,14 @@ void Change60(benchmark::State& state) {
   Change<Engine>(state, 60);
 }
 
-/// Sections are found, and their names indexed, when the first one is asked for; so one is.
+/// The bytes are the document's own, as those of a file that was read. Its sections are found only
+/// when they are asked for, so they are.
 void LoadIni(benchmark::State& state) {
   const IniSample& sample = SampleOf(state);
+  const auto bytes = std::make_shared<const std::string>(sample.Bytes);
   for (auto _ : state) {
-    const IniDocument document(sample.Bytes);
-    benchmark::DoNotOptimize(document.Section(sample.Keys.back().Section));
+    const IniDocument document(bytes);
+    benchmark::DoNotOptimize(document.SectionNames().data());
   }
 }
 

@@ -70,14 +70,14 @@ std::string KeyLines(const std::vector<std::pair<std::string, std::string>>& ent
 IniDocument::IniDocument() : IniDocument(std::string_view()) {}
 
 IniDocument::IniDocument(std::string_view bytes)
-    : encoding_(bytes.starts_with(utf16Mark) ? Encoding::Utf16Le : Encoding::Ansi) {
-  if (encoding_ == Encoding::Utf16Le) {
-    // The mark stays in the text, before its first line.
-    oddByte_ = bytes.substr(bytes.size() - bytes.size() % 2);
-    Reset(Utf8FromUtf16Le(bytes));
-  } else {
-    Reset(std::string(bytes));
-  }
+    : IniDocument(std::make_shared<const std::string>(bytes)) {}
+
+IniDocument::IniDocument(std::shared_ptr<const std::string> bytes) : content_(std::move(bytes)) {
+  if (!content_->starts_with(utf16Mark)) return;
+  encoding_ = Encoding::Utf16Le;
+  oddByte_ = content_->substr(content_->size() - content_->size() % 2);
+  // The mark stays in the text, before its first line.
+  Reset(Utf8FromUtf16Le(*content_));
 }
 
 IniDocument::Encoding IniDocument::FileEncoding() const { return encoding_; }
@@ -93,6 +93,7 @@ std::optional<std::string_view> IniDocument::Find(std::string_view section,
 std::vector<std::string_view> IniDocument::SectionNames() const {
   Divide();
   std::vector<std::string_view> names;
+  names.reserve(sections_.size());
   for (std::size_t i = 1; i < sections_.size(); ++i) names.push_back(sections_[i].Name());
   return names;
 }
@@ -223,8 +224,9 @@ IniSection* IniDocument::SectionNamed(std::string_view name) const {
 
 void IniDocument::Divide() const {
   if (!sections_.empty()) return;
-  const std::string_view text = texts_.front();
+  const std::string_view text = *content_;
   const std::size_t firstLine = encoding_ == Encoding::Ansi ? 0 : Utf8Mark.size();
+  sections_.reserve(16);  // few files have more
   std::size_t begin = 0;
   for (std::size_t bracket = text.find('['); bracket != std::string_view::npos;
        bracket = text.find('[', bracket + 1)) {
@@ -251,9 +253,9 @@ void IniDocument::IndexSections() const {
 }
 
 std::string IniDocument::Text() const {
-  if (sections_.empty()) return texts_.front();
+  if (sections_.empty()) return *content_;
   std::string text;
-  text.reserve(texts_.front().size());
+  text.reserve(content_->size());
   for (const IniSection& section : sections_) section.AppendTo(text);
   return text;
 }
@@ -262,12 +264,12 @@ void IniDocument::Reset(std::string text) {
   sections_.clear();
   wasSearched_ = false;
   sectionsByName_.reset();
-  texts_.clear();
-  Store(std::move(text));
+  written_.clear();
+  content_ = std::make_shared<const std::string>(std::move(text));
 }
 
 std::string_view IniDocument::Store(std::string text) {
-  return texts_.emplace_back(std::move(text));
+  return written_.emplace_back(std::move(text));
 }
 
 void IniDocument::AppendSection(std::string text) {
@@ -286,7 +288,7 @@ void IniDocument::EndLine(IniSection& section, std::size_t number) {
 
 void IniDocument::PutLines(const IniSection& section, const LineList& lines) {
   std::string text;
-  text.reserve(texts_.front().size());
+  text.reserve(content_->size());
   for (const IniSection& other : sections_) {
     if (&other != &section) {
       other.AppendTo(text);

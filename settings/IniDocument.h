@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <list>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,8 +30,9 @@ class IniDocument {
 
   IniDocument();
 
-  /// Takes the content of a file. Any bytes are accepted.
+  /// Takes the content of a file; any bytes are accepted. Bytes that are shared are not copied.
   explicit IniDocument(std::string_view bytes);
+  explicit IniDocument(std::shared_ptr<const std::string> bytes);
 
   IniDocument(IniDocument&&) = default;
   IniDocument& operator=(IniDocument&&) = default;
@@ -80,8 +82,9 @@ class IniDocument {
   using SectionIndex = std::unordered_map<std::string_view, std::size_t, IniNameHash, IniNameEqual>;
   using LineList = std::vector<std::string_view>;
 
-  /// The code page in which names are compared.
   [[nodiscard]] bool IsOnlyOne(const IniSection& section) const;
+
+  /// The code page in which names are compared.
   [[nodiscard]] unsigned NameCodePage() const;
 
   /// The first section of that name; null when there is none.
@@ -98,7 +101,7 @@ class IniDocument {
   /// Starts anew from a text, for the changes after which sections are no longer what they were.
   void Reset(std::string text);
 
-  /// Keeps a text that lines are to be views of.
+  /// Keeps a written text that lines are to be views of.
   std::string_view Store(std::string text);
 
   void AppendSection(std::string text);
@@ -110,9 +113,10 @@ class IniDocument {
   void PutLines(const IniSection& section, const LineList& lines);
 
   Encoding encoding_ = Encoding::Ansi;
-  std::string oddByte_;           ///< the half of a character at the end of a UTF-16 file
-  std::list<std::string> texts_;  ///< the content read, then every line written since
-  mutable std::vector<IniSection> sections_;  ///< the first holds what stands before all headers
+  std::string oddByte_;  ///< the half of a character at the end of a UTF-16 file
+  std::shared_ptr<const std::string> content_;  ///< the text that sections are views of
+  std::list<std::string> written_;              ///< every line written since
+  mutable std::vector<IniSection> sections_;    ///< the first holds what stands before all headers
   mutable bool wasSearched_ = false;
   mutable std::optional<SectionIndex> sectionsByName_;
 };

@@ -6,9 +6,6 @@
 
 namespace tessera {
 
-IniSection::IniSection(std::string_view text, unsigned codePage)
-    : text_(text), codePage_(codePage) {}
-
 std::string_view IniSection::Name() const { return HeaderName(text_); }
 
 const std::vector<std::string_view>& IniSection::Lines() const { return Opened().Lines; }

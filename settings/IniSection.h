@@ -16,7 +16,7 @@ namespace tessera {
 class IniSection {
  public:
   /// `text` begins with the header line, but for what stands before a file's first header.
-  IniSection(std::string_view text, unsigned codePage);
+  IniSection(std::string_view text, unsigned codePage) : text_(text), codePage_(codePage) {}
 
   // -- Queries
 

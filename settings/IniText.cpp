@@ -41,10 +41,11 @@ bool IsComment(std::string_view line) { return BeginsWith(line, ';'); }
 bool IsHeader(std::string_view line) { return BeginsWith(line, '['); }
 
 std::string_view HeaderName(std::string_view text) {
-  const std::string_view name = text.substr(std::min(text.find('[') + 1, text.size()));
-  const auto* const end = std::find_if(name.begin(), name.end(),
-                                       [](char byte) { return byte == ']' || EndsLine(byte); });
-  std::string_view inner(name.begin(), end);
+  const auto* const bracket = std::find_if_not(text.begin(), text.end(), IsIniBlank);
+  const auto* const begin = bracket == text.end() ? bracket : bracket + 1;
+  const auto* const end =
+      std::find_if(begin, text.end(), [](char byte) { return byte == ']' || EndsLine(byte); });
+  std::string_view inner(begin, end);
   while (!inner.empty() && IsIniBlank(inner.front())) inner.remove_prefix(1);
   // A NUL behind the name belongs to it: big-endian UTF-16 is not to be half understood.
   while (!inner.empty() && IsIniBlank(inner.back()) && inner.back() != '\0') inner.remove_suffix(1);

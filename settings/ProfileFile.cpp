@@ -107,14 +107,16 @@ std::optional<std::wstring> ProfileSection::Find(std::wstring_view key,
 
 ProfileFile::ProfileFile(const Files& files, std::wstring path)
     : path_(std::move(path)), former_{{}, files.Stamp(path_)} {
-  readError_ = files.Read(path_, former_.Bytes);
-  document_ = IniDocument(former_.Bytes);
+  std::string bytes;
+  readError_ = files.Read(path_, bytes);
+  Take(std::move(bytes));
 }
 
 ProfileFile::ProfileFile(const Files& files, Clock& clock, std::wstring path)
     : path_(std::move(path)), former_{{}, files.Stamp(path_)} {
-  readError_ = ReadWhenFree(files, clock, path_, former_.Bytes);
-  document_ = IniDocument(former_.Bytes);
+  std::string bytes;
+  readError_ = ReadWhenFree(files, clock, path_, bytes);
+  Take(std::move(bytes));
 }
 
 const std::wstring& ProfileFile::Path() const { return path_; }
@@ -209,13 +211,18 @@ FileError ProfileFile::Save(Files& files, Clock& clock, KeepCopies copies) {
   if (readError_ != FileError::None && !isMissing) return readError_;
   if (!isChanged_) return FileError::None;
   std::string bytes = document_.Bytes();
-  if (bytes == former_.Bytes && !isMissing) return FileError::None;
+  if (bytes == *former_.Bytes && !isMissing) return FileError::None;
   const FileError error = ReplaceContent(files, clock, path_, bytes, copies, &former_);
   if (error != FileError::None) return error;
-  former_ = {std::move(bytes), files.Stamp(path_)};
+  former_ = {std::make_shared<const std::string>(std::move(bytes)), files.Stamp(path_)};
   readError_ = FileError::None;
   isChanged_ = false;
   return FileError::None;
+}
+
+void ProfileFile::Take(std::string bytes) {
+  former_.Bytes = std::make_shared<const std::string>(std::move(bytes));
+  document_ = IniDocument(former_.Bytes);
 }
 
 bool ProfileFile::IsUtf16() const {

@@ -127,6 +127,9 @@ class ProfileFile {
  private:
   friend ProfileSection;
 
+  /// Takes what was read.
+  void Take(std::string bytes);
+
   [[nodiscard]] bool IsUtf16() const;
   [[nodiscard]] unsigned CodePage() const;
   [[nodiscard]] bool IsUtf8(std::string_view value) const;

@@ -137,7 +137,7 @@ FileError ReplaceContent(Files& files, Clock& clock, const std::wstring& path,
     const bool mayDiffer =
         former != nullptr && (patience.HasWaited() || files.Stamp(names.Target) != former->Stamp);
     const FileError difference =
-        mayDiffer ? CompareWith(former->Bytes, files, names.Target) : FileError::None;
+        mayDiffer ? CompareWith(*former->Bytes, files, names.Target) : FileError::None;
     return difference == FileError::None ? Swap(files, names) : difference;
   });
   if (error == FileError::None)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -27,7 +28,7 @@ enum class KeepCopies {
 
 /// What a file held when it was read, with the stamp that it had just before.
 struct FormerContent {
-  std::string Bytes;
+  std::shared_ptr<const std::string> Bytes;
   FileStamp Stamp;
 };
 

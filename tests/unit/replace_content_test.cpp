@@ -264,7 +264,7 @@ TEST(ExistsOrReturns, FileOfAKilledSaveIsThereAgain) {
 
 TEST_F(ReplaceContentTest, ContentThatChangedDuringAWaitIsNotReplaced) {
   files_.Contents = {{Path, "old"}};
-  const FormerContent former{"old", files_.Stamp(Path)};
+  const FormerContent former{std::make_shared<const std::string>("old"), files_.Stamp(Path)};
   files_.Contents = {{Path, "odd"}};  // with a stamp that does not tell
   files_.ReplaceErrors = {FileError::SharingViolation};
   EXPECT_EQ(ReplaceContent(files_, clock_, Path, "new", KeepCopies::Yes, &former),
@@ -274,7 +274,7 @@ TEST_F(ReplaceContentTest, ContentThatChangedDuringAWaitIsNotReplaced) {
 
 TEST_F(ReplaceContentTest, ContentWithAnotherStampIsNotReplaced) {
   files_.Contents = {{Path, "old"}};
-  const FormerContent former{"old", files_.Stamp(Path)};
+  const FormerContent former{std::make_shared<const std::string>("old"), files_.Stamp(Path)};
   files_.Contents = {{Path, "by another program"}};
   EXPECT_EQ(ReplaceContent(files_, clock_, Path, "new", KeepCopies::Yes, &former),
             FileError::ChangedMeanwhile);
@@ -284,14 +284,14 @@ TEST_F(ReplaceContentTest, ContentWithAnotherStampIsNotReplaced) {
 
 TEST_F(ReplaceContentTest, SameContentWithAnotherStampIsReplaced) {
   files_.Contents = {{Path, "old"}};
-  const FormerContent former{"old", {}};
+  const FormerContent former{std::make_shared<const std::string>("old"), {}};
   EXPECT_EQ(ReplaceContent(files_, clock_, Path, "new", KeepCopies::Yes, &former), FileError::None);
   EXPECT_EQ(files_.Contents[Path], "new");
 }
 
 TEST_F(ReplaceContentTest, ContentThatIsBeingWrittenIsWaitedFor) {
   files_.Contents = {{Path, "old"}};
-  const FormerContent former{"old", files_.Stamp(Path)};
+  const FormerContent former{std::make_shared<const std::string>("old"), files_.Stamp(Path)};
   files_.Contents = {{Path, "by another program"}};
   files_.ReadErrors = {FileError::SharingViolation};
   EXPECT_EQ(ReplaceContent(files_, clock_, Path, "new", KeepCopies::Yes, &former),
