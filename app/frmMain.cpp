@@ -53,9 +53,9 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   windowClass.lpszClassName = WindowClass;
   RegisterClassExW(&windowClass);
   const DWORD direction = editor_.Language().RightToLeft() ? WS_EX_LAYOUTRTL : 0;
-  CreateWindowExW(WS_EX_CONTROLPARENT | direction, WindowClass, editor_.Caption().c_str(),
-                  WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
-                  nullptr, nullptr, instance, this);
+  CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES | direction, WindowClass,
+                  editor_.Caption().c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
+                  CW_USEDEFAULT, 0, 0, nullptr, nullptr, instance, this);
   if (window_ == nullptr) {
     return false;
   }
@@ -65,7 +65,6 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   ApplyLanguage();
   ApplyDpi();
   ApplyDisplaySettings();
-  SetColumnWidths(ReadColumnLayout(editor_.Options()).Widths);
   Sync();
   ApplyPlacement();
   LayOut();

@@ -37,6 +37,8 @@ int ImageOf(RowIcon icon) {
   return static_cast<int>(std::size(RowIcons));
 }
 
+int ColumnPixels(int twips, int dpi) { return std::max(0, TwipsToPixels(twips, dpi)); }
+
 LOGFONTW FontOf(const Settings& settings, int dpi) {
   const bool isDefault = lstrcmpiW(settings.FontName.c_str(), BitmapFace) == 0;
   LOGFONTW font = isDefault ? MessageFont(dpi, settings.FontScript) : LOGFONTW{};
@@ -59,19 +61,19 @@ LOGFONTW FontOf(const Settings& settings, int dpi) {
 
 void frmMain::CreateCommandList() {
   ListView1_ = CreateControl(window_, WC_LISTVIEWW,
-                             WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
+                             WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
                                  LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
                              0, IDC_ListView1);
   SetWindowTheme(ListView1_, L"Explorer", nullptr);
-  for (int column = 0; column < 4; ++column) {
-    LVCOLUMNW added{};
-    added.mask = LVCF_SUBITEM | LVCF_FMT;
-    added.fmt = LVCFMT_LEFT;
-    added.iSubItem = column;
-    SendMessageW(ListView1_, LVM_INSERTCOLUMNW, static_cast<WPARAM>(column),
-                 reinterpret_cast<LPARAM>(&added));
-  }
   const ColumnLayout layout = ReadColumnLayout(editor_.Options());
+  for (std::size_t column = 0; column < layout.Widths.size(); ++column) {
+    LVCOLUMNW added{};
+    added.mask = LVCF_SUBITEM | LVCF_FMT | LVCF_WIDTH;
+    added.fmt = LVCFMT_LEFT;
+    added.cx = ColumnPixels(layout.Widths[column], dpi_);
+    added.iSubItem = static_cast<int>(column);
+    SendMessageW(ListView1_, LVM_INSERTCOLUMNW, column, reinterpret_cast<LPARAM>(&added));
+  }
   std::array<int, 4> order = OrderOfPositions(layout.Positions);
   ListView_SetColumnOrderArray(ListView1_, 4, order.data());
 }
@@ -90,7 +92,7 @@ void frmMain::LabelColumns() {
 void frmMain::SetColumnWidths(const std::array<int, 4>& twips) {
   for (std::size_t column = 0; column < twips.size(); ++column) {
     ListView_SetColumnWidth(ListView1_, static_cast<int>(column),
-                            std::max(0, TwipsToPixels(twips[column], dpi_)));
+                            ColumnPixels(twips[column], dpi_));
   }
 }
 
@@ -254,6 +256,10 @@ void frmMain::SyncList() {
   SyncHeaderIcons();
   // With its background: an icon may have gone.
   InvalidateRect(ListView1_, nullptr, TRUE);
+  // It first shows with its rows: a scroll bar that came later would have it painted once more.
+  if (IsWindowVisible(window_) != FALSE) {
+    ShowWindow(ListView1_, SW_SHOWNA);
+  }
 }
 
 void frmMain::SyncListSelection() {

@@ -63,7 +63,6 @@ void frmMain::CreateControls() {
   CreateToolbars();
   ProgressBar1_ = CreateControl(window_, PROGRESS_CLASSW, 0, 0, IDC_ProgressBar1);
   SetWindowPos(ProgressBar1_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-  DragAcceptFiles(window_, TRUE);
   // A program of lower rights, as the desktop is for an elevated window, may drop files too.
   for (const UINT message : {UINT{WM_DROPFILES}, UINT{WM_COPYDATA}, CopyGlobalData}) {
     ChangeWindowMessageFilterEx(window_, message, MSGFLT_ALLOW, nullptr);
