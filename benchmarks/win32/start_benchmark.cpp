@@ -72,7 +72,7 @@ void KeepLeast(Start& least, const Start& start) {
 
 int wmain(int argc, wchar_t** argv) {
   using namespace tessera;
-  constexpr int Rounds = 15;
+  constexpr int Rounds = 25;
   constexpr int Rows = 600;  // the demonstration has some more
   constexpr double LargestSize = 1.5e6;
   if (argc != 4) return 2;
