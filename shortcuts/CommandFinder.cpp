@@ -2,19 +2,40 @@
 #include "shortcuts/CommandFinder.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace tessera {
 
+namespace {
+
+constexpr std::size_t PlacesOfText = 16;  // so that few texts share theirs with another
+
+}  // namespace
+
+TextFilter::TextFilter(std::size_t count) : hashes_(std::bit_ceil(PlacesOfText * (count + 1))) {}
+
+void TextFilter::Add(std::wstring_view text) {
+  if (text.size() >= lengths_.size()) lengths_.resize(text.size() + 1);
+  lengths_[text.size()] = true;
+  hashes_[PlaceOf(text)] = true;
+}
+
+bool TextFilter::MayHold(std::wstring_view text) const {
+  return text.size() < lengths_.size() && lengths_[text.size()] && hashes_[PlaceOf(text)];
+}
+
+std::size_t TextFilter::PlaceOf(std::wstring_view text) const {
+  return HashIgnoringCase()(text) & (hashes_.size() - 1);
+}
+
 CommandFinder::CommandFinder(std::span<const CommandEntry> rows,
-                             std::span<const std::pair<std::wstring, std::wstring>> lines) {
-  // Nearly every text of a row is no value; an empty bucket tells so without a look at a value.
-  rowsByValue_.max_load_factor(0.25F);
+                             std::span<const std::pair<std::wstring, std::wstring>> lines)
+    : values_(lines.size()) {
   rowsByValue_.reserve(lines.size());
   for (const auto& [name, value] : lines) {
     if (value.empty()) continue;
     rowsByValue_.try_emplace(value);
-    if (value.size() >= lengths_.size()) lengths_.resize(value.size() + 1);
-    lengths_[value.size()] = true;
+    values_.Add(value);
   }
   for (std::size_t row = 0; row < rows.size(); ++row) {
     const CommandEntry& entry = rows[row];
@@ -46,7 +67,7 @@ void CommandFinder::AddCurrentKeys(std::size_t row, std::wstring_view keys) {
 }
 
 CommandFinder::Rows* CommandFinder::RowsOf(std::wstring_view text) {
-  if (text.size() >= lengths_.size() || !lengths_[text.size()]) return nullptr;
+  if (!values_.MayHold(text)) return nullptr;
   const auto found = rowsByValue_.find(text);
   return found == rowsByValue_.end() ? nullptr : &found->second;
 }

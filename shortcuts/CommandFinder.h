@@ -16,6 +16,24 @@
 
 namespace tessera {
 
+/// Tells of most texts that they are none of those added, without looking for them.
+class TextFilter {
+ public:
+  /// For about `count` texts.
+  explicit TextFilter(std::size_t count);
+
+  void Add(std::wstring_view text);
+
+  /// False only for a text that was not added; letter case is ignored.
+  [[nodiscard]] bool MayHold(std::wstring_view text) const;
+
+ private:
+  [[nodiscard]] std::size_t PlaceOf(std::wstring_view text) const;
+
+  std::vector<bool> lengths_;  ///< those that texts have: of another, a text need not be hashed
+  std::vector<bool> hashes_;   ///< those that texts have, cut to a power of two
+};
+
 /// An index over the texts of rows; a look-up costs the same however many there are.
 class CommandFinder {
  public:
@@ -42,9 +60,7 @@ class CommandFinder {
   [[nodiscard]] Rows* RowsOf(std::wstring_view text);
 
   std::unordered_map<std::wstring_view, Rows, HashIgnoringCase, EqualsIgnoringCase> rowsByValue_;
-
-  /// The lengths that values have: most texts of rows are of another, and need not be hashed.
-  std::vector<bool> lengths_;
+  TextFilter values_;  ///< nearly every text of a row is none
 };
 
 }  // namespace tessera

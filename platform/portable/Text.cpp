@@ -35,6 +35,7 @@ char ToWindows1252(wchar_t character) {
 }
 
 std::string Windows1252Of(std::wstring_view text) {
+  if (IsAscii(text)) return {text.begin(), text.end()};
   std::string bytes(text.size(), '\0');
   std::transform(text.begin(), text.end(), bytes.begin(), ToWindows1252);
   return bytes;
