@@ -204,6 +204,7 @@ void ForColumns(benchmark::internal::Benchmark* benchmark) {
   benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
 }
 
+BENCHMARK(ApplyTexts)->Apply(ForSizes);
 BENCHMARK(Assign)->Apply(ForSizes);
 BENCHMARK(Delete)->Apply(ForSizes);
 BENCHMARK(DeleteAll)->Apply(ForSizes);
@@ -214,7 +215,6 @@ BENCHMARK(StableSort)->Apply(ForColumns);
 BENCHMARK(Save)->Apply(ForSizes);
 BENCHMARK(Export)->Apply(ForSizes);
 BENCHMARK(ConcatenateCells)->Apply(ForSizes);
-BENCHMARK(ApplyTexts)->Apply(ForSizes);
 
 }  // namespace
 
