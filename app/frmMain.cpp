@@ -64,10 +64,9 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   CreateControls();
   ApplyLanguage();
   ApplyDpi();
+  ApplyPlacement();
   ApplyDisplaySettings();
   Sync();
-  ApplyPlacement();
-  LayOut();
   return true;
 }
 
