@@ -9,30 +9,12 @@
 #include <string_view>
 #include <unordered_map>
 #include <utility>
-#include <vector>
 
 #include "platform/TextHash.h"
 #include "shortcuts/CommandEntry.h"
+#include "shortcuts/TextFilter.h"
 
 namespace tessera {
-
-/// Tells of most texts that they are none of those added, without looking for them.
-class TextFilter {
- public:
-  /// For about `count` texts.
-  explicit TextFilter(std::size_t count);
-
-  void Add(std::wstring_view text);
-
-  /// False only for a text that was not added; letter case is ignored.
-  [[nodiscard]] bool MayHold(std::wstring_view text) const;
-
- private:
-  [[nodiscard]] std::size_t PlaceOf(std::wstring_view text) const;
-
-  std::vector<bool> lengths_;  ///< those that texts have: of another, a text need not be hashed
-  std::vector<bool> hashes_;   ///< those that texts have, cut to a power of two
-};
 
 /// An index over the texts of rows; a look-up costs the same however many there are.
 class CommandFinder {
