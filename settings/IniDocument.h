@@ -30,8 +30,10 @@ class IniDocument {
 
   IniDocument();
 
-  /// Takes the content of a file; any bytes are accepted. Bytes that are shared are not copied.
+  /// Takes the content of a file; any bytes are accepted.
   explicit IniDocument(std::string_view bytes);
+
+  /// As above; the bytes are shared, not copied, and must not be null.
   explicit IniDocument(std::shared_ptr<const std::string> bytes);
 
   IniDocument(IniDocument&&) = default;

@@ -16,7 +16,7 @@ std::size_t IniNameHash::operator()(std::string_view name) const {
 bool IniNameEqual::operator()(std::string_view left, std::string_view right) const {
   const std::size_t common = std::min(left.size(), right.size());
   for (std::size_t at = 0; at < common; ++at) {
-    if (left[at] == right[at] && IsAscii(left[at])) continue;
+    if (left[at] == right[at] && IsAscii(left[at])) continue;  // the usual case, quickly
     if (!IsAscii(left[at]) || !IsAscii(right[at])) {
       return left == right || EqualIgnoringCase(Decode(left, CodePage), Decode(right, CodePage));
     }

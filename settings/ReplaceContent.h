@@ -28,7 +28,7 @@ enum class KeepCopies {
 
 /// What a file held when it was read, with the stamp that it had just before.
 struct FormerContent {
-  std::shared_ptr<const std::string> Bytes;
+  std::shared_ptr<const std::string> Bytes;  ///< never null
   FileStamp Stamp;
 };
 

@@ -1,6 +1,7 @@
 // Looking up and editing INI content.
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <random>
 
 #include "platform/Lines.h"
@@ -39,6 +40,24 @@ TEST(IniDocument, EmptyDocumentHasNothing) {
   EXPECT_EQ(document.Bytes(), "");
   EXPECT_TRUE(document.SectionNames().empty());
   EXPECT_EQ(document.Find("s", "k"), std::nullopt);
+}
+
+TEST(IniDocument, SharedBytesStayWhileItIsEdited) {
+  const auto bytes = std::make_shared<const std::string>("[s]\nk=1\n");
+  IniDocument document(bytes);
+  document.Set("s", "k", "2");
+  document.Remove("s", "other");
+  document.RemoveSection("t");
+  EXPECT_EQ(document.Bytes(), "[s]\nk=2\n");
+  EXPECT_EQ(*bytes, "[s]\nk=1\n");
+}
+
+TEST(IniDocument, ItsBytesOutliveWhoeverSharedThem) {
+  auto bytes = std::make_shared<const std::string>("[s]\na=a text of more than a few bytes\nk=1\n");
+  IniDocument document(bytes);
+  bytes.reset();
+  const IniDocument moved = std::move(document);
+  EXPECT_EQ(moved.Find("s", "k"), "1");
 }
 
 TEST(IniDocument, FirstOfTwoEqualKeysWins) {
