@@ -152,6 +152,11 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
       }
       break;
+    case WM_PAINT:
+      // Not before, so that it has its rows unless they take long: a scroll bar that came later
+      // would have it painted once more.
+      ShowWindow(ListView1_, SW_SHOWNA);
+      break;
     case WM_DPICHANGED:
       OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;

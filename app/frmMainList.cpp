@@ -256,10 +256,6 @@ void frmMain::SyncList() {
   SyncHeaderIcons();
   // With its background: an icon may have gone.
   InvalidateRect(ListView1_, nullptr, TRUE);
-  // It first shows with its rows: a scroll bar that came later would have it painted once more.
-  if (IsWindowVisible(window_) != FALSE) {
-    ShowWindow(ListView1_, SW_SHOWNA);
-  }
 }
 
 void frmMain::SyncListSelection() {

@@ -242,8 +242,10 @@ SIZE frmMain::SmallestSize() const {
 }
 
 void frmMain::ShowProgress(const LoadProgress& progress) {
-  SendMessageW(ProgressBar1_, PBM_SETRANGE32, 0, progress.Maximum());
-  SendMessageW(ProgressBar1_, PBM_SETPOS, static_cast<WPARAM>(progress.Value()), 0);
+  if (progress.Visible()) {
+    SendMessageW(ProgressBar1_, PBM_SETRANGE32, 0, progress.Maximum());
+    SendMessageW(ProgressBar1_, PBM_SETPOS, static_cast<WPARAM>(progress.Value()), 0);
+  }
   if ((IsWindowVisible(ProgressBar1_) != FALSE) != progress.Visible()) {
     ShowWindow(ProgressBar1_, progress.Visible() ? SW_SHOWNA : SW_HIDE);
     SetCursor(LoadCursorW(nullptr, progress.Visible() ? IDC_WAIT : IDC_ARROW));

@@ -20,9 +20,9 @@ void EndToEndTest::TearDown() {
   program_.reset();
 }
 
-void EndToEndTest::Start(const std::wstring& argument) {
+void EndToEndTest::Start(const std::wstring& argument, WORD showCommand) {
   window_.reset();
-  program_ = std::make_unique<Program>(folder_.Executable(), commanderPath_, argument);
+  program_ = std::make_unique<Program>(folder_.Executable(), commanderPath_, argument, showCommand);
   window_ = std::make_unique<MainWindow>(program_->WaitForWindow(), program_->Process());
 }
 

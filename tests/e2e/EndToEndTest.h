@@ -20,8 +20,8 @@ class EndToEndTest : public testing::Test {
   /// Keeps a screenshot of a failed test, and ends the program.
   void TearDown() override;
 
-  /// Starts the program in the folder, and waits for its window. `argument` as Program's.
-  void Start(const std::wstring& argument = {});
+  /// Starts the program in the folder, and waits for its window. The arguments are Program's.
+  void Start(const std::wstring& argument = {}, WORD showCommand = SW_SHOWNORMAL);
 
   /// The same, and waits until the list shows as many rows as the files have.
   void StartAndLoad();

@@ -57,12 +57,14 @@ std::vector<HWND> VisibleWindows(DWORD process, const std::wstring& className) {
 }
 
 Program::Program(const std::wstring& executable, const std::optional<std::wstring>& commanderPath,
-                 const std::wstring& argument) {
+                 const std::wstring& argument, WORD showCommand) {
   std::wstring environment = Environment(commanderPath);
   std::wstring commandLine = L'"' + executable + L'"' + (argument.empty() ? L"" : L" " + argument);
   const std::wstring folder = executable.substr(0, executable.rfind(L'\\'));
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESHOWWINDOW;
+  startup.wShowWindow = showCommand;
   PROCESS_INFORMATION started{};
   const auto start = [&] {
     return CreateProcessW(executable.c_str(), commandLine.data(), nullptr, nullptr, FALSE,

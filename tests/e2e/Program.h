@@ -19,9 +19,9 @@ class Program {
  public:
   /// Starts `executable` in its own folder with `commanderPath` as the environment variable
   /// `Commander_Path`; without it the variable is not set. `argument` is all that follows the
-  /// program's name on the command line.
+  /// program's name on the command line, `showCommand` how its window is to be shown.
   Program(const std::wstring& executable, const std::optional<std::wstring>& commanderPath,
-          const std::wstring& argument = {});
+          const std::wstring& argument = {}, WORD showCommand = SW_SHOWNORMAL);
 
   /// Ends the process, if a test left it running.
   ~Program();

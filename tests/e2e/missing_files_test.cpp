@@ -24,6 +24,7 @@ class MissingFilesTest : public EndToEndTest {
     const Box box = NextBox();
     EXPECT_EQ(Utf8(box.Text), text);
     EXPECT_EQ(box.Buttons, std::vector<int>{IDOK});
+    WaitFor("the list behind the box", [&] { return window_->Visible(IDC_ListView1); });
     Answer(box, IDOK);
     AnswerByKey(WaitForFileDialog(program_->Id()), VK_ESCAPE);
   }

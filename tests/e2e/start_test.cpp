@@ -2,6 +2,7 @@
 #include "app/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
+#include "tests/e2e/Input.h"
 #include "tests/e2e/Wait.h"
 
 namespace tessera::e2e {
@@ -13,7 +14,16 @@ TEST_F(StartTest, ListShowsEveryRowInFileOrderWithItsFourTexts) {
   const std::vector<RowTexts> expected = ExpectedRows(folder_);
   ASSERT_GT(expected.size(), 500U);
   StartAndLoad();
+  EXPECT_TRUE(window_->Visible(IDC_ListView1));
   EXPECT_TRUE(SameRows(window_->Rows(), expected));
+}
+
+TEST_F(StartTest, FilesAreLoadedOnceTheWindowIsActivated) {
+  Start({}, SW_SHOWNOACTIVATE);
+  WaitFor("the empty list", [&] { return window_->Visible(IDC_ListView1); });
+  EXPECT_EQ(window_->RowCount(), 0);
+  BringToFront(window_->Handle());
+  WaitFor("the rows", [&] { return window_->RowCount() > 0; });
 }
 
 TEST_F(StartTest, HeadersNameTheColumnsAndNoneIsSortedBy) {
