@@ -110,8 +110,8 @@ void Change60(benchmark::State& state) {
   Change<Engine>(state, 60);
 }
 
-/// The bytes are the document's own, as those of a file that was read. Its sections are found only
-/// when they are asked for, so they are.
+/// The bytes are shared, as those of a file that was read. Its sections are found only when they
+/// are asked for, so they are.
 void LoadIni(benchmark::State& state) {
   const IniSample& sample = SampleOf(state);
   const auto bytes = std::make_shared<const std::string>(sample.Bytes);

@@ -1,6 +1,6 @@
-// The smallest program with a window like that of the real one: its menu bar, its toolbars, an
-// empty list, its panel and its progress bar, in their styles and font, each made once and in its
-// place. It knows no language, settings, icons, keys or files.
+// The smallest program with a window like that of the real one: a menu bar, toolbars, an empty
+// list, a panel and a progress bar, with the styles and the font that they have there, each made
+// once and in its place. It knows no language, settings, pictures, keys or files.
 #include <windows.h>
 #include <commctrl.h>
 
@@ -11,7 +11,7 @@ constexpr int Height = 467;
 constexpr int ToolbarHeight = 30;
 constexpr int ListHeight = 340;
 constexpr int PanelHeight = 40;
-constexpr int Keys = 67;
+constexpr int MostButtons = 4;
 
 LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM first, LPARAM second) {
   if (message == WM_DESTROY) {
@@ -54,21 +54,21 @@ void AddToolbar(HWND parent, int buttons, int left, int width) {
   SendMessageW(toolbar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
   SendMessageW(toolbar, TB_SETEXTENDEDSTYLE, 0,
                TBSTYLE_EX_DRAWDDARROWS | TBSTYLE_EX_MIXEDBUTTONS | TBSTYLE_EX_DOUBLEBUFFER);
-  SendMessageW(toolbar, TB_LOADIMAGES, IDB_STD_SMALL_COLOR,
-               reinterpret_cast<LPARAM>(HINST_COMMCTRL));
+  TBBUTTON added[MostButtons]{};
   for (int button = 0; button < buttons; ++button) {
-    TBBUTTON added{};
-    added.iBitmap = button;
-    added.idCommand = button + 1;
-    added.fsState = TBSTATE_ENABLED;
-    added.fsStyle = BTNS_DROPDOWN;
-    SendMessageW(toolbar, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&added));
+    added[button].iBitmap = I_IMAGENONE;
+    added[button].idCommand = button + 1;
+    added[button].fsState = TBSTATE_ENABLED;
+    added[button].fsStyle = BTNS_DROPDOWN;
   }
+  SendMessageW(toolbar, TB_ADDBUTTONSW, static_cast<WPARAM>(buttons),
+               reinterpret_cast<LPARAM>(added));
 }
 
 void AddList(HWND window) {
-  const HWND list = Add(window, WC_LISTVIEWW, L"", WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA, 0,
-                        ToolbarHeight, Width, ListHeight);
+  const HWND list = Add(window, WC_LISTVIEWW, L"",
+                        WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS,
+                        0, ToolbarHeight, Width, ListHeight);
   ListView_SetExtendedListViewStyle(list, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
   for (int column = 0; column < 4; ++column) {
     wchar_t title[] = L"Column";
@@ -87,11 +87,7 @@ void AddPanel(HWND window) {
   for (int box = 0; box < 3; ++box) {
     Add(panel, WC_BUTTONW, L"Text", WS_VISIBLE | BS_AUTOCHECKBOX, 70 + 60 * box, 10, 50, 20);
   }
-  const HWND chooser =
-      Add(panel, WC_COMBOBOXW, L"", WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST, 260, 8, 150, 200);
-  for (int key = 0; key < Keys; ++key) {
-    SendMessageW(chooser, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"Key"));
-  }
+  Add(panel, WC_COMBOBOXW, L"", WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST, 260, 8, 150, 200);
   Add(panel, WC_BUTTONW, L"", WS_VISIBLE | BS_PUSHBUTTON, 420, 8, 20, 20);
   AddToolbar(panel, 2, 460, 100);
 }

@@ -83,9 +83,9 @@ int wmain(int argc, wchar_t** argv) {
       KeepLeast(smallest, StartOnce(argv[2], argv[3], 0));
       KeepLeast(program, StartOnce(argv[1], argv[3], Rows));
     }
-    PrintRatio(std::cout, "start to the filled list, against the smallest program",
+    PrintRatio(std::cout, "start to the filled list, against the smallest program like it",
                program.Seconds / smallest.Seconds, 1.3);
-    PrintRatio(std::cout, "private memory with 600 rows, against the smallest program",
+    PrintRatio(std::cout, "private memory with 600 rows, against the same program",
                program.PrivateBytes / smallest.PrivateBytes, 1.5);
     PrintRatio(std::cout, "size of the program, against 1.5 MB",
                static_cast<double>(std::filesystem::file_size(argv[1])) / LargestSize, 1);
