@@ -14,6 +14,8 @@ TEST(HeaderName, IsWhatStandsBetweenTheBracketsOnOneLine) {
     std::string_view Name;
   };
   for (const auto& [text, name] : {Case{"[a]"sv, "a"sv},
+                                   {""sv, ""sv},
+                                   {" \t"sv, ""sv},
                                    {"[a]b]\r\nc=1"sv, "a"sv},
                                    {" \t[ a b\t] c"sv, "a b"sv},
                                    {"[a"sv, "a"sv},
