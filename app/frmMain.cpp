@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/resource.h"
+#include "platform/win32/DroppedFile.h"
 
 namespace tessera {
 
@@ -101,7 +102,7 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NOTIFY:
       return OnNotify(*reinterpret_cast<NMHDR*>(lParam), lParam);
     case WM_DROPFILES:
-      OnDropFiles(reinterpret_cast<HDROP>(wParam));
+      OnDropFile(TakeDroppedFile(reinterpret_cast<HDROP>(wParam)));
       return 0;
     case WM_MOVE:
       MoveKeysList();
@@ -245,10 +246,7 @@ void frmMain::Form_Unload() {
   PostQuitMessage(0);
 }
 
-void frmMain::OnDropFiles(HDROP drop) {
-  std::wstring path(DragQueryFileW(drop, 0, nullptr, 0) + std::size_t{1}, L'\0');
-  path.resize(DragQueryFileW(drop, 0, path.data(), static_cast<UINT>(path.size())));
-  DragFinish(drop);
+void frmMain::OnDropFile(const std::wstring& path) {
   if (AcceptsInput() && !path.empty()) {
     SetForegroundWindow(window_);
     editor_.OpenFile(path);

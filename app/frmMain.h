@@ -46,7 +46,7 @@ class frmMain {
   void Form_QueryUnload();
   bool MayClose();
   void Form_Unload();
-  void OnDropFiles(HDROP drop);
+  void OnDropFile(const std::wstring& path);
   void ForwardToControls(UINT message, WPARAM wParam, LPARAM lParam) const;
   bool AcceptsInput() const;
 

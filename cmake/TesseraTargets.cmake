@@ -13,8 +13,7 @@ if(WIN32)
     UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00)
   # Sections lie in the file as in memory: a loader can map them, and needs to copy none.
   target_link_options(tessera_options INTERFACE -static -Wl,--file-alignment=4096)
-  target_link_libraries(tessera_options INTERFACE
-    comctl32 advapi32 shell32 ole32 uuid uxtheme)
+  target_link_libraries(tessera_options INTERFACE comctl32 advapi32 uxtheme)
 endif()
 
 option(TESSERA_SANITIZE "Address and undefined-behaviour sanitizers" OFF)

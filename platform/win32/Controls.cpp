@@ -3,6 +3,8 @@
 
 #include <oleacc.h>
 
+#include "platform/win32/Components.h"
+
 namespace tessera {
 
 namespace {
@@ -51,9 +53,9 @@ void SetText(HWND window, const std::wstring& text) {
 }
 
 void SetAccessibleName(HWND control, const std::wstring& name) {
-  IAccPropServices* services = nullptr;
-  if (FAILED(CoCreateInstance(AccessibleProperties, nullptr, CLSCTX_INPROC_SERVER,
-                              AccessibleInterface, reinterpret_cast<void**>(&services)))) {
+  auto* const services =
+      static_cast<IAccPropServices*>(CreateComponent(AccessibleProperties, AccessibleInterface));
+  if (services == nullptr) {
     return;
   }
   services->SetHwndPropStr(control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, AccessibleName,

@@ -7,6 +7,9 @@
 #include <memory>
 #include <type_traits>
 
+#include "platform/win32/Components.h"
+#include "platform/win32/SystemFunction.h"
+
 namespace tessera {
 namespace {
 
@@ -17,14 +20,11 @@ constexpr int TenthsOfPointPerInch = 720;
 constexpr DWORD FileFlags =
     OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
 
-/// Shows a dialog of the system; false when it is cancelled or there is none. The library of the
-/// dialogs brings others along: loaded with the program, it would delay its start and fill memory.
+/// Shows a dialog of the system; false when it is cancelled or there is none.
 template <typename Dialog>
 bool Show(const char* function, Dialog& dialog) {
-  const HMODULE library = LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  if (library == nullptr) return false;
-  const auto show = reinterpret_cast<BOOL(WINAPI*)(Dialog*)>(
-      reinterpret_cast<void*>(GetProcAddress(library, function)));
+  StartComponents();
+  auto* const show = SystemFunction<BOOL WINAPI(Dialog*)>(L"comdlg32.dll", function);
   return show != nullptr && show(&dialog) != FALSE;
 }
 

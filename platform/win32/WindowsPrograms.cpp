@@ -7,7 +7,9 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/win32/Components.h"
 #include "platform/win32/Handle.h"
+#include "platform/win32/SystemFunction.h"
 
 namespace tessera {
 namespace {
@@ -73,8 +75,11 @@ bool WindowsPrograms::Start(const std::wstring& commandLine) {
 }
 
 bool WindowsPrograms::OpenDocument(const std::wstring& path) {
+  StartComponents();
+  auto* const execute = SystemFunction<decltype(ShellExecuteW)>(L"shell32.dll", "ShellExecuteW");
+  if (execute == nullptr) return false;
   const HINSTANCE result =
-      ShellExecuteW(owner_.Current(), L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+      execute(owner_.Current(), L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
   return reinterpret_cast<std::intptr_t>(result) > LargestShellExecuteError;
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Checks that a folder holds what a user unzips and no more, that the program needs no run-time
-# library beyond Windows, and that the help file is whole. Usage: check_dist.sh FOLDER. One line
-# "ok ..." or "not ok ..." per check. Run at the root of the repository.
+# library beyond Windows and imports none that can wait, and that the help file is whole. Usage:
+# check_dist.sh FOLDER. One line "ok ..." or "not ok ..." per check. Run at the root of the repository.
 set -uo pipefail
 
 shipped=("Data Files" Languages README.txt Readme.chm tessera.exe)
@@ -37,6 +37,10 @@ missing_pages() {
 # An import of a library that Windows does not bring along, in what objdump prints; none is success.
 stands_alone() { grep -q 'DLL Name' <<<"$1" && ! grep -E "DLL Name: .*($not_of_windows)" <<<"$1"; }
 
+# An import of a library that is to be loaded when it is first used: at the start it and what it brings
+# along cost time. None is success.
+imports_late() { ! grep -iE 'DLL Name: (comdlg32|ole32|shell32)\.dll' <<<"$1"; }
+
 folder=$1
 imports=$(x86_64-w64-mingw32-objdump -p "$folder/tessera.exe")
 found=$(strangers "$folder")
@@ -47,6 +51,7 @@ pages=$(chmls list "$folder/Readme.chm" 2>/dev/null)
 found=$(missing_pages "$pages")
 [[ -n $pages && -z $found ]]; says $? "Readme.chm holds all of the help${found:+, but for $found}"
 stands_alone "$imports"; says $? "tessera.exe needs no library beyond Windows"
+imports_late "$imports"; says $? "tessera.exe imports no library that it loads when it is first used"
 
 sample=$(mktemp -d)
 trap 'rm -rf "$sample"' EXIT
@@ -57,3 +62,4 @@ touch "$sample/README.txt"
 [[ -n $(missing_pages "${pages//index.html/}") ]]; says $? "a missing page is found"
 ! stands_alone "$imports
 DLL Name: libstdc++-6.dll" >/dev/null; says $? "a missing library is found"
+! imports_late "DLL Name: SHELL32.dll" >/dev/null; says $? "a library that is loaded too early is found"

@@ -1,0 +1,18 @@
+// Functions of system libraries that the start of the program does not need.
+#pragma once
+
+#include <windows.h>
+
+namespace tessera {
+
+/// A function that a library of the system exports under that name; null when there is none. The
+/// library is loaded for it now: imported, it would be loaded with the program, and bring others
+/// along that delay its start and fill memory.
+template <typename Function>
+[[nodiscard]] Function* SystemFunction(const wchar_t* library, const char* name) {
+  const HMODULE loaded = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (loaded == nullptr) return nullptr;
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(loaded, name)));
+}
+
+}  // namespace tessera
