@@ -132,6 +132,7 @@ class frmMain {
   int dpi_ = 96;
   HWND window_ = nullptr;
   HWND Toolbar1_ = nullptr;
+  HWND lblListView1_ = nullptr;
   HWND ListView1_ = nullptr;
   HWND Frame1_ = nullptr;
   HWND lblHotkey_ = nullptr;

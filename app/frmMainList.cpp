@@ -60,6 +60,8 @@ LOGFONTW FontOf(const Settings& settings, int dpi) {
 }  // namespace
 
 void frmMain::CreateCommandList() {
+  // Hidden: it is for screen readers, which call the list by it.
+  lblListView1_ = CreateControl(window_, WC_STATICW, 0, 0, IDC_lblListView1);
   ListView1_ = CreateControl(window_, WC_LISTVIEWW,
                              WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
                                  LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
@@ -79,7 +81,7 @@ void frmMain::CreateCommandList() {
 }
 
 void frmMain::LabelColumns() {
-  SetAccessibleName(ListView1_, editor_.Language().GetLangText(CommandTextId));
+  SetText(lblListView1_, editor_.Language().GetLangText(CommandTextId));
   for (std::size_t column = 0; column < ColumnTextIds.size(); ++column) {
     std::wstring text = editor_.Language().GetLangText(ColumnTextIds[column]);
     LVCOLUMNW label{};

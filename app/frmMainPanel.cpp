@@ -47,11 +47,13 @@ void frmMain::CreatePanel() {
   Frame1_ = CreateControl(window_, WC_STATICW, WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
                           IDC_Frame1);
   SetWindowSubclass(Frame1_, FrameProcedure, FrameSubclass, 0);
-  lblHotkey_ = CreateControl(Frame1_, WC_STATICW, WS_VISIBLE, 0, IDC_lblHotkey);
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
-    chkCtrlAlt_[box] = CreateControl(Frame1_, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX,
-                                     0, BoxIds[box]);
+    const DWORD group = box == 0 ? WS_GROUP : 0;
+    chkCtrlAlt_[box] = CreateControl(
+        Frame1_, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX | group, 0, BoxIds[box]);
   }
+  // Screen readers call a control without a text of its own by the label before it.
+  lblHotkey_ = CreateControl(Frame1_, WC_STATICW, WS_VISIBLE | WS_GROUP, 0, IDC_lblHotkey);
   Combo1_ = CreateControl(Frame1_, WC_COMBOBOXW,
                           WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, 0, IDC_Combo1);
   for (const std::wstring_view key : KeyVocabulary()) {
@@ -69,7 +71,6 @@ void frmMain::LabelPanel() {
     SetText(chkCtrlAlt_[box], texts.GetLangText(BoxTextIds[box]));
   }
   const std::wstring name = WithoutMnemonic(texts.GetLangText(400));
-  SetAccessibleName(Combo1_, name);
   SetText(cmdAllList_, name);
   frmKeysList_.SetName(name);
 }

@@ -13,6 +13,7 @@
 #define IDC_cmdAllList 1009
 #define IDC_Toolbar2 1010
 #define IDC_ProgressBar1 1011
+#define IDC_lblListView1 1012
 
 // The keys list
 #define IDC_List1 1021

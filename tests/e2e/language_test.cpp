@@ -183,6 +183,21 @@ TEST_F(LanguageTest, DirectionAloneKeepsTheEnglishTexts) {
   ExpectDirection(true);
 }
 
+// Screen readers call a control without a text of its own by the label before it.
+TEST_F(LanguageTest, LabelsStandDirectlyBeforeListAndChooser) {
+  StartAndLoad();
+  const auto expectLabel = [&](int label, int control, const wchar_t* text) {
+    EXPECT_EQ(GetWindow(window_->Control(control), GW_HWNDPREV), window_->Control(label)) << label;
+    EXPECT_EQ(window_->ControlText(label), text);
+  };
+  expectLabel(IDC_lblListView1, IDC_ListView1, L"Command");
+  expectLabel(IDC_lblHotkey, IDC_Combo1, L"Hotkey:");
+  ChooseLanguageFile(Shipped(L"German.lng"));
+  ExpectGermanWindow();
+  expectLabel(IDC_lblListView1, IDC_ListView1, L"Befehl");
+  expectLabel(IDC_lblHotkey, IDC_Combo1, L"Tastenk\u00FCrzel:");
+}
+
 TEST_F(LanguageTest, EnglishReadsFromTheLeft) {
   StartAndLoad();
   ExpectDirection(false);
