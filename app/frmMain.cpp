@@ -44,19 +44,11 @@ frmMain::~frmMain() { windowsSystem_.SetMessageFilter(nullptr); }
 
 bool frmMain::Form_Load(std::wstring fileToOpen) {
   editor_.Load(std::move(fileToOpen));
-  const HINSTANCE instance = GetModuleHandleW(nullptr);
-  WNDCLASSEXW windowClass{};
-  windowClass.cbSize = sizeof windowClass;
-  windowClass.lpfnWndProc = WindowProcedure;
-  windowClass.hInstance = instance;
-  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  windowClass.lpszClassName = WindowClass;
-  RegisterClassExW(&windowClass);
+  RegisterWindowClass(WindowClass, WindowProcedure);
   const DWORD direction = editor_.Language().RightToLeft() ? WS_EX_LAYOUTRTL : 0;
   CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES | direction, WindowClass,
                   editor_.Caption().c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
-                  CW_USEDEFAULT, 0, 0, nullptr, nullptr, instance, this);
+                  CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) {
     return false;
   }

@@ -11,26 +11,18 @@ namespace {
 
 constexpr int BoxIds[] = {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2};
 constexpr int BoxTextIds[] = {401, 402, 403};
-constexpr UINT_PTR FrameSubclass = 1;
+constexpr wchar_t FrameClass[] = L"Frame1";
 
 /// The panel's controls speak to the main window.
-LRESULT CALLBACK FrameProcedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam,
-                                UINT_PTR /*id*/, DWORD_PTR /*data*/) {
+LRESULT CALLBACK FrameProcedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
     case WM_NOTIFY:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
       return SendMessageW(GetParent(frame), message, wParam, lParam);
-    case WM_ERASEBKGND: {
-      // The toolbar in it asks for this too, in a device context of its own: it has no background.
-      RECT inside{};
-      GetClipBox(reinterpret_cast<HDC>(wParam), &inside);
-      FillRect(reinterpret_cast<HDC>(wParam), &inside, GetSysColorBrush(COLOR_BTNFACE));
-      return TRUE;
-    }
     default:
-      return DefSubclassProc(frame, message, wParam, lParam);
+      return DefWindowProcW(frame, message, wParam, lParam);
   }
 }
 
@@ -44,9 +36,9 @@ bool IsKeyMessage(UINT message) {
 }  // namespace
 
 void frmMain::CreatePanel() {
-  Frame1_ = CreateControl(window_, WC_STATICW, WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
+  RegisterWindowClass(FrameClass, FrameProcedure);
+  Frame1_ = CreateControl(window_, FrameClass, WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
                           IDC_Frame1);
-  SetWindowSubclass(Frame1_, FrameProcedure, FrameSubclass, 0);
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
     const DWORD group = box == 0 ? WS_GROUP : 0;
     chkCtrlAlt_[box] = CreateControl(

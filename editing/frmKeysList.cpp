@@ -30,18 +30,9 @@ frmKeysList::~frmKeysList() {
 }
 
 void frmKeysList::Create(HWND owner) {
-  const HINSTANCE instance = GetModuleHandleW(nullptr);
-  WNDCLASSEXW windowClass{};
-  windowClass.cbSize = sizeof windowClass;
-  windowClass.style = CS_DROPSHADOW;
-  windowClass.lpfnWndProc = WindowProcedure;
-  windowClass.hInstance = instance;
-  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  windowClass.lpszClassName = WindowClass;
-  RegisterClassExW(&windowClass);
+  RegisterWindowClass(WindowClass, WindowProcedure, CS_DROPSHADOW);
   window_ = CreateWindowExW(WS_EX_TOOLWINDOW, WindowClass, L"", WS_POPUP | WS_BORDER, 0, 0, 0, 0,
-                            owner, nullptr, instance, nullptr);
+                            owner, nullptr, GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   List1_ = CreateControl(window_, WC_LISTBOXW,
                          WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,

@@ -19,6 +19,18 @@ constexpr GUID AccessibleName{
 
 }  // namespace
 
+void RegisterWindowClass(const wchar_t* name, WNDPROC procedure, UINT style) {
+  WNDCLASSEXW windowClass{};
+  windowClass.cbSize = sizeof windowClass;
+  windowClass.style = style;
+  windowClass.lpfnWndProc = procedure;
+  windowClass.hInstance = GetModuleHandleW(nullptr);
+  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  windowClass.lpszClassName = name;
+  RegisterClassExW(&windowClass);
+}
+
 LOGFONTW MessageFont(int dpi, int characterSet) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;

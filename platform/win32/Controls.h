@@ -26,6 +26,10 @@ struct ObjectReleaser {
 template <typename Object>
 using Unique = std::unique_ptr<std::remove_pointer_t<Object>, ObjectReleaser>;
 
+/// Registers a class of windows on the colour of buttons, under the arrow pointer. `style` has the
+/// CS_ bits of the class. A class that exists stays as it is.
+void RegisterWindowClass(const wchar_t* name, WNDPROC procedure, UINT style = 0);
+
 /// The font that the system uses for messages, at that resolution and in that character set.
 [[nodiscard]] LOGFONTW MessageFont(int dpi, int characterSet);
 
@@ -39,7 +43,7 @@ HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD ext
 /// Does nothing when it is so already.
 void SetText(HWND window, const std::wstring& text);
 
-/// What a screen reader calls a control that shows no text of its own.
+/// What a screen reader calls a control that has neither a text of its own nor a label before it.
 void SetAccessibleName(HWND control, const std::wstring& name);
 
 /// Does nothing when it is so already: no flicker, no lost focus.
