@@ -135,8 +135,8 @@ class frmMain {
   HWND lblListView1_ = nullptr;
   HWND ListView1_ = nullptr;
   HWND Frame1_ = nullptr;
-  HWND lblHotkey_ = nullptr;
   std::array<HWND, 3> chkCtrlAlt_{};
+  HWND lblHotkey_ = nullptr;
   HWND Combo1_ = nullptr;
   HWND cmdAllList_ = nullptr;
   HWND Toolbar2_ = nullptr;

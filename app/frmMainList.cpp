@@ -60,7 +60,7 @@ LOGFONTW FontOf(const Settings& settings, int dpi) {
 }  // namespace
 
 void frmMain::CreateCommandList() {
-  // Hidden: it is for screen readers, which call the list by it.
+  // For screen readers, which call a control by the label before it, a hidden one too.
   lblListView1_ = CreateControl(window_, WC_STATICW, 0, 0, IDC_lblListView1);
   ListView1_ = CreateControl(window_, WC_LISTVIEWW,
                              WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int BoxIds[] = {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2};
 constexpr int BoxTextIds[] = {401, 402, 403};
-constexpr wchar_t FrameClass[] = L"Frame1";
+constexpr wchar_t FrameClass[] = L"frmMain.Frame1";
 
 /// The panel's controls speak to the main window.
 LRESULT CALLBACK FrameProcedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -40,6 +40,7 @@ void frmMain::CreatePanel() {
   Frame1_ = CreateControl(window_, FrameClass, WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
                           IDC_Frame1);
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
+    // Arrow keys stay within a group.
     const DWORD group = box == 0 ? WS_GROUP : 0;
     chkCtrlAlt_[box] = CreateControl(
         Frame1_, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX | group, 0, BoxIds[box]);

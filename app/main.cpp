@@ -9,7 +9,8 @@
 
 namespace {
 
-/// The first argument of the command line as a full path; empty without one.
+/// The first argument of the command line as a full path; empty without one. The run-time library
+/// has split the line: the system's function for that is in shell32, which the start does without.
 std::wstring FileToOpen() {
   if (__argc < 2 || *__wargv[1] == L'\0') {
     return {};

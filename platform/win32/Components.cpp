@@ -1,4 +1,4 @@
-// Their library is loaded when they are started.
+// Starts COM and makes components; ole32 is loaded at the first of either.
 #include "platform/win32/Components.h"
 
 #include <objbase.h>
@@ -17,24 +17,25 @@ class ComponentsOfThread {
  public:
   ComponentsOfThread() {
     auto* const start = ComponentFunction<decltype(CoInitializeEx)>("CoInitializeEx");
-    started_ = start != nullptr && SUCCEEDED(start(nullptr, COINIT_APARTMENTTHREADED));
+    if (start != nullptr && SUCCEEDED(start(nullptr, COINIT_APARTMENTTHREADED))) {
+      end_ = ComponentFunction<decltype(CoUninitialize)>("CoUninitialize");
+    }
   }
   ~ComponentsOfThread() {
-    auto* const end = ComponentFunction<decltype(CoUninitialize)>("CoUninitialize");
-    if (started_ && end != nullptr) end();
+    if (end_ != nullptr) end_();
   }
   ComponentsOfThread(const ComponentsOfThread&) = delete;
   ComponentsOfThread& operator=(const ComponentsOfThread&) = delete;
 
  private:
-  bool started_ = false;
+  decltype(CoUninitialize)* end_ = nullptr;
 };
 
 }  // namespace
 
 void StartComponents() { static const ComponentsOfThread components; }
 
-void* CreateComponent(const GUID& classId, const GUID& interfaceId) {
+UniqueComponent CreateComponent(const GUID& classId, const GUID& interfaceId) {
   StartComponents();
   auto* const create = ComponentFunction<decltype(CoCreateInstance)>("CoCreateInstance");
   void* component = nullptr;
@@ -42,7 +43,7 @@ void* CreateComponent(const GUID& classId, const GUID& interfaceId) {
       FAILED(create(classId, nullptr, CLSCTX_INPROC_SERVER, interfaceId, &component))) {
     return nullptr;
   }
-  return component;
+  return UniqueComponent(static_cast<IUnknown*>(component));
 }
 
 }  // namespace tessera

@@ -2,15 +2,23 @@
 #pragma once
 
 #include <windows.h>
+#include <unknwn.h>
+
+#include <memory>
 
 namespace tessera {
+
+struct ComponentReleaser {
+  void operator()(IUnknown* component) const noexcept { component->Release(); }
+};
+
+using UniqueComponent = std::unique_ptr<IUnknown, ComponentReleaser>;
 
 /// To be called before anything of the system that uses components, as its dialogs do. They are
 /// started at the first call, so as not to delay the start of the program, and stay until its end.
 void StartComponents();
 
-/// An interface of a new component in this process, for the caller to release; null when there is
-/// no such component.
-[[nodiscard]] void* CreateComponent(const GUID& classId, const GUID& interfaceId);
+/// That interface of a new component in this process; null when there is no such component.
+[[nodiscard]] UniqueComponent CreateComponent(const GUID& classId, const GUID& interfaceId);
 
 }  // namespace tessera

@@ -65,14 +65,12 @@ void SetText(HWND window, const std::wstring& text) {
 }
 
 void SetAccessibleName(HWND control, const std::wstring& name) {
-  auto* const services =
-      static_cast<IAccPropServices*>(CreateComponent(AccessibleProperties, AccessibleInterface));
+  const UniqueComponent services = CreateComponent(AccessibleProperties, AccessibleInterface);
   if (services == nullptr) {
     return;
   }
-  services->SetHwndPropStr(control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, AccessibleName,
-                           name.c_str());
-  services->Release();
+  static_cast<IAccPropServices&>(*services).SetHwndPropStr(
+      control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, AccessibleName, name.c_str());
 }
 
 void SetEnabled(HWND control, bool enabled) {

@@ -43,7 +43,8 @@ HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD ext
 /// Does nothing when it is so already.
 void SetText(HWND window, const std::wstring& text);
 
-/// What a screen reader calls a control that has neither a text of its own nor a label before it.
+/// What a screen reader calls a control, in place of its text. This starts components: where a
+/// label before the control will do, hidden or not, prefer that.
 void SetAccessibleName(HWND control, const std::wstring& name);
 
 /// Does nothing when it is so already: no flicker, no lost focus.

@@ -6,12 +6,13 @@
 namespace tessera {
 
 /// A function that a library of the system exports under that name; null when there is none. The
-/// library is loaded for it now: imported, it would be loaded with the program, and bring others
-/// along that delay its start and fill memory.
+/// library is loaded for it now, and stays: imported, it would be loaded with the program, and
+/// bring others along that delay its start and fill memory.
 template <typename Function>
 [[nodiscard]] Function* SystemFunction(const wchar_t* library, const char* name) {
   const HMODULE loaded = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
   if (loaded == nullptr) return nullptr;
+  // Not cast directly: the compiler warns of that between types of functions.
   return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(loaded, name)));
 }
 

@@ -37,9 +37,9 @@ missing_pages() {
 # An import of a library that Windows does not bring along, in what objdump prints; none is success.
 stands_alone() { grep -q 'DLL Name' <<<"$1" && ! grep -E "DLL Name: .*($not_of_windows)" <<<"$1"; }
 
-# An import of a library that is to be loaded when it is first used: at the start it and what it brings
-# along cost time. None is success.
-imports_late() { ! grep -iE 'DLL Name: (comdlg32|ole32|shell32)\.dll' <<<"$1"; }
+# An import of a library that is to be loaded at its first use only, since it and what it brings along
+# would delay the start; none is success.
+imports_nothing_early() { ! grep -iE 'DLL Name: (comdlg32|ole32|shell32)\.dll' <<<"$1"; }
 
 folder=$1
 imports=$(x86_64-w64-mingw32-objdump -p "$folder/tessera.exe")
@@ -51,7 +51,8 @@ pages=$(chmls list "$folder/Readme.chm" 2>/dev/null)
 found=$(missing_pages "$pages")
 [[ -n $pages && -z $found ]]; says $? "Readme.chm holds all of the help${found:+, but for $found}"
 stands_alone "$imports"; says $? "tessera.exe needs no library beyond Windows"
-imports_late "$imports"; says $? "tessera.exe imports no library that it loads when it is first used"
+imports_nothing_early "$imports"; says $? "tessera.exe imports no library for its first use only"
+grep -q 'FileAlignment.*00001000' <<<"$imports"; says $? "tessera.exe can be mapped as it is"
 
 sample=$(mktemp -d)
 trap 'rm -rf "$sample"' EXIT
@@ -62,4 +63,4 @@ touch "$sample/README.txt"
 [[ -n $(missing_pages "${pages//index.html/}") ]]; says $? "a missing page is found"
 ! stands_alone "$imports
 DLL Name: libstdc++-6.dll" >/dev/null; says $? "a missing library is found"
-! imports_late "DLL Name: SHELL32.dll" >/dev/null; says $? "a library that is loaded too early is found"
+! imports_nothing_early "DLL Name: SHELL32.dll" >/dev/null; says $? "an early import is found"

@@ -189,7 +189,9 @@ TEST_F(LanguageTest, LabelsStandDirectlyBeforeListAndChooser) {
   const auto expectLabel = [&](int label, int control, const wchar_t* text) {
     EXPECT_EQ(GetWindow(window_->Control(control), GW_HWNDPREV), window_->Control(label)) << label;
     EXPECT_EQ(window_->ControlText(label), text);
+    EXPECT_NE(Send(window_->Control(label), WM_GETDLGCODE) & DLGC_STATIC, 0);
   };
+  EXPECT_FALSE(window_->Visible(IDC_lblListView1));
   expectLabel(IDC_lblListView1, IDC_ListView1, L"Command");
   expectLabel(IDC_lblHotkey, IDC_Combo1, L"Hotkey:");
   ChooseLanguageFile(Shipped(L"German.lng"));
