@@ -33,18 +33,6 @@ const ControlClass& ClassOf(ControlKind kind) {
   return *std::ranges::find(Classes, kind, &ControlClass::Kind);
 }
 
-/// The window procedure of dialogs, under a class name of our own.
-void RegisterDialogClass(const wchar_t* name) {
-  WNDCLASSEXW dialogClass{};
-  dialogClass.cbSize = sizeof dialogClass;
-  dialogClass.lpfnWndProc = DefDlgProcW;
-  dialogClass.cbWndExtra = DLGWINDOWEXTRA;
-  dialogClass.hInstance = GetModuleHandleW(nullptr);
-  dialogClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  dialogClass.lpszClassName = name;
-  RegisterClassExW(&dialogClass);
-}
-
 /// A dialog without controls, as a resource would hold it.
 std::vector<WORD> EmptyTemplate(const wchar_t* className) {
   constexpr DWORD Style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
@@ -67,7 +55,8 @@ frmDialog::frmDialog(const DialogPlan& plan, const Texts& texts, const Settings&
     : plan_(plan), texts_(texts), settings_(settings) {}
 
 void frmDialog::ShowModal(HWND owner) {
-  RegisterDialogClass(plan_.ClassName);
+  // The window procedure of dialogs, under a class name of our own.
+  RegisterWindowClass(plan_.ClassName, DefDlgProcW, 0, DLGWINDOWEXTRA);
   const std::vector<WORD> empty = EmptyTemplate(plan_.ClassName);
   DialogBoxIndirectParamW(GetModuleHandleW(nullptr),
                           reinterpret_cast<const DLGTEMPLATE*>(empty.data()), owner,

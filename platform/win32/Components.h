@@ -18,7 +18,7 @@ using UniqueComponent = std::unique_ptr<IUnknown, ComponentReleaser>;
 /// started at the first call, so as not to delay the start of the program, and stay until its end.
 void StartComponents();
 
-/// That interface of a new component in this process; null when there is no such component.
+/// A new component in this process, by its interface of that ID; null when there is no such one.
 [[nodiscard]] UniqueComponent CreateComponent(const GUID& classId, const GUID& interfaceId);
 
 }  // namespace tessera

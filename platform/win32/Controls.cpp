@@ -19,11 +19,12 @@ constexpr GUID AccessibleName{
 
 }  // namespace
 
-void RegisterWindowClass(const wchar_t* name, WNDPROC procedure, UINT style) {
+void RegisterWindowClass(const wchar_t* name, WNDPROC procedure, UINT style, int extraBytes) {
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof windowClass;
   windowClass.style = style;
   windowClass.lpfnWndProc = procedure;
+  windowClass.cbWndExtra = extraBytes;
   windowClass.hInstance = GetModuleHandleW(nullptr);
   windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);

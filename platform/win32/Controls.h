@@ -27,8 +27,9 @@ template <typename Object>
 using Unique = std::unique_ptr<std::remove_pointer_t<Object>, ObjectReleaser>;
 
 /// Registers a class of windows on the colour of buttons, under the arrow pointer. `style` has the
-/// CS_ bits of the class. A class that exists stays as it is.
-void RegisterWindowClass(const wchar_t* name, WNDPROC procedure, UINT style = 0);
+/// CS_ bits of the class; each window gets `extraBytes` more. A class that exists stays as it is.
+void RegisterWindowClass(const wchar_t* name, WNDPROC procedure, UINT style = 0,
+                         int extraBytes = 0);
 
 /// The font that the system uses for messages, at that resolution and in that character set.
 [[nodiscard]] LOGFONTW MessageFont(int dpi, int characterSet);
