@@ -226,7 +226,7 @@ void IniDocument::Divide() const {
   if (!sections_.empty()) return;
   const std::string_view text = *content_;
   const std::size_t firstLine = encoding_ == Encoding::Ansi ? 0 : Utf8Mark.size();
-  sections_.reserve(64);  // few files of file managers have more
+  sections_.reserve(32);  // about as many as the files of a file manager have
   std::size_t begin = 0;
   for (std::size_t bracket = text.find('['); bracket != std::string_view::npos;
        bracket = text.find('[', bracket + 1)) {
