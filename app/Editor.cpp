@@ -6,12 +6,15 @@
 
 #include "app/BusyTime.h"
 #include "localisation/TextTable.h"
+#include "settings/commander/LocateTotalCommander.h"
 #include "settings/cProfile.h"
-#include "settings/LocateTotalCommander.h"
+#include "settings/ini/MissingMarker.h"
 #include "settings/Paths.h"
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/InternalCommands.h"
 #include "shortcuts/WincmdIni.h"
+#include "text/Numbers.h"
+#include "text/Trim.h"
 
 namespace tessera {
 
@@ -214,7 +217,7 @@ void Editor::ApplyLanguage() {
 void Editor::ReadModifierNames() {
   // A blank name would be found in every key, and a save would then give it all modifiers.
   const auto nameOf = [this](int textId) {
-    const std::wstring name(TrimBlanks(texts_.GetLangText(textId)));
+    const std::wstring name(TrimSpaces(texts_.GetLangText(textId)));
     return name.empty() ? std::wstring(BuiltInTextOf(textId)) : name;
   };
   notation_.CtrlName = nameOf(404);

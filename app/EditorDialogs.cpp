@@ -1,7 +1,8 @@
 // The recent files, the help, and what happens around the dialogs.
 #include "app/Editor.h"
+#include "settings/ini/MissingMarker.h"
+#include "settings/ini/ReplaceContent.h"
 #include "settings/Paths.h"
-#include "settings/ReplaceContent.h"
 
 namespace tessera {
 

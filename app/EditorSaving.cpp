@@ -1,7 +1,7 @@
 // Unsaved changes: saving them, around a restart of Total Commander, and asking about them.
 #include "app/BusyTime.h"
 #include "app/Editor.h"
-#include "settings/RestartTotalCommander.h"
+#include "settings/commander/RestartTotalCommander.h"
 #include "shortcuts/SaveShortcuts.h"
 
 namespace tessera {

@@ -1,7 +1,7 @@
 // The search goes once round the list.
 #include "app/FindRow.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessera {
 

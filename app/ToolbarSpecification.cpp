@@ -1,7 +1,7 @@
 // Splitting the toolbar's text.
 #include "app/ToolbarSpecification.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessera {
 

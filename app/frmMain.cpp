@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/resource.h"
 #include "platform/win32/DroppedFile.h"
+#include "resources/resource.h"
 
 namespace tessera {
 

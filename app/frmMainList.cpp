@@ -3,10 +3,10 @@
 
 #include "app/FindRow.h"
 #include "app/frmMain.h"
-#include "app/resource.h"
 #include "dialogs/cFontDlg.h"
 #include "platform/win32/Icons.h"
 #include "resources/icons.h"
+#include "resources/resource.h"
 
 namespace tessera {
 

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "app/frmMain.h"
-#include "app/resource.h"
 #include "platform/win32/Icons.h"
 #include "resources/icons.h"
+#include "resources/resource.h"
 
 namespace tessera {
 

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "app/frmMain.h"
-#include "app/resource.h"
+#include "resources/resource.h"
 
 namespace tessera {
 

@@ -2,8 +2,8 @@
 #include <algorithm>
 
 #include "app/frmMain.h"
-#include "app/resource.h"
 #include "localisation/Mnemonic.h"
+#include "resources/resource.h"
 
 namespace tessera {
 

@@ -3,11 +3,11 @@
 #include <vector>
 
 #include "app/frmMain.h"
-#include "app/resource.h"
 #include "app/ToolbarSpecification.h"
 #include "localisation/Mnemonic.h"
 #include "platform/win32/Icons.h"
 #include "resources/icons.h"
+#include "resources/resource.h"
 
 namespace tessera {
 

@@ -8,8 +8,8 @@
 #include "benchmarks/Tables.h"
 #include "export/ClipboardTable.h"
 #include "localisation/Texts.h"
-#include "platform/Text.h"
 #include "tests/unit/kept.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "benchmarks/IniSample.h"
 #include "benchmarks/Tables.h"
-#include "settings/IniDocument.h"
+#include "settings/ini/IniDocument.h"
 
 namespace tessera {
 namespace {

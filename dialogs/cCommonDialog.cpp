@@ -3,8 +3,8 @@
 
 #include <utility>
 
+#include "settings/ini/MissingMarker.h"
 #include "settings/Paths.h"
-#include "settings/ProfileFile.h"
 
 namespace tessera {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "settings/ProfileFile.h"
+#include "text/Numbers.h"
 
 namespace tessera {
 namespace {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "shortcuts/HotkeyNotation.h"
+#include "text/Numbers.h"
 
 namespace tessera {
 

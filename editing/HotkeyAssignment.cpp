@@ -3,7 +3,7 @@
 
 #include "editing/KeyConflicts.h"
 #include "editing/KeyEdits.h"
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessera {
 

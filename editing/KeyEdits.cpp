@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessera {
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "shortcuts/HotkeyNotation.h"
 
 namespace tessera {

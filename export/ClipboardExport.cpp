@@ -1,7 +1,7 @@
 // The dialog's buttons.
 #include "export/ClipboardExport.h"
 
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 #include "settings/Settings.h"
 
 namespace tessera {

@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "settings/ProfileFile.h"
 #include "shortcuts/HotkeyNotation.h"
+#include "text/Numbers.h"
 
 namespace tessera {
 

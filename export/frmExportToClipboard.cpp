@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 
 namespace tessera {
 

@@ -3,8 +3,8 @@
 
 #include <functional>
 
+#include "dialogs/frmDialog.h"
 #include "export/ClipboardExport.h"
-#include "localisation/frmDialog.h"
 
 namespace tessera {
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "localisation/TextTable.h"
+#include "text/Numbers.h"
 
 namespace tessera {
 

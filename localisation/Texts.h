@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/Files.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 
 namespace tessera {
 

@@ -4,8 +4,10 @@
 #include <utility>
 
 #include "dialogs/cFontDlg.h"
-#include "platform/Text.h"
+#include "settings/ini/MissingMarker.h"
 #include "settings/Paths.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 namespace tessera {
 

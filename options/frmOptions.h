@@ -1,7 +1,7 @@
 // The options dialog: display, operation and language.
 #pragma once
 
-#include "localisation/frmDialog.h"
+#include "dialogs/frmDialog.h"
 #include "options/OptionsSelection.h"
 
 namespace tessera {

@@ -3,8 +3,9 @@
 
 #include <algorithm>
 
-#include "platform/Text.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/MissingMarker.h"
+#include "settings/ini/ProfileFile.h"
+#include "text/Text.h"
 
 namespace tessera {
 

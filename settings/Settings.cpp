@@ -5,7 +5,10 @@
 #include <array>
 #include <variant>
 
+#include "settings/ini/ProfileFile.h"
 #include "settings/Paths.h"
+#include "text/Numbers.h"
+#include "text/Trim.h"
 
 namespace tessera {
 namespace {
@@ -160,7 +163,7 @@ void WriteSettings(const Settings& settings, ProfileFile& file) {
 
 /// The trimmed text, or `replacement` when nothing is left of it.
 std::wstring TrimmedOr(std::wstring_view text, std::wstring_view replacement) {
-  std::wstring trimmed(TrimBlanks(text));
+  std::wstring trimmed(TrimSpaces(text));
   return trimmed.empty() ? std::wstring(replacement) : trimmed;
 }
 

@@ -6,7 +6,7 @@
 #include "platform/Clock.h"
 #include "platform/Environment.h"
 #include "platform/Files.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/MissingMarker.h"
 
 namespace tessera {
 

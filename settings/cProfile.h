@@ -9,7 +9,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Files.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 
 namespace tessera {
 

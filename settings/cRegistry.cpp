@@ -5,8 +5,9 @@
 #include <optional>
 #include <utility>
 
-#include "platform/Text.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/MissingMarker.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {

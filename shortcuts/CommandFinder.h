@@ -10,9 +10,9 @@
 #include <unordered_map>
 #include <utility>
 
-#include "platform/TextHash.h"
 #include "shortcuts/CommandEntry.h"
 #include "shortcuts/TextFilter.h"
+#include "text/TextHash.h"
 
 namespace tessera {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
 

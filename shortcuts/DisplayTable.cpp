@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessera {
 

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/Ascii.h"
-#include "platform/Text.h"
-#include "settings/ProfileFile.h"
+#include "text/Ascii.h"
+#include "text/Text.h"
+#include "text/Trim.h"
 
 namespace tessera {
 
@@ -63,7 +63,7 @@ std::span<const std::wstring_view> KeyVocabulary() { return Vocabulary; }
 std::vector<std::wstring> SplitText(std::wstring_view text, std::wstring_view separator) {
   std::vector<std::wstring> pieces;
   ForEachPiece(text, separator,
-               [&](std::wstring_view piece) { pieces.emplace_back(TrimBlanks(piece)); });
+               [&](std::wstring_view piece) { pieces.emplace_back(TrimSpaces(piece)); });
   return pieces;
 }
 
@@ -76,11 +76,11 @@ std::wstring_view KeyPart(std::wstring_view text) {
   // A "+" at the end is the key itself, not what joins it.
   const std::size_t plus =
       text.size() < 2 ? std::wstring_view::npos : text.rfind(L'+', text.size() - 2);
-  return TrimBlanks(plus == std::wstring_view::npos ? text : text.substr(plus + 1));
+  return TrimSpaces(plus == std::wstring_view::npos ? text : text.substr(plus + 1));
 }
 
 std::wstring_view HotkeyNotation::TrimmedSeparator() const {
-  return TrimBlanks(MultiHotkeySeparator);
+  return TrimSpaces(MultiHotkeySeparator);
 }
 
 std::vector<std::wstring> HotkeyNotation::KeysOf(std::wstring_view column) const {
@@ -110,11 +110,11 @@ std::wstring HotkeyNotation::NativeToDisplay(std::wstring_view nativeKey,
   std::wstring_view modifiers;
   std::wstring key;
   const std::size_t plus = nativeKey.find(L'+');
-  if (TrimBlanks(nativeKey) == L"+") {
+  if (TrimSpaces(nativeKey) == L"+") {
     key = L"+";  // joins nothing here: it is the keypad plus
   } else if (plus != std::wstring_view::npos) {
     modifiers = nativeKey.substr(0, plus);
-    key = ToUpper(TrimBlanks(nativeKey.substr(plus + 1)));
+    key = ToUpper(TrimSpaces(nativeKey.substr(plus + 1)));
   } else {
     key = nativeKey;
   }
@@ -149,11 +149,11 @@ std::wstring HotkeyNotation::DisplayToNative(std::wstring_view displayKey) const
   if (Contains(displayKey, CtrlName)) native += L'C';
   if (Contains(displayKey, AltName)) native += L'A';
   if (Contains(displayKey, ShiftName)) native += L'S';
-  if (native.empty()) return std::wstring(TrimBlanks(displayKey));
+  if (native.empty()) return std::wstring(TrimSpaces(displayKey));
 
   native += L'+';
   if (ReverseOrderHotkey) {
-    native += TrimBlanks(displayKey.substr(0, displayKey.find(L'+')));
+    native += TrimSpaces(displayKey.substr(0, displayKey.find(L'+')));
     // The key was a "+" itself, and the text before it empty.
     if (native.ends_with(L'+')) native += L'+';
   } else {

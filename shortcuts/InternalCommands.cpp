@@ -3,25 +3,20 @@
 
 #include <algorithm>
 
-#include "platform/Lines.h"
-#include "platform/Text.h"
-#include "settings/ProfileFile.h"
+#include "text/Lines.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
+#include "text/Trim.h"
+#include "text/Utf8.h"
 
 namespace tessera {
 
 namespace {
 
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 constexpr std::wstring_view CommandPrefix = L"cm_";
 
 bool IsBlank(wchar_t character) {
   return character == L' ' || character == L'\t' || character == L'\r' || character == L'\n';
-}
-
-std::wstring_view Trimmed(std::wstring_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  return text;
 }
 
 bool IsCommand(std::wstring_view line) {
@@ -35,11 +30,11 @@ void ReadCommand(std::wstring_view line, const std::wstring& undefinedHotkey, Co
   const std::size_t equals = std::min(line.find(L'='), last);
   const std::size_t semicolon = std::min(line.find(L';'), last);
 
-  row.CommandName = Trimmed(line.substr(0, equals));
+  row.CommandName = Trim(line.substr(0, equals), IsBlank);
   if (semicolon > equals) {
-    row.CommandCode = Trimmed(line.substr(equals + 1, semicolon - equals - 1));
+    row.CommandCode = Trim(line.substr(equals + 1, semicolon - equals - 1), IsBlank);
   }
-  row.Description = Trimmed(line.substr(semicolon + 1));
+  row.Description = Trim(line.substr(semicolon + 1), IsBlank);
   row.DefaultKeys = undefinedHotkey;
   row.CurrentKeys = undefinedHotkey;
   row.Tag = row.CommandCode;
@@ -47,8 +42,8 @@ void ReadCommand(std::wstring_view line, const std::wstring& undefinedHotkey, Co
 
 void ReadHeading(std::wstring_view line, CommandEntry& row) {
   const std::size_t equals = line.ends_with(L'0') ? line.rfind(L'=') : std::wstring_view::npos;
-  const bool endsInZero =
-      equals != std::wstring_view::npos && LeadingNumber(Trimmed(line.substr(equals + 1))) == 0.0;
+  const bool endsInZero = equals != std::wstring_view::npos &&
+                          LeadingNumber(Trim(line.substr(equals + 1), IsBlank)) == 0.0;
 
   row.Description = endsInZero ? line.substr(0, equals) : line;
   row.Tag = CommentBlockTag;
@@ -68,7 +63,7 @@ std::vector<CommandEntry> ReadInternalCommands(std::wstring_view text,
   std::vector<CommandEntry> rows;
   rows.reserve(lines.size());
   for (const std::wstring_view untrimmed : lines) {
-    const std::wstring_view line = Trimmed(untrimmed);
+    const std::wstring_view line = Trim(untrimmed, IsBlank);
     step();
     if (line.empty()) continue;
     CommandEntry& row = rows.emplace_back();

@@ -3,8 +3,8 @@
 
 #include <utility>
 
-#include "platform/Text.h"
-#include "platform/TextHash.h"
+#include "text/Text.h"
+#include "text/TextHash.h"
 
 namespace tessera {
 

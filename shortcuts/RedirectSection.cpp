@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "settings/Paths.h"
+#include "text/Trim.h"
 
 namespace tessera {
 
@@ -44,9 +45,9 @@ std::wstring WithoutDots(std::wstring_view path) {
 
 std::wstring PathOfSection(const ProfileFile& wincmdIni, std::wstring_view section,
                            const Environment& environment) {
-  std::wstring target(TrimBlanks(wincmdIni.ReadString(section, RedirectSectionKey, L"0")));
+  std::wstring target(TrimSpaces(wincmdIni.ReadString(section, RedirectSectionKey, L"0")));
   if (target == L"1") {
-    target = TrimBlanks(wincmdIni.ReadString(L"Configuration", L"AlternateUserIni", L""));
+    target = TrimSpaces(wincmdIni.ReadString(L"Configuration", L"AlternateUserIni", L""));
   }
   if (target.empty() || target == L"0") return wincmdIni.Path();
   std::replace(target.begin(), target.end(), L'/', L'\\');

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/Environment.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 
 namespace tessera {
 

@@ -7,11 +7,11 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Text.h"
-#include "platform/TextHash.h"
 #include "shortcuts/CommandFinder.h"
 #include "shortcuts/RedirectSection.h"
 #include "shortcuts/WincmdIni.h"
+#include "text/Text.h"
+#include "text/TextHash.h"
 
 namespace tessera {
 

@@ -3,6 +3,9 @@
 
 #include <utility>
 
+#include "settings/ini/MissingMarker.h"
+#include "text/Numbers.h"
+
 namespace tessera {
 
 namespace {

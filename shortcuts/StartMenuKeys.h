@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 #include "shortcuts/HotkeyNotation.h"
 
 namespace tessera {

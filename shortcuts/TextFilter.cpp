@@ -3,7 +3,7 @@
 
 #include <bit>
 
-#include "platform/TextHash.h"
+#include "text/TextHash.h"
 
 namespace tessera {
 

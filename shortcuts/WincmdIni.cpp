@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "platform/Text.h"
 #include "shortcuts/CommandFinder.h"
 #include "shortcuts/RedirectSection.h"
+#include "text/Text.h"
 
 namespace tessera {
 

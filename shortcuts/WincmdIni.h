@@ -10,7 +10,7 @@
 #include "platform/Clock.h"
 #include "platform/Environment.h"
 #include "platform/Files.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
 

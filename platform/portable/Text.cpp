@@ -1,5 +1,5 @@
 // Bytes and texts where there is no Windows; the ANSI code page is Windows-1252 there.
-#include "platform/Text.h"
+#include "text/Text.h"
 
 #include <locale.h>
 #include <wctype.h>
@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/Ascii.h"
-#include "platform/Utf8.h"
+#include "text/Ascii.h"
+#include "text/Utf8.h"
 
 namespace tessera {
 namespace {

@@ -1,12 +1,12 @@
 // Bytes and texts with the code pages and the locale of Windows.
-#include "platform/Text.h"
+#include "text/Text.h"
 
 #include <windows.h>
 
 #include <algorithm>
 
-#include "platform/Ascii.h"
-#include "platform/Utf8.h"
+#include "text/Ascii.h"
+#include "text/Utf8.h"
 
 namespace tessera {
 namespace {

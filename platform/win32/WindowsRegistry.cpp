@@ -6,7 +6,7 @@
 #include <memory>
 #include <type_traits>
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {

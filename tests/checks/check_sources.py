@@ -13,13 +13,14 @@ import samples
 
 # Lower folders first. A folder includes those of lower ranks and, in no circle, of its own.
 RANKS = {
-    "platform": 0, "settings": 1, "shortcuts": 2, "localisation": 2,
-    "editing": 3, "export": 3, "options": 3, "recent": 3, "dialogs": 3, "app": 4,
+    "text": 0, "platform": 1, "settings/ini": 2, "settings": 3, "settings/commander": 4,
+    "shortcuts": 5, "localisation": 5,
+    "editing": 6, "export": 6, "options": 6, "recent": 6, "dialogs": 6, "app": 7,
 }
-CODE_FOLDERS = [*RANKS, "tests", "benchmarks"]
-
-# Only the numbers of controls and commands: every window needs them.
-SHARED_BY_WINDOWS = "app/resource.h"
+# The numbers of controls, commands and icons: they include nothing, and windows alone need them.
+NUMBERS = "resources"
+PRODUCT_FOLDERS = sorted({folder.split("/")[0] for folder in RANKS} | {NUMBERS})
+CODE_FOLDERS = [*PRODUCT_FOLDERS, "tests", "benchmarks"]
 
 # Tests that are not named after one source file, and why.
 OTHER_TESTS = {
@@ -76,33 +77,39 @@ def check_portable_files(root):
             continue
         code = (root / file).read_text(encoding="utf-8")
         for header in ANGLE_INCLUDE.findall(code):
-            tests_library = file.parts[0] not in RANKS and header.startswith(TEST_LIBRARIES)
+            tests_library = file.parts[0] not in PRODUCT_FOLDERS and header.startswith(TEST_LIBRARIES)
             if not tests_library and re.search(r"[./]", header):
                 yield f"{file} includes <{header}>"
         for name in sorted(set(WINDOWS_TYPES.findall(without_comments_and_texts(code)))):
             yield f"{file} names {name}"
 
 
+def ranked_folder(path):
+    """The folder of RANKS that a file or header belongs to; None for any other."""
+    parts = Path(path).parts[:-1]
+    return next((name for length in (2, 1) if (name := "/".join(parts[:length])) in RANKS), None)
+
+
 def check_include_direction(root):
     """Folders include downwards only, and those of one rank in no circle."""
     beside = {}
     for file in code_files(root):
-        here = file.parts[0]
-        if here not in RANKS:
+        if file.parts[0] not in PRODUCT_FOLDERS:
             continue
+        here = ranked_folder(file)
         for header in QUOTED_INCLUDE.findall((root / file).read_text(encoding="utf-8")):
-            there = header.split("/")[0]
-            if header == SHARED_BY_WINDOWS and belongs_to_windows(file):
-                continue
-            if not may_use_the_system(file) and re.match("platform/(win32|portable)/", header):
+            there = ranked_folder(header)
+            if here is None:
+                yield f"{file} includes {header}, and is to include nothing"
+            elif "/" not in header:
+                yield f'{file} includes "{header}" without its folder'
+            elif header.startswith(f"{NUMBERS}/") and not belongs_to_windows(file):
+                yield f"{file} includes {header}, which is for windows alone"
+            elif not may_use_the_system(file) and re.match("platform/(win32|portable)/", header):
                 yield f"{file} includes {header}, which is behind a seam"
-            if there not in RANKS:
-                if "/" not in header:
-                    yield f'{file} includes "{header}" without its folder'
-                continue
-            if RANKS[there] > RANKS[here]:
+            elif there is not None and RANKS[there] > RANKS[here]:
                 yield f"{file} includes {header}, which is above it"
-            elif RANKS[there] == RANKS[here] and there != here:
+            elif there is not None and RANKS[there] == RANKS[here] and there != here:
                 beside.setdefault(here, set()).add(there)
     for here in sorted(beside):
         if here in reachable(beside, here):
@@ -122,7 +129,7 @@ def reachable(graph, start):
 def check_test_names(root):
     """A unit test is named after the source file that it tests: file_dialog_test.cpp for cFileDialog."""
     files = code_files(root)
-    sources = {file.stem for file in files if file.parts[0] in RANKS}
+    sources = {file.stem for file in files if file.parts[0] in PRODUCT_FOLDERS}
     tested = {name.lower() for name in sources} | {
         name[1:].lower() for name in sources if re.match("c[A-Z]", name)}
     for file in files:
@@ -173,7 +180,11 @@ BAD = {
     check_include_direction: [
         {"settings/a.h": '#include "shortcuts/b.h"\n'},
         {"platform/a.cpp": '#include "settings/b.h"\n'},
-        {"editing/a.h": '#include "app/resource.h"\n'},
+        {"editing/a.h": '#include "resources/resource.h"\n'},
+        {"resources/a.h": '#include "text/Text.h"\n'},
+        {"text/a.h": '#include "platform/Files.h"\n'},
+        {"settings/ini/a.h": '#include "settings/Paths.h"\n'},
+        {"settings/a.h": '#include "settings/commander/b.h"\n'},
         {"editing/frmA.h": '#include "app/frmMain.h"\n'},
         {"settings/a.h": '#include "b.h"\n'},
         {"settings/a.h": '#include "platform/win32/b.h"\n'},
@@ -194,8 +205,8 @@ GOOD = {
     "settings/cGoodCase.h": "\n",
     "settings/good.h": '// No HWND here.\n#include <string>\n\n#include "platform/Files.h"\n',
     "platform/win32/good.cpp": "#include <windows.h>\nHWND window;\n",
-    "app/main.cpp": '#include <windows.h>\n\n#include "app/resource.h"\n',
-    "options/frmOptions.cpp": '#include <windows.h>\n\n#include "app/resource.h"\n',
+    "app/main.cpp": '#include <windows.h>\n\n#include "resources/resource.h"\n',
+    "options/frmOptions.cpp": '#include <windows.h>\n\n#include "resources/resource.h"\n',
     "editing/good.h": '#include "dialogs/b.h"\n#include "shortcuts/b.h"\n',
     "tests/unit/good_case_test.cpp": "\n",
     "tests/unit/good_test.cpp": '#include "settings/good.h"\n\n#include <gtest/gtest.h>\n',

@@ -1,7 +1,7 @@
 // Steps that several tests share.
 #include "tests/e2e/EndToEndTest.h"
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"
 #include "tests/e2e/Screen.h"

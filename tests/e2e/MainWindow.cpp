@@ -8,7 +8,7 @@
 
 #include <stdexcept>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/Folder.h"
 #include "tests/e2e/Input.h"
 #include "tests/e2e/Program.h"

@@ -1,5 +1,5 @@
-// The controls of the program's main window, found by the IDs of app/resource.h: reading what they
-// show, and working them by mouse and keyboard.
+// The controls of the program's main window, found by the IDs of resources/resource.h: reading what
+// they show, and working them by mouse and keyboard.
 #pragma once
 
 #include <windows.h>

@@ -9,7 +9,7 @@
 #include <iterator>
 #include <memory>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/Input.h"
 #include "tests/e2e/MainWindow.h"
 #include "tests/e2e/Wait.h"

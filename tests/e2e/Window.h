@@ -1,4 +1,4 @@
-// A window of the program with controls in it, which are found by the IDs of app/resource.h.
+// A window of the program with controls in it, which are found by the IDs of resources/resource.h.
 #pragma once
 
 #include <windows.h>

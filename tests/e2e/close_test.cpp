@@ -1,5 +1,5 @@
 // Closing with unsaved changes, and what the next start finds.
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"

@@ -1,5 +1,5 @@
 // Giving keys to commands, and taking them away, by keyboard and mouse.
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/Clipboard.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"

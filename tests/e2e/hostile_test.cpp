@@ -1,7 +1,7 @@
 // Settings and a language file full of values that no one should store: the real windows bear them.
 #include <string>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Wait.h"

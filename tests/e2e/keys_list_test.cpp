@@ -2,7 +2,7 @@
 #include <array>
 #include <string>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Input.h"
 #include "tests/e2e/Wait.h"

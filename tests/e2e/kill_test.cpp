@@ -5,7 +5,7 @@
 #include <random>
 #include <string>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/LongRun.h"

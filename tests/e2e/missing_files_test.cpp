@@ -1,8 +1,8 @@
 // Total Commander's files missing, unreadable or broken: what is said, and that the program works.
 #include <random>
 
-#include "app/resource.h"
 #include "platform/win32/Handle.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"

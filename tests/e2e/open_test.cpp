@@ -1,7 +1,7 @@
 // Files that are handed to the program: on its command line, and dropped on its window.
 #include <string>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/DroppedFile.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"

@@ -4,7 +4,7 @@
 #include <commctrl.h>
 // clang-format on
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Wait.h"

@@ -3,7 +3,7 @@
 #include <iostream>
 #include <string>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/DroppedFile.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Input.h"

@@ -1,8 +1,8 @@
 // Closing and starting Total Commander around a save, with a stand-in that notes what it is asked.
 #include <filesystem>
 
-#include "app/resource.h"
 #include "platform/win32/Handle.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"

@@ -1,6 +1,6 @@
 // What a save writes, and what it leaves alone.
-#include "app/resource.h"
 #include "platform/win32/Handle.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"

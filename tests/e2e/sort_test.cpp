@@ -1,7 +1,7 @@
 // The sorted view, and the way back to file order.
 #include <algorithm>
 
-#include "app/resource.h"
+#include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"

@@ -7,8 +7,7 @@
 
 #include "editing/CommandList.h"
 #include "localisation/Texts.h"
-#include "platform/Text.h"
-#include "settings/IniDocument.h"
+#include "settings/ini/IniDocument.h"
 #include "settings/Settings.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/DefaultHotkeys.h"
@@ -19,6 +18,8 @@
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 #include "tests/unit/fakes/MemoryFiles.h"
+#include "text/Text.h"
+#include "text/Trim.h"
 
 namespace tessera::fuzz {
 
@@ -148,7 +149,7 @@ void RunNotation(std::string_view bytes) {
   notation.ReverseOrderHotkey = (flags & 1) != 0;
   const bool checksRoundTrip = (flags & 2) != 0;  // which takes long
   bytes.remove_prefix(std::min<std::size_t>(1, bytes.size()));
-  const std::wstring separator(TrimBlanks(Decode(Take(bytes))));
+  const std::wstring separator(TrimSpaces(Decode(Take(bytes))));
   if (!separator.empty()) notation.MultiHotkeySeparator = L' ' + separator + L' ';
   if (checksRoundTrip) CheckRoundTrip(notation);
   for (std::string_view rest = bytes; !rest.empty();) {

@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "dialogs/cCommonDialog.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/MissingMarker.h"
 #include "tests/unit/fakes/FakeDialogs.h"
 
 namespace tessera {

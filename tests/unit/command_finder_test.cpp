@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/Text.h"
 #include "shortcuts/CommandFinder.h"
 #include "tests/unit/kept.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {

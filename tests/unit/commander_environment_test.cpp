@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "settings/CommanderEnvironment.h"
+#include "settings/commander/CommanderEnvironment.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 
 namespace tessera {

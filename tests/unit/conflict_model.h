@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "platform/MessageBoxes.h"
-#include "platform/Text.h"
 #include "shortcuts/CommandEntry.h"
+#include "text/Text.h"
 
 namespace tessera::model {
 

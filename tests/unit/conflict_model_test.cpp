@@ -11,7 +11,6 @@
 #include "editing/CommandList.h"
 #include "editing/HotkeyAssignment.h"
 #include "editing/HotkeyPanel.h"
-#include "platform/Text.h"
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/InternalCommands.h"
 #include "shortcuts/SaveShortcuts.h"
@@ -21,6 +20,7 @@
 #include "tests/unit/fakes/FakeMessageBoxes.h"
 #include "tests/unit/fakes/MemoryFiles.h"
 #include "tests/unit/rounds.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {

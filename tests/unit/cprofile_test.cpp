@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 
+#include "settings/ini/MissingMarker.h"
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/MemoryFiles.h"
 

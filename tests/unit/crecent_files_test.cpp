@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "recent/cRecentFiles.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/MissingMarker.h"
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/FakeMessageBoxes.h"
 #include "tests/unit/fakes/MemoryFiles.h"

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/ProfileFile.h"
+#include "settings/ini/MissingMarker.h"
 #include "tests/unit/fakes/FakeRegistry.h"
 
 namespace tessera {

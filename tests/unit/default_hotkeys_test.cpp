@@ -70,7 +70,7 @@ TEST(DefaultHotkeys, AMissingCodeOrFileGivesTheUndefinedMarker) {
   EXPECT_EQ(rows[0].DefaultKeys, L"none");
 }
 
-TEST(DefaultHotkeys, ACodeIsLookedUpWithoutBlanks) {
+TEST(DefaultHotkeys, ACodeIsLookedUpTrimIniBlanks) {
   MemoryFiles files;
   files.Contents[L"keys.hky"] = "[tc default hotkeys]\r\n300=F1\r\n";
   std::vector<CommandEntry> rows{Command(L" 300 ")};

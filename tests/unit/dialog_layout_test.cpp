@@ -1,7 +1,7 @@
 // The grid on which dialogs are laid out.
 #include <gtest/gtest.h>
 
-#include "localisation/DialogLayout.h"
+#include "dialogs/DialogLayout.h"
 
 namespace tessera {
 namespace {

@@ -400,7 +400,7 @@ TEST(HotkeyNotation, WithAnEmptySeparatorAColumnIsOneKey) {
   EXPECT_EQ(Separated(L"").KeysOf(L"F1"), Strings{L"F1"});
 }
 
-TEST(KeysOf, SplitsAtTheSeparatorWithOrWithoutBlanks) {
+TEST(KeysOf, SplitsAtTheSeparatorWithOrTrimIniBlanks) {
   EXPECT_EQ(HotkeyNotation().KeysOf(L"F1 = F2"), (Strings{L"F1", L"F2"}));
   EXPECT_EQ(HotkeyNotation().KeysOf(L" F1=F2  =  F3 "), (Strings{L"F1", L"F2", L"F3"}));
   EXPECT_EQ(HotkeyNotation().KeysOf(L"F1 = "), (Strings{L"F1", L""}));

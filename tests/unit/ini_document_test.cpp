@@ -4,8 +4,8 @@
 #include <memory>
 #include <random>
 
-#include "platform/Lines.h"
-#include "settings/IniDocument.h"
+#include "settings/ini/IniDocument.h"
+#include "text/Lines.h"
 
 namespace tessera {
 namespace {

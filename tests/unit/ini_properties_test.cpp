@@ -7,10 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "settings/IniDocument.h"
+#include "settings/ini/IniDocument.h"
 #include "tests/unit/random_ini_file.h"
 #include "tests/unit/rounds.h"
 #include "tests/unit/simple_ini_reader.h"
+#include "text/Trim.h"
 
 namespace tessera {
 namespace {
@@ -23,7 +24,7 @@ void ExpectSameAnswers(const IniDocument& document, const SimpleReader& reader, 
   }
   ASSERT_EQ(names, reader.Sections());
   for (const char* section : {"a", "B", "c d", "", "\xE9", "s", " key "}) {
-    const Units sectionUnits = UnitsOf(WithoutSpaces(section), false);
+    const Units sectionUnits = UnitsOf(TrimSpaces(section), false);
     const std::string sectionName = NameFor(UnitsOf(section, false), isUtf16);
     const std::vector<Line> linesRead = reader.LinesOf(sectionUnits);
     std::vector<Units> expected;
@@ -37,8 +38,7 @@ void ExpectSameAnswers(const IniDocument& document, const SimpleReader& reader, 
     }
     ASSERT_EQ(lines, expected);
     for (const char* key : {"a", "b", "C D", "", "\xC9", "\"q\"", "A+", " key"}) {
-      const auto expectedValue =
-          SimpleReader::ValueIn(linesRead, UnitsOf(WithoutSpaces(key), false));
+      const auto expectedValue = SimpleReader::ValueIn(linesRead, UnitsOf(TrimSpaces(key), false));
       const auto found = document.Find(sectionName, NameFor(UnitsOf(key, false), isUtf16));
       ASSERT_EQ(found.has_value(), expectedValue.has_value()) << section << "/" << key;
       ASSERT_EQ(UnitsOf(found.value_or(""), isUtf16), expectedValue.value_or(U""))

@@ -1,7 +1,7 @@
 // Taking INI lines apart.
 #include <gtest/gtest.h>
 
-#include "settings/IniText.h"
+#include "settings/ini/IniText.h"
 
 namespace tessera {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Text.h"
 #include "shortcuts/KeyIndex.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {

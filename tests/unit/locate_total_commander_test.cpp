@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "settings/LocateTotalCommander.h"
-#include "settings/ProfileFile.h"
+#include "settings/commander/LocateTotalCommander.h"
+#include "settings/ini/MissingMarker.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 #include "tests/unit/fakes/FakeRegistry.h"
 #include "tests/unit/fakes/FaultyFiles.h"

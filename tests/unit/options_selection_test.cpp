@@ -4,6 +4,7 @@
 
 #include "dialogs/cFontDlg.h"
 #include "options/OptionsSelection.h"
+#include "settings/ini/MissingMarker.h"
 #include "tests/unit/fakes/FakeDialogs.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 

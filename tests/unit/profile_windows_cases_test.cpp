@@ -5,11 +5,11 @@
 #include <optional>
 #include <stdexcept>
 
-#include "platform/Text.h"
 #include "settings/cProfile.h"
-#include "settings/IniDocument.h"
+#include "settings/ini/IniDocument.h"
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/MemoryFiles.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {

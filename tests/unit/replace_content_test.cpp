@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "settings/ReplaceContent.h"
+#include "settings/ini/ReplaceContent.h"
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/FaultyFiles.h"
 

@@ -1,7 +1,7 @@
 // Closing and starting Total Commander: what is done to it, and in what order.
 #include <gtest/gtest.h>
 
-#include "settings/RestartTotalCommander.h"
+#include "settings/commander/RestartTotalCommander.h"
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 #include "tests/unit/fakes/FakePrograms.h"

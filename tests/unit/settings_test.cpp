@@ -7,6 +7,7 @@
 #include <sstream>
 #include <vector>
 
+#include "settings/ini/MissingMarker.h"
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 #include "tests/unit/fakes/FaultyFiles.h"

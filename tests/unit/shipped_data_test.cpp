@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Text.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/InternalCommands.h"
 #include "shortcuts/SaveShortcuts.h"
@@ -18,6 +17,7 @@
 #include "tests/unit/fakes/FakeClock.h"
 #include "tests/unit/fakes/FakeEnvironment.h"
 #include "tests/unit/fakes/MemoryFiles.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {

@@ -11,10 +11,11 @@
 
 #include "localisation/Texts.h"
 #include "localisation/TextTable.h"
-#include "platform/Text.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 #include "shortcuts/HotkeyNotation.h"
 #include "tests/unit/fakes/MemoryFiles.h"
+#include "text/Text.h"
+#include "text/Trim.h"
 
 namespace tessera {
 namespace {
@@ -105,7 +106,7 @@ TEST_F(ShippedLanguages, HaveEveryTextOnceAndNothingElse) {
     EXPECT_EQ(file.SectionNames(), std::vector<std::wstring>{L"UserLanguage"});
     std::multiset<std::wstring> found;
     for (const auto& [key, value] : file.Entries(L"UserLanguage")) {
-      EXPECT_NE(TrimBlanks(value), L"") << Encode(key);
+      EXPECT_NE(TrimSpaces(value), L"") << Encode(key);
       if (key != L"RightToLeftLanguage") found.insert(key);
     }
     EXPECT_EQ(found, expected);
@@ -249,9 +250,9 @@ void ExpectDefaultKeysAreSavedAsThemselves(const HotkeyNotation& notation) {
 TEST_F(ShippedLanguages, LeadEveryDefaultKeyToTheKeyThatIsSaved) {
   ForEach([](const std::wstring&, const Texts& texts) {
     HotkeyNotation notation;
-    notation.CtrlName = TrimBlanks(texts.GetLangText(404));
-    notation.AltName = TrimBlanks(texts.GetLangText(405));
-    notation.ShiftName = TrimBlanks(texts.GetLangText(406));
+    notation.CtrlName = TrimSpaces(texts.GetLangText(404));
+    notation.AltName = TrimSpaces(texts.GetLangText(405));
+    notation.ShiftName = TrimSpaces(texts.GetLangText(406));
     ExpectDefaultKeysAreSavedAsThemselves(notation);
     notation.ReverseOrderHotkey = true;
     ExpectDefaultKeysAreSavedAsThemselves(notation);

@@ -1,7 +1,7 @@
 // Texts that are equal but for letter case are one key.
 #include <gtest/gtest.h>
 
-#include "platform/TextHash.h"
+#include "text/TextHash.h"
 
 namespace tessera {
 namespace {

@@ -1,5 +1,5 @@
 // Bytes and texts, and comparing texts without regard to case.
-#include "platform/Text.h"
+#include "text/Text.h"
 
 #include <gtest/gtest.h>
 

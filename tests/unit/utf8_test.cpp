@@ -1,5 +1,5 @@
 // UTF-8 and UTF-16 without loss.
-#include "platform/Utf8.h"
+#include "text/Utf8.h"
 
 #include <gtest/gtest.h>
 

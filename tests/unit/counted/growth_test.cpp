@@ -7,7 +7,7 @@
 #include "benchmarks/SampleProgram.h"
 #include "export/ClipboardTable.h"
 #include "localisation/Texts.h"
-#include "settings/IniDocument.h"
+#include "settings/ini/IniDocument.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <tuple>
 
 #include "platform/Registry.h"
-#include "platform/Text.h"
 #include "tests/unit/fakes/Log.h"
+#include "text/Text.h"
 
 namespace tessera {
 

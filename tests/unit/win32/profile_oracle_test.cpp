@@ -8,7 +8,7 @@
 #include <iterator>
 #include <random>
 
-#include "settings/IniDocument.h"
+#include "settings/ini/IniDocument.h"
 
 namespace tessera {
 namespace {

@@ -8,7 +8,7 @@
 #include "platform/win32/Handle.h"
 #include "platform/win32/WindowsClock.h"
 #include "platform/win32/WindowsFiles.h"
-#include "settings/ReplaceContent.h"
+#include "settings/ini/ReplaceContent.h"
 
 namespace tessera {
 namespace {

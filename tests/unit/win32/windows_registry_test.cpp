@@ -4,7 +4,7 @@
 
 #include "platform/win32/WindowsRegistry.h"
 #include "settings/cRegistry.h"
-#include "settings/ProfileFile.h"
+#include "settings/ini/MissingMarker.h"
 
 namespace tessera {
 namespace {

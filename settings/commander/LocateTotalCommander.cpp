@@ -1,10 +1,10 @@
 // The places where Total Commander's files are looked for, in their order.
-#include "settings/LocateTotalCommander.h"
+#include "settings/commander/LocateTotalCommander.h"
 
 #include "settings/cRegistry.h"
+#include "settings/ini/MissingMarker.h"
+#include "settings/ini/ReplaceContent.h"
 #include "settings/Paths.h"
-#include "settings/ProfileFile.h"
-#include "settings/ReplaceContent.h"
 
 namespace tessera {
 namespace {

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "localisation/DialogLayout.h"
+#include "dialogs/DialogLayout.h"
 #include "localisation/Texts.h"
 #include "platform/win32/Controls.h"
 #include "settings/Settings.h"

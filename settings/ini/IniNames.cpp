@@ -1,11 +1,11 @@
 // Comparing names: quickly for ASCII, as decoded texts otherwise.
-#include "settings/IniNames.h"
+#include "settings/ini/IniNames.h"
 
 #include <algorithm>
 
-#include "platform/Ascii.h"
-#include "platform/Text.h"
-#include "platform/TextHash.h"
+#include "text/Ascii.h"
+#include "text/Text.h"
+#include "text/TextHash.h"
 
 namespace tessera {
 

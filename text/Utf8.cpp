@@ -1,5 +1,5 @@
 // UTF-8 to and from texts and UTF-16, keeping unpaired surrogates.
-#include "platform/Utf8.h"
+#include "text/Utf8.h"
 
 namespace tessera {
 namespace {

@@ -10,31 +10,14 @@
 
 #include "platform/Clock.h"
 #include "platform/Files.h"
-#include "platform/Text.h"
-#include "settings/IniDocument.h"
-#include "settings/ReplaceContent.h"
+#include "settings/ini/IniDocument.h"
+#include "settings/ini/ReplaceContent.h"
+#include "text/Text.h"
 
 namespace tessera {
 
-/// Stands for a value that is absent. Given as default to a read, it tells absence from an empty
-/// value; writing it is a no-op.
-inline constexpr std::wstring_view MissingMarker = L"///can\\not/find\\this/data\\\\\\";
-
-[[nodiscard]] bool IsMissing(std::wstring_view value);
-
 /// The buffer length, in bytes with the terminator, of every read that has no reason for another.
 inline constexpr std::size_t ProfileBufferLength = 4096;
-
-/// A text of the program's own is trimmed of blanks at both ends (spaces only).
-[[nodiscard]] std::wstring_view TrimBlanks(std::wstring_view text);
-
-/// The leading number of a text: decimal, with optional sign, fraction and exponent; 0 when there
-/// is none.
-[[nodiscard]] double LeadingNumber(std::wstring_view text);
-
-/// Rounds half to even and clamps to the range of the type.
-[[nodiscard]] short RoundTo16Bits(double number);
-[[nodiscard]] int RoundTo32Bits(double number);
 
 class ProfileFile;
 

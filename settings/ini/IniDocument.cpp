@@ -1,11 +1,12 @@
 // Looking up and editing the content of one INI file.
-#include "settings/IniDocument.h"
+#include "settings/ini/IniDocument.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "platform/Text.h"
-#include "platform/Utf8.h"
+#include "text/Text.h"
+#include "text/Trim.h"
+#include "text/Utf8.h"
 
 namespace tessera {
 namespace {
@@ -51,7 +52,7 @@ std::string KeyLines(const std::vector<std::pair<std::string, std::string>>& ent
   std::unordered_map<std::string_view, std::size_t, IniNameHash, IniNameEqual> places(
       entries.size(), IniNameHash{codePage}, IniNameEqual{codePage});
   for (const auto& [name, value] : entries) {
-    const std::string_view key = WithoutSpaces(name);
+    const std::string_view key = TrimSpaces(name);
     if (IsComment(key) || IsHeader(key) || HasLineBreak(key)) continue;
     const auto [place, isNew] = places.emplace(key, distinct.size());
     if (isNew) {
@@ -113,7 +114,7 @@ std::vector<std::string> IniDocument::Lines(std::string_view section) const {
   const IniSection* const found = SectionNamed(section);
   if (found == nullptr) return lines;
   for (std::size_t i = 1; i < found->Lines().size(); ++i) {
-    const std::string_view line = WithoutBlanks(found->Lines()[i]);
+    const std::string_view line = TrimIniBlanks(found->Lines()[i]);
     if (const auto entry = EntryOf(line)) {
       lines.push_back(std::string(entry->Name).append("=").append(entry->Value));
     } else if (!line.empty() && !IsComment(line)) {
@@ -128,8 +129,8 @@ std::string IniDocument::Bytes() const {
 }
 
 void IniDocument::Set(std::string_view section, std::string_view key, std::string_view value) {
-  section = WithoutSpaces(section);
-  key = WithoutSpaces(key);
+  section = TrimSpaces(section);
+  key = TrimSpaces(key);
   IniSection* const found = SectionNamed(section);
   if (found == nullptr) {
     AppendSection(HeaderLine(section) + KeyLine(key, value));
@@ -151,7 +152,7 @@ void IniDocument::Set(std::string_view section, std::string_view key, std::strin
 void IniDocument::Remove(std::string_view section, std::string_view key) {
   IniSection* const found = SectionNamed(section);
   if (found == nullptr) return;
-  if (const auto number = found->LineOf(WithoutSpaces(key))) found->RemoveLine(*number);
+  if (const auto number = found->LineOf(TrimSpaces(key))) found->RemoveLine(*number);
 }
 
 void IniDocument::RemoveSection(std::string_view section) {
@@ -169,7 +170,7 @@ void IniDocument::ReplaceEntries(std::string_view section,
   const IniSection* const found = SectionNamed(section);
   if (found == nullptr) {
     if (added.empty()) return;
-    AppendSection(HeaderLine(WithoutSpaces(section)) + added);
+    AppendSection(HeaderLine(TrimSpaces(section)) + added);
     Reset(Text());  // a name or value with a line break has made lines of its own
     return;
   }
@@ -181,7 +182,7 @@ void IniDocument::ReplaceEntries(std::string_view section,
     lines[i] = {};
     if (!firstReplaced) firstReplaced = i;
   }
-  const auto isBlank = [](std::string_view line) { return WithoutBlanks(line).empty(); };
+  const auto isBlank = [](std::string_view line) { return TrimIniBlanks(line).empty(); };
   if (!added.empty()) {
     const std::size_t place = firstReplaced.value_or(found->AfterLastKey());
     if (!HasLineEnd(lines[place - 1]) && !lines[place - 1].empty()) {
@@ -208,7 +209,7 @@ unsigned IniDocument::NameCodePage() const {
 
 IniSection* IniDocument::SectionNamed(std::string_view name) const {
   Divide();
-  name = WithoutSpaces(name);
+  name = TrimSpaces(name);
   // A single look-up is quicker without the index, which pays from the second one on.
   if (!std::exchange(wasSearched_, true)) {
     const IniNameEqual equal{NameCodePage()};

@@ -12,9 +12,9 @@
 #include <utility>
 #include <vector>
 
-#include "settings/IniNames.h"
-#include "settings/IniSection.h"
-#include "settings/IniText.h"
+#include "settings/ini/IniNames.h"
+#include "settings/ini/IniSection.h"
+#include "settings/ini/IniText.h"
 
 namespace tessera {
 

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "settings/IniNames.h"
+#include "settings/ini/IniNames.h"
 
 namespace tessera {
 

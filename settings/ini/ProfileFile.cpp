@@ -1,13 +1,12 @@
 // Reading, changing and saving one INI file.
-#include "settings/ProfileFile.h"
+#include "settings/ini/ProfileFile.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
-#include <limits>
 
-#include "platform/Utf8.h"
+#include "settings/ini/MissingMarker.h"
+#include "text/Numbers.h"
+#include "text/Trim.h"
+#include "text/Utf8.h"
 
 namespace tessera {
 namespace {
@@ -18,80 +17,7 @@ Text Wrapped(const Text& value) {
   return value.substr(0, value.size() % 65536);
 }
 
-constexpr bool IsDigit(wchar_t character) { return character >= L'0' && character <= L'9'; }
-
-std::size_t SkipDigits(std::wstring_view text, std::size_t position) {
-  while (position < text.size() && IsDigit(text[position])) ++position;
-  return position;
-}
-
-std::size_t SkipSign(std::wstring_view text, std::size_t position) {
-  const bool isSign = position < text.size() && (text[position] == L'-' || text[position] == L'+');
-  return position + (isSign ? 1 : 0);
-}
-
-/// The length of the number that a text without sign begins with; 0 when it begins with none.
-std::size_t NumberLength(std::wstring_view text) {
-  const std::size_t whole = SkipDigits(text, 0);
-  std::size_t end = whole;
-  std::size_t digits = whole;
-  if (end < text.size() && text[end] == L'.') {
-    end = SkipDigits(text, end + 1);
-    digits += end - whole - 1;
-  }
-  if (digits == 0) return 0;
-  if (end < text.size() && (text[end] == L'e' || text[end] == L'E')) {
-    const std::size_t exponent = SkipSign(text, end + 1);
-    const std::size_t exponentEnd = SkipDigits(text, exponent);
-    if (exponentEnd > exponent) end = exponentEnd;
-  }
-  return end;
-}
-
-template <typename Integer>
-Integer Rounded(double number) {
-  if (std::isnan(number)) return 0;
-  constexpr double smallest = std::numeric_limits<Integer>::min();
-  constexpr double largest = std::numeric_limits<Integer>::max();
-  return static_cast<Integer>(std::nearbyint(std::clamp(number, smallest, largest)));
-}
-
-std::string DecimalText(double number) {
-  if (!std::isfinite(number)) return "0";
-  std::array<char, 1100> digits{};  // the longest finite number in decimal fits
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number + 0.0,
-                                 std::chars_format::fixed);
-  return {digits.data(), end.ptr};
-}
-
 }  // namespace
-
-bool IsMissing(std::wstring_view value) { return value == MissingMarker; }
-
-std::wstring_view TrimBlanks(std::wstring_view text) {
-  const std::size_t begin = std::min(text.find_first_not_of(L' '), text.size());
-  return text.substr(begin, text.find_last_not_of(L' ') + 1 - begin);
-}
-
-double LeadingNumber(std::wstring_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(L" \t"), text.size()));
-  const bool negative = text.starts_with(L'-');
-  text.remove_prefix(SkipSign(text, 0));
-  const std::wstring_view wide = text.substr(0, NumberLength(text));
-  std::string digits(wide.size(), '\0');
-  std::transform(wide.begin(), wide.end(), digits.begin(),
-                 [](wchar_t digit) { return static_cast<char>(digit); });
-  double number = 0;
-  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-  if (result.ec == std::errc::result_out_of_range && digits.find('-') == std::string::npos) {
-    number = std::numeric_limits<double>::max();
-  }
-  return negative ? -number : number;
-}
-
-short RoundTo16Bits(double number) { return Rounded<short>(number); }
-
-int RoundTo32Bits(double number) { return Rounded<int>(number); }
 
 std::optional<std::wstring> ProfileSection::Find(std::wstring_view key,
                                                  std::size_t bufferLength) const {
@@ -170,7 +96,7 @@ void ProfileFile::UseCodePage(unsigned codePage) { codePage_ = codePage; }
 
 void ProfileFile::WriteString(std::wstring_view section, std::wstring_view key,
                               std::wstring_view value, bool quoted) {
-  const std::wstring_view trimmed = TrimBlanks(value);
+  const std::wstring_view trimmed = TrimSpaces(value);
   if (IsMissing(trimmed)) return;
   const std::string bytes = EncodeValue(trimmed);
   document_.Set(EncodeName(section), EncodeName(key), quoted ? '"' + bytes + '"' : bytes);
@@ -198,7 +124,7 @@ void ProfileFile::ReplaceEntries(std::wstring_view section,
   std::vector<std::pair<std::string, std::string>> encoded;
   encoded.reserve(entries.size());
   for (const auto& [name, value] : entries) {
-    encoded.emplace_back(EncodeName(name), EncodeValue(TrimBlanks(value)));
+    encoded.emplace_back(EncodeName(name), EncodeValue(TrimSpaces(value)));
   }
   document_.ReplaceEntries(EncodeName(section), encoded,
                            [&](std::string_view name) { return keep(DecodeName(name)); });

@@ -1,5 +1,5 @@
 // Hashes a text as if it stood in upper case.
-#include "platform/TextHash.h"
+#include "text/TextHash.h"
 
 namespace tessera {
 namespace {

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "platform/Ascii.h"
-#include "platform/Text.h"
+#include "text/Ascii.h"
+#include "text/Text.h"
 
 namespace tessera {
 

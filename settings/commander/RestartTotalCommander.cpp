@@ -1,5 +1,5 @@
 // Reaching Total Commander by its window, and starting it by the environment's word.
-#include "settings/RestartTotalCommander.h"
+#include "settings/commander/RestartTotalCommander.h"
 
 #include "settings/Paths.h"
 

@@ -1,9 +1,9 @@
 // Stands in for the one variable that may be missing.
-#include "settings/CommanderEnvironment.h"
+#include "settings/commander/CommanderEnvironment.h"
 
 #include <utility>
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessera {
 

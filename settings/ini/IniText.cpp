@@ -1,17 +1,12 @@
 // Taking INI lines apart.
-#include "settings/IniText.h"
+#include "settings/ini/IniText.h"
 
 #include <algorithm>
 
+#include "text/Trim.h"
+
 namespace tessera {
 namespace {
-
-template <typename IsDropped>
-std::string_view Trimmed(std::string_view text, IsDropped isDropped) {
-  while (!text.empty() && isDropped(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isDropped(text.back())) text.remove_suffix(1);
-  return text;
-}
 
 constexpr bool EndsLine(char byte) { return byte == '\r' || byte == '\n'; }
 
@@ -22,18 +17,14 @@ bool BeginsWith(std::string_view line, char first) {
 
 }  // namespace
 
-std::string_view WithoutBlanks(std::string_view text) { return Trimmed(text, IsIniBlank); }
-
-std::string_view WithoutSpaces(std::string_view text) {
-  return Trimmed(text, [](char byte) { return byte == ' '; });
-}
+std::string_view TrimIniBlanks(std::string_view text) { return Trim(text, IsIniBlank); }
 
 bool HasLineBreak(std::string_view text) { return std::any_of(text.begin(), text.end(), EndsLine); }
 
 std::optional<IniEntry> EntryOf(std::string_view line) {
   const std::size_t equals = line.find('=');
   if (equals == std::string_view::npos || IsComment(line)) return std::nullopt;
-  return IniEntry{WithoutBlanks(line.substr(0, equals)), WithoutBlanks(line.substr(equals + 1))};
+  return IniEntry{TrimIniBlanks(line.substr(0, equals)), TrimIniBlanks(line.substr(equals + 1))};
 }
 
 bool IsComment(std::string_view line) { return BeginsWith(line, ';'); }

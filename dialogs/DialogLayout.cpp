@@ -1,5 +1,5 @@
 // One grid for all dialogs: lengths for 96 pixels an inch, and the height of a line of text.
-#include "localisation/DialogLayout.h"
+#include "dialogs/DialogLayout.h"
 
 #include <algorithm>
 #include <optional>

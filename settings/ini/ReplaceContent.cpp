@@ -1,5 +1,5 @@
 // The order of steps that keeps the old content or the new one in place at every moment.
-#include "settings/ReplaceContent.h"
+#include "settings/ini/ReplaceContent.h"
 
 #include <algorithm>
 

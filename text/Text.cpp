@@ -1,7 +1,7 @@
 // The one rule of comparing without regard to case: texts are equal when they are so in upper case.
-#include "platform/Text.h"
+#include "text/Text.h"
 
-#include "platform/Ascii.h"
+#include "text/Ascii.h"
 
 namespace tessera {
 

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "localisation/frmDialog.h"
+#include "dialogs/frmDialog.h"
 #include "localisation/Mnemonic.h"
 
 namespace tessera {

@@ -1,8 +1,9 @@
 // The lines of a section, split and indexed only when they are asked for.
-#include "settings/IniSection.h"
+#include "settings/ini/IniSection.h"
 
-#include "platform/Lines.h"
-#include "settings/IniText.h"
+#include "settings/ini/IniText.h"
+#include "text/Lines.h"
+#include "text/Trim.h"
 
 namespace tessera {
 
@@ -11,7 +12,7 @@ std::string_view IniSection::Name() const { return HeaderName(text_); }
 const std::vector<std::string_view>& IniSection::Lines() const { return Opened().Lines; }
 
 std::optional<std::string_view> IniSection::Find(std::string_view key) const {
-  const auto line = LineOf(WithoutSpaces(key));
+  const auto line = LineOf(TrimSpaces(key));
   if (!line) return std::nullopt;
   return EntryOf(Lines()[*line])->Value;
 }

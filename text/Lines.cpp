@@ -1,5 +1,5 @@
 // Finds the ends of lines in one walk along the text.
-#include "platform/Lines.h"
+#include "text/Lines.h"
 
 #include <algorithm>
 

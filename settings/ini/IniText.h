@@ -19,10 +19,7 @@ struct IniEntry {
 }
 
 /// Without the blanks at both ends.
-[[nodiscard]] std::string_view WithoutBlanks(std::string_view text);
-
-/// Without the spaces at both ends; other blanks stay. Names that a caller gives are treated so.
-[[nodiscard]] std::string_view WithoutSpaces(std::string_view text);
+[[nodiscard]] std::string_view TrimIniBlanks(std::string_view text);
 
 [[nodiscard]] bool HasLineBreak(std::string_view text);
 

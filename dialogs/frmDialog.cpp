@@ -1,5 +1,5 @@
 // The life of a modal dialog: its making, its texts and its messages.
-#include "localisation/frmDialog.h"
+#include "dialogs/frmDialog.h"
 
 #include <algorithm>
 #include <array>
