@@ -80,7 +80,7 @@ void Editor::Activate() {
   const LocateSources sources{system_.FileSystem, system_.RegistryKeys, system_.Surroundings};
   totalcmdIncPath_ =
       LocateTotalcmdInc(sources, settings_.TCInstallDir, [this](const std::wstring& folder) {
-        return AskForFile(3047, BoxIcon::Information, folder, L"Totalcmd.inc",
+        return AskForFile(TextId::NoTotalcmdInc, BoxIcon::Information, folder, L"Totalcmd.inc",
                           FileFilter::InternalCommands);
       });
   commanderEnvironment_.SetTotalCommanderDirectory(
@@ -95,11 +95,12 @@ std::wstring Editor::FindWincmdIni(const LocateSources& sources) {
     return fileToOpen_;
   }
   const std::wstring storedWincmd = settings_.UserDefinedWincmd;
-  std::wstring path = LocateWincmdIni(sources, settings_.TCInstallDir, settings_.UserDefinedWincmd,
-                                      [this](const std::wstring& folder) {
-                                        return AskForFile(3046, BoxIcon::Exclamation, folder,
-                                                          L"Wincmd.ini", FileFilter::WincmdIni);
-                                      });
+  std::wstring path =
+      LocateWincmdIni(sources, settings_.TCInstallDir, settings_.UserDefinedWincmd,
+                      [this](const std::wstring& folder) {
+                        return AskForFile(TextId::NoWincmdIni, BoxIcon::Exclamation, folder,
+                                          L"Wincmd.ini", FileFilter::WincmdIni);
+                      });
   if (settings_.UserDefinedWincmd != storedWincmd) {
     cProfile(system_.FileSystem, system_.Time)
         .WriteStringValue(CommonSection, L"UserDefinedWincmd", settings_.UserDefinedWincmd,
@@ -195,8 +196,9 @@ void Editor::AskForMissingDataFile() {
     return;
   }
   const std::wstring folder = AddBackslash(system_.Surroundings.ProgramDirectory()) + L"Data Files";
-  settings_.DefaultHotKeysDataFile = AskForFile(
-      3074, BoxIcon::Critical, folder, L"tc default hotkeys.hky", FileFilter::DefaultHotkeys);
+  settings_.DefaultHotKeysDataFile =
+      AskForFile(TextId::NoDataFile, BoxIcon::Critical, folder, L"tc default hotkeys.hky",
+                 FileFilter::DefaultHotkeys);
   cProfile(system_.FileSystem, system_.Time)
       .WriteStringValue(ProgramSection, L"DefaultHotKeysDataFile", settings_.DefaultHotKeysDataFile,
                         SettingsPath(system_.Surroundings));
@@ -216,18 +218,18 @@ void Editor::ApplyLanguage() {
 
 void Editor::ReadModifierNames() {
   // A blank name would be found in every key, and a save would then give it all modifiers.
-  const auto nameOf = [this](int textId) {
-    const std::wstring name(TrimSpaces(texts_.GetLangText(textId)));
-    return name.empty() ? std::wstring(BuiltInTextOf(textId)) : name;
+  const auto nameOf = [this](TextId id) {
+    const std::wstring name(TrimSpaces(texts_.GetLangText(id)));
+    return name.empty() ? std::wstring(BuiltInTextOf(id)) : name;
   };
-  notation_.CtrlName = nameOf(404);
-  notation_.AltName = nameOf(405);
-  notation_.ShiftName = nameOf(406);
+  notation_.CtrlName = nameOf(TextId::CtrlName);
+  notation_.AltName = nameOf(TextId::AltName);
+  notation_.ShiftName = nameOf(TextId::ShiftName);
 }
 
-std::wstring Editor::AskForFile(int textId, BoxIcon icon, const std::wstring& folder,
+std::wstring Editor::AskForFile(TextId message, BoxIcon icon, const std::wstring& folder,
                                 const std::wstring& fileName, FileFilter filter) {
-  system_.Boxes.Show(texts_.GetLangText(textId), BoxButtons::Ok, icon);
+  system_.Boxes.Show(texts_.GetLangText(message), BoxButtons::Ok, icon);
   return dialogs_.BrowseForOpen(folder, fileName, filter);
 }
 

@@ -126,7 +126,7 @@ class Editor {
 
   // -- The panel
 
-  void SetBox(int box, bool checked);
+  void SetBox(Modifier box, bool checked);
   void ChooseKey(int index);
   void AssignKey();
   void AddKey();
@@ -161,7 +161,7 @@ class Editor {
   void SaveRecentFiles();
   void ApplyLanguage();
   void ReadModifierNames();
-  [[nodiscard]] std::wstring AskForFile(int textId, BoxIcon icon, const std::wstring& folder,
+  [[nodiscard]] std::wstring AskForFile(TextId message, BoxIcon icon, const std::wstring& folder,
                                         const std::wstring& fileName, FileFilter filter);
 
   System system_;

@@ -21,7 +21,8 @@ void Editor::OpenRecentFile(int index) {
     OpenShortcutFile(false, path, true);
     return;
   }
-  system_.Boxes.Show(texts_.GetLangText(3021) + L" " + path + L"\n\n" + texts_.GetLangText(3022),
+  system_.Boxes.Show(texts_.GetLangText(TextId::CannotFindThisFile) + L" " + path + L"\n\n" +
+                         texts_.GetLangText(TextId::VerifyPath),
                      BoxButtons::Ok, BoxIcon::Exclamation);
   recentFiles_.RemoveFile(index);
   SaveRecentFiles();
@@ -38,7 +39,7 @@ void Editor::ShowHelpTopics() {
   if (FileExists(system_.FileSystem, path, false)) {
     system_.OtherPrograms.OpenDocument(path);
   } else {
-    system_.Boxes.Show(texts_.GetLangText(3056), BoxButtons::Ok, BoxIcon::Critical);
+    system_.Boxes.Show(texts_.GetLangText(TextId::FileNotFound), BoxButtons::Ok, BoxIcon::Critical);
   }
 }
 

@@ -16,7 +16,7 @@ void Editor::ClickColumn(int column) {
   }
 }
 
-void Editor::SetBox(int box, bool checked) {
+void Editor::SetBox(Modifier box, bool checked) {
   if (!busy_) {
     panel_.SetBox(box, checked);
   }

@@ -53,7 +53,7 @@ BoxAnswer Editor::AskToSaveChanges() {
     return BoxAnswer::No;
   }
   const BoxAnswer answer =
-      system_.Boxes.Show(texts_.GetLangText(3020) + L"  " + wincmdPath_ + L"\n",
+      system_.Boxes.Show(texts_.GetLangText(TextId::SaveChangesTo) + L"  " + wincmdPath_ + L"\n",
                          BoxButtons::YesNoCancel, BoxIcon::Exclamation);
   if (answer == BoxAnswer::Yes) {
     FileSave();

@@ -28,7 +28,7 @@ ToolbarStyle StyleOf(wchar_t digit) {
   }
 }
 
-int NumberOf(std::wstring_view digits) {
+int DecimalOf(std::wstring_view digits) {
   int number = 0;
   for (const wchar_t digit : digits) {
     number = number * 10 + (digit - L'0');
@@ -50,7 +50,7 @@ std::vector<ToolbarButton> ParseToolbar(std::wstring_view buttons, std::wstring_
     button.Style = StyleOf(item.front());
     if (button.Style != ToolbarStyle::Separator) {
       button.Key = ToLower(item.substr(1));
-      button.TextId = NumberOf(TakeItem(tags));
+      button.ToolTip = TextId{DecimalOf(TakeItem(tags))};
       button.Image = image++;
     }
     parsed.push_back(button);

@@ -12,7 +12,7 @@ namespace tessera {
 
 namespace {
 
-constexpr int CommandTextId = 3004;
+constexpr TextId ListName = TextId::CommandColumn;
 constexpr int DefaultsSubItem = 2;
 
 constexpr COLORREF Red = RGB(255, 0, 0);
@@ -81,9 +81,9 @@ void frmMain::CreateCommandList() {
 }
 
 void frmMain::LabelColumns() {
-  SetText(lblListView1_, editor_.Language().GetLangText(CommandTextId));
-  for (std::size_t column = 0; column < ColumnTextIds.size(); ++column) {
-    std::wstring text = editor_.Language().GetLangText(ColumnTextIds[column]);
+  SetText(lblListView1_, editor_.Language().GetLangText(ListName));
+  for (std::size_t column = 0; column < ColumnHeadings.size(); ++column) {
+    std::wstring text = editor_.Language().GetLangText(ColumnHeadings[column]);
     LVCOLUMNW label{};
     label.mask = LVCF_TEXT;
     label.pszText = text.data();

@@ -208,8 +208,8 @@ void frmMain::LayOutPanel() {
                                      chkCtrlAlt_[2], Combo1_,        Toolbar2_};
   std::vector<RowItem> items;
   const Texts& texts = editor_.Language();
-  for (const int textId : {400, 401, 402, 403}) {
-    const SIZE text = TextSize(window_, font_.get(), texts.GetLangText(textId));
+  for (const TextId id : {TextId::Hotkey, TextId::ControlBox, TextId::AltBox, TextId::ShiftBox}) {
+    const SIZE text = TextSize(window_, font_.get(), texts.GetLangText(id));
     if (items.empty()) {
       items.push_back({scaled(PanelMargin), text.cx, text.cy});
     } else {

@@ -52,33 +52,33 @@ bool IsRecentFile(int id) {
   return id >= IDM_mnuFileRecentFiles1 && id <= IDM_mnuFileRecentFiles16;
 }
 
-/// An item of a menu; with Id 0 the heading of a menu, with TextId 0 too a separator. The submenu
-/// of recent files has an ID of its own here.
+/// An item of a menu; with Id 0 the heading of a menu, without a caption too a separator. The
+/// submenu of recent files has an ID of its own here.
 struct MenuItem {
   int Id;
-  int TextId;
+  TextId Caption = TextId::None;
 };
 
 constexpr int RecentSubmenu = -1;
 
 constexpr MenuItem MenuBar[] = {
-    {0, 101},
-    {IDM_mnuFileOpen, 103},
-    {IDM_mnuFileSave, 104},
-    {IDM_mnuFileSavenRestartTC, 116},
-    {0, 0},
-    {IDM_mnuFileExportToClipboard, 117},
-    {0, 0},
-    {RecentSubmenu, 107},
-    {0, 0},
-    {IDM_mnuFileExit, 110},
-    {0, 141},
-    {IDM_mnuViewToolbar, 142},
-    {IDM_mnuViewSortList, 149},
-    {0, 0},
-    {IDM_mnuViewOptions, 150},
-    {0, 161},
-    {IDM_mnuHelpHelpTopics, 162},
+    {0, TextId::MenuFile},
+    {IDM_mnuFileOpen, TextId::FileOpen},
+    {IDM_mnuFileSave, TextId::FileSave},
+    {IDM_mnuFileSavenRestartTC, TextId::SaveAndRestart},
+    {0},
+    {IDM_mnuFileExportToClipboard, TextId::FileExport},
+    {0},
+    {RecentSubmenu, TextId::FileRecent},
+    {0},
+    {IDM_mnuFileExit, TextId::FileExit},
+    {0, TextId::MenuView},
+    {IDM_mnuViewToolbar, TextId::ViewToolbar},
+    {IDM_mnuViewSortList, TextId::ViewSortedList},
+    {0},
+    {IDM_mnuViewOptions, TextId::ViewOptions},
+    {0, TextId::MenuHelp},
+    {IDM_mnuHelpHelpTopics, TextId::HelpTopics},
 };
 
 }  // namespace
@@ -88,14 +88,14 @@ void frmMain::BuildMenus() {
   const HMENU bar = CreateMenu();
   HMENU menu = nullptr;
   for (const MenuItem& item : MenuBar) {
-    const std::wstring caption = texts.GetLangText(item.TextId);
+    const std::wstring caption = texts.GetLangText(item.Caption);
     if (item.Id == RecentSubmenu) {
       mnuRecent_ = CreatePopupMenu();
       FillRecentMenu(mnuRecent_, true);
       AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(mnuRecent_), caption.c_str());
     } else if (item.Id != 0) {
       AppendMenuW(menu, MF_STRING, static_cast<UINT_PTR>(item.Id), caption.c_str());
-    } else if (item.TextId == 0) {
+    } else if (item.Caption == TextId::None) {
       AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
     } else {
       menu = CreatePopupMenu();

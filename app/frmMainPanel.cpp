@@ -10,7 +10,7 @@ namespace tessera {
 namespace {
 
 constexpr int BoxIds[] = {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2};
-constexpr int BoxTextIds[] = {401, 402, 403};
+constexpr TextId BoxCaptions[] = {TextId::ControlBox, TextId::AltBox, TextId::ShiftBox};
 constexpr wchar_t FrameClass[] = L"frmMain.Frame1";
 
 /// The panel's controls speak to the main window.
@@ -59,11 +59,11 @@ void frmMain::CreatePanel() {
 
 void frmMain::LabelPanel() {
   const Texts& texts = editor_.Language();
-  SetText(lblHotkey_, texts.GetLangText(400));
+  SetText(lblHotkey_, texts.GetLangText(TextId::Hotkey));
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
-    SetText(chkCtrlAlt_[box], texts.GetLangText(BoxTextIds[box]));
+    SetText(chkCtrlAlt_[box], texts.GetLangText(BoxCaptions[box]));
   }
-  const std::wstring name = WithoutMnemonic(texts.GetLangText(400));
+  const std::wstring name = WithoutMnemonic(texts.GetLangText(TextId::Hotkey));
   SetText(cmdAllList_, name);
   frmKeysList_.SetName(name);
 }
@@ -76,7 +76,7 @@ void frmMain::SyncPanel() {
     SetFocus(ListView1_);
   }
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
-    const bool checked = panel.BoxChecked(static_cast<int>(box));
+    const bool checked = panel.BoxChecked(AllModifiers[box]);
     if ((Button_GetCheck(chkCtrlAlt_[box]) == BST_CHECKED) != checked) {
       Button_SetCheck(chkCtrlAlt_[box], checked ? BST_CHECKED : BST_UNCHECKED);
     }
@@ -109,7 +109,7 @@ bool frmMain::OnPanelCommand(int id, int notification) {
   if (AcceptsInput()) {
     if (isBox) {
       const auto index = static_cast<std::size_t>(box - BoxIds);
-      editor_.SetBox(static_cast<int>(index), Button_GetCheck(chkCtrlAlt_[index]) == BST_CHECKED);
+      editor_.SetBox(AllModifiers[index], Button_GetCheck(chkCtrlAlt_[index]) == BST_CHECKED);
     } else {
       editor_.ChooseKey(ComboBox_GetCurSel(Combo1_));
     }

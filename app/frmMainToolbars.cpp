@@ -17,13 +17,13 @@ namespace {
 struct DropDown {
   int ButtonId;
   int ItemId;
-  int TextId;
+  TextId Caption;
 };
 
 constexpr DropDown DropDowns[] = {
-    {IDM_mnuFileSave, IDM_restarttc, 116},
-    {IDM_assign, IDM_new, 3202},
-    {IDM_delete, IDM_delall, 3205},
+    {IDM_mnuFileSave, IDM_restarttc, TextId::SaveAndRestart},
+    {IDM_assign, IDM_new, TextId::AddHotkey},
+    {IDM_delete, IDM_delall, TextId::DeleteAllHotkeys},
 };
 
 constexpr std::wstring_view MainToolbar = L"5Open,5Save,3,1Sort Command List,3,0Options";
@@ -45,7 +45,7 @@ constexpr ButtonCommand MainButtonCommands[] = {
 struct Button {
   int Id;
   BYTE Style;
-  int TextId;  ///< of its tool tip; 0: its tool tip is the key that does the same
+  TextId ToolTip;  ///< none: its tool tip is the key that does the same
   std::wstring_view Key{};
 };
 
@@ -69,15 +69,15 @@ std::vector<Button> MainButtons() {
     const auto* const command =
         std::ranges::find(MainButtonCommands, parsed.Key, &ButtonCommand::Key);
     const int id = command != std::end(MainButtonCommands) ? command->Id : 0;
-    buttons.push_back({id, StyleOf(parsed.Style), parsed.TextId});
+    buttons.push_back({id, StyleOf(parsed.Style), parsed.ToolTip});
   }
   return buttons;
 }
 
 constexpr Button PanelButtons[] = {
-    {IDM_assign, BTNS_DROPDOWN, 0, L"ENTER"},
-    {0, BTNS_SEP, 0},
-    {IDM_delete, BTNS_DROPDOWN, 0, L"DEL"},
+    {IDM_assign, BTNS_DROPDOWN, TextId::None, L"ENTER"},
+    {0, BTNS_SEP, TextId::None},
+    {IDM_delete, BTNS_DROPDOWN, TextId::None, L"DEL"},
 };
 
 constexpr int Images[] = {IDI_OPEN, IDI_SAVE, IDI_SORT, IDI_OPTIONS, IDI_ASSIGN, IDI_DELETE};
@@ -140,8 +140,8 @@ void frmMain::CreateToolbars() {
 void frmMain::LabelToolbars() {
   const Texts& texts = editor_.Language();
   for (const Button& button : MainButtons()) {
-    if (button.TextId != 0) {
-      SetButtonText(Toolbar1_, button.Id, WithoutMnemonic(texts.GetLangText(button.TextId)));
+    if (button.ToolTip != TextId::None) {
+      SetButtonText(Toolbar1_, button.Id, WithoutMnemonic(texts.GetLangText(button.ToolTip)));
     }
   }
   for (const Button& button : PanelButtons) {
@@ -181,7 +181,7 @@ void frmMain::OnDropDown(const NMTOOLBARW& button) {
   } else if (dropDown != std::end(DropDowns)) {
     AppendMenuW(menu.get(), MF_STRING | (CommandEnabled(dropDown->ItemId) ? MF_ENABLED : MF_GRAYED),
                 static_cast<UINT_PTR>(dropDown->ItemId),
-                editor_.Language().GetLangText(dropDown->TextId).c_str());
+                editor_.Language().GetLangText(dropDown->Caption).c_str());
   }
   ShowUnderButton(button, menu.get());
 }

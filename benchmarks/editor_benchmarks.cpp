@@ -24,7 +24,7 @@ void Assign(benchmark::State& state) {
     row = (row + 7919) % rows;
     key = (key + 1) % 67;
     program.Editor.SelectRow(row);
-    program.Editor.SetBox(0, key % 2 == 0);
+    program.Editor.SetBox(Modifier::Ctrl, key % 2 == 0);
     program.Editor.ChooseKey(key);
     program.Editor.AssignKey();
   }
@@ -40,7 +40,7 @@ void Delete(benchmark::State& state) {
     state.PauseTiming();
     row = (row + 7919) % rows;
     program.Editor.SelectRow(row);
-    program.Editor.SetBox(0, ++key % 2 == 0);
+    program.Editor.SetBox(Modifier::Ctrl, ++key % 2 == 0);
     program.Editor.ChooseKey(key % 67);
     program.Editor.AssignKey();
     state.ResumeTiming();
@@ -189,7 +189,7 @@ void ApplyTexts(benchmark::State& state) {
     Texts texts(files);
     if (!texts.UseLanguageFile(L"other.lng")) state.SkipWithError("no language file");
     for (int id = 0; id < state.range(0); ++id) {
-      benchmark::DoNotOptimize(texts.GetLangText(id).size());
+      benchmark::DoNotOptimize(texts.GetLangText(TextId{id}).size());
     }
   }
 }

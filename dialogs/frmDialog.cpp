@@ -189,10 +189,10 @@ void frmDialog::CreateControls() {
 }
 
 void frmDialog::ApplyLanguage() {
-  SetText(window_, texts_.GetLangText(plan_.TitleTextId));
+  SetText(window_, texts_.GetLangText(plan_.Title));
   for (const auto& controls : {plan_.Controls, plan_.Buttons}) {
     for (const DialogControl& control : controls) {
-      const std::wstring text = control.TextId != 0 ? texts_.GetLangText(control.TextId) : L"";
+      const std::wstring text = texts_.GetLangText(control.Caption);
       if (control.Kind == ControlKind::SideButton) {
         SetText(Control(control.Id), L"...");
       }
@@ -203,8 +203,8 @@ void frmDialog::ApplyLanguage() {
       }
     }
   }
-  for (int page = 0; const int textId : plan_.TabTextIds) {
-    std::wstring caption = texts_.GetLangText(textId);
+  for (int page = 0; const TextId text : plan_.TabCaptions) {
+    std::wstring caption = texts_.GetLangText(text);
     TCITEMW tab{};
     tab.mask = TCIF_TEXT;
     tab.pszText = caption.data();

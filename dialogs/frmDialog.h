@@ -15,17 +15,17 @@ namespace tessera {
 struct DialogControl {
   int Id;
   ControlKind Kind;
-  int TextId;  ///< of its caption, or, where it has none, of its name for screen readers; 0: none
+  TextId Caption;  ///< where it shows none, its name for screen readers
   int Page = 0;
 };
 
 struct DialogPlan {
   const wchar_t* ClassName;
-  int TitleTextId;
+  TextId Title;
   std::span<const DialogControl> Controls;  ///< in the order of the Tab key, page by page
   std::span<const DialogControl> Buttons;   ///< the default button first, then the cancel button
   int TabsId = 0;                           ///< 0: one page, and no tabs
-  std::span<const int> TabTextIds{};
+  std::span<const TextId> TabCaptions{};
 };
 
 class frmDialog {
@@ -68,7 +68,7 @@ class frmDialog {
   void ApplyLanguage();
   void ApplyDpi(int dpi);
   void LayOut();
-  [[nodiscard]] int TextWidth(int textId) const;
+  [[nodiscard]] int TextWidth(TextId text) const;
   [[nodiscard]] int TabsWidth() const;
   void PlaceAll(const PagesLayout& pages, POINT origin) const;
   void Resize(int width, int height);

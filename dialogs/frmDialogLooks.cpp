@@ -70,16 +70,15 @@ void frmDialog::ApplyDpi(int dpi) {
   LayOut();
 }
 
-int frmDialog::TextWidth(int textId) const {
-  return textId != 0
-             ? static_cast<int>(TextSize(window_, font_.get(), texts_.GetLangText(textId)).cx)
-             : 0;
+int frmDialog::TextWidth(TextId text) const {
+  if (text == TextId::None) return 0;
+  return static_cast<int>(TextSize(window_, font_.get(), texts_.GetLangText(text)).cx);
 }
 
 int frmDialog::TabsWidth() const {
   int width = 0;
-  for (const int textId : plan_.TabTextIds) {
-    width += TextWidth(textId) + 2 * Scaled(TabPadding, metrics_.Dpi) + Scaled(6, metrics_.Dpi);
+  for (const TextId text : plan_.TabCaptions) {
+    width += TextWidth(text) + 2 * Scaled(TabPadding, metrics_.Dpi) + Scaled(6, metrics_.Dpi);
   }
   return width;
 }
@@ -87,16 +86,16 @@ int frmDialog::TabsWidth() const {
 void frmDialog::LayOut() {
   std::vector<MeasuredControl> measured;
   for (const DialogControl& control : plan_.Controls) {
-    measured.push_back({control.Kind, control.Page, TextWidth(control.TextId)});
+    measured.push_back({control.Kind, control.Page, TextWidth(control.Caption)});
   }
   std::vector<int> buttonTexts;
   int buttonsWidth = 0;
   for (const DialogControl& button : plan_.Buttons) {
-    buttonTexts.push_back(TextWidth(button.TextId));
+    buttonTexts.push_back(TextWidth(button.Caption));
     buttonsWidth += ButtonSize(buttonTexts.back(), metrics_).Width + DialogGap(metrics_);
   }
   const int margin = DialogMargin(metrics_);
-  const int title = TextWidth(plan_.TitleTextId) + Scaled(TitleRoom, metrics_.Dpi);
+  const int title = TextWidth(plan_.Title) + Scaled(TitleRoom, metrics_.Dpi);
   const PagesLayout pages = LayOutPages(
       measured, metrics_,
       std::max({TabsWidth(), buttonsWidth, title, Scaled(SmallestPageWidth, metrics_.Dpi)}));

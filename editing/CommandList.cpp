@@ -84,9 +84,7 @@ bool CommandList::CommandSelected() const {
   return selectedRow_ != 0 && !catalogue_.ListView1.Row(selectedRow_).IsHeading();
 }
 
-HeaderIcon CommandList::IconOf(Column column) const {
-  return icons_.at(static_cast<std::size_t>(column) - 1);
-}
+HeaderIcon CommandList::IconOf(Column column) const { return icons_.at(IndexOf(column)); }
 
 void CommandList::ShowRowDetails(RowKey row) { selectedRow_ = row; }
 

@@ -7,13 +7,7 @@ namespace tessera {
 
 namespace {
 
-constexpr int Ctrl = 0;
-constexpr int Alt = 1;
-constexpr int Shift = 2;
-
-std::array<bool, 3> ToggleResetValues(const Settings& settings) {
-  return {true, settings.UseContextMenuKey != 0, true};
-}
+constexpr std::size_t IndexOf(Modifier modifier) { return static_cast<std::size_t>(modifier); }
 
 }  // namespace
 
@@ -26,11 +20,13 @@ HotkeyPanel::HotkeyPanel(Catalogue& catalogue, CommandList& list, HotkeyAssignme
       notation_(notation),
       settings_(settings),
       boxes_(boxes),
-      modifierToggle_(ToggleResetValues(settings)) {}
+      modifierToggle_(ToggleResetValues()) {}
 
-bool HotkeyPanel::BoxChecked(int box) const {
-  return boxesChecked_.at(static_cast<std::size_t>(box));
+HotkeyPanel::PerModifier HotkeyPanel::ToggleResetValues() const {
+  return {true, settings_.UseContextMenuKey != 0, true};
 }
+
+bool HotkeyPanel::BoxChecked(Modifier box) const { return boxesChecked_[IndexOf(box)]; }
 
 int HotkeyPanel::ChosenKey() const { return chosenKey_; }
 
@@ -48,23 +44,17 @@ bool HotkeyPanel::AddEnabled() const {
 }
 
 std::wstring HotkeyPanel::ComposeKey() const {
-  const std::array<const std::wstring*, 3> names{&notation_.CtrlName, &notation_.AltName,
-                                                 &notation_.ShiftName};
   std::wstring key;
-  for (std::size_t box = 0; box < names.size(); ++box) {
-    if (boxesChecked_[box]) {
-      key += *names[box] + L" + ";
-    }
-  }
+  if (BoxChecked(Modifier::Ctrl)) key += notation_.CtrlName + L" + ";
+  if (BoxChecked(Modifier::Alt)) key += notation_.AltName + L" + ";
+  if (BoxChecked(Modifier::Shift)) key += notation_.ShiftName + L" + ";
   if (chosenKey_ != NoKeyChosen) {
     key += WithNum(KeyVocabulary()[static_cast<std::size_t>(chosenKey_)]);
   }
   return notation_.ApplyReverseOrder(key.empty() ? notation_.UndefinedHotkey : key);
 }
 
-void HotkeyPanel::SetBox(int box, bool checked) {
-  boxesChecked_.at(static_cast<std::size_t>(box)) = checked;
-}
+void HotkeyPanel::SetBox(Modifier box, bool checked) { boxesChecked_[IndexOf(box)] = checked; }
 
 void HotkeyPanel::ChooseKey(int index) {
   const bool exists = index >= 0 && static_cast<std::size_t>(index) < KeyVocabulary().size();
@@ -73,7 +63,7 @@ void HotkeyPanel::ChooseKey(int index) {
 
 PanelReaction HotkeyPanel::ResetPanel() {
   boxesChecked_.fill(false);
-  modifierToggle_ = ToggleResetValues(settings_);
+  modifierToggle_ = ToggleResetValues();
   chosenKey_ = NoKeyChosen;
   return {.FocusTo = PanelReaction::Focus::CommandList, .Handled = true};
 }
@@ -109,8 +99,8 @@ PanelReaction HotkeyPanel::KeyDown(const KeyEvent& event) {
     return {};
   }
   PanelReaction reaction;
-  const auto press = [&](int box) {
-    boxesChecked_[static_cast<std::size_t>(box)] = modifierToggle_[static_cast<std::size_t>(box)];
+  const auto press = [&](Modifier box) {
+    boxesChecked_[IndexOf(box)] = modifierToggle_[IndexOf(box)];
     reaction.FocusTo = PanelReaction::Focus::Chooser;
   };
   if (event.Code == KeyCode::Delete) {
@@ -118,16 +108,16 @@ PanelReaction HotkeyPanel::KeyDown(const KeyEvent& event) {
     reaction.Handled = true;
   }
   if (event.CtrlHeld) {
-    press(Ctrl);
+    press(Modifier::Ctrl);
   }
   const bool altPressed =
       settings_.UseContextMenuKey != 0 ? event.Code == KeyCode::ContextMenu : event.AltHeld;
   if (altPressed) {
-    press(Alt);
+    press(Modifier::Alt);
     reaction.Handled |= event.Code == KeyCode::ContextMenu;
   }
   if (event.ShiftHeld) {
-    press(Shift);
+    press(Modifier::Shift);
   }
   if (event.Code == KeyCode::Enter && chosenKey_ != NoKeyChosen) {
     const bool changed = Assign();
@@ -144,28 +134,29 @@ PanelReaction HotkeyPanel::KeyUp(const KeyEvent& event) {
   if (!list_.CommandSelected()) {
     return {};
   }
-  const auto flip = [this](int box) {
-    bool& toggle = modifierToggle_[static_cast<std::size_t>(box)];
+  const auto flip = [this](Modifier box) {
+    bool& toggle = modifierToggle_[IndexOf(box)];
     toggle = !toggle;
   };
   const bool usesContextMenuKey = settings_.UseContextMenuKey != 0;
   PanelReaction reaction;
   if (event.Code == KeyCode::Ctrl) {
-    flip(Ctrl);
+    flip(Modifier::Ctrl);
   } else if (event.Code == KeyCode::ContextMenu && usesContextMenuKey) {
-    flip(Alt);
+    flip(Modifier::Alt);
     reaction.Handled = true;
   } else if (event.Code == KeyCode::Alt && !usesContextMenuKey) {
     reaction.StartTimer = true;
   } else if (event.Code == KeyCode::Shift) {
-    flip(Shift);
+    flip(Modifier::Shift);
   }
   return reaction;
 }
 
 PanelReaction HotkeyPanel::TimerTick() {
-  modifierToggle_[Alt] = !modifierToggle_[Alt];
-  boxesChecked_[Alt] = modifierToggle_[Alt];
+  bool& toggle = modifierToggle_[IndexOf(Modifier::Alt)];
+  toggle = !toggle;
+  boxesChecked_[IndexOf(Modifier::Alt)] = toggle;
   return {.FocusTo = PanelReaction::Focus::Chooser};
 }
 

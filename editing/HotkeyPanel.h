@@ -48,14 +48,19 @@ inline constexpr int PanelTimerMilliseconds = 50;
 /// No key chosen in the chooser.
 inline constexpr int NoKeyChosen = -1;
 
+/// The three boxes, in their order on the panel.
+enum class Modifier { Ctrl, Alt, Shift };
+
+inline constexpr std::array AllModifiers{Modifier::Ctrl, Modifier::Alt, Modifier::Shift};
+
 class HotkeyPanel {
  public:
   HotkeyPanel(Catalogue& catalogue, CommandList& list, HotkeyAssignment& assignment,
               const HotkeyNotation& notation, const Settings& settings, MessageBoxes& boxes);
 
-  // -- Queries: what the controls show. Boxes are indexed 0 Ctrl, 1 Alt, 2 Shift.
+  // -- Queries: what the controls show
 
-  [[nodiscard]] bool BoxChecked(int box) const;
+  [[nodiscard]] bool BoxChecked(Modifier box) const;
   [[nodiscard]] int ChosenKey() const;  ///< index into KeyVocabulary(), or NoKeyChosen
   [[nodiscard]] bool InputsEnabled() const;
   [[nodiscard]] bool AssignEnabled() const;
@@ -65,7 +70,7 @@ class HotkeyPanel {
 
   // -- Changes by the controls
 
-  void SetBox(int box, bool checked);
+  void SetBox(Modifier box, bool checked);
 
   /// An index outside the vocabulary chooses no key.
   void ChooseKey(int index);
@@ -86,14 +91,19 @@ class HotkeyPanel {
   PanelReaction TimerTick();
 
  private:
+  using PerModifier = std::array<bool, AllModifiers.size()>;
+
+  /// What the toggles are when nothing has been pressed yet.
+  [[nodiscard]] PerModifier ToggleResetValues() const;
+
   Catalogue& catalogue_;
   CommandList& list_;
   HotkeyAssignment& assignment_;
   const HotkeyNotation& notation_;
   const Settings& settings_;
   MessageBoxes& boxes_;
-  std::array<bool, 3> boxesChecked_{};
-  std::array<bool, 3> modifierToggle_;  ///< what each box becomes at the next press of its key
+  PerModifier boxesChecked_{};
+  PerModifier modifierToggle_;  ///< what each box becomes at the next press of its key
   int chosenKey_ = NoKeyChosen;
 };
 

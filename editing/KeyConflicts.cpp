@@ -8,7 +8,7 @@ namespace {
 constexpr const wchar_t* LineBreaks = L"\n\n";
 
 std::wstring AssignItToQuestion(const Texts& texts, const CommandEntry& row) {
-  return (texts.GetLangText(3060) + L"  ").append(row.CommandName);
+  return (texts.GetLangText(TextId::AssignItTo) + L"  ").append(row.CommandName);
 }
 
 }  // namespace
@@ -28,24 +28,25 @@ KeyConflict FindConflict(const Catalogue& catalogue, RowKey row, std::wstring_vi
 
 std::wstring StartMenuQuestion(const Texts& texts, const StartMenuSlot& slot,
                                const CommandEntry& row) {
-  return texts.GetLangText(3204) + L"  [" + slot.Caption + L"] " + texts.GetLangText(3207) +
-         LineBreaks + AssignItToQuestion(texts, row);
+  return texts.GetLangText(TextId::CurrentHotkeyFor) + L"  [" + slot.Caption + L"] " +
+         texts.GetLangText(TextId::InStartMenu) + LineBreaks + AssignItToQuestion(texts, row);
 }
 
 std::wstring DefaultKeyQuestion(const Texts& texts, const CommandEntry& owner,
                                 const CommandEntry& row) {
-  return (texts.GetLangText(3203) + L"  ").append(owner.CommandName) + L"\t" + LineBreaks +
-         AssignItToQuestion(texts, row) + L"\t";
+  return (texts.GetLangText(TextId::DefaultHotkeyFor) + L"  ").append(owner.CommandName) + L"\t" +
+         LineBreaks + AssignItToQuestion(texts, row) + L"\t";
 }
 
 std::wstring CurrentKeyQuestion(const Texts& texts, const CommandEntry& owner,
                                 const CommandEntry& row) {
-  return (texts.GetLangText(3204) + L"  ").append(owner.CommandName) + LineBreaks +
-         AssignItToQuestion(texts, row);
+  return (texts.GetLangText(TextId::CurrentHotkeyFor) + L"  ").append(owner.CommandName) +
+         LineBreaks + AssignItToQuestion(texts, row);
 }
 
 std::wstring DeleteAllQuestion(const Texts& texts) {
-  return texts.GetLangText(3206) + LineBreaks + texts.GetLangText(3009);
+  return texts.GetLangText(TextId::AboutToDeleteAll) + LineBreaks +
+         texts.GetLangText(TextId::AreYouSure);
 }
 
 }  // namespace tessera

@@ -25,7 +25,7 @@ void ClipboardExport::Load(const Files& files, const std::wstring& settingsFile)
   selection_.Load(settings.ReadString(ProgramSection, ClipOptionsKey, L""));
 }
 
-void ClipboardExport::Click(int box) { selection_.Click(box); }
+void ClipboardExport::Click(Column box) { selection_.Click(box); }
 
 void ClipboardExport::Ok(Files& files, Clock& clock, const std::wstring& settingsFile) {
   exportText_ = BuildExportText(catalogue_.ListView1, selection_.Columns(), texts_,

@@ -32,7 +32,7 @@ class ClipboardExport {
   void Load(const Files& files, const std::wstring& settingsFile);
 
   /// As ExportSelection::Click.
-  void Click(int box);
+  void Click(Column box);
 
   /// Builds the table of the displayed rows and stores the selection.
   void Ok(Files& files, Clock& clock, const std::wstring& settingsFile);

@@ -18,8 +18,8 @@ void AppendCell(std::wstring& text, std::wstring_view cell, std::size_t width) {
 
 bool HasKey(const CommandEntry& row, const ExportColumns& columns,
             const std::wstring& undefinedHotkey) {
-  return (columns[2] && row.DefaultKeys != undefinedHotkey) ||
-         (columns[3] && row.CurrentKeys != undefinedHotkey);
+  return (columns[IndexOf(Column::Defaults)] && row.DefaultKeys != undefinedHotkey) ||
+         (columns[IndexOf(Column::Current)] && row.CurrentKeys != undefinedHotkey);
 }
 
 std::wstring HeadingLine(const ExportColumns& columns, const std::array<std::size_t, 4>& widths,
@@ -27,7 +27,7 @@ std::wstring HeadingLine(const ExportColumns& columns, const std::array<std::siz
   std::wstring line;
   for (std::size_t i = 0; i < AllColumns.size(); ++i) {
     if (columns[i]) {
-      const std::wstring heading = texts.GetLangText(ColumnTextIds[i]);
+      const std::wstring heading = texts.GetLangText(ColumnHeadings[i]);
       // The last heading is always written whole, deliberately, and the others are cut.
       AppendCell(line, heading, AllColumns[i] == Column::Current ? heading.size() : widths[i]);
     }
@@ -85,13 +85,16 @@ std::wstring BuildExportEnding(const StartMenuKeyTable& startMenuKeys, bool modi
   }
   text.append(LineEnd);
   if (modified) {
-    const std::wstring heading = L"=   " + texts.GetLangText(3208) + L"   =";
+    const std::wstring heading = L"=   " + texts.GetLangText(TextId::Important) + L"   =";
     const std::wstring rule(heading.size(), L'=');
     for (int i = 0; i < 4; ++i) {
       text.append(LineEnd);
     }
     text.append(rule).append(LineEnd).append(heading).append(LineEnd);
-    text.append(rule).append(LineEnd).append(texts.GetLangText(3209)).append(LineEnd);
+    text.append(rule)
+        .append(LineEnd)
+        .append(texts.GetLangText(TextId::NotSavedYet))
+        .append(LineEnd);
   }
   return text;
 }

@@ -7,8 +7,26 @@
 #include "text/Numbers.h"
 
 namespace tessera {
+namespace {
 
-bool ExportSelection::Checked(int box) const { return columns_.at(static_cast<std::size_t>(box)); }
+/// Texts are one pair, keys the other.
+Column PartnerOf(Column column) {
+  switch (column) {
+    case Column::Description:
+      return Column::Command;
+    case Column::Command:
+      return Column::Description;
+    case Column::Defaults:
+      return Column::Current;
+    case Column::Current:
+      break;
+  }
+  return Column::Defaults;
+}
+
+}  // namespace
+
+bool ExportSelection::Checked(Column box) const { return columns_[IndexOf(box)]; }
 
 const ExportColumns& ExportSelection::Columns() const { return columns_; }
 
@@ -31,18 +49,14 @@ void ExportSelection::Load(std::wstring_view clipOptions) {
   }
 }
 
-void ExportSelection::Click(int box) {
-  bool& checked = columns_.at(static_cast<std::size_t>(box));
-  checked = !checked;
-  const int first = box / 2 * 2;
-  const int second = first + 1;
-  KeepOneOfPair(first, second, box == first ? second : first);
+void ExportSelection::Click(Column box) {
+  columns_[IndexOf(box)] = !Checked(box);
+  const Column partner = PartnerOf(box);
+  KeepOneOfPair(box, partner, partner);
 }
 
-void ExportSelection::KeepOneOfPair(int first, int second, int target) {
-  if (!Checked(first) && !Checked(second)) {
-    columns_[static_cast<std::size_t>(target)] = true;
-  }
+void ExportSelection::KeepOneOfPair(Column first, Column second, Column target) {
+  if (!Checked(first) && !Checked(second)) columns_[IndexOf(target)] = true;
 }
 
 }  // namespace tessera

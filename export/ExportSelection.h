@@ -10,9 +10,7 @@ namespace tessera {
 
 class ExportSelection {
  public:
-  /// Boxes are indexed 0 description, 1 command, 2 defaults, 3 current; any other index throws
-  /// std::out_of_range, here and below.
-  [[nodiscard]] bool Checked(int box) const;
+  [[nodiscard]] bool Checked(Column box) const;
   [[nodiscard]] const ExportColumns& Columns() const;
 
   /// The selection as it is stored: "0" or "1" for each column, joined by ",".
@@ -21,12 +19,12 @@ class ExportSelection {
   /// Takes a stored selection; one with fewer than four values gives the default, "0,1,1,1".
   void Load(std::wstring_view clipOptions);
 
-  /// A click turns a box round. When that leaves both boxes of its pair unchecked (0 and 1, 2 and
-  /// 3), the other one is checked.
-  void Click(int box);
+  /// A click turns a box round. When that leaves both boxes of its pair unchecked (description and
+  /// command, defaults and current), the other one is checked.
+  void Click(Column box);
 
  private:
-  void KeepOneOfPair(int first, int second, int target);
+  void KeepOneOfPair(Column first, Column second, Column target);
 
   ExportColumns columns_{false, true, true, true};
 };

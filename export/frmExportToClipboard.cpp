@@ -10,21 +10,33 @@ namespace tessera {
 namespace {
 
 constexpr DialogControl Controls[] = {
-    {IDC_Frame1, ControlKind::Frame, 0},           {IDC_chkColumn0, ControlKind::CheckBox, 3003},
-    {IDC_chkColumn1, ControlKind::CheckBox, 3004}, {IDC_chkColumn2, ControlKind::CheckBox, 3200},
-    {IDC_chkColumn3, ControlKind::CheckBox, 3201},
+    {IDC_Frame1, ControlKind::Frame, TextId::None},
+    {IDC_chkColumn0, ControlKind::CheckBox, TextId::DescriptionColumn},
+    {IDC_chkColumn1, ControlKind::CheckBox, TextId::CommandColumn},
+    {IDC_chkColumn2, ControlKind::CheckBox, TextId::DefaultHotkeyColumn},
+    {IDC_chkColumn3, ControlKind::CheckBox, TextId::CurrentHotkeyColumn},
 };
 
-constexpr int Boxes[] = {IDC_chkColumn0, IDC_chkColumn1, IDC_chkColumn2, IDC_chkColumn3};
+struct ColumnBox {
+  int Id;
+  Column Exported;
+};
+
+constexpr ColumnBox Boxes[] = {
+    {IDC_chkColumn0, Column::Description},
+    {IDC_chkColumn1, Column::Command},
+    {IDC_chkColumn2, Column::Defaults},
+    {IDC_chkColumn3, Column::Current},
+};
 
 constexpr DialogControl Buttons[] = {
-    {IDC_cmdOK, ControlKind::Button, 1008},
-    {IDC_cmdCancel, ControlKind::Button, 1009},
+    {IDC_cmdOK, ControlKind::Button, TextId::Ok},
+    {IDC_cmdCancel, ControlKind::Button, TextId::Cancel},
 };
 
 constexpr DialogPlan Plan{
     .ClassName = L"frmExportToClipboard",
-    .TitleTextId = 407,
+    .Title = TextId::ExportTitle,
     .Controls = Controls,
     .Buttons = Buttons,
 };
@@ -42,8 +54,8 @@ void frmExportToClipboard::Show(HWND owner, ClipboardExport& model,
 }
 
 void frmExportToClipboard::Sync() {
-  for (int box = 0; const int id : Boxes) {
-    SetChecked(id, model_->Selection().Checked(box++));
+  for (const ColumnBox& box : Boxes) {
+    SetChecked(box.Id, model_->Selection().Checked(box.Exported));
   }
 }
 
@@ -51,9 +63,9 @@ void frmExportToClipboard::OnCommand(int id, int notification) {
   if (notification != BN_CLICKED) {
     return;
   }
-  const auto* const box = std::ranges::find(Boxes, id);
+  const auto* const box = std::ranges::find(Boxes, id, &ColumnBox::Id);
   if (box != std::end(Boxes)) {
-    model_->Click(static_cast<int>(box - Boxes));
+    model_->Click(box->Exported);
     Sync();
   } else if (id == IDC_cmdOK) {
     ok_();

@@ -4,10 +4,12 @@
 #include <span>
 #include <string_view>
 
+#include "localisation/TextId.h"
+
 namespace tessera {
 
 struct BuiltInText {
-  int Id;
+  TextId Id;
   std::wstring_view Text;
 };
 
@@ -15,6 +17,6 @@ struct BuiltInText {
 [[nodiscard]] std::span<const BuiltInText> TextTable();
 
 /// The text of an ID; "" for an ID that the table lacks.
-[[nodiscard]] std::wstring_view BuiltInTextOf(int id);
+[[nodiscard]] std::wstring_view BuiltInTextOf(TextId id);
 
 }  // namespace tessera

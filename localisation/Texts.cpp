@@ -20,9 +20,9 @@ int IntegerOf(const ProfileFile& language, std::wstring_view key) {
 
 Texts::Texts(const Files& files) : files_(files) {}
 
-std::wstring Texts::GetLangText(int id) const {
+std::wstring Texts::GetLangText(TextId id) const {
   if (language_) {
-    std::wstring text = language_->ReadString(LanguageSection, std::to_wstring(id), L"");
+    std::wstring text = language_->ReadString(LanguageSection, std::to_wstring(NumberOf(id)), L"");
     if (!text.empty()) return text;
   }
   return std::wstring(BuiltInTextOf(id));

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "localisation/TextId.h"
 #include "platform/Files.h"
 #include "settings/ini/ProfileFile.h"
 
@@ -16,7 +17,7 @@ class Texts {
 
   /// The text in the language in use; the built-in one where that language lacks it or has it
   /// empty; "" for an ID that neither has.
-  [[nodiscard]] std::wstring GetLangText(int id) const;
+  [[nodiscard]] std::wstring GetLangText(TextId id) const;
 
   /// True when the language in use is written from right to left.
   [[nodiscard]] bool RightToLeft() const;

@@ -11,43 +11,44 @@ namespace {
 
 enum Page { Layout, ColorAndFont, Operation, Language };
 
-constexpr int TabTextIds[] = {1002, 1004, 1005, 1006};
+constexpr TextId TabCaptions[] = {TextId::LayoutTab, TextId::ColorAndFontTab, TextId::OperationTab,
+                                  TextId::LanguageTab};
 
 constexpr DialogControl Controls[] = {
-    {IDC_Frame1, ControlKind::Frame, 1021, Layout},
-    {IDC_chkShowgridlines, ControlKind::CheckBox, 1024, Layout},
-    {IDC_chkFixedBorders, ControlKind::CheckBox, 1025, Layout},
-    {IDC_chkFlatUserInterface, ControlKind::CheckBox, 1026, Layout},
-    {IDC_Frame7, ControlKind::Frame, 1051, ColorAndFont},
-    {IDC_Label3, ControlKind::Label, 1052, ColorAndFont},
-    {IDC_lblColorChange0, ControlKind::Swatch, 1052, ColorAndFont},
-    {IDC_Label4, ControlKind::Label, 1053, ColorAndFont},
-    {IDC_lblColorChange1, ControlKind::Swatch, 1053, ColorAndFont},
-    {IDC_Frame3, ControlKind::Frame, 1065, ColorAndFont},
-    {IDC_cmdChangeFont, ControlKind::Button, 1044, ColorAndFont},
-    {IDC_chkAlwaysRestartTC, ControlKind::CheckBox, 1121, Operation},
-    {IDC_chkUseContextMenuKey, ControlKind::CheckBox, 1122, Operation},
-    {IDC_chkReverseOrderHotkey, ControlKind::CheckBox, 1123, Operation},
-    {IDC_Frame4, ControlKind::Frame, 1089, Language},
-    {IDC_optUseDefaultLanguage, ControlKind::OptionButton, 1090, Language},
-    {IDC_optUseOtheLanguage, ControlKind::OptionButton, 1091, Language},
-    {IDC_txtLanguageFilePath, ControlKind::TextBox, 1006, Language},
-    {IDC_cmdBrowseForLangFile, ControlKind::SideButton, 1006, Language},
+    {IDC_Frame1, ControlKind::Frame, TextId::VisualEffects, Layout},
+    {IDC_chkShowgridlines, ControlKind::CheckBox, TextId::GridLines, Layout},
+    {IDC_chkFixedBorders, ControlKind::CheckBox, TextId::FixedBorders, Layout},
+    {IDC_chkFlatUserInterface, ControlKind::CheckBox, TextId::FlatUserInterface, Layout},
+    {IDC_Frame7, ControlKind::Frame, TextId::TextColors, ColorAndFont},
+    {IDC_Label3, ControlKind::Label, TextId::Foreground, ColorAndFont},
+    {IDC_lblColorChange0, ControlKind::Swatch, TextId::Foreground, ColorAndFont},
+    {IDC_Label4, ControlKind::Label, TextId::Background, ColorAndFont},
+    {IDC_lblColorChange1, ControlKind::Swatch, TextId::Background, ColorAndFont},
+    {IDC_Frame3, ControlKind::Frame, TextId::Font, ColorAndFont},
+    {IDC_cmdChangeFont, ControlKind::Button, TextId::ChangeFont, ColorAndFont},
+    {IDC_chkAlwaysRestartTC, ControlKind::CheckBox, TextId::AutoRestart, Operation},
+    {IDC_chkUseContextMenuKey, ControlKind::CheckBox, TextId::UseContextMenuKey, Operation},
+    {IDC_chkReverseOrderHotkey, ControlKind::CheckBox, TextId::ReverseOrder, Operation},
+    {IDC_Frame4, ControlKind::Frame, TextId::ChangeLanguage, Language},
+    {IDC_optUseDefaultLanguage, ControlKind::OptionButton, TextId::DefaultLanguage, Language},
+    {IDC_optUseOtheLanguage, ControlKind::OptionButton, TextId::OtherLanguage, Language},
+    {IDC_txtLanguageFilePath, ControlKind::TextBox, TextId::LanguageTab, Language},
+    {IDC_cmdBrowseForLangFile, ControlKind::SideButton, TextId::LanguageTab, Language},
 };
 
 constexpr DialogControl Buttons[] = {
-    {IDC_cmdOK, ControlKind::Button, 1008},
-    {IDC_cmdCancel, ControlKind::Button, 1009},
-    {IDC_cmdApply, ControlKind::Button, 1010},
+    {IDC_cmdOK, ControlKind::Button, TextId::Ok},
+    {IDC_cmdCancel, ControlKind::Button, TextId::Cancel},
+    {IDC_cmdApply, ControlKind::Button, TextId::Apply},
 };
 
 constexpr DialogPlan Plan{
     .ClassName = L"frmOptions",
-    .TitleTextId = 1001,
+    .Title = TextId::OptionsTitle,
     .Controls = Controls,
     .Buttons = Buttons,
     .TabsId = IDC_tbsOptions,
-    .TabTextIds = TabTextIds,
+    .TabCaptions = TabCaptions,
 };
 
 struct Box {

@@ -96,9 +96,9 @@ void cRecentFiles::Setup(int max) {
 }
 
 void cRecentFiles::ChangeLanguage() {
-  noFiles_ = texts_.GetLangText(108);
-  clearList_ = texts_.GetLangText(109);
-  areYouSure_ = texts_.GetLangText(3009);
+  noFiles_ = texts_.GetLangText(TextId::NoRecentFiles);
+  clearList_ = texts_.GetLangText(TextId::ClearList);
+  areYouSure_ = texts_.GetLangText(TextId::AreYouSure);
 }
 
 void cRecentFiles::AddFile(const std::wstring& path) {

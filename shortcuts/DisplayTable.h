@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "localisation/TextId.h"
 #include "shortcuts/CommandEntry.h"
 
 namespace tessera {
@@ -17,8 +18,15 @@ enum class Column { Description = 1, Command = 2, Defaults = 3, Current = 4 };
 inline constexpr std::array AllColumns{Column::Description, Column::Command, Column::Defaults,
                                        Column::Current};
 
-/// The text IDs of their headings, in the same order.
-inline constexpr std::array ColumnTextIds{3003, 3004, 3200, 3201};
+/// The place of a column among the four, from 0.
+[[nodiscard]] constexpr std::size_t IndexOf(Column column) {
+  return static_cast<std::size_t>(column) - 1;
+}
+
+/// Their headings, in the same order.
+inline constexpr std::array ColumnHeadings{TextId::DescriptionColumn, TextId::CommandColumn,
+                                           TextId::DefaultHotkeyColumn,
+                                           TextId::CurrentHotkeyColumn};
 
 enum class SortDirection { Ascending = 0, Descending = 1 };
 

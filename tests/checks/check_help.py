@@ -13,7 +13,7 @@ from pathlib import Path
 
 import samples
 
-TEXT = re.compile(r'\{(\d+), L"((?:[^"\\]|\\.)*)"\}')
+TEXT = re.compile(r'\{TextId::(\w+),\s+L"((?:[^"\\]|\\.)*)"\}')
 SETTING = re.compile(r'Field\{\w+, L"(\w+)"')
 LOCAL = re.compile(r'<param name="Local" value="([^"]*)">')
 WITHOUT_END = {"br", "img", "link", "meta"}
@@ -56,7 +56,7 @@ def plain(text):
 
 def texts_of_program(root):
     table = (root / "localisation/TextTable.cpp").read_text(encoding="utf-8")
-    return {int(number): plain(text) for number, text in TEXT.findall(table)}
+    return {name: plain(text) for name, text in TEXT.findall(table)}
 
 
 def texts_of_help(root):
@@ -71,7 +71,7 @@ def check_texts(root):
     if not texts:
         yield "no texts were found in localisation/TextTable.cpp"
     explained = texts_of_help(root)
-    yield from (f'{number} "{text}"' for number, text in texts.items() if text not in explained)
+    yield from (f'{name} "{text}"' for name, text in texts.items() if text not in explained)
 
 
 def check_terms(root):
@@ -151,7 +151,7 @@ def sitemap(target):
 
 PICTURE = '<img src="images/a.png" width="3" height="2" alt="A">'
 GOOD = {
-    "localisation/TextTable.cpp": '{101, L"&File"},\n{103, L"&Open..."},\n',
+    "localisation/TextTable.cpp": '{TextId::MenuFile, L"&File"},\n{TextId::FileOpen, L"&Open..."},\n',
     "settings/Settings.cpp": 'Field{ProgramSection, L"SortOrder", 1},\n',
     "help/a.html": f'<h1 id="top">A</h1>{PICTURE}<dfn>File</dfn> <dfn>Open...</dfn>'
                    '<a href="#top">A</a><a href="settings.html#b">B</a>\n',
@@ -164,7 +164,7 @@ GOOD = {
 # Per check: what replaces a file of the good help, and must be complained about.
 BAD = {
     check_texts: [
-        {"localisation/TextTable.cpp": '{101, L"&File"},\n{104, L"&Save"},\n'},
+        {"localisation/TextTable.cpp": '{TextId::MenuFile, L"&File"},\n{TextId::FileSave, L"&Save"},\n'},
         {"localisation/TextTable.cpp": "\n"},
         {"help/a.html": "File, Open\n"},
     ],

@@ -171,7 +171,7 @@ void RunLanguage(std::string_view bytes) {
   Texts texts(disk);
   Require(texts.UseLanguageFile(L"C:\\x.lng"), "the file was not taken");
   for (const int id : {-1, 0, 1, 100, 108, 401, 404, 405, 406, 3003, 3020, 3203}) {
-    Require(texts.GetLangText(id).size() < ProfileBufferLength, "a text is too long");
+    Require(texts.GetLangText(TextId{id}).size() < ProfileBufferLength, "a text is too long");
   }
   static_cast<void>(texts.RightToLeft());
 }

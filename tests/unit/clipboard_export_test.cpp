@@ -32,7 +32,7 @@ TEST_F(ClipboardExportTest, WithoutAStoredSelectionTheDescriptionIsOff) {
 TEST_F(ClipboardExportTest, OkStoresTheSelectionForTheNextRun) {
   files_.Contents[SettingsFile] = "[Tessera]\r\nClipOptions=1,1,1,1\r\nSortOrder=1\r\n";
   export_.Load(files_, SettingsFile);
-  export_.Click(2);
+  export_.Click(Column::Defaults);
   Ok();
   EXPECT_EQ(files_.Contents[SettingsFile], "[Tessera]\r\nClipOptions=1,1,0,1\r\nSortOrder=1\r\n");
   ClipboardExport next(catalogue_, notation_, texts_);
@@ -42,7 +42,7 @@ TEST_F(ClipboardExportTest, OkStoresTheSelectionForTheNextRun) {
 
 TEST_F(ClipboardExportTest, CancelStoresNothingAndLeavesTheClipboardAlone) {
   export_.Load(files_, SettingsFile);
-  export_.Click(0);
+  export_.Click(Column::Description);
   export_.Cancel();
   export_.CopyTo(clipboard_, true);
   EXPECT_TRUE(clipboard_.Texts.empty());
@@ -64,7 +64,7 @@ TEST_F(ClipboardExportTest, BeforeTheFirstOkNothingIsCopied) {
 TEST_F(ClipboardExportTest, TheTableOfTheLastOkIsCopiedAgainWhenTheDialogIsOnlyClosed) {
   Ok();
   const std::wstring table = export_.ExportText();
-  export_.Click(0);
+  export_.Click(Column::Description);
   catalogue_.ListView1.Edit(sample::Pack).CurrentKeys = L"X";
   export_.CopyTo(clipboard_, false);
   export_.CopyTo(clipboard_, false);
@@ -76,7 +76,7 @@ TEST_F(ClipboardExportTest, TheTableOfTheLastOkIsCopiedAgainWhenTheDialogIsOnlyC
 TEST_F(ClipboardExportTest, OkTakesTheChosenColumnsAndTheUndefinedMarkerInForce) {
   notation_.UndefinedHotkey = L"F6";
   export_.Load(files_, SettingsFile);
-  export_.Click(2);
+  export_.Click(Column::Defaults);
   Ok();
   EXPECT_EQ(export_.ExportText(),
             BuildExportText(catalogue_.ListView1, {false, true, false, true}, texts_, L"F6"));

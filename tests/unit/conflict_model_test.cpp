@@ -241,7 +241,9 @@ class Pair {
     // Few keys for many edits, so that they meet; now and then any key.
     const std::size_t key = Below(3) == 0 ? Below(Vocabulary.size()) : std::size_t{3} * Below(22);
     const auto modifiers = static_cast<unsigned>(Below(2) == 0 ? Below(8) : 3);
-    for (int box = 0; box < 3; ++box) session_.Panel.SetBox(box, (modifiers >> box & 1U) != 0);
+    for (const Modifier box : AllModifiers) {
+      session_.Panel.SetBox(box, (modifiers >> static_cast<unsigned>(box) & 1U) != 0);
+    }
     session_.Panel.ChooseKey(static_cast<int>(key));
     BeginEdit();
     const Text shown = Shown(modifiers, Vocabulary[key], model_.Reversed);
@@ -310,7 +312,9 @@ TEST(ConflictModel, EveryKeyIsSavedAndReadBackAsItWasShown) {
     for (unsigned modifiers = 0; modifiers < 8; ++modifiers) {
       for (std::size_t key = 0; key < Vocabulary.size(); ++key) {
         const Text shown = Shown(modifiers, Vocabulary[key], reversed);
-        for (int box = 0; box < 3; ++box) session.Panel.SetBox(box, (modifiers >> box & 1U) != 0);
+        for (const Modifier box : AllModifiers) {
+          session.Panel.SetBox(box, (modifiers >> static_cast<unsigned>(box) & 1U) != 0);
+        }
         session.Panel.ChooseKey(static_cast<int>(key));
         session.List.ShowRowDetails(1 + key % 2);
         session.Boxes.Answers = {BoxAnswer::Yes};

@@ -128,7 +128,7 @@ TEST_F(EditorTest, TheExportFollowsTheListAndWarnsOfUnsavedChanges) {
 TEST_F(EditorTest, OptionsResetThePanelAndAreStoredAtOnce) {
   Start();
   editor_.SelectRow(Pack);
-  editor_.SetBox(0, true);
+  editor_.SetBox(Modifier::Ctrl, true);
   Choose(L"X");
   OptionsSelection& options = editor_.BeginOptions();
   options.Click(OptionBox::ShowGridLines);
@@ -137,7 +137,7 @@ TEST_F(EditorTest, OptionsResetThePanelAndAreStoredAtOnce) {
       << "the path of the language file was missing and is empty now";
   EXPECT_EQ(editor_.Options().CommandListShowLines, 1);
   EXPECT_NE(SettingsFile().find("CommandListShowLines=1\r\n"), std::string::npos);
-  EXPECT_FALSE(editor_.Panel().BoxChecked(0));
+  EXPECT_FALSE(editor_.Panel().BoxChecked(Modifier::Ctrl));
   EXPECT_EQ(editor_.Panel().ChosenKey(), NoKeyChosen);
 }
 
@@ -154,7 +154,7 @@ TEST_F(EditorTest, ALanguageFileThatGoesDuringTheRunChangesTheLanguage) {
   files_.Contents.erase(L"C:\\de.lng");
   editor_.BeginOptions();
   EXPECT_TRUE(editor_.EndOptions().LanguageChanged);
-  EXPECT_EQ(editor_.Language().GetLangText(104), L"&Save");
+  EXPECT_EQ(editor_.Language().GetLangText(TextId::FileSave), L"&Save");
 }
 
 TEST_F(EditorTest, AnotherLanguageIsInUseAfterTheOptions) {
@@ -165,7 +165,7 @@ TEST_F(EditorTest, AnotherLanguageIsInUseAfterTheOptions) {
   options.EditLanguageFilePath(L"C:\\de.lng");
   options.Apply();
   EXPECT_TRUE(editor_.EndOptions().LanguageChanged);
-  EXPECT_EQ(editor_.Language().GetLangText(104), L"Speichern");
+  EXPECT_EQ(editor_.Language().GetLangText(TextId::FileSave), L"Speichern");
   editor_.BeginOptions().UseDefaultLanguage(true);
   editor_.BeginOptions();
   EXPECT_FALSE(editor_.EndOptions().LanguageChanged) << "nothing was applied";
@@ -173,7 +173,7 @@ TEST_F(EditorTest, AnotherLanguageIsInUseAfterTheOptions) {
   again.UseDefaultLanguage(true);
   again.Apply();
   EXPECT_TRUE(editor_.EndOptions().LanguageChanged);
-  EXPECT_EQ(editor_.Language().GetLangText(104), L"&Save");
+  EXPECT_EQ(editor_.Language().GetLangText(TextId::FileSave), L"&Save");
 }
 
 TEST_F(EditorTest, TheDefaultLanguageLeavesTheLanguageFileAlone) {
@@ -205,7 +205,8 @@ TEST_F(EditorTest, TheDefaultLanguageLeavesTheLanguageFileAlone) {
     editor.BeginExport();
     editor.BeginOptions();
     editor.EndOptions();
-    EXPECT_EQ(editor.Language().GetLangText(104), *useDefault == '1' ? L"&Save" : L"Speichern");
+    EXPECT_EQ(editor.Language().GetLangText(TextId::FileSave),
+              *useDefault == '1' ? L"&Save" : L"Speichern");
     return std::ranges::count(files.Paths, language);
   };
   EXPECT_EQ(timesLookedAt("1"), 0);
@@ -221,7 +222,7 @@ TEST_F(EditorTest, AnotherLetterCaseOfThePathIsNoOtherLanguage) {
   options.EditLanguageFilePath(L"C:\\DE.LNG");
   options.Apply();
   EXPECT_FALSE(editor_.EndOptions().LanguageChanged);
-  EXPECT_EQ(editor_.Language().GetLangText(104), L"Speichern");
+  EXPECT_EQ(editor_.Language().GetLangText(TextId::FileSave), L"Speichern");
 }
 
 TEST_F(EditorTest, ALanguageFileThatIsMissingIsReportedOnce) {

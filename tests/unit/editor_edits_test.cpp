@@ -12,7 +12,7 @@ void DoEverything(Editor& editor) {
   editor.BeginExport();
   editor.EndExport();
   editor.SelectRow(View);
-  editor.SetBox(0, true);
+  editor.SetBox(Modifier::Ctrl, true);
   editor.ChooseKey(3);
   editor.AssignKey();
   editor.AddKey();

@@ -19,8 +19,8 @@ TEST_F(EditorTest, ASaveChangesSectionShortcutsAlone) {
 
 TEST_F(EditorTest, ASaveReleasesAStartMenuKeyThatWasTaken) {
   Start();
-  editor_.SetBox(0, true);
-  editor_.SetBox(1, true);
+  editor_.SetBox(Modifier::Ctrl, true);
+  editor_.SetBox(Modifier::Alt, true);
   boxes_.Answers = {BoxAnswer::Yes};
   Assign(Pack, L"F1");
   editor_.FileSave();

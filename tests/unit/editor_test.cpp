@@ -256,7 +256,7 @@ TEST_F(EditorTest, AMissingLanguageFileIsReportedAndTheBuiltInTextsAreUsed) {
   EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find language file!");
   EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Critical);
   EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
-  EXPECT_EQ(editor_.Language().GetLangText(104), L"&Save");
+  EXPECT_EQ(editor_.Language().GetLangText(TextId::FileSave), L"&Save");
   EXPECT_NE(SettingsFile().find("UseDefaultLanguage=0"), std::string::npos);
   editor_.Unload({}, {});
   EXPECT_NE(SettingsFile().find("UseDefaultLanguage=1"), std::string::npos);
@@ -267,7 +267,7 @@ TEST_F(EditorTest, KeysAreShownWithTheModifierNamesOfTheLanguage) {
   files_.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n405=\" \"\r\n";
   Start();
   EXPECT_EQ(editor_.Rows().At(View).CurrentKeys, L"Strg + F3");
-  editor_.SetBox(1, true);
+  editor_.SetBox(Modifier::Alt, true);
   Assign(Pack, L"X");
   EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"Alt + X") << "a blank name is no name";
   editor_.FileSave();

@@ -42,7 +42,9 @@ class EditorWorld {
 
   /// Chooses modifiers (bit 0 Ctrl, bit 1 Alt, bit 2 Shift) and a key of the vocabulary.
   void Compose(unsigned modifiers, int key) {
-    for (int box = 0; box < 3; ++box) Program.SetBox(box, (modifiers >> box & 1U) != 0);
+    for (const Modifier box : AllModifiers) {
+      Program.SetBox(box, (modifiers >> static_cast<unsigned>(box) & 1U) != 0);
+    }
     Program.ChooseKey(key);
   }
 

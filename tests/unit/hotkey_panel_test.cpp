@@ -11,10 +11,6 @@ namespace {
 using namespace sample;
 using Focus = PanelReaction::Focus;
 
-constexpr int Ctrl = 0;
-constexpr int Alt = 1;
-constexpr int Shift = 2;
-
 constexpr KeyEvent CtrlPressed{.Code = KeyCode::Ctrl, .CtrlHeld = true};
 constexpr KeyEvent CtrlReleased{.Code = KeyCode::Ctrl};
 constexpr KeyEvent AltPressed{.Code = KeyCode::Alt, .AltHeld = true};
@@ -51,9 +47,9 @@ class HotkeyPanelTest : public testing::Test {
 TEST_F(HotkeyPanelTest, ComposesModifiersInFixedOrderBeforeTheKey) {
   panel_.ChooseKey(IndexOf(L"F5"));
   EXPECT_EQ(panel_.ComposeKey(), L"F5");
-  panel_.SetBox(Shift, true);
-  panel_.SetBox(Ctrl, true);
-  panel_.SetBox(Alt, true);
+  panel_.SetBox(Modifier::Shift, true);
+  panel_.SetBox(Modifier::Ctrl, true);
+  panel_.SetBox(Modifier::Alt, true);
   EXPECT_EQ(panel_.ComposeKey(), L"Ctrl + Alt + Shift + F5");
   notation_.ReverseOrderHotkey = true;
   EXPECT_EQ(panel_.ComposeKey(), L"F5 + Ctrl + Alt + Shift");
@@ -140,8 +136,9 @@ TEST_F(HotkeyPanelTest, DeleteAllKeepsTheSelectedRow) {
 TEST_F(HotkeyPanelTest, EachPressOfCtrlOrShiftTogglesItsBox) {
   const struct {
     KeyEvent Pressed, Released;
-    int Box;
-  } cases[] = {{CtrlPressed, CtrlReleased, Ctrl}, {ShiftPressed, ShiftReleased, Shift}};
+    Modifier Box;
+  } cases[] = {{CtrlPressed, CtrlReleased, Modifier::Ctrl},
+               {ShiftPressed, ShiftReleased, Modifier::Shift}};
   for (const auto& [pressed, released, box] : cases) {
     for (const bool checked : {true, false, true}) {
       EXPECT_EQ(panel_.KeyDown(pressed).FocusTo, Focus::Chooser);
@@ -157,18 +154,18 @@ TEST_F(HotkeyPanelTest, EachPressOfCtrlOrShiftTogglesItsBox) {
 TEST_F(HotkeyPanelTest, AltTogglesItsBoxAfterTheTimerOfItsRelease) {
   for (const bool checked : {true, false, true}) {
     panel_.KeyDown(AltPressed);
-    EXPECT_EQ(panel_.BoxChecked(Alt), !checked);
+    EXPECT_EQ(panel_.BoxChecked(Modifier::Alt), !checked);
     EXPECT_TRUE(panel_.KeyUp(AltReleased).StartTimer);
-    EXPECT_EQ(panel_.BoxChecked(Alt), !checked);
+    EXPECT_EQ(panel_.BoxChecked(Modifier::Alt), !checked);
     EXPECT_EQ(panel_.TimerTick().FocusTo, Focus::Chooser);
-    EXPECT_EQ(panel_.BoxChecked(Alt), checked);
+    EXPECT_EQ(panel_.BoxChecked(Modifier::Alt), checked);
   }
 }
 
 TEST_F(HotkeyPanelTest, TheContextMenuKeyDoesNothingUnlessItReplacesAlt) {
   EXPECT_EQ(panel_.KeyDown(ContextMenu).FocusTo, Focus::Unchanged);
   panel_.KeyUp(ContextMenu);
-  EXPECT_FALSE(panel_.BoxChecked(Alt));
+  EXPECT_FALSE(panel_.BoxChecked(Modifier::Alt));
 }
 
 TEST_F(HotkeyPanelTest, WithTheOptionTheContextMenuKeyTogglesTheAltBoxAndAltDoesNot) {
@@ -176,11 +173,11 @@ TEST_F(HotkeyPanelTest, WithTheOptionTheContextMenuKeyTogglesTheAltBoxAndAltDoes
   panel_.ResetPanel();
   EXPECT_EQ(panel_.KeyDown(AltPressed).FocusTo, Focus::Unchanged);
   EXPECT_FALSE(panel_.KeyUp(AltReleased).StartTimer);
-  EXPECT_FALSE(panel_.BoxChecked(Alt));
+  EXPECT_FALSE(panel_.BoxChecked(Modifier::Alt));
   EXPECT_EQ(static_cast<int>(ContextMenu.Code), 93) << "the system's code of that key";
   for (const bool checked : {true, false, true}) {
     EXPECT_EQ(panel_.KeyDown(ContextMenu).FocusTo, Focus::Chooser);
-    EXPECT_EQ(panel_.BoxChecked(Alt), checked);
+    EXPECT_EQ(panel_.BoxChecked(Modifier::Alt), checked);
     panel_.KeyUp(ContextMenu);
   }
 }
@@ -194,7 +191,7 @@ TEST_F(HotkeyPanelTest, EnterAssignsTheChosenKeyAndResetsThePanel) {
   EXPECT_TRUE(reaction.Handled);
   EXPECT_EQ(reaction.FocusTo, Focus::CommandList);
   EXPECT_EQ(Row(Pack).CurrentKeys, L"Ctrl + X");
-  EXPECT_FALSE(panel_.BoxChecked(Ctrl));
+  EXPECT_FALSE(panel_.BoxChecked(Modifier::Ctrl));
   EXPECT_EQ(panel_.ChosenKey(), NoKeyChosen);
 }
 
@@ -209,10 +206,10 @@ TEST_F(HotkeyPanelTest, BackspaceAndEscapeResetThePanel) {
     panel_.KeyDown(ShiftPressed);
     panel_.ChooseKey(3);
     EXPECT_EQ(panel_.KeyDown({.Code = code}).FocusTo, Focus::CommandList);
-    EXPECT_FALSE(panel_.BoxChecked(Shift));
+    EXPECT_FALSE(panel_.BoxChecked(Modifier::Shift));
     EXPECT_EQ(panel_.ChosenKey(), NoKeyChosen);
     panel_.KeyDown(ShiftPressed);
-    EXPECT_TRUE(panel_.BoxChecked(Shift)) << "the toggles start anew";
+    EXPECT_TRUE(panel_.BoxChecked(Modifier::Shift)) << "the toggles start anew";
     panel_.ResetPanel();
   }
 }
@@ -237,7 +234,8 @@ TEST_F(HotkeyPanelTest, NoKeyDoesAnythingOnAHeadingRow) {
     EXPECT_EQ(reaction.FocusTo, Focus::Unchanged);
   }
   EXPECT_FALSE(panel_.KeyUp(AltReleased).StartTimer);
-  EXPECT_FALSE(panel_.BoxChecked(Ctrl) || panel_.BoxChecked(Alt) || panel_.BoxChecked(Shift));
+  EXPECT_FALSE(panel_.BoxChecked(Modifier::Ctrl) || panel_.BoxChecked(Modifier::Alt) ||
+               panel_.BoxChecked(Modifier::Shift));
   EXPECT_EQ(panel_.ChosenKey(), 3);
   EXPECT_EQ(boxes_.BeepCount, 0);
 }

@@ -101,7 +101,8 @@ Call ParseCall(std::string_view text) {
 }
 
 std::vector<Case> ReadCases() {
-  std::ifstream file(TESSERA_SOURCE_DIRECTORY "/tests/data/profile-windows-cases.txt", std::ios::binary);
+  std::ifstream file(TESSERA_SOURCE_DIRECTORY "/tests/data/profile-windows-cases.txt",
+                     std::ios::binary);
   std::vector<Case> cases;
   for (std::string line; std::getline(file, line);) {
     if (line.ends_with('\r')) line.pop_back();

@@ -59,7 +59,7 @@ class ShippedLanguages : public testing::Test {
   void ForEachText(Check check) const {
     ForEach([&](const std::wstring&, const Texts& texts) {
       for (const BuiltInText& english : TextTable()) {
-        SCOPED_TRACE(english.Id);
+        SCOPED_TRACE(NumberOf(english.Id));
         check(english, texts.GetLangText(english.Id));
       }
     });
@@ -99,7 +99,7 @@ TEST_F(ShippedLanguages, AreTheseAndATemplate) {
 
 TEST_F(ShippedLanguages, HaveEveryTextOnceAndNothingElse) {
   std::multiset<std::wstring> expected{L"CodePage"};
-  for (const BuiltInText& text : TextTable()) expected.insert(std::to_wstring(text.Id));
+  for (const BuiltInText& text : TextTable()) expected.insert(std::to_wstring(NumberOf(text.Id)));
 
   ForEach([&](const std::wstring& name, const Texts&) {
     const ProfileFile file(files_, PathOf(name));
@@ -170,12 +170,14 @@ TEST_F(ShippedLanguages, KeepTheNamesOfProgramsAndFiles) {
 TEST_F(ShippedLanguages, NameTheProgramThatIsRestarted) {
   ForEach([](const std::wstring& name, const Texts& texts) {
     if (name == Template) return;
-    EXPECT_NE(texts.GetLangText(116).find(L"Total Commander"), std::wstring::npos);
+    EXPECT_NE(texts.GetLangText(TextId::SaveAndRestart).find(L"Total Commander"),
+              std::wstring::npos);
   });
 }
 
 TEST_F(ShippedLanguages, HaveMnemonicsWhereTheEnglishTextsHaveThem) {
-  const std::set<int> mayHaveOne = {116, 1122, 1123};
+  const std::set<TextId> mayHaveOne = {TextId::SaveAndRestart, TextId::UseContextMenuKey,
+                                       TextId::ReverseOrder};
   ForEachText([&](const BuiltInText& english, const std::wstring& text) {
     const auto marks = std::ranges::count(text, L'&');
     if (mayHaveOne.contains(english.Id)) {
@@ -190,22 +192,26 @@ TEST_F(ShippedLanguages, HaveMnemonicsWhereTheEnglishTextsHaveThem) {
 }
 
 TEST_F(ShippedLanguages, UseNoMnemonicTwiceInOnePlace) {
-  const std::vector<int> places[] = {
-      {101, 141, 161, 401, 402, 403},
-      {103, 104, 107, 110, 116, 117},
-      {142, 149, 150},
-      {1008, 1009, 1010, 1024, 1025, 1026},
-      {1008, 1009, 1010, 1044},
-      {1008, 1009, 1010, 1121, 1122, 1123},
-      {1008, 1009, 1010, 1090, 1091},
+  const std::vector<TextId> places[] = {
+      {TextId::MenuFile, TextId::MenuView, TextId::MenuHelp, TextId::ControlBox, TextId::AltBox,
+       TextId::ShiftBox},
+      {TextId::FileOpen, TextId::FileSave, TextId::FileRecent, TextId::FileExit,
+       TextId::SaveAndRestart, TextId::FileExport},
+      {TextId::ViewToolbar, TextId::ViewSortedList, TextId::ViewOptions},
+      {TextId::Ok, TextId::Cancel, TextId::Apply, TextId::GridLines, TextId::FixedBorders,
+       TextId::FlatUserInterface},
+      {TextId::Ok, TextId::Cancel, TextId::Apply, TextId::ChangeFont},
+      {TextId::Ok, TextId::Cancel, TextId::Apply, TextId::AutoRestart, TextId::UseContextMenuKey,
+       TextId::ReverseOrder},
+      {TextId::Ok, TextId::Cancel, TextId::Apply, TextId::DefaultLanguage, TextId::OtherLanguage},
   };
   ForEach([&](const std::wstring&, const Texts& texts) {
-    for (const std::vector<int>& place : places) {
+    for (const std::vector<TextId>& place : places) {
       std::set<std::wstring> taken;
-      for (const int id : place) {
+      for (const TextId id : place) {
         const wchar_t mnemonic = MnemonicOf(texts.GetLangText(id));
         if (mnemonic == L'\0') continue;
-        EXPECT_TRUE(taken.insert(ToLower(std::wstring(1, mnemonic))).second) << id;
+        EXPECT_TRUE(taken.insert(ToLower(std::wstring(1, mnemonic))).second) << NumberOf(id);
       }
     }
   });
@@ -214,15 +220,16 @@ TEST_F(ShippedLanguages, UseNoMnemonicTwiceInOnePlace) {
 TEST_F(ShippedLanguages, AreRightToLeftWhereTheirLettersAre) {
   const auto isWrittenToTheLeft = [](wchar_t letter) { return letter >= 0x590 && letter < 0x900; };
   ForEach([&](const std::wstring&, const Texts& texts) {
-    EXPECT_EQ(texts.RightToLeft(), std::ranges::any_of(texts.GetLangText(101), isWrittenToTheLeft));
+    EXPECT_EQ(texts.RightToLeft(),
+              std::ranges::any_of(texts.GetLangText(TextId::MenuFile), isWrittenToTheLeft));
   });
 }
 
 TEST_F(ShippedLanguages, CallTheModifiersByTheWordsThatReverseOrderRecognises) {
   ForEach([](const std::wstring&, const Texts& texts) {
-    EXPECT_EQ(texts.GetLangText(404), L"Ctrl");
-    EXPECT_EQ(texts.GetLangText(405), L"Alt");
-    EXPECT_EQ(texts.GetLangText(406), L"Shift");
+    EXPECT_EQ(texts.GetLangText(TextId::CtrlName), L"Ctrl");
+    EXPECT_EQ(texts.GetLangText(TextId::AltName), L"Alt");
+    EXPECT_EQ(texts.GetLangText(TextId::ShiftName), L"Shift");
   });
 }
 
@@ -250,9 +257,9 @@ void ExpectDefaultKeysAreSavedAsThemselves(const HotkeyNotation& notation) {
 TEST_F(ShippedLanguages, LeadEveryDefaultKeyToTheKeyThatIsSaved) {
   ForEach([](const std::wstring&, const Texts& texts) {
     HotkeyNotation notation;
-    notation.CtrlName = TrimSpaces(texts.GetLangText(404));
-    notation.AltName = TrimSpaces(texts.GetLangText(405));
-    notation.ShiftName = TrimSpaces(texts.GetLangText(406));
+    notation.CtrlName = TrimSpaces(texts.GetLangText(TextId::CtrlName));
+    notation.AltName = TrimSpaces(texts.GetLangText(TextId::AltName));
+    notation.ShiftName = TrimSpaces(texts.GetLangText(TextId::ShiftName));
     ExpectDefaultKeysAreSavedAsThemselves(notation);
     notation.ReverseOrderHotkey = true;
     ExpectDefaultKeysAreSavedAsThemselves(notation);

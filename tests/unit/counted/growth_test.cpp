@@ -150,7 +150,7 @@ TEST(Growth, ApplyingALanguageGrowsAsTheLinesOfItsFile) {
     return BlocksOf([&] {
       Texts texts(files);
       EXPECT_TRUE(texts.UseLanguageFile(L"C:\\own.lng"));
-      for (int id = 0; id < lines; ++id) EXPECT_EQ(texts.GetLangText(id), L"Text");
+      for (int id = 0; id < lines; ++id) EXPECT_EQ(texts.GetLangText(TextId{id}), L"Text");
     });
   };
   EXPECT_LT(blocksFor(Many) / blocksFor(Few), Linear);
