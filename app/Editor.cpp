@@ -20,17 +20,17 @@ namespace tessera {
 
 Editor::Editor(const System& system, std::function<void(const LoadProgress&)> showProgress)
     : system_(system),
-      texts_(system.FileSystem),
+      texts_(system.Files),
       list_(catalogue_, settings_),
-      assignment_(catalogue_, notation_, texts_, system.Boxes),
-      panel_(catalogue_, list_, assignment_, notation_, settings_, system.Boxes),
+      assignment_(catalogue_, notation_, texts_, system.MessageBoxes),
+      panel_(catalogue_, list_, assignment_, notation_, settings_, system.MessageBoxes),
       keysList_(panel_),
       export_(catalogue_, notation_, texts_),
-      options_(settings_, system.StandardDialogs, system.Surroundings),
-      recentFiles_(texts_, system.Boxes),
-      dialogs_(system.StandardDialogs),
-      commanderEnvironment_(system.Surroundings),
-      progress_(system.Time, std::move(showProgress)) {}
+      options_(settings_, system.Dialogs, system.Environment),
+      recentFiles_(texts_, system.MessageBoxes),
+      commonDialog_(system.Dialogs),
+      commanderEnvironment_(system.Environment),
+      progress_(system.Clock, std::move(showProgress)) {}
 
 const DisplayTable& Editor::Rows() const { return catalogue_.ListView1; }
 
@@ -61,7 +61,7 @@ bool Editor::Busy() const { return busy_; }
 
 void Editor::Load(std::wstring fileToOpen) {
   fileToOpen_ = std::move(fileToOpen);
-  settings_ = LoadSettings(system_.FileSystem, system_.Time, system_.Surroundings);
+  settings_ = LoadSettings(system_.Files, system_.Clock, system_.Environment);
   notation_.MultiHotkeySeparator = settings_.MultiHotkeySeparator;
   notation_.UndefinedHotkey = settings_.UndefinedHotkey;
   notation_.ReverseOrderHotkey = settings_.ReverseOrderHotkey != 0;
@@ -69,7 +69,7 @@ void Editor::Load(std::wstring fileToOpen) {
   ReadModifierNames();
   panel_.ResetPanel();
   SetModified(false);
-  export_.Load(system_.FileSystem, SettingsPath(system_.Surroundings));
+  export_.Load(system_.Files, SettingsPath(system_.Environment));
   ReadRecentFiles();
 }
 
@@ -77,21 +77,21 @@ void Editor::Activate() {
   if (std::exchange(activated_, true)) {
     return;
   }
-  const LocateSources sources{system_.FileSystem, system_.RegistryKeys, system_.Surroundings};
+  const LocateSources sources{system_.Files, system_.Registry, system_.Environment};
   totalcmdIncPath_ =
       LocateTotalcmdInc(sources, settings_.TCInstallDir, [this](const std::wstring& folder) {
         return AskForFile(TextId::NoTotalcmdInc, BoxIcon::Information, folder, L"Totalcmd.inc",
                           FileFilter::InternalCommands);
       });
   commanderEnvironment_.SetTotalCommanderDirectory(
-      ExpandPath(system_.Surroundings, settings_.TCInstallDir));
-  dialogs_.Setup(ExpandPath(system_.Surroundings, settings_.TCInstallDir));
+      ExpandPath(system_.Environment, settings_.TCInstallDir));
+  commonDialog_.Setup(ExpandPath(system_.Environment, settings_.TCInstallDir));
   OpenShortcutFile(false, FindWincmdIni(sources), true);
   list_.RestoreStoredSort();
 }
 
 std::wstring Editor::FindWincmdIni(const LocateSources& sources) {
-  if (ExistsOrReturns(system_.FileSystem, fileToOpen_)) {
+  if (ExistsOrReturns(system_.Files, fileToOpen_)) {
     return fileToOpen_;
   }
   const std::wstring storedWincmd = settings_.UserDefinedWincmd;
@@ -102,9 +102,9 @@ std::wstring Editor::FindWincmdIni(const LocateSources& sources) {
                                           L"Wincmd.ini", FileFilter::WincmdIni);
                       });
   if (settings_.UserDefinedWincmd != storedWincmd) {
-    cProfile(system_.FileSystem, system_.Time)
+    cProfile(system_.Files, system_.Clock)
         .WriteStringValue(CommonSection, L"UserDefinedWincmd", settings_.UserDefinedWincmd,
-                          SettingsPath(system_.Surroundings));
+                          SettingsPath(system_.Environment));
   }
   return path;
 }
@@ -119,8 +119,7 @@ void Editor::Unload(const WindowPlacement& placement, const ColumnLayout& column
   }
   settings_.MainWindowMaxmized = placement.Maximised ? 1 : 0;
   // As with all settings, a folder that cannot be written is not reported.
-  static_cast<void>(
-      SaveSettings(settings_, system_.FileSystem, system_.Time, system_.Surroundings));
+  static_cast<void>(SaveSettings(settings_, system_.Files, system_.Clock, system_.Environment));
 }
 
 void Editor::FileOpen() { OpenShortcutFile(true, {}, true); }
@@ -144,7 +143,7 @@ void Editor::OpenShortcutFile(bool browse, std::wstring path, bool addToRecent) 
     return;
   }
   if (browse) {
-    path = dialogs_.BrowseForOpen({}, {}, FileFilter::WincmdIni);
+    path = commonDialog_.BrowseForOpen({}, {}, FileFilter::WincmdIni);
   }
   if (IsMissing(path)) {
     return;
@@ -171,19 +170,19 @@ void Editor::OpenFile(const std::wstring& path) { OpenShortcutFile(false, path, 
 
 void Editor::LoadCatalogue() {
   const ProgressStep step = [this] { progress_.Step(); };
-  const WincmdIni wincmd(system_.FileSystem, system_.Time, commanderEnvironment_, wincmdPath_);
+  const WincmdIni wincmd(system_.Files, system_.Clock, commanderEnvironment_, wincmdPath_);
   wincmdUnread_ = wincmd.ReadError() != FileError::None;
   catalogue_.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation_);
   if (catalogue_.lvwHidden.empty()) {
     std::string bytes;
-    if (system_.FileSystem.Read(totalcmdIncPath_, bytes) == FileError::None) {
+    if (system_.Files.Read(totalcmdIncPath_, bytes) == FileError::None) {
       catalogue_.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(bytes));
       catalogue_.lvwHidden =
           ReadInternalCommands(*catalogue_.Text, notation_.UndefinedHotkey, step);
     }
   }
   AskForMissingDataFile();
-  const ProfileFile defaults(system_.FileSystem, settings_.DefaultHotKeysDataFile);
+  const ProfileFile defaults(system_.Files, settings_.DefaultHotKeysDataFile);
   FillDefaultKeys(catalogue_.lvwHidden, defaults, notation_, step);
   ReadShortcuts(catalogue_.lvwHidden, wincmd.Shortcuts(), notation_, step);
   BuildDisplayTable(catalogue_, notation_, step);
@@ -192,16 +191,16 @@ void Editor::LoadCatalogue() {
 }
 
 void Editor::AskForMissingDataFile() {
-  if (FileExists(system_.FileSystem, settings_.DefaultHotKeysDataFile, false)) {
+  if (FileExists(system_.Files, settings_.DefaultHotKeysDataFile, false)) {
     return;
   }
-  const std::wstring folder = AddBackslash(system_.Surroundings.ProgramDirectory()) + L"Data Files";
+  const std::wstring folder = AddBackslash(system_.Environment.ProgramDirectory()) + L"Data Files";
   settings_.DefaultHotKeysDataFile =
       AskForFile(TextId::NoDataFile, BoxIcon::Critical, folder, L"tc default hotkeys.hky",
                  FileFilter::DefaultHotkeys);
-  cProfile(system_.FileSystem, system_.Time)
+  cProfile(system_.Files, system_.Clock)
       .WriteStringValue(ProgramSection, L"DefaultHotKeysDataFile", settings_.DefaultHotKeysDataFile,
-                        SettingsPath(system_.Surroundings));
+                        SettingsPath(system_.Environment));
 }
 
 void Editor::ApplyLanguage() {
@@ -211,7 +210,7 @@ void Editor::ApplyLanguage() {
   texts_.UseBuiltIn();
   if (settings_.UseDefaultLanguage == 0) {
     // Told once: from here on the built-in texts are what is wanted.
-    system_.Boxes.Show(L"Cannot find language file!", BoxButtons::Ok, BoxIcon::Critical);
+    system_.MessageBoxes.Show(L"Cannot find language file!", BoxButtons::Ok, BoxIcon::Critical);
     settings_.UseDefaultLanguage = 1;
   }
 }
@@ -229,8 +228,8 @@ void Editor::ReadModifierNames() {
 
 std::wstring Editor::AskForFile(TextId message, BoxIcon icon, const std::wstring& folder,
                                 const std::wstring& fileName, FileFilter filter) {
-  system_.Boxes.Show(texts_.GetLangText(message), BoxButtons::Ok, icon);
-  return dialogs_.BrowseForOpen(folder, fileName, filter);
+  system_.MessageBoxes.Show(texts_.GetLangText(message), BoxButtons::Ok, icon);
+  return commonDialog_.BrowseForOpen(folder, fileName, filter);
 }
 
 }  // namespace tessera

@@ -176,7 +176,7 @@ class Editor {
   ClipboardExport export_;
   OptionsSelection options_;
   cRecentFiles recentFiles_;
-  cCommonDialog dialogs_;
+  cCommonDialog commonDialog_;
   CommanderEnvironment commanderEnvironment_;
   LoadProgress progress_;
   std::wstring fileToOpen_;

@@ -17,13 +17,13 @@ void Editor::OpenRecentFile(int index) {
   if (busy_ || IsMissing(path)) {
     return;
   }
-  if (ExistsOrReturns(system_.FileSystem, path)) {
+  if (ExistsOrReturns(system_.Files, path)) {
     OpenShortcutFile(false, path, true);
     return;
   }
-  system_.Boxes.Show(texts_.GetLangText(TextId::CannotFindThisFile) + L" " + path + L"\n\n" +
-                         texts_.GetLangText(TextId::VerifyPath),
-                     BoxButtons::Ok, BoxIcon::Exclamation);
+  system_.MessageBoxes.Show(texts_.GetLangText(TextId::CannotFindThisFile) + L" " + path + L"\n\n" +
+                                texts_.GetLangText(TextId::VerifyPath),
+                            BoxButtons::Ok, BoxIcon::Exclamation);
   recentFiles_.RemoveFile(index);
   SaveRecentFiles();
 }
@@ -35,11 +35,12 @@ void Editor::ClearRecentFiles() {
 }
 
 void Editor::ShowHelpTopics() {
-  const std::wstring path = AddBackslash(system_.Surroundings.ProgramDirectory()) + L"Readme.chm";
-  if (FileExists(system_.FileSystem, path, false)) {
-    system_.OtherPrograms.OpenDocument(path);
+  const std::wstring path = AddBackslash(system_.Environment.ProgramDirectory()) + L"Readme.chm";
+  if (FileExists(system_.Files, path, false)) {
+    system_.Programs.OpenDocument(path);
   } else {
-    system_.Boxes.Show(texts_.GetLangText(TextId::FileNotFound), BoxButtons::Ok, BoxIcon::Critical);
+    system_.MessageBoxes.Show(texts_.GetLangText(TextId::FileNotFound), BoxButtons::Ok,
+                              BoxIcon::Critical);
   }
 }
 
@@ -48,7 +49,7 @@ ClipboardExport& Editor::BeginExport() {
   return export_;
 }
 
-void Editor::EndExport() { export_.CopyTo(system_.PlainText, modified_); }
+void Editor::EndExport() { export_.CopyTo(system_.Clipboard, modified_); }
 
 OptionsSelection& Editor::BeginOptions() {
   options_.RememberLanguage();
@@ -61,8 +62,7 @@ OptionsOutcome Editor::EndOptions() {
   const PanelReaction panel = panel_.ResetPanel();
   keysList_.FollowChooser();
   // As with all settings, a folder that cannot be written is not reported.
-  static_cast<void>(
-      SaveSettings(settings_, system_.FileSystem, system_.Time, system_.Surroundings));
+  static_cast<void>(SaveSettings(settings_, system_.Files, system_.Clock, system_.Environment));
   const bool languageChanged = options_.LanguageChanged();
   if (languageChanged) {
     ApplyLanguage();
@@ -74,12 +74,12 @@ OptionsOutcome Editor::EndOptions() {
 void Editor::ReadRecentFiles() {
   recentFiles_.Setup(settings_.NumberOfRecentFiles);
   recentFiles_.ChangeLanguage();
-  recentFiles_.ReadList(system_.FileSystem, SettingsPath(system_.Surroundings), ProgramSection,
+  recentFiles_.ReadList(system_.Files, SettingsPath(system_.Environment), ProgramSection,
                         RecentFilesPrefix);
 }
 
 void Editor::SaveRecentFiles() {
-  recentFiles_.SaveList(system_.FileSystem, system_.Time, SettingsPath(system_.Surroundings),
+  recentFiles_.SaveList(system_.Files, system_.Clock, SettingsPath(system_.Environment),
                         ProgramSection, RecentFilesPrefix);
 }
 

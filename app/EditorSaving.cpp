@@ -18,32 +18,32 @@ void Editor::Save(bool restarts) {
   }
   if (wincmdUnread_) {
     // A save would drop every key that the list does not show.
-    system_.Boxes.Beep();
+    system_.MessageBoxes.Beep();
     return;
   }
   const BusyTime busy(busy_);
   RestartRequest restart{.WincmdPath = wincmdPath_, .CloseIt = true};
   if (restarts) {
-    RestartTotalCommander(system_.OtherPrograms, system_.Time, system_.FileSystem,
-                          system_.Surroundings, restart);
+    RestartTotalCommander(system_.Programs, system_.Clock, system_.Files, system_.Environment,
+                          restart);
   }
   const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0};
-  const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.FileSystem,
-                                        system_.Time, commanderEnvironment_);
+  const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.Files,
+                                        system_.Clock, commanderEnvironment_);
   if (error == FileError::None) {
     SetModified(false);
   } else {
-    system_.Boxes.Beep();
+    system_.MessageBoxes.Beep();
   }
   if (restarts) {
     restart.CloseIt = false;
-    RestartTotalCommander(system_.OtherPrograms, system_.Time, system_.FileSystem,
-                          system_.Surroundings, restart);
+    RestartTotalCommander(system_.Programs, system_.Clock, system_.Files, system_.Environment,
+                          restart);
   }
 }
 
 void Editor::RefreshRestartItems() {
-  const bool running = FindTotalCommander(system_.OtherPrograms) != 0;
+  const bool running = FindTotalCommander(system_.Programs) != 0;
   restartButtonEnabled_ = running;
   saveAndRestartEnabled_ = running && modified_;
 }
@@ -52,9 +52,9 @@ BoxAnswer Editor::AskToSaveChanges() {
   if (!modified_) {
     return BoxAnswer::No;
   }
-  const BoxAnswer answer =
-      system_.Boxes.Show(texts_.GetLangText(TextId::SaveChangesTo) + L"  " + wincmdPath_ + L"\n",
-                         BoxButtons::YesNoCancel, BoxIcon::Exclamation);
+  const BoxAnswer answer = system_.MessageBoxes.Show(
+      texts_.GetLangText(TextId::SaveChangesTo) + L"  " + wincmdPath_ + L"\n",
+      BoxButtons::YesNoCancel, BoxIcon::Exclamation);
   if (answer == BoxAnswer::Yes) {
     FileSave();
   }

@@ -6,7 +6,7 @@ namespace tessera {
 void frmMain::ShowExport() {
   ClipboardExport& model = editor_.BeginExport();
   frmExportToClipboard_.Show(window_, model, [this, &model] {
-    model.Ok(system_.FileSystem, system_.Time, SettingsPath(system_.Surroundings));
+    model.Ok(system_.Files, system_.Clock, SettingsPath(system_.Environment));
   });
   editor_.EndExport();
 }

@@ -128,7 +128,7 @@ void frmMain::OnCommand(int id, HWND control) {
     return;
   }
   if (control == Toolbar1_) {
-    system_.Time.DoEvents();
+    system_.Clock.DoEvents();
   }
   editor_.RefreshRestartItems();
   if (id == IDM_mnuFileExit) {

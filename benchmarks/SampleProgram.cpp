@@ -48,8 +48,9 @@ BoxAnswer YesToAll::Show(const std::wstring&, BoxButtons, BoxIcon, BoxDefault) {
 }
 
 SampleProgram::SampleProgram(int commands)
-    : Editor({Files, registry_, environment_, boxes_, dialogs_, programs_, clock_, clipboard_},
-             [](const LoadProgress&) {}) {
+    : Editor(
+          {Files, registry_, environment_, messageBoxes_, dialogs_, programs_, clock_, clipboard_},
+          [](const LoadProgress&) {}) {
   environment_.Variables[L"Commander_Path"] = L"C:\\TC";
   registry_.SetText(RootKey::CurrentUser, L"Software\\Ghisler\\Total Commander", L"IniFileName",
                     IniPath);

@@ -43,7 +43,7 @@ class SampleProgram {
   Log log_;
   FakeRegistry registry_;
   FakeEnvironment environment_;
-  YesToAll boxes_;
+  YesToAll messageBoxes_;
   FakeDialogs dialogs_;
   FakePrograms programs_{log_};
   FakeClock clock_;

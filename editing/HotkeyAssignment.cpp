@@ -10,15 +10,15 @@ namespace tessera {
 namespace {
 
 /// A question that may destroy something: No is the default button.
-bool Confirmed(MessageBoxes& boxes, const std::wstring& text, BoxIcon icon) {
-  return boxes.Show(text, BoxButtons::YesNo, icon, BoxDefault::Second) == BoxAnswer::Yes;
+bool Confirmed(MessageBoxes& messageBoxes, const std::wstring& text, BoxIcon icon) {
+  return messageBoxes.Show(text, BoxButtons::YesNo, icon, BoxDefault::Second) == BoxAnswer::Yes;
 }
 
 }  // namespace
 
 HotkeyAssignment::HotkeyAssignment(Catalogue& catalogue, const HotkeyNotation& notation,
-                                   const Texts& texts, MessageBoxes& boxes)
-    : catalogue_(catalogue), notation_(notation), texts_(texts), boxes_(boxes) {}
+                                   const Texts& texts, MessageBoxes& messageBoxes)
+    : catalogue_(catalogue), notation_(notation), texts_(texts), messageBoxes_(messageBoxes) {}
 
 bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
   if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, true)) {
@@ -43,7 +43,7 @@ bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
 bool HotkeyAssignment::Delete(RowKey row) { return DeleteCurrentKeys(catalogue_, row, notation_); }
 
 bool HotkeyAssignment::DeleteAll() {
-  if (!Confirmed(boxes_, DeleteAllQuestion(texts_), BoxIcon::Question)) {
+  if (!Confirmed(messageBoxes_, DeleteAllQuestion(texts_), BoxIcon::Question)) {
     return false;
   }
   bool changed = false;
@@ -63,8 +63,9 @@ bool HotkeyAssignment::CheckStartMenuConflict(RowKey row, const std::wstring& ke
     if (!EqualIgnoringCase(slot.Key, key)) {
       continue;
     }
-    confirmed = Confirmed(boxes_, StartMenuQuestion(texts_, slot, catalogue_.ListView1.Row(row)),
-                          BoxIcon::Exclamation);
+    confirmed =
+        Confirmed(messageBoxes_, StartMenuQuestion(texts_, slot, catalogue_.ListView1.Row(row)),
+                  BoxIcon::Exclamation);
     if (confirmed) {
       slot.Key.append(OverriddenMark);
     }
@@ -79,19 +80,19 @@ bool HotkeyAssignment::CheckConflicts(RowKey row, const std::wstring& key, bool 
   bool confirmed = true;
   switch (conflict.Kind) {
     case ConflictKind::SameKey:
-      boxes_.Beep();
+      messageBoxes_.Beep();
       return false;
     case ConflictKind::Free:
       break;
     case ConflictKind::DefaultKey:
-      confirmed =
-          Confirmed(boxes_, DefaultKeyQuestion(texts_, rows.Row(conflict.Owner), rows.Row(row)),
-                    BoxIcon::Exclamation);
+      confirmed = Confirmed(messageBoxes_,
+                            DefaultKeyQuestion(texts_, rows.Row(conflict.Owner), rows.Row(row)),
+                            BoxIcon::Exclamation);
       break;
     case ConflictKind::CurrentKey:
-      confirmed =
-          Confirmed(boxes_, CurrentKeyQuestion(texts_, rows.Row(conflict.Owner), rows.Row(row)),
-                    BoxIcon::Exclamation);
+      confirmed = Confirmed(messageBoxes_,
+                            CurrentKeyQuestion(texts_, rows.Row(conflict.Owner), rows.Row(row)),
+                            BoxIcon::Exclamation);
       break;
   }
   if (confirmed) {

@@ -15,7 +15,7 @@ namespace tessera {
 class HotkeyAssignment {
  public:
   HotkeyAssignment(Catalogue& catalogue, const HotkeyNotation& notation, const Texts& texts,
-                   MessageBoxes& boxes);
+                   MessageBoxes& messageBoxes);
 
   /// Replaces the row's current keys by `key`.
   bool Assign(RowKey row, const std::wstring& key);
@@ -35,7 +35,7 @@ class HotkeyAssignment {
   Catalogue& catalogue_;
   const HotkeyNotation& notation_;
   const Texts& texts_;
-  MessageBoxes& boxes_;
+  MessageBoxes& messageBoxes_;
 };
 
 }  // namespace tessera

@@ -13,13 +13,13 @@ constexpr std::size_t IndexOf(Modifier modifier) { return static_cast<std::size_
 
 HotkeyPanel::HotkeyPanel(Catalogue& catalogue, CommandList& list, HotkeyAssignment& assignment,
                          const HotkeyNotation& notation, const Settings& settings,
-                         MessageBoxes& boxes)
+                         MessageBoxes& messageBoxes)
     : catalogue_(catalogue),
       list_(list),
       assignment_(assignment),
       notation_(notation),
       settings_(settings),
-      boxes_(boxes),
+      messageBoxes_(messageBoxes),
       modifierToggle_(ToggleResetValues()) {}
 
 HotkeyPanel::PerModifier HotkeyPanel::ToggleResetValues() const {
@@ -70,7 +70,7 @@ PanelReaction HotkeyPanel::ResetPanel() {
 
 bool HotkeyPanel::Assign() {
   if (!AssignEnabled()) {
-    boxes_.Beep();
+    messageBoxes_.Beep();
     return false;
   }
   return assignment_.Assign(list_.SelectedRow(), ComposeKey());
@@ -78,7 +78,7 @@ bool HotkeyPanel::Assign() {
 
 bool HotkeyPanel::Add() {
   if (!AssignEnabled() || !AddEnabled()) {
-    boxes_.Beep();
+    messageBoxes_.Beep();
     return false;
   }
   return assignment_.Add(list_.SelectedRow(), ComposeKey());
@@ -86,7 +86,7 @@ bool HotkeyPanel::Add() {
 
 bool HotkeyPanel::Delete() {
   if (!list_.CommandSelected()) {
-    boxes_.Beep();
+    messageBoxes_.Beep();
     return false;
   }
   return assignment_.Delete(list_.SelectedRow());

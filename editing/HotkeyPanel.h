@@ -56,7 +56,7 @@ inline constexpr std::array AllModifiers{Modifier::Ctrl, Modifier::Alt, Modifier
 class HotkeyPanel {
  public:
   HotkeyPanel(Catalogue& catalogue, CommandList& list, HotkeyAssignment& assignment,
-              const HotkeyNotation& notation, const Settings& settings, MessageBoxes& boxes);
+              const HotkeyNotation& notation, const Settings& settings, MessageBoxes& messageBoxes);
 
   // -- Queries: what the controls show
 
@@ -101,7 +101,7 @@ class HotkeyPanel {
   HotkeyAssignment& assignment_;
   const HotkeyNotation& notation_;
   const Settings& settings_;
-  MessageBoxes& boxes_;
+  MessageBoxes& messageBoxes_;
   PerModifier boxesChecked_{};
   PerModifier modifierToggle_;  ///< what each box becomes at the next press of its key
   int chosenKey_ = NoKeyChosen;

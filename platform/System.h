@@ -12,16 +12,17 @@
 
 namespace tessera {
 
-/// References to the one implementation of each seam; whoever makes it keeps them alive.
+/// References to the one implementation of each seam, named as its interface; whoever makes it
+/// keeps them alive.
 struct System {
-  Files& FileSystem;
-  Registry& RegistryKeys;
-  Environment& Surroundings;
-  MessageBoxes& Boxes;
-  Dialogs& StandardDialogs;
-  Programs& OtherPrograms;
-  Clock& Time;
-  Clipboard& PlainText;
+  tessera::Files& Files;
+  tessera::Registry& Registry;
+  tessera::Environment& Environment;
+  tessera::MessageBoxes& MessageBoxes;
+  tessera::Dialogs& Dialogs;
+  tessera::Programs& Programs;
+  tessera::Clock& Clock;
+  tessera::Clipboard& Clipboard;
 };
 
 }  // namespace tessera

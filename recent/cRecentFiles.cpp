@@ -67,8 +67,8 @@ std::wstring ShortenPath(std::wstring_view path) {
   }
 }
 
-cRecentFiles::cRecentFiles(const Texts& texts, MessageBoxes& boxes)
-    : texts_(texts), boxes_(boxes) {}
+cRecentFiles::cRecentFiles(const Texts& texts, MessageBoxes& messageBoxes)
+    : texts_(texts), messageBoxes_(messageBoxes) {}
 
 int cRecentFiles::Max() const { return max_; }
 
@@ -123,7 +123,7 @@ void cRecentFiles::RemoveFile(int index) {
 }
 
 bool cRecentFiles::Clear() {
-  if (boxes_.Show(areYouSure_, BoxButtons::YesNo, BoxIcon::Question, BoxDefault::Second) !=
+  if (messageBoxes_.Show(areYouSure_, BoxButtons::YesNo, BoxIcon::Question, BoxDefault::Second) !=
       BoxAnswer::Yes) {
     return false;
   }

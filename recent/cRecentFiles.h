@@ -23,7 +23,7 @@ struct RecentEntry {
 
 class cRecentFiles {
  public:
-  cRecentFiles(const Texts& texts, MessageBoxes& boxes);
+  cRecentFiles(const Texts& texts, MessageBoxes& messageBoxes);
 
   // -- Queries. Indexes are 1-based; 1 is the newest.
 
@@ -72,7 +72,7 @@ class cRecentFiles {
   [[nodiscard]] bool Holds(int index) const;
 
   const Texts& texts_;
-  MessageBoxes& boxes_;
+  MessageBoxes& messageBoxes_;
   int max_ = 0;
   bool unread_ = false;              ///< the settings file is there, and reading it failed
   std::vector<std::wstring> paths_;  ///< the occupied slots

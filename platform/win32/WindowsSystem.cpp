@@ -6,10 +6,10 @@
 namespace tessera {
 
 WindowsSystem::WindowsSystem()
-    : boxes_(owner_), dialogs_(owner_), programs_(owner_), clipboard_(owner_) {}
+    : messageBoxes_(owner_), dialogs_(owner_), programs_(owner_), clipboard_(owner_) {}
 
 System WindowsSystem::Seams() {
-  return {files_, registry_, environment_, boxes_, dialogs_, programs_, clock_, clipboard_};
+  return {files_, registry_, environment_, messageBoxes_, dialogs_, programs_, clock_, clipboard_};
 }
 
 void WindowsSystem::SetMainWindow(HWND window) { owner_.SetMain(window); }

@@ -34,7 +34,7 @@ class WindowsSystem {
   WindowsFiles files_;
   WindowsRegistry registry_;
   WindowsEnvironment environment_;
-  WindowsMessageBoxes boxes_;
+  WindowsMessageBoxes messageBoxes_;
   WindowsDialogs dialogs_;
   WindowsPrograms programs_;
   WindowsClock clock_;

@@ -30,25 +30,24 @@ std::wstring LocateTotalcmdInc(const LocateSources& sources, std::wstring& total
   // True, and the directory taken over, when the command list is in it.
   const auto isIn = [&](std::wstring_view directory) {
     const std::wstring candidate = AddBackslash(directory);
-    if (!FileExists(sources.FileSystem, candidate + std::wstring(CommandListName), false))
-      return false;
+    if (!FileExists(sources.Files, candidate + std::wstring(CommandListName), false)) return false;
     totalCommanderDirectory = candidate;
     return true;
   };
-  if (isIn(sources.Surroundings.Variable(L"Commander_Path")))
+  if (isIn(sources.Environment.Variable(L"Commander_Path")))
     return totalCommanderDirectory + std::wstring(CommandListName);
 
-  const cRegistry registry(sources.RegistryKeys);
+  const cRegistry registry(sources.Registry);
   for (const std::wstring_view key : {UserKey, MachineKey}) {
     const std::wstring directory =
-        ExpandPath(sources.Surroundings, registry.ReadValue(key, L"InstallDir"));
+        ExpandPath(sources.Environment, registry.ReadValue(key, L"InstallDir"));
     if (!IsMissing(directory) && isIn(directory))
       return totalCommanderDirectory + std::wstring(CommandListName);
   }
 
   const std::wstring candidate =
-      ExpandPath(sources.Surroundings, totalCommanderDirectory + std::wstring(CommandListName));
-  if (FileExists(sources.FileSystem, candidate, false)) return candidate;
+      ExpandPath(sources.Environment, totalCommanderDirectory + std::wstring(CommandListName));
+  if (FileExists(sources.Files, candidate, false)) return candidate;
 
   const std::wstring chosen = ask(L"");
   if (!IsMissing(chosen)) totalCommanderDirectory = AddBackslash(DirectoryOf(chosen));
@@ -58,21 +57,21 @@ std::wstring LocateTotalcmdInc(const LocateSources& sources, std::wstring& total
 std::wstring LocateWincmdIni(const LocateSources& sources,
                              const std::wstring& totalCommanderDirectory,
                              std::wstring& userDefinedWincmd, const AskForMissingFile& ask) {
-  const cRegistry registry(sources.RegistryKeys);
+  const cRegistry registry(sources.Registry);
   const std::wstring ofUser = registry.ReadValue(UserKey, L"IniFileName");
   const std::wstring ofMachine = registry.ReadValue(MachineKey, L"IniFileName");
   const std::wstring& registered = IsMissing(ofUser) ? ofMachine : ofUser;
   if (!IsMissing(registered)) {
     std::wstring path =
-        ResolveRegisteredIni(sources.Surroundings, registered, totalCommanderDirectory);
-    if (ExistsOrReturns(sources.FileSystem, path)) return path;
+        ResolveRegisteredIni(sources.Environment, registered, totalCommanderDirectory);
+    if (ExistsOrReturns(sources.Files, path)) return path;
   }
 
-  std::wstring candidate = ExpandPath(sources.Surroundings, userDefinedWincmd);
-  if (ExistsOrReturns(sources.FileSystem, candidate)) return candidate;
+  std::wstring candidate = ExpandPath(sources.Environment, userDefinedWincmd);
+  if (ExistsOrReturns(sources.Files, candidate)) return candidate;
 
-  userDefinedWincmd = ask(ExpandPath(sources.Surroundings, totalCommanderDirectory));
-  return ExpandPath(sources.Surroundings, userDefinedWincmd);
+  userDefinedWincmd = ask(ExpandPath(sources.Environment, totalCommanderDirectory));
+  return ExpandPath(sources.Environment, userDefinedWincmd);
 }
 
 }  // namespace tessera

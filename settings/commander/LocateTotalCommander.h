@@ -15,9 +15,9 @@ namespace tessera {
 using AskForMissingFile = std::function<std::wstring(const std::wstring& folder)>;
 
 struct LocateSources {
-  Files& FileSystem;
-  Registry& RegistryKeys;
-  const Environment& Surroundings;
+  tessera::Files& Files;
+  tessera::Registry& Registry;
+  const tessera::Environment& Environment;
 };
 
 /// The path of "Totalcmd.inc". `totalCommanderDirectory` comes in as the setting TCInstallDir and

@@ -89,29 +89,29 @@ std::vector<CommandEntry> Commands(std::wstring_view text) {
 /// The input: "Totalcmd.inc", the default keys, then "Wincmd.ini".
 void RunCommands(std::string_view bytes) {
   const HotkeyNotation notation;
-  MemoryFiles disk;
-  FakeClock time;
-  const FakeEnvironment surroundings;
+  MemoryFiles files;
+  FakeClock clock;
+  const FakeEnvironment environment;
   const std::wstring path = L"C:\\Wincmd.ini";
   Catalogue catalogue;
   catalogue.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(Take(bytes)));
   catalogue.lvwHidden = Commands(*catalogue.Text);
-  disk.Contents[L"C:\\keys.hky"] = Take(bytes);
-  disk.Contents[path] = bytes;
-  FillDefaultKeys(catalogue.lvwHidden, ProfileFile(disk, L"C:\\keys.hky"), notation, [] {});
-  const WincmdIni wincmd(disk, time, surroundings, path);
+  files.Contents[L"C:\\keys.hky"] = Take(bytes);
+  files.Contents[path] = bytes;
+  FillDefaultKeys(catalogue.lvwHidden, ProfileFile(files, L"C:\\keys.hky"), notation, [] {});
+  const WincmdIni wincmd(files, clock, environment, path);
   catalogue.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation);
   ReadShortcuts(catalogue.lvwHidden, wincmd.Shortcuts(), notation, [] {});
   BuildDisplayTable(catalogue, notation, [] {});
   BuildKeyIndexes(catalogue, notation);
   MarkOverriddenDefaults(catalogue);
   const SaveRequest request{path, true};
-  Require(SaveShortcuts(catalogue, notation, request, disk, time, surroundings) == FileError::None,
+  Require(SaveShortcuts(catalogue, notation, request, files, clock, environment) == FileError::None,
           "a save failed");
-  const std::string saved = disk.Contents[path];
-  Require(SaveShortcuts(catalogue, notation, request, disk, time, surroundings) == FileError::None,
+  const std::string saved = files.Contents[path];
+  Require(SaveShortcuts(catalogue, notation, request, files, clock, environment) == FileError::None,
           "a second save failed");
-  Require(disk.Contents[path] == saved, "a second save changed the file");
+  Require(files.Contents[path] == saved, "a second save changed the file");
 }
 
 std::wstring WithoutNum(std::wstring text) {
@@ -166,9 +166,9 @@ void RunNotation(std::string_view bytes) {
 }
 
 void RunLanguage(std::string_view bytes) {
-  MemoryFiles disk;
-  disk.Contents[L"C:\\x.lng"] = bytes;
-  Texts texts(disk);
+  MemoryFiles files;
+  files.Contents[L"C:\\x.lng"] = bytes;
+  Texts texts(files);
   Require(texts.UseLanguageFile(L"C:\\x.lng"), "the file was not taken");
   for (const int id : {-1, 0, 1, 100, 108, 401, 404, 405, 406, 3003, 3020, 3203}) {
     Require(texts.GetLangText(TextId{id}).size() < ProfileBufferLength, "a text is too long");
@@ -177,18 +177,18 @@ void RunLanguage(std::string_view bytes) {
 }
 
 void RunSettings(std::string_view bytes) {
-  MemoryFiles disk;
-  FakeClock time;
-  const FakeEnvironment surroundings;
-  disk.Contents[SettingsPath(surroundings)] = bytes;
-  const Settings settings = LoadSettings(disk, time, surroundings);
+  MemoryFiles files;
+  FakeClock clock;
+  const FakeEnvironment environment;
+  files.Contents[SettingsPath(environment)] = bytes;
+  const Settings settings = LoadSettings(files, clock, environment);
   Require(settings.NumberOfRecentFiles >= 2 && settings.NumberOfRecentFiles <= 16, "recent files");
   Require(settings.MultiHotkeySeparator.size() >= 3, "the separator is not padded");
   Require(!settings.UndefinedHotkey.empty(), "no marker");
   const ColumnLayout columns = ReadColumnLayout(settings);
   for (const int width : columns.Widths) Require(width >= 0, "a column of less than no width");
-  Require(SaveSettings(settings, disk, time, surroundings) == FileError::None, "not saved");
-  const Settings again = LoadSettings(disk, time, surroundings);
+  Require(SaveSettings(settings, files, clock, environment) == FileError::None, "not saved");
+  const Settings again = LoadSettings(files, clock, environment);
   Require(again.FontSize == settings.FontSize &&
               again.ForegroundColor == settings.ForegroundColor &&
               again.MainWindowLeft == settings.MainWindowLeft &&

@@ -33,15 +33,15 @@ TEST(FilterText, IndexOutsideTheTableIsAProgrammingError) {
 
 class cCommonDialogTest : public testing::Test {
  protected:
-  FakeDialogs fake_;
-  cCommonDialog dialog_{fake_};
+  FakeDialogs dialogs_;
+  cCommonDialog dialog_{dialogs_};
 };
 
 TEST_F(cCommonDialogTest, OpenGivesTheChosenPath) {
-  fake_.OpenAnswers = {L"C:\\TC\\Wincmd.ini"};
+  dialogs_.OpenAnswers = {L"C:\\TC\\Wincmd.ini"};
   EXPECT_EQ(dialog_.BrowseForOpen(L"C:\\TC", L"Wincmd.ini", FileFilter::WincmdIni, L"Choose"),
             L"C:\\TC\\Wincmd.ini");
-  const FileDialogRequest& request = fake_.OpenRequests.at(0);
+  const FileDialogRequest& request = dialogs_.OpenRequests.at(0);
   EXPECT_EQ(request.Folder, L"C:\\TC");
   EXPECT_EQ(request.FileName, L"Wincmd.ini");
   EXPECT_EQ(request.Filter, FilterText(FileFilter::WincmdIni));
@@ -51,28 +51,28 @@ TEST_F(cCommonDialogTest, OpenGivesTheChosenPath) {
 TEST_F(cCommonDialogTest, OpenFallsBackToTheDefaultFolderAndTitle) {
   dialog_.Setup(L"C:\\Default");
   EXPECT_EQ(dialog_.BrowseForOpen(L"", L"", FileFilter::Language), MissingMarker);
-  EXPECT_EQ(fake_.OpenRequests.at(0).Folder, L"C:\\Default");
-  EXPECT_EQ(fake_.OpenRequests.at(0).Title, L"Open");
+  EXPECT_EQ(dialogs_.OpenRequests.at(0).Folder, L"C:\\Default");
+  EXPECT_EQ(dialogs_.OpenRequests.at(0).Title, L"Open");
 }
 
 TEST_F(cCommonDialogTest, SaveRemembersTheFolderOfTheChosenFile) {
-  fake_.SaveAnswers = {L"D:\\Out\\a.txt", std::nullopt};
+  dialogs_.SaveAnswers = {L"D:\\Out\\a.txt", std::nullopt};
   EXPECT_EQ(dialog_.BrowseForSave(L"", L"a.txt", FileFilter::AllFiles, L"", true),
             L"D:\\Out\\a.txt");
   EXPECT_EQ(dialog_.BrowseForSave(L"", L"b.txt", FileFilter::AllFiles, L"Keep", false),
             MissingMarker);
   EXPECT_EQ(dialog_.BrowseForSave(L"E:\\", L"", FileFilter::AllFiles, L"", false), MissingMarker);
-  EXPECT_EQ(fake_.SaveRequests.at(0).Folder, L"");
-  EXPECT_EQ(fake_.SaveRequests.at(0).Title, L"Save");
-  EXPECT_TRUE(fake_.SaveRequests.at(0).AskBeforeOverwrite);
-  EXPECT_EQ(fake_.SaveRequests.at(1).Folder, L"D:\\Out");
-  EXPECT_EQ(fake_.SaveRequests.at(1).Title, L"Keep");
-  EXPECT_FALSE(fake_.SaveRequests.at(1).AskBeforeOverwrite);
-  EXPECT_EQ(fake_.SaveRequests.at(2).Folder, L"E:\\");
+  EXPECT_EQ(dialogs_.SaveRequests.at(0).Folder, L"");
+  EXPECT_EQ(dialogs_.SaveRequests.at(0).Title, L"Save");
+  EXPECT_TRUE(dialogs_.SaveRequests.at(0).AskBeforeOverwrite);
+  EXPECT_EQ(dialogs_.SaveRequests.at(1).Folder, L"D:\\Out");
+  EXPECT_EQ(dialogs_.SaveRequests.at(1).Title, L"Keep");
+  EXPECT_FALSE(dialogs_.SaveRequests.at(1).AskBeforeOverwrite);
+  EXPECT_EQ(dialogs_.SaveRequests.at(2).Folder, L"E:\\");
 }
 
 TEST_F(cCommonDialogTest, ColorIsADecimalNumber) {
-  fake_.ColorAnswers = {0x00FF8000U, 0U};
+  dialogs_.ColorAnswers = {0x00FF8000U, 0U};
   EXPECT_EQ(dialog_.ColorSelect(), L"16744448");
   EXPECT_EQ(dialog_.ColorSelect(), L"0");
 }

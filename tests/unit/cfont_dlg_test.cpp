@@ -11,12 +11,12 @@ class cFontDlgTest : public testing::Test {
  protected:
   /// Shows the dialog and answers with that record.
   void Choose(const FontRecord& record) {
-    fake_.FontAnswers = {record};
+    dialogs_.FontAnswers = {record};
     EXPECT_TRUE(dialog_.ShowFont());
   }
 
-  FakeDialogs fake_;
-  cFontDlg dialog_{fake_};
+  FakeDialogs dialogs_;
+  cFontDlg dialog_{dialogs_};
 };
 
 TEST_F(cFontDlgTest, RecordIsBuiltFromTheDescription) {
@@ -25,7 +25,7 @@ TEST_F(cFontDlgTest, RecordIsBuiltFromTheDescription) {
   dialog_.FontStyle = cFontDlg::Bold | cFontDlg::StrikeOut;
   dialog_.Script = 238;
   EXPECT_FALSE(dialog_.ShowFont());
-  const FontRecord& record = fake_.FontRequests.at(0);
+  const FontRecord& record = dialogs_.FontRequests.at(0);
   EXPECT_EQ(record.FaceName, L"Courier New");
   EXPECT_EQ(record.Weight, 700);
   EXPECT_FALSE(record.Italic);
@@ -39,15 +39,15 @@ TEST_F(cFontDlgTest, RecordIsBuiltFromTheDescription) {
 TEST_F(cFontDlgTest, PlainDescriptionHasNormalWeight) {
   dialog_.FontStyle = cFontDlg::Italic | cFontDlg::Underline;
   EXPECT_FALSE(dialog_.ShowFont());
-  EXPECT_EQ(fake_.FontRequests.at(0).Weight, 400);
-  EXPECT_TRUE(fake_.FontRequests.at(0).Italic);
-  EXPECT_TRUE(fake_.FontRequests.at(0).Underline);
+  EXPECT_EQ(dialogs_.FontRequests.at(0).Weight, 400);
+  EXPECT_TRUE(dialogs_.FontRequests.at(0).Italic);
+  EXPECT_TRUE(dialogs_.FontRequests.at(0).Underline);
 }
 
 TEST_F(cFontDlgTest, LongFaceNameIsCutTo31Characters) {
   dialog_.FaceName = std::wstring(40, L'x');
   EXPECT_FALSE(dialog_.ShowFont());
-  EXPECT_EQ(fake_.FontRequests.at(0).FaceName, std::wstring(31, L'x'));
+  EXPECT_EQ(dialogs_.FontRequests.at(0).FaceName, std::wstring(31, L'x'));
 }
 
 TEST_F(cFontDlgTest, CancelLeavesTheDescriptionAsItWas) {

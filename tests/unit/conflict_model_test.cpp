@@ -34,26 +34,26 @@ const Text DataPath = L"C:\\keys.hky";
 
 class Session {
  public:
-  MemoryFiles Disk;
-  FakeClock Time;
-  FakeEnvironment Surroundings;
-  FakeMessageBoxes Boxes;
+  MemoryFiles Files;
+  FakeClock Clock;
+  FakeEnvironment Environment;
+  FakeMessageBoxes MessageBoxes;
   Settings Options;
   HotkeyNotation Notation;
-  Texts Language{Disk};
+  Texts Language{Files};
   Catalogue Tables;
   CommandList List{Tables, Options};
-  HotkeyAssignment Assignment{Tables, Notation, Language, Boxes};
-  HotkeyPanel Panel{Tables, List, Assignment, Notation, Options, Boxes};
+  HotkeyAssignment Assignment{Tables, Notation, Language, MessageBoxes};
+  HotkeyPanel Panel{Tables, List, Assignment, Notation, Options, MessageBoxes};
 
   void Open(const std::string& commands) {
-    const WincmdIni wincmd(Disk, Time, Surroundings, IniPath);
+    const WincmdIni wincmd(Files, Clock, Environment, IniPath);
     Tables.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), Notation);
     if (Tables.lvwHidden.empty()) {
       Tables.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(commands));
       Tables.lvwHidden = ReadInternalCommands(*Tables.Text, Notation.UndefinedHotkey, [] {});
     }
-    FillDefaultKeys(Tables.lvwHidden, ProfileFile(Disk, DataPath), Notation, [] {});
+    FillDefaultKeys(Tables.lvwHidden, ProfileFile(Files, DataPath), Notation, [] {});
     ReadShortcuts(Tables.lvwHidden, wincmd.Shortcuts(), Notation, [] {});
     BuildDisplayTable(Tables, Notation, [] {});
     BuildKeyIndexes(Tables, Notation);
@@ -145,7 +145,7 @@ class Pair {
       }
       model_.Master.push_back(row);
     }
-    session_.Disk.Contents[DataPath] = data;
+    session_.Files.Contents[DataPath] = data;
   }
 
   /// Gives the last row some default keys, each with a modifier.
@@ -182,7 +182,7 @@ class Pair {
       model_.StartMenu.push_back({L"menu" + number, L"Entry " + number});
       if (Below(4) != 0) model_.StartMenu.push_back({L"key" + number, std::to_wstring(Below(25))});
     }
-    session_.Disk.Contents[IniPath] = File();
+    session_.Files.Contents[IniPath] = File();
   }
 
   [[nodiscard]] static std::string Lines(const std::vector<ModelLine>& lines) {
@@ -203,11 +203,11 @@ class Pair {
   }
 
   void Save() {
-    ASSERT_EQ(SaveShortcuts(session_.Tables, session_.Notation, {IniPath, false}, session_.Disk,
-                            session_.Time, session_.Surroundings),
+    ASSERT_EQ(SaveShortcuts(session_.Tables, session_.Notation, {IniPath, false}, session_.Files,
+                            session_.Clock, session_.Environment),
               FileError::None);
     model_.Save();
-    ASSERT_EQ(session_.Disk.Contents[IniPath], File());
+    ASSERT_EQ(session_.Files.Contents[IniPath], File());
   }
 
   void Select() {
@@ -217,22 +217,22 @@ class Pair {
   }
 
   void BeginEdit() {
-    session_.Boxes.Answers.clear();
-    session_.Boxes.Shown.clear();
-    session_.Boxes.BeepCount = 0;
+    session_.MessageBoxes.Answers.clear();
+    session_.MessageBoxes.Shown.clear();
+    session_.MessageBoxes.BeepCount = 0;
     for (int i = 0; i < 30; ++i) {
-      session_.Boxes.Answers.push_back(Below(4) == 0 ? BoxAnswer::No : BoxAnswer::Yes);
+      session_.MessageBoxes.Answers.push_back(Below(4) == 0 ? BoxAnswer::No : BoxAnswer::Yes);
     }
-    model_.Answers = session_.Boxes.Answers;
+    model_.Answers = session_.MessageBoxes.Answers;
   }
 
   void EndEdit(bool changed, bool expected) {
     ASSERT_EQ(changed, expected);
-    ASSERT_EQ(session_.Boxes.BeepCount, model_.Beeps);
-    ASSERT_EQ(session_.Boxes.Shown.size(), model_.Questions.size());
+    ASSERT_EQ(session_.MessageBoxes.BeepCount, model_.Beeps);
+    ASSERT_EQ(session_.MessageBoxes.Shown.size(), model_.Questions.size());
     for (std::size_t i = 0; i < model_.Questions.size(); ++i) {
-      ASSERT_EQ(session_.Boxes.Shown[i].Text, model_.Questions[i]);
-      ASSERT_EQ(session_.Boxes.Shown[i].Default, BoxDefault::Second);
+      ASSERT_EQ(session_.MessageBoxes.Shown[i].Text, model_.Questions[i]);
+      ASSERT_EQ(session_.MessageBoxes.Shown[i].Default, BoxDefault::Second);
     }
   }
 
@@ -307,7 +307,7 @@ TEST(ConflictModel, EveryKeyIsSavedAndReadBackAsItWasShown) {
   for (const bool reversed : {false, true}) {
     Session session;
     session.Notation.ReverseOrderHotkey = reversed;
-    session.Disk.Contents[IniPath] = "";
+    session.Files.Contents[IniPath] = "";
     session.Open("cm_A=1;a\r\ncm_B=2;b\r\n");
     for (unsigned modifiers = 0; modifiers < 8; ++modifiers) {
       for (std::size_t key = 0; key < Vocabulary.size(); ++key) {
@@ -317,15 +317,15 @@ TEST(ConflictModel, EveryKeyIsSavedAndReadBackAsItWasShown) {
         }
         session.Panel.ChooseKey(static_cast<int>(key));
         session.List.ShowRowDetails(1 + key % 2);
-        session.Boxes.Answers = {BoxAnswer::Yes};
+        session.MessageBoxes.Answers = {BoxAnswer::Yes};
         ASSERT_TRUE(session.Panel.Assign());
         ASSERT_EQ(session.Tables.ListView1.Row(1 + key % 2).CurrentKeys, shown);
-        ASSERT_EQ(SaveShortcuts(session.Tables, session.Notation, {IniPath, false}, session.Disk,
-                                session.Time, session.Surroundings),
+        ASSERT_EQ(SaveShortcuts(session.Tables, session.Notation, {IniPath, false}, session.Files,
+                                session.Clock, session.Environment),
                   FileError::None);
         Session next;
         next.Notation = session.Notation;
-        next.Disk.Contents = session.Disk.Contents;
+        next.Files.Contents = session.Files.Contents;
         next.Open("cm_A=1;a\r\ncm_B=2;b\r\n");
         ASSERT_EQ(next.Tables.ListView1.Row(1 + key % 2).CurrentKeys, shown);
       }

@@ -16,9 +16,9 @@ const std::wstring path = L"C:\\some.ini";
 
 class cProfileTest : public testing::Test {
  protected:
-  MemoryFiles Disk;
-  FakeClock Time;
-  cProfile Profile{Disk, Time};
+  MemoryFiles Files;
+  FakeClock Clock;
+  cProfile Profile{Files, Clock};
 };
 
 TEST_F(cProfileTest, AbsentKeyGivesExactlyTheMarker) {
@@ -26,7 +26,7 @@ TEST_F(cProfileTest, AbsentKeyGivesExactlyTheMarker) {
 }
 
 TEST_F(cProfileTest, IntegerIsTheLeadingNumber) {
-  Disk.Contents[path] = "[s]\na=12abc\nb=abc\nc=2.5\nd=\"-3\"\ne=\n";
+  Files.Contents[path] = "[s]\na=12abc\nb=abc\nc=2.5\nd=\"-3\"\ne=\n";
   const std::pair<std::wstring_view, double> cases[] = {{L"a", 12}, {L"b", 0}, {L"c", 2.5},
                                                         {L"d", -3}, {L"e", 0}, {L"absent", 7}};
   for (const auto& [key, number] : cases) {
@@ -36,26 +36,26 @@ TEST_F(cProfileTest, IntegerIsTheLeadingNumber) {
 
 TEST_F(cProfileTest, WritingTheMarkerIsNoWrite) {
   Profile.WriteStringValue(L"s", L"k", MissingMarker, path);
-  EXPECT_FALSE(Disk.Exists(path));
-  Disk.Contents[path] = "[s]\nk=v\n";
+  EXPECT_FALSE(Files.Exists(path));
+  Files.Contents[path] = "[s]\nk=v\n";
   Profile.WriteStringValue(L"s", L"k", L"  " + std::wstring(MissingMarker) + L" ", path);
   Profile.WriteStringValue(L"s", L"k", MissingMarker, path, true);
-  EXPECT_EQ(Disk.Contents[path], "[s]\nk=v\n");
+  EXPECT_EQ(Files.Contents[path], "[s]\nk=v\n");
 }
 
 TEST_F(cProfileTest, WritesAreOnDiskWhenTheCallReturns) {
   Profile.WriteStringValue(L"s", L"k", L" x ", path);
-  EXPECT_EQ(Disk.Contents[path], "[s]\r\nk=x\r\n");
+  EXPECT_EQ(Files.Contents[path], "[s]\r\nk=x\r\n");
   Profile.WriteStringValue(L"s", L"q", L"x", path, true);
   Profile.WriteIntegerValue(L"t", L"n", -5, path);
-  EXPECT_EQ(Disk.Contents[path], "[s]\r\nk=x\r\nq=\"x\"\r\n[t]\r\nn=-5\r\n");
+  EXPECT_EQ(Files.Contents[path], "[s]\r\nk=x\r\nq=\"x\"\r\n[t]\r\nn=-5\r\n");
   Profile.DeleteValue(L"s", L"k", path);
   Profile.DeleteSection(L"t", path);
-  EXPECT_EQ(Disk.Contents[path], "[s]\r\nq=\"x\"\r\n");
+  EXPECT_EQ(Files.Contents[path], "[s]\r\nq=\"x\"\r\n");
 }
 
 TEST_F(cProfileTest, ListsAreWalkedFromZeroToTheUpperIndex) {
-  Disk.Contents[path] = "[s]\nb=1\n;c\nA=\"2\"\na=3\n[]\n[t]\n";
+  Files.Contents[path] = "[s]\nb=1\n;c\nA=\"2\"\na=3\n[]\n[t]\n";
   Profile.ReadFileSectionsName(path, 4096);
   ASSERT_EQ(Profile.FileSectionsNameUpperIndex(), 1);
   EXPECT_EQ(Profile.FileSectionsNameList(0), L"s");
@@ -71,7 +71,7 @@ TEST_F(cProfileTest, ListsAreWalkedFromZeroToTheUpperIndex) {
 }
 
 TEST_F(cProfileTest, KeyNamesAreSortedByCharacterCode) {
-  Disk.Contents[path] = "[s]\nb=1\nA=2\na=3\n1=4\n";
+  Files.Contents[path] = "[s]\nb=1\nA=2\na=3\n1=4\n";
   Profile.ReadSectionKeysNameOnly(L"s", path, 4096);
   Profile.SortKeysNameOnlyList();
   std::wstring all;
@@ -83,7 +83,7 @@ TEST_F(cProfileTest, KeyNamesAreSortedByCharacterCode) {
 
 TEST_F(cProfileTest, EmptyListHasUpperIndexMinusOne) {
   EXPECT_EQ(Profile.SectionKeysNameOnlyUpperIndex(), -1);
-  Disk.Contents[path] = "[t]\na=1\n[s]\n;only a comment\n";
+  Files.Contents[path] = "[t]\na=1\n[s]\n;only a comment\n";
   Profile.ReadSectionKeysNameOnly(L"t", path, 4096);
   ASSERT_EQ(Profile.SectionKeysNameOnlyUpperIndex(), 0);
   Profile.ReadSectionKeysNameOnly(L"s", path, 4096);
@@ -96,7 +96,7 @@ TEST_F(cProfileTest, EmptyListHasUpperIndexMinusOne) {
 }
 
 TEST_F(cProfileTest, IndexOutsideAListThrows) {
-  Disk.Contents[path] = "[s]\nk=v\n";
+  Files.Contents[path] = "[s]\nk=v\n";
   Profile.ReadSectionKeysNameOnly(L"s", path, 4096);
   EXPECT_THROW(static_cast<void>(Profile.SectionKeysNameOnlyList(-1)), std::out_of_range);
   EXPECT_THROW(static_cast<void>(Profile.SectionKeysNameOnlyList(2)), std::out_of_range);
@@ -104,7 +104,7 @@ TEST_F(cProfileTest, IndexOutsideAListThrows) {
 }
 
 TEST_F(cProfileTest, ListThatDoesNotFitIsCutInItsLastText) {
-  Disk.Contents[path] = "[first]\n[second]\n";  // 14 characters with all NULs
+  Files.Contents[path] = "[first]\n[second]\n";  // 14 characters with all NULs
   const std::pair<std::size_t, std::wstring_view> cases[] = {
       {15, L"second"}, {14, L"second"}, {13, L"secon"}, {9, L"s"}, {8, L""}};
   for (const auto& [length, last] : cases) {

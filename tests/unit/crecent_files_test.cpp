@@ -38,9 +38,9 @@ class RecentFilesTest : public testing::Test {
 
   MemoryFiles files_;
   FakeClock clock_;
-  FakeMessageBoxes boxes_;
+  FakeMessageBoxes messageBoxes_;
   Texts texts_{files_};
-  cRecentFiles recent_{texts_, boxes_};
+  cRecentFiles recent_{texts_, messageBoxes_};
 };
 
 // -- The list
@@ -121,14 +121,14 @@ TEST_F(RecentFilesTest, SetupEmptiesTheList) {
 
 TEST_F(RecentFilesTest, ClearingAsksFirstWithNoAsDefault) {
   Add({L"a"});
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   EXPECT_TRUE(recent_.Clear());
   EXPECT_EQ(Paths(), List{});
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text, L"Are you sure?");
-  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::YesNo);
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Question);
-  EXPECT_EQ(boxes_.Shown[0].Default, BoxDefault::Second);
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text, L"Are you sure?");
+  EXPECT_EQ(messageBoxes_.Shown[0].Buttons, BoxButtons::YesNo);
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Question);
+  EXPECT_EQ(messageBoxes_.Shown[0].Default, BoxDefault::Second);
 }
 
 TEST_F(RecentFilesTest, NoLeavesTheListAndTheSettingsFile) {
@@ -136,7 +136,7 @@ TEST_F(RecentFilesTest, NoLeavesTheListAndTheSettingsFile) {
   Save();
   const std::string before = files_.Contents[SettingsFile];
   const int writes = files_.Writes;
-  boxes_.Answers = {BoxAnswer::No};
+  messageBoxes_.Answers = {BoxAnswer::No};
   EXPECT_FALSE(recent_.Clear());
   EXPECT_EQ(Paths(), (List{L"b", L"a"}));
   EXPECT_EQ(files_.Contents[SettingsFile], before);
@@ -194,9 +194,9 @@ TEST_F(RecentFilesTest, ChangeLanguageFetchesTheFixedTextsAgain) {
   recent_.ChangeLanguage();
   EXPECT_EQ(recent_.ClearEntry().Caption, L"Leeren");
   EXPECT_EQ(recent_.MenuEntries().front().Caption, L"Keine Dateien");
-  boxes_.Answers = {BoxAnswer::No};
+  messageBoxes_.Answers = {BoxAnswer::No};
   recent_.Clear();
-  EXPECT_EQ(boxes_.Shown.front().Text, L"Sicher?");
+  EXPECT_EQ(messageBoxes_.Shown.front().Text, L"Sicher?");
 }
 
 // -- Shortened paths
@@ -276,7 +276,7 @@ TEST_F(RecentFilesTest, SavingDeletesTheKeysOfEmptySlotsAndTouchesNoOthers) {
 TEST_F(RecentFilesTest, SavingAClearedListLeavesNoKey) {
   files_.Contents[SettingsFile] = "[Tessera]\r\nRecentFiles1=a\r\nRecentFiles2=b\r\n";
   Read();
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   recent_.Clear();
   Save();
   EXPECT_EQ(files_.Contents[SettingsFile], "[Tessera]\r\n");

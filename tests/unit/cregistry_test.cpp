@@ -15,61 +15,61 @@ const std::wstring KeyPath = L"HKEY_CURRENT_USER\\Software\\Test";
 class cRegistryTest : public testing::Test {
  protected:
   [[nodiscard]] RegistryValue& Stored(const std::wstring& name) {
-    return fake_.Values[{RootKey::CurrentUser, Subkey, name}];
+    return registry_.Values[{RootKey::CurrentUser, Subkey, name}];
   }
 
-  FakeRegistry fake_;
-  cRegistry registry_{fake_};
+  FakeRegistry registry_;
+  cRegistry values_{registry_};
 };
 
 TEST_F(cRegistryTest, TextIsReadWithoutItsTerminator) {
   Stored(L"t") = {1, std::string("C:\\TC\0", 6)};
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"t"), L"C:\\TC");
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"t"), L"C:\\TC");
 }
 
 TEST_F(cRegistryTest, TextWithoutTerminatorLosesItsLastCharacter) {
   Stored(L"t") = {2, "abc"};
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"t"), L"ab");
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"t"), L"ab");
 }
 
 TEST_F(cRegistryTest, ValueOfNoBytesIsEmpty) {
   Stored(L"t") = {1, ""};
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"t"), L"");
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"t"), L"");
 }
 
 TEST_F(cRegistryTest, BinaryIsReadAsUpperCaseHexadecimal) {
   Stored(L"b") = {3, std::string("\x00\x0A\xFF\x5c", 4)};
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"b"), L"000AFF5C");
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"b"), L"000AFF5C");
 }
 
 TEST_F(cRegistryTest, NumberIsReadAsItsFirstThreeBytes) {
   Stored(L"n") = {4, "abcd"};
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"n"), L"abc");
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"n"), L"abc");
 }
 
 TEST_F(cRegistryTest, AbsentValueIsTheMissingMarker) {
   Stored(L"t") = {1, std::string("x\0", 2)};
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"other"), MissingMarker);
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"other"), MissingMarker);
 }
 
 TEST_F(cRegistryTest, AbsentKeyIsTheMissingMarker) {
-  EXPECT_EQ(registry_.ReadValue(L"HKEY_CURRENT_USER\\Software\\None", L"t"), MissingMarker);
+  EXPECT_EQ(values_.ReadValue(L"HKEY_CURRENT_USER\\Software\\None", L"t"), MissingMarker);
 }
 
 TEST_F(cRegistryTest, UnknownRootIsTheMissingMarker) {
-  EXPECT_EQ(registry_.ReadValue(L"HKCU\\Software\\Test", L"t"), MissingMarker);
+  EXPECT_EQ(values_.ReadValue(L"HKCU\\Software\\Test", L"t"), MissingMarker);
 }
 
 TEST_F(cRegistryTest, ValueAboveTheBufferIsTheMissingMarker) {
   Stored(L"fits") = {1, std::string(2048, 'x')};
   Stored(L"long") = {1, std::string(2049, 'x')};
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"fits").size(), 2047U);
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"long"), MissingMarker);
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"fits").size(), 2047U);
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"long"), MissingMarker);
 }
 
 TEST_F(cRegistryTest, RootNameInLowerCaseIsAccepted) {
-  fake_.SetText(RootKey::CurrentUser, Subkey, L"t", L"x");
-  EXPECT_EQ(registry_.ReadValue(L"hkey_current_user\\Software\\Test", L"t"), L"x");
+  registry_.SetText(RootKey::CurrentUser, Subkey, L"t", L"x");
+  EXPECT_EQ(values_.ReadValue(L"hkey_current_user\\Software\\Test", L"t"), L"x");
 }
 
 TEST_F(cRegistryTest, EveryRootNameNamesItsKey) {
@@ -78,42 +78,42 @@ TEST_F(cRegistryTest, EveryRootNameNamesItsKey) {
       {L"HKEY_LOCAL_MACHINE", 0x80000002},  {L"HKEY_USERS", 0x80000003},
       {L"HKEY_CURRENT_CONFIG", 0x80000005}, {L"HKEY_DYN_DATA", 0x80000006}};
   for (const auto& [name, number] : roots) {
-    fake_.SetText(static_cast<RootKey>(number), L"a\\b", L"t", name);
-    EXPECT_EQ(registry_.ReadValue(std::wstring(name) + L"\\a\\b", L"t"), name);
+    registry_.SetText(static_cast<RootKey>(number), L"a\\b", L"t", name);
+    EXPECT_EQ(values_.ReadValue(std::wstring(name) + L"\\a\\b", L"t"), name);
   }
 }
 
 TEST_F(cRegistryTest, RootWithoutSubkeyIsItsOwnKey) {
-  fake_.SetText(RootKey::Users, L"", L"t", L"x");
-  EXPECT_EQ(registry_.ReadValue(L"HKEY_USERS", L"t"), L"x");
+  registry_.SetText(RootKey::Users, L"", L"t", L"x");
+  EXPECT_EQ(values_.ReadValue(L"HKEY_USERS", L"t"), L"x");
 }
 
 TEST_F(cRegistryTest, TextIsWrittenWithItsTerminator) {
-  registry_.WriteValue(KeyPath, L"t", L"ab", 1);
+  values_.WriteValue(KeyPath, L"t", L"ab", 1);
   EXPECT_EQ(Stored(L"t").Type, 1U);
   EXPECT_EQ(Stored(L"t").Bytes, std::string("ab\0", 3));
 }
 
 TEST_F(cRegistryTest, NumberIsWrittenAsFourBytes) {
-  registry_.WriteValue(KeyPath, L"n", L"258", 4);
+  values_.WriteValue(KeyPath, L"n", L"258", 4);
   EXPECT_EQ(Stored(L"n").Type, 4U);
   EXPECT_EQ(Stored(L"n").Bytes, std::string("\x02\x01\x00\x00", 4));
-  registry_.WriteValue(KeyPath, L"n", L"-1", 4);
+  values_.WriteValue(KeyPath, L"n", L"-1", 4);
   EXPECT_EQ(Stored(L"n").Bytes, "\xFF\xFF\xFF\xFF");
 }
 
 TEST_F(cRegistryTest, OtherTypesAndUnknownRootsWriteNothing) {
-  registry_.WriteValue(KeyPath, L"b", L"00", 3);
-  registry_.WriteValue(L"NO_ROOT\\a", L"t", L"x", 1);
-  EXPECT_TRUE(fake_.Values.empty());
+  values_.WriteValue(KeyPath, L"b", L"00", 3);
+  values_.WriteValue(L"NO_ROOT\\a", L"t", L"x", 1);
+  EXPECT_TRUE(registry_.Values.empty());
 }
 
 TEST_F(cRegistryTest, DeletekeyDeletesTheKeyBelowThePath) {
-  fake_.SetText(RootKey::CurrentUser, L"Software\\Test\\Sub", L"t", L"x");
-  fake_.SetText(RootKey::CurrentUser, Subkey, L"t", L"x");
-  registry_.Deletekey(KeyPath, L"Sub");
-  EXPECT_EQ(registry_.ReadValue(KeyPath + L"\\Sub", L"t"), MissingMarker);
-  EXPECT_EQ(registry_.ReadValue(KeyPath, L"t"), L"x");
+  registry_.SetText(RootKey::CurrentUser, L"Software\\Test\\Sub", L"t", L"x");
+  registry_.SetText(RootKey::CurrentUser, Subkey, L"t", L"x");
+  values_.Deletekey(KeyPath, L"Sub");
+  EXPECT_EQ(values_.ReadValue(KeyPath + L"\\Sub", L"t"), MissingMarker);
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"t"), L"x");
 }
 
 }  // namespace

@@ -33,11 +33,11 @@ TEST_F(EditorTest, ARecentFileThatHasGoneIsReportedAndRemoved) {
   SettingsFile() = "[Tessera]\r\nRecentFiles1=C:\\gone.ini\r\n";
   Start();
   editor_.OpenRecentFile(2);
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text,
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text,
             L"Cannot find this file C:\\gone.ini\n\n"
             L"Please verify that the correct path and file name are given.");
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Exclamation);
   EXPECT_EQ(editor_.RecentFiles().MenuEntries().size(), 1U);
   EXPECT_EQ(SettingsFile().find("gone.ini"), std::string::npos);
 }
@@ -45,11 +45,11 @@ TEST_F(EditorTest, ARecentFileThatHasGoneIsReportedAndRemoved) {
 TEST_F(EditorTest, NoKeepsTheRecentFilesAndYesClearsThem) {
   Start();
   const std::string before = SettingsFile();
-  boxes_.Answers = {BoxAnswer::No};
+  messageBoxes_.Answers = {BoxAnswer::No};
   editor_.ClearRecentFiles();
   EXPECT_EQ(SettingsFile(), before);
   EXPECT_EQ(editor_.RecentFiles().ListItems(1), iniPath);
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   editor_.ClearRecentFiles();
   EXPECT_EQ(SettingsFile().find("RecentFiles1"), std::string::npos);
   EXPECT_FALSE(editor_.RecentFiles().MenuEntries()[0].Enabled);
@@ -94,9 +94,9 @@ TEST_F(EditorTest, ARestartLooksWhereTheEnvironmentVariablePoints) {
 
 TEST_F(EditorTest, AMissingHelpFileIsReportedAndNothingElseHappens) {
   editor_.ShowHelpTopics();
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text, L"File not found.");
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Critical);
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text, L"File not found.");
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Critical);
   EXPECT_TRUE(log_.empty());
 }
 
@@ -104,7 +104,7 @@ TEST_F(EditorTest, TheHelpFileIsOpened) {
   files_.Contents[L"C:\\Tessera\\Readme.chm"] = "help";
   editor_.ShowHelpTopics();
   EXPECT_EQ(log_, (Log{L"OpenDocument C:\\Tessera\\Readme.chm"}));
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
 }
 
 // -- Dialogs
@@ -198,8 +198,9 @@ TEST_F(EditorTest, TheDefaultLanguageLeavesTheLanguageFileAlone) {
     files.Contents[settingsPath] = std::string("[Tessera]\r\nUseDefaultLanguage=") + useDefault +
                                    "\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
     files.Paths.clear();
-    Editor editor({files, registry_, environment_, boxes_, dialogs_, programs_, clock_, clipboard_},
-                  [](const LoadProgress&) {});
+    Editor editor(
+        {files, registry_, environment_, messageBoxes_, dialogs_, programs_, clock_, clipboard_},
+        [](const LoadProgress&) {});
     editor.Load();
     editor.Activate();
     editor.BeginExport();
@@ -234,7 +235,7 @@ TEST_F(EditorTest, ALanguageFileThatIsMissingIsReportedOnce) {
   EXPECT_TRUE(editor_.EndOptions().LanguageChanged);
   editor_.BeginExport();
   editor_.BeginOptions();
-  EXPECT_EQ(boxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown.size(), 1U);
   EXPECT_EQ(editor_.Options().UseDefaultLanguage, 1);
 }
 

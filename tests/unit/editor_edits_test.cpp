@@ -64,7 +64,7 @@ TEST_F(EditorTest, AnEditEnablesSavingAndASaveDisablesIt) {
 
 TEST_F(EditorTest, ARefusedEditLeavesTheFileUnmodified) {
   Start();
-  boxes_.Answers = {BoxAnswer::No};
+  messageBoxes_.Answers = {BoxAnswer::No};
   Assign(Pack, L"F5");
   EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"---");
   EXPECT_FALSE(editor_.Modified());
@@ -105,7 +105,7 @@ TEST_F(EditorTest, EventsDuringALoadChangeNothing) {
   EXPECT_GT(disturbances, 2);
   EXPECT_EQ(Shown(editor), Shown(editor_));
   EXPECT_FALSE(editor.Modified());
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
   EXPECT_TRUE(dialogs_.OpenRequests.empty());
   EXPECT_TRUE(clipboard_.Texts.empty());
   EXPECT_EQ(Ini(), iniContent);
@@ -124,7 +124,7 @@ TEST_F(EditorTest, EventsDuringASaveChangeNothing) {
   EXPECT_EQ(editor_.Panel().ChosenKey(), NoKeyChosen);
   Choose(L"X");
   EXPECT_EQ(Shown(editor_), before);
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
   EXPECT_TRUE(clipboard_.Texts.empty());
   EXPECT_EQ(std::count(log_.begin(), log_.end(), L"SendClose 7"), 1);
   EXPECT_NE(Ini().find("X=cm_Pack\r\n"), std::string::npos);

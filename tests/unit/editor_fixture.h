@@ -75,12 +75,13 @@ class EditorTest : public testing::Test {
   MemoryFiles files_;
   FakeRegistry registry_;
   FakeEnvironment environment_;
-  FakeMessageBoxes boxes_;
+  FakeMessageBoxes messageBoxes_;
   FakeDialogs dialogs_;
   FakePrograms programs_{log_};
   FakeClock clock_;
   FakeClipboard clipboard_;
-  System system_{files_, registry_, environment_, boxes_, dialogs_, programs_, clock_, clipboard_};
+  System system_{files_,   registry_, environment_, messageBoxes_,
+                 dialogs_, programs_, clock_,       clipboard_};
   std::vector<bool> progressShown_;
   Editor editor_{system_, [this](const LoadProgress& progress) {
                    progressShown_.push_back(progress.Visible());

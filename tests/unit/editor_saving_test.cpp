@@ -21,7 +21,7 @@ TEST_F(EditorTest, ASaveReleasesAStartMenuKeyThatWasTaken) {
   Start();
   editor_.SetBox(Modifier::Ctrl, true);
   editor_.SetBox(Modifier::Alt, true);
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   Assign(Pack, L"F1");
   editor_.FileSave();
   EXPECT_NE(Ini().find("[user]\r\nmenu1=Paint\r\n[Colors]"), std::string::npos);
@@ -83,11 +83,11 @@ TEST_F(EditorTest, WithTheSettingEverySaveRestartsAndOneThatIsNotRunningIsStarte
   Start();
   Assign(Pack, L"X");
   programs_.StartSucceeds = false;
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   EXPECT_TRUE(editor_.QueryUnload());
   EXPECT_EQ(log_, (Log{L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""}));
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
-  EXPECT_EQ(boxes_.Shown.size(), 1U) << "a start that fails is not told";
+  EXPECT_EQ(messageBoxes_.Shown.size(), 1U) << "a start that fails is not told";
   Assign(Pack, L"Y");
   editor_.FileSaveAndRestart();
   EXPECT_EQ(log_.size(), 2U);
@@ -133,13 +133,13 @@ TEST_F(EditorTest, SaveAndRestartIsEnabledOnlyWhileTotalCommanderRunsAndChangesW
 TEST_F(EditorTest, WithoutChangesItClosesWithoutAQuestion) {
   Start();
   EXPECT_TRUE(editor_.QueryUnload());
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
 }
 
 TEST_F(EditorTest, CancelKeepsTheProgramRunningWithItsEdits) {
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::Cancel};
+  messageBoxes_.Answers = {BoxAnswer::Cancel};
   EXPECT_FALSE(editor_.QueryUnload());
   EXPECT_TRUE(editor_.Modified());
   EXPECT_EQ(Ini(), iniContent);
@@ -148,7 +148,7 @@ TEST_F(EditorTest, CancelKeepsTheProgramRunningWithItsEdits) {
 TEST_F(EditorTest, NoClosesWithoutSaving) {
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::No};
+  messageBoxes_.Answers = {BoxAnswer::No};
   EXPECT_TRUE(editor_.QueryUnload());
   EXPECT_EQ(Ini(), iniContent);
 }
@@ -156,7 +156,7 @@ TEST_F(EditorTest, NoClosesWithoutSaving) {
 TEST_F(EditorTest, YesSavesAndCloses) {
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   EXPECT_TRUE(editor_.QueryUnload());
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
 }
@@ -167,16 +167,16 @@ TEST_F(EditorTest, ASaveThatFailsBeeps) {
   files_.ReplaceErrors.assign(100, FileError::AccessDenied);
   editor_.FileSave();
   EXPECT_TRUE(editor_.Modified());
-  EXPECT_EQ(boxes_.BeepCount, 1);
+  EXPECT_EQ(messageBoxes_.BeepCount, 1);
 }
 
 TEST_F(EditorTest, ItDoesNotCloseOverASaveThatFailed) {
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   files_.ReplaceErrors.assign(100, FileError::AccessDenied);
   EXPECT_FALSE(editor_.QueryUnload());
-  EXPECT_EQ(boxes_.BeepCount, 1);
+  EXPECT_EQ(messageBoxes_.BeepCount, 1);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ TEST_F(EditorTest, TheFirstActivationShowsEveryRowInFileOrder) {
   EXPECT_EQ(editor_.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
   EXPECT_EQ(editor_.List().SelectedRow(), 1U);
   EXPECT_FALSE(editor_.Modified());
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
 }
 
 TEST_F(EditorTest, ASecondActivationDoesNothing) {
@@ -27,7 +27,7 @@ TEST_F(EditorTest, ASecondActivationDoesNothing) {
   files_.Contents.erase(iniPath);
   editor_.Activate();
   EXPECT_EQ(files_.Reads, reads);
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
   EXPECT_EQ(editor_.Rows().Count(), 5U);
 }
 
@@ -68,20 +68,20 @@ TEST_F(EditorTest, ASecondOpenWithUnsavedChangesAsksFirst) {
   files_.Contents[otherIniPath] = "[Shortcuts]\r\n";
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::Cancel};
+  messageBoxes_.Answers = {BoxAnswer::Cancel};
   editor_.OpenShortcutFile(false, otherIniPath, false);
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text, L"Save changes to  C:\\TC\\Wincmd.ini\n");
-  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::YesNoCancel);
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text, L"Save changes to  C:\\TC\\Wincmd.ini\n");
+  EXPECT_EQ(messageBoxes_.Shown[0].Buttons, BoxButtons::YesNoCancel);
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Exclamation);
   EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"X");
   EXPECT_TRUE(editor_.Modified());
 
-  boxes_.Answers = {BoxAnswer::Cancel};
+  messageBoxes_.Answers = {BoxAnswer::Cancel};
   editor_.FileOpen();
   EXPECT_TRUE(dialogs_.OpenRequests.empty());
 
-  boxes_.Answers = {BoxAnswer::No};
+  messageBoxes_.Answers = {BoxAnswer::No};
   editor_.OpenShortcutFile(false, otherIniPath, false);
   EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"---");
   EXPECT_FALSE(editor_.Modified());
@@ -91,18 +91,18 @@ TEST_F(EditorTest, ASecondOpenWithUnsavedChangesAsksFirst) {
 TEST_F(EditorTest, ASecondOpenForgetsWhichKeysWereEdited) {
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::No};
+  messageBoxes_.Answers = {BoxAnswer::No};
   editor_.OpenShortcutFile(false, iniPath, false);
-  boxes_.Shown.clear();
+  messageBoxes_.Shown.clear();
   Assign(Copy, L"X");
-  EXPECT_TRUE(boxes_.Shown.empty()) << "the key is free again";
+  EXPECT_TRUE(messageBoxes_.Shown.empty()) << "the key is free again";
 }
 
 TEST_F(EditorTest, YesSavesBeforeASecondOpen) {
   files_.Contents[otherIniPath] = "[Shortcuts]\r\n";
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   editor_.OpenFile(otherIniPath);
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
   EXPECT_EQ(editor_.Caption(), L"C:\\TC\\Other.ini - Tessera");
@@ -112,24 +112,24 @@ TEST_F(EditorTest, ItDoesNotOpenOverASaveThatFailed) {
   files_.Contents[otherIniPath] = "[Shortcuts]\r\n";
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   files_.ReplaceErrors.assign(100, FileError::AccessDenied);
   editor_.OpenFile(otherIniPath);
   EXPECT_EQ(editor_.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
   EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"X");
   EXPECT_TRUE(editor_.Modified());
-  EXPECT_EQ(boxes_.BeepCount, 1);
+  EXPECT_EQ(messageBoxes_.BeepCount, 1);
 }
 
 TEST_F(EditorTest, ASecondOpenForgetsTheEditedKeysInTheIndexes) {
   files_.Contents[otherIniPath] = "[Shortcuts]\r\n";
   Start();
   Assign(Pack, L"X");
-  boxes_.Answers = {BoxAnswer::No};
+  messageBoxes_.Answers = {BoxAnswer::No};
   editor_.OpenFile(otherIniPath);
-  boxes_.Shown.clear();
+  messageBoxes_.Shown.clear();
   Assign(Copy, L"X");
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
   EXPECT_EQ(editor_.Rows().At(Copy).CurrentKeys, L"X");
 }
 
@@ -164,10 +164,10 @@ TEST_F(EditorTest, WithoutTotalcmdIncTheUserIsToldAndAsked) {
   files_.Contents[L"D:\\TC\\Totalcmd.inc"] = incContent;
   dialogs_.OpenAnswers = {L"D:\\TC\\Totalcmd.inc"};
   Start();
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find your Totalcmd.inc file !");
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Information);
-  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text, L"Cannot find your Totalcmd.inc file !");
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Information);
+  EXPECT_EQ(messageBoxes_.Shown[0].Buttons, BoxButtons::Ok);
   ASSERT_EQ(dialogs_.OpenRequests.size(), 1U);
   EXPECT_EQ(dialogs_.OpenRequests[0].Folder, L"");
   EXPECT_EQ(dialogs_.OpenRequests[0].FileName, L"Totalcmd.inc");
@@ -196,10 +196,10 @@ TEST_F(EditorTest, TheChosenWincmdIniIsRemembered) {
   files_.Contents[otherIniPath] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
   dialogs_.OpenAnswers = {otherIniPath};
   Start();
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find Total Commander settings file [Wincmd.ini]");
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
-  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text, L"Cannot find Total Commander settings file [Wincmd.ini]");
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(messageBoxes_.Shown[0].Buttons, BoxButtons::Ok);
   ASSERT_EQ(dialogs_.OpenRequests.size(), 1U);
   EXPECT_EQ(dialogs_.OpenRequests[0].Folder, L"C:\\TC\\");
   EXPECT_EQ(dialogs_.OpenRequests[0].FileName, L"Wincmd.ini");
@@ -211,7 +211,7 @@ TEST_F(EditorTest, TheChosenWincmdIniIsRemembered) {
   next.Load();
   next.Activate();
   EXPECT_EQ(next.Caption(), otherIniPath + L" - Tessera");
-  EXPECT_EQ(boxes_.Shown.size(), 1U) << "it is used without a question";
+  EXPECT_EQ(messageBoxes_.Shown.size(), 1U) << "it is used without a question";
   EXPECT_EQ(dialogs_.OpenRequests.size(), 1U);
 }
 
@@ -231,10 +231,10 @@ TEST_F(EditorTest, WithoutTheDataFileTheUserIsToldAndTheChosenOneIsStored) {
   files_.Contents[L"D:\\keys.hky"] = dataContent;
   dialogs_.OpenAnswers = {L"D:\\keys.hky"};
   Start();
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find data file! Please open one to continue");
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Critical);
-  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text, L"Cannot find data file! Please open one to continue");
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Critical);
+  EXPECT_EQ(messageBoxes_.Shown[0].Buttons, BoxButtons::Ok);
   EXPECT_EQ(dialogs_.OpenRequests[0].FileName, L"tc default hotkeys.hky");
   EXPECT_EQ(dialogs_.OpenRequests[0].Filter, FilterText(FileFilter::DefaultHotkeys));
   EXPECT_EQ(dialogs_.OpenRequests[0].Folder, L"C:\\Tessera\\Data Files");
@@ -252,10 +252,10 @@ TEST_F(EditorTest, WithoutAnyDataFileNoCommandHasDefaultKeys) {
 TEST_F(EditorTest, AMissingLanguageFileIsReportedAndTheBuiltInTextsAreUsed) {
   SettingsFile() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\no.lng\r\n";
   Start();
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text, L"Cannot find language file!");
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Critical);
-  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::Ok);
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text, L"Cannot find language file!");
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Critical);
+  EXPECT_EQ(messageBoxes_.Shown[0].Buttons, BoxButtons::Ok);
   EXPECT_EQ(editor_.Language().GetLangText(TextId::FileSave), L"&Save");
   EXPECT_NE(SettingsFile().find("UseDefaultLanguage=0"), std::string::npos);
   editor_.Unload({}, {});

@@ -24,15 +24,15 @@ template <typename FilesFake>
 class EditorWorld {
  public:
   EditorWorld() {
-    Disk.Contents[IncFile] =
+    Files.Contents[IncFile] =
         "[___File___]=0\r\ncm_Copy=101;Copy files\r\ncm_View=102;View a file\r\n"
         "[___Other___]=0\r\ncm_Pack=103;Pack files\r\n";
-    Disk.Contents[DataFile] = "[TC Default Hotkeys]\r\n101=F5\r\n102=F3\r\n";
-    Disk.Contents[IniFile] = "";
-    Surroundings.Variables[L"Commander_Path"] = L"C:\\TC";
-    Keys.SetText(RootKey::CurrentUser, L"Software\\Ghisler\\Total Commander", L"IniFileName",
-                 IniFile);
-    Time.StepPerReading = 0.1F;
+    Files.Contents[DataFile] = "[TC Default Hotkeys]\r\n101=F5\r\n102=F3\r\n";
+    Files.Contents[IniFile] = "";
+    Environment.Variables[L"Commander_Path"] = L"C:\\TC";
+    Registry.SetText(RootKey::CurrentUser, L"Software\\Ghisler\\Total Commander", L"IniFileName",
+                     IniFile);
+    Clock.StepPerReading = 0.1F;
   }
 
   void Start() {
@@ -59,17 +59,18 @@ class EditorWorld {
     Program.AssignKey();
   }
 
-  FilesFake Disk;
-  FakeRegistry Keys;
-  FakeEnvironment Surroundings;
-  FakeMessageBoxes Boxes;
-  FakeDialogs Choices;
+  FilesFake Files;
+  FakeRegistry Registry;
+  FakeEnvironment Environment;
+  FakeMessageBoxes MessageBoxes;
+  FakeDialogs Dialogs;
   Log Calls;
-  FakePrograms Others{Calls};
-  FakeClock Time;
-  FakeClipboard PlainText;
-  Editor Program{System{Disk, Keys, Surroundings, Boxes, Choices, Others, Time, PlainText},
-                 [](const LoadProgress&) {}};
+  FakePrograms Programs{Calls};
+  FakeClock Clock;
+  FakeClipboard Clipboard;
+  Editor Program{
+      System{Files, Registry, Environment, MessageBoxes, Dialogs, Programs, Clock, Clipboard},
+      [](const LoadProgress&) {}};
 };
 
 }  // namespace tessera::world

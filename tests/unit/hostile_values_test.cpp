@@ -55,9 +55,9 @@ TEST(HostileValues, SettingsOutOfRangeAndNoNumbersLeaveAWorkingProgram) {
       content.append(key).append("=").append(value).append("\r\n");
     }
     World world;
-    world.Disk.Contents[SettingsFile] = "[Tessera]\r\n" + content +
-                                        "[Common]\r\nNumberOfRecentFiles=" + value +
-                                        "\r\nShowControlsBackColor=" + value + "\r\n";
+    world.Files.Contents[SettingsFile] = "[Tessera]\r\n" + content +
+                                         "[Common]\r\nNumberOfRecentFiles=" + value +
+                                         "\r\nShowControlsBackColor=" + value + "\r\n";
     world.Start();
     SCOPED_TRACE(value);
     ExpectWorkingProgram(world);
@@ -89,57 +89,58 @@ TEST(HostileValues, LongPathsAreOpenedAndSaved) {
     world.Start();
     const std::wstring path =
         std::wstring(L"C:\\").append(length - 17, L'd').append(L"\\f\\Wincmd.ini");
-    world.Disk.Contents[path] = "[Shortcuts]\r\nA+V=cm_Copy\r\n";
+    world.Files.Contents[path] = "[Shortcuts]\r\nA+V=cm_Copy\r\n";
     world.Program.OpenShortcutFile(false, path, true);
     EXPECT_EQ(world.Program.Rows().At(Copy).CurrentKeys, L"Alt + V");
     world.Assign(Pack, 0, L"X");
     world.Program.FileSave();
-    EXPECT_EQ(world.Disk.Contents[path], "[Shortcuts]\r\nA+V=cm_Copy\r\nX=cm_Pack\r\n");
-    EXPECT_EQ(world.Disk.Contents[path + L".bak"], "[Shortcuts]\r\nA+V=cm_Copy\r\n");
+    EXPECT_EQ(world.Files.Contents[path], "[Shortcuts]\r\nA+V=cm_Copy\r\nX=cm_Pack\r\n");
+    EXPECT_EQ(world.Files.Contents[path + L".bak"], "[Shortcuts]\r\nA+V=cm_Copy\r\n");
     // A path beyond the buffer of a read comes back cut, and is then reported as missing.
     World next;
-    next.Disk.Contents = world.Disk.Contents;
+    next.Files.Contents = world.Files.Contents;
     next.Start();
     next.Program.OpenRecentFile(2);
-    EXPECT_EQ(next.Boxes.Shown.size(), length < ProfileBufferLength ? 0U : 1U);
+    EXPECT_EQ(next.MessageBoxes.Shown.size(), length < ProfileBufferLength ? 0U : 1U);
   }
 }
 
 TEST(HostileValues, ALanguageFileIsShownAsItIs) {
   World world;
-  world.Disk.Contents[SettingsFile] =
+  world.Files.Contents[SettingsFile] =
       "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\x.lng\r\n";
-  world.Disk.Contents[L"C:\\x.lng"] =
+  world.Files.Contents[L"C:\\x.lng"] =
       "[UserLanguage]\r\n3203=%s%n%d\x01 "
       "&&\x1B[\r\n3060=%99999999s\r\n404=%s\r\n405=&\r\n406=\x07\r\n";
-  world.Disk.Contents[IniFile] = "[Shortcuts]\r\nCAS+F1=cm_Copy\r\n";
+  world.Files.Contents[IniFile] = "[Shortcuts]\r\nCAS+F1=cm_Copy\r\n";
   world.Start();
   EXPECT_EQ(world.Program.Rows().At(Copy).CurrentKeys, L"%s + & + Shift + F1")
       << "a name of control characters alone is no name";
-  world.Boxes.Answers = {BoxAnswer::No};
+  world.MessageBoxes.Answers = {BoxAnswer::No};
   world.Assign(Pack, 0, L"F5");
-  ASSERT_EQ(world.Boxes.Shown.size(), 1U);
-  EXPECT_EQ(world.Boxes.Shown[0].Text, L"%s%n%d\x01 &&\x1B[  cm_Copy\t\n\n%99999999s  cm_Pack\t");
+  ASSERT_EQ(world.MessageBoxes.Shown.size(), 1U);
+  EXPECT_EQ(world.MessageBoxes.Shown[0].Text,
+            L"%s%n%d\x01 &&\x1B[  cm_Copy\t\n\n%99999999s  cm_Pack\t");
   world.Assign(Pack, 7, L"F2");
   world.Program.FileSave();
-  EXPECT_EQ(world.Disk.Contents[IniFile], "[Shortcuts]\r\nCAS+F1=cm_Copy\r\nCAS+F2=cm_Pack\r\n");
+  EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nCAS+F1=cm_Copy\r\nCAS+F2=cm_Pack\r\n");
 }
 
 TEST(HostileValues, AColumnOfManyKeysIsReadEditedAndSaved) {
   World world;
   std::string lines;
   for (int i = 0; i < 1000; ++i) lines += "K" + std::to_string(i) + "=cm_Copy\r\n";
-  world.Disk.Contents[IniFile] = "[Shortcuts]\r\n" + lines;
+  world.Files.Contents[IniFile] = "[Shortcuts]\r\n" + lines;
   world.Start();
   EXPECT_GT(world.Program.Rows().At(Copy).CurrentKeys.size(), 5000U);
   world.Program.SelectRow(Copy);
   world.Compose(1, L"J");
   world.Program.AddKey();
   world.Program.FileSave();
-  EXPECT_EQ(world.Disk.Contents[IniFile], "[Shortcuts]\r\n" + lines + "C+J=cm_Copy\r\n");
+  EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\n" + lines + "C+J=cm_Copy\r\n");
   world.Program.DeleteKeys();
   world.Program.FileSave();
-  EXPECT_EQ(world.Disk.Contents[IniFile], "");
+  EXPECT_EQ(world.Files.Contents[IniFile], "");
 }
 
 TEST(HostileValues, ThirtyThousandShortcutsAreReadAndSaved) {
@@ -151,16 +152,16 @@ TEST(HostileValues, ThirtyThousandShortcutsAreReadAndSaved) {
     commands += "cm_N" + number + "=" + number + ";n\r\n";
     lines += "K" + number + "=cm_N" + number + "\r\n";
   }
-  world.Disk.Contents[world::IncFile] = commands;
-  world.Disk.Contents[world::DataFile] = "";
-  world.Disk.Contents[IniFile] = "[Shortcuts]\r\n" + lines + "[a]\nb";
+  world.Files.Contents[world::IncFile] = commands;
+  world.Files.Contents[world::DataFile] = "";
+  world.Files.Contents[IniFile] = "[Shortcuts]\r\n" + lines + "[a]\nb";
   world.Start();
   ASSERT_EQ(world.Program.Rows().Count(), 30'000U);
   EXPECT_EQ(world.Program.Rows().At(29'999).CurrentKeys, L"K29999");
   world.Assign(29'999, 0, L"X");
   world.Program.FileSave();
   lines.replace(lines.rfind("K29999"), 6, "X");
-  EXPECT_TRUE(world.Disk.Contents[IniFile] == "[Shortcuts]\r\n" + lines + "[a]\nb");
+  EXPECT_TRUE(world.Files.Contents[IniFile] == "[Shortcuts]\r\n" + lines + "[a]\nb");
 }
 
 TEST(HostileValues, AFileOfFiftyMegabytesIsSavedInOneSection) {
@@ -169,31 +170,31 @@ TEST(HostileValues, AFileOfFiftyMegabytesIsSavedInOneSection) {
   while (before.size() < 50U << 20U)
     before += "key" + std::to_string(before.size()) + " = v \xE4\n";
   const std::string after = "[user]\nmenu1=a\n;end";
-  world.Disk.Contents[IniFile] = before + "[Shortcuts]\nF3=cm_Copy\n" + after;
+  world.Files.Contents[IniFile] = before + "[Shortcuts]\nF3=cm_Copy\n" + after;
   world.Start();
   world.Assign(Pack, 0, L"X");
   world.Program.FileSave();
   EXPECT_FALSE(world.Program.Modified());
-  EXPECT_TRUE(world.Disk.Contents[IniFile] ==
+  EXPECT_TRUE(world.Files.Contents[IniFile] ==
               before + "[Shortcuts]\nF3=cm_Copy\r\nX=cm_Pack\r\n" + after);
 }
 
 TEST(HostileValues, FilesThatVanishWhileOpenAreMadeAnewOrAskedFor) {
   World world;
-  world.Disk.Contents[IniFile] = "[Shortcuts]\r\nF3=cm_Copy\r\n";
+  world.Files.Contents[IniFile] = "[Shortcuts]\r\nF3=cm_Copy\r\n";
   world.Start();
   world.Assign(Pack, 0, L"X");
   for (const std::wstring& path : {IniFile, SettingsFile, world::IncFile, world::DataFile}) {
-    world.Disk.Contents.erase(path);
+    world.Files.Contents.erase(path);
   }
   world.Program.FileSave();
   EXPECT_FALSE(world.Program.Modified());
-  EXPECT_EQ(world.Disk.Contents[IniFile], "[Shortcuts]\r\nF3=cm_Copy\r\nX=cm_Pack\r\n");
+  EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nF3=cm_Copy\r\nX=cm_Pack\r\n");
   world.Program.OpenShortcutFile(false, IniFile, false);
   EXPECT_EQ(world.Program.Rows().Count(), 5U) << "the commands are read once";
-  EXPECT_EQ(world.Boxes.Shown.size(), 1U) << "about the default keys";
+  EXPECT_EQ(world.MessageBoxes.Shown.size(), 1U) << "about the default keys";
   world.Program.Unload({}, {});
-  EXPECT_TRUE(world.Disk.Contents.contains(SettingsFile));
+  EXPECT_TRUE(world.Files.Contents.contains(SettingsFile));
 }
 
 TEST(HostileValues, ARegistryValueOfAnotherTypeOrWithoutItsEndLeadsToTheQuestion) {
@@ -205,14 +206,14 @@ TEST(HostileValues, ARegistryValueOfAnotherTypeOrWithoutItsEndLeadsToTheQuestion
   for (const RegistryValue& value : values) {
     World world;
     for (const wchar_t* name : {L"IniFileName", L"InstallDir"}) {
-      world.Keys.Values[{RootKey::CurrentUser, L"Software\\Ghisler\\Total Commander", name}] =
+      world.Registry.Values[{RootKey::CurrentUser, L"Software\\Ghisler\\Total Commander", name}] =
           value;
     }
     world.Start();
-    EXPECT_EQ(world.Choices.OpenRequests.size(), 1U);
+    EXPECT_EQ(world.Dialogs.OpenRequests.size(), 1U);
     EXPECT_EQ(world.Program.Rows().Count(), 0U);
     EXPECT_FALSE(world.Program.Modified());
-    world.Disk.Contents[IniFile] = "";
+    world.Files.Contents[IniFile] = "";
     world.Program.OpenShortcutFile(false, IniFile, false);
     ExpectWorkingProgram(world);
   }
@@ -233,21 +234,21 @@ TEST(HostileValues, AProgramFolderThatCannotBeWrittenStopsNothing) {
   world.Assign(Pack, 0, L"X");
   world.Program.FileSave();
   EXPECT_FALSE(world.Program.Modified());
-  EXPECT_EQ(world.Disk.Contents[IniFile], "[Shortcuts]\r\nX=cm_Pack\r\n");
+  EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nX=cm_Pack\r\n");
   world.Program.Unload({}, {});
-  EXPECT_FALSE(world.Disk.Contents.contains(SettingsFile));
+  EXPECT_FALSE(world.Files.Contents.contains(SettingsFile));
   EXPECT_EQ(world.Program.Options().MainWindowWidth, 0) << "as given to Unload";
 }
 
 TEST(HostileValues, ARecentFileOnAMissingDriveIsReportedAndGoes) {
   World world;
-  world.Disk.Contents[SettingsFile] =
+  world.Files.Contents[SettingsFile] =
       "[Tessera]\r\nRecentFiles1=Q:\\gone\\Wincmd.ini\r\nRecentFiles2=C:\\TC\\Wincmd.ini\r\n";
   world.Start();
   world.Program.OpenRecentFile(2);
-  ASSERT_EQ(world.Boxes.Shown.size(), 1U);
-  EXPECT_NE(world.Boxes.Shown[0].Text.find(L"Q:\\gone\\Wincmd.ini"), std::wstring::npos);
-  EXPECT_EQ(world.Disk.Contents[SettingsFile].find("gone"), std::string::npos);
+  ASSERT_EQ(world.MessageBoxes.Shown.size(), 1U);
+  EXPECT_NE(world.MessageBoxes.Shown[0].Text.find(L"Q:\\gone\\Wincmd.ini"), std::wstring::npos);
+  EXPECT_EQ(world.Files.Contents[SettingsFile].find("gone"), std::string::npos);
   ExpectWorkingProgram(world);
 }
 

@@ -16,21 +16,21 @@ class HotkeyAssignmentTest : public testing::Test {
   StartMenuSlot& Slot(int number) {
     return catalogue_.StartMenuKeys[static_cast<std::size_t>(number) - 1];
   }
-  void WillAnswer(std::initializer_list<BoxAnswer> answers) { boxes_.Answers = answers; }
+  void WillAnswer(std::initializer_list<BoxAnswer> answers) { messageBoxes_.Answers = answers; }
 
   HotkeyNotation notation_;
   Catalogue catalogue_ = SampleCatalogue();
   MemoryFiles files_;
   Texts texts_{files_};
-  FakeMessageBoxes boxes_;
-  HotkeyAssignment assignment_{catalogue_, notation_, texts_, boxes_};
+  FakeMessageBoxes messageBoxes_;
+  HotkeyAssignment assignment_{catalogue_, notation_, texts_, messageBoxes_};
 };
 
 TEST_F(HotkeyAssignmentTest, AFreeKeyIsAssignedWithoutAQuestion) {
   EXPECT_TRUE(assignment_.Assign(Pack, L"Alt + X"));
   EXPECT_EQ(Row(Pack).CurrentKeys, L"Alt + X");
   EXPECT_EQ(Row(Pack).Icon, RowIcon::HasKey);
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
 }
 
 TEST_F(HotkeyAssignmentTest, AssigningReplacesAllFormerKeys) {
@@ -41,20 +41,20 @@ TEST_F(HotkeyAssignmentTest, AssigningReplacesAllFormerKeys) {
 
 TEST_F(HotkeyAssignmentTest, TheRowsOwnKeyOnlyBeeps) {
   EXPECT_FALSE(assignment_.Assign(View, L"F6"));
-  EXPECT_EQ(boxes_.BeepCount, 1);
-  EXPECT_TRUE(boxes_.Shown.empty());
+  EXPECT_EQ(messageBoxes_.BeepCount, 1);
+  EXPECT_TRUE(messageBoxes_.Shown.empty());
   EXPECT_EQ(Row(View).CurrentKeys, L"F6");
 }
 
 TEST_F(HotkeyAssignmentTest, ADefaultKeyIsAskedAboutWithNoAsDefaultButton) {
   WillAnswer({BoxAnswer::No});
   EXPECT_FALSE(assignment_.Assign(Pack, L"F5"));
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text,
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text,
             L"Default hotkey for :  cm_Copy\t\n\nDo you want assign it to :  cm_Pack\t");
-  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::YesNo);
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
-  EXPECT_EQ(boxes_.Shown[0].Default, BoxDefault::Second);
+  EXPECT_EQ(messageBoxes_.Shown[0].Buttons, BoxButtons::YesNo);
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(messageBoxes_.Shown[0].Default, BoxDefault::Second);
   EXPECT_EQ(Row(Pack).CurrentKeys, L"---");
   EXPECT_EQ(Row(Copy).DefaultKeys, L"F5");
 }
@@ -69,8 +69,8 @@ TEST_F(HotkeyAssignmentTest, YesTakesADefaultKey) {
 TEST_F(HotkeyAssignmentTest, YesMovesACurrentKey) {
   WillAnswer({BoxAnswer::Yes});
   EXPECT_TRUE(assignment_.Assign(Pack, L"F7"));
-  EXPECT_EQ(boxes_.Shown.at(0).Icon, BoxIcon::Exclamation);
-  EXPECT_EQ(boxes_.Shown.at(0).Default, BoxDefault::Second);
+  EXPECT_EQ(messageBoxes_.Shown.at(0).Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(messageBoxes_.Shown.at(0).Default, BoxDefault::Second);
   EXPECT_EQ(Row(Pack).CurrentKeys, L"F7");
   EXPECT_EQ(Row(Refresh).CurrentKeys, L"F8");
 }
@@ -78,8 +78,8 @@ TEST_F(HotkeyAssignmentTest, YesMovesACurrentKey) {
 TEST_F(HotkeyAssignmentTest, AKeyThatIsOnesDefaultAndAnothersCurrentIsReportedAsDefaultOnly) {
   WillAnswer({BoxAnswer::Yes});
   EXPECT_TRUE(assignment_.Assign(Pack, L"F9"));
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_TRUE(boxes_.Shown[0].Text.starts_with(L"Default hotkey for :  cm_Search\t"));
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_TRUE(messageBoxes_.Shown[0].Text.starts_with(L"Default hotkey for :  cm_Search\t"));
   EXPECT_EQ(Row(Sync).CurrentKeys, L"F9");
 }
 
@@ -87,13 +87,13 @@ TEST_F(HotkeyAssignmentTest, AStartMenuKeyThatIsADefaultKeyTooIsAskedAboutTwice)
   Slot(1) = {L"f5", L"Paint", L"key1"};
   WillAnswer({BoxAnswer::Yes, BoxAnswer::Yes});
   EXPECT_TRUE(assignment_.Assign(Pack, L"F5"));
-  ASSERT_EQ(boxes_.Shown.size(), 2U);
-  EXPECT_EQ(boxes_.Shown[0].Text,
+  ASSERT_EQ(messageBoxes_.Shown.size(), 2U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text,
             L"Current hotkey for :  [Paint] in your Total Commander Start Menu\n\n"
             L"Do you want assign it to :  cm_Pack");
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Exclamation);
-  EXPECT_EQ(boxes_.Shown[0].Default, BoxDefault::Second);
-  EXPECT_TRUE(boxes_.Shown[1].Text.starts_with(L"Default hotkey"));
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(messageBoxes_.Shown[0].Default, BoxDefault::Second);
+  EXPECT_TRUE(messageBoxes_.Shown[1].Text.starts_with(L"Default hotkey"));
   EXPECT_EQ(Slot(1).Key, L"f5 *");
 }
 
@@ -142,7 +142,7 @@ TEST_F(HotkeyAssignmentTest, AFormerKeyThatWasReplacedByATakenOneIsStillAskedAbo
   ASSERT_TRUE(assignment_.Assign(Refresh, L"F6"));
   WillAnswer({BoxAnswer::No});
   EXPECT_FALSE(assignment_.Assign(Pack, L"F7"));
-  EXPECT_EQ(boxes_.Shown.back().Text,
+  EXPECT_EQ(messageBoxes_.Shown.back().Text,
             L"Current hotkey for :  cm_Refresh\n\nDo you want assign it to :  cm_Pack");
 }
 
@@ -152,19 +152,19 @@ TEST_F(HotkeyAssignmentTest, AFormerKeyThatWasReplacedByADefaultKeyIsStillAskedA
   EXPECT_EQ(Row(Refresh).CurrentKeys, L"F5");
   WillAnswer({BoxAnswer::No});
   EXPECT_FALSE(assignment_.Assign(Pack, L"F8"));
-  EXPECT_EQ(boxes_.Shown.back().Text,
+  EXPECT_EQ(messageBoxes_.Shown.back().Text,
             L"Current hotkey for :  cm_Refresh\n\nDo you want assign it to :  cm_Pack");
 }
 
 TEST_F(HotkeyAssignmentTest, DeleteAllAnsweredWithNoChangesNothing) {
   WillAnswer({BoxAnswer::No});
   EXPECT_FALSE(assignment_.DeleteAll());
-  ASSERT_EQ(boxes_.Shown.size(), 1U);
-  EXPECT_EQ(boxes_.Shown[0].Text,
+  ASSERT_EQ(messageBoxes_.Shown.size(), 1U);
+  EXPECT_EQ(messageBoxes_.Shown[0].Text,
             L"You are about to delete Current Hotkeys for ALL commands.\n\nAre you sure?");
-  EXPECT_EQ(boxes_.Shown[0].Buttons, BoxButtons::YesNo);
-  EXPECT_EQ(boxes_.Shown[0].Icon, BoxIcon::Question);
-  EXPECT_EQ(boxes_.Shown[0].Default, BoxDefault::Second);
+  EXPECT_EQ(messageBoxes_.Shown[0].Buttons, BoxButtons::YesNo);
+  EXPECT_EQ(messageBoxes_.Shown[0].Icon, BoxIcon::Question);
+  EXPECT_EQ(messageBoxes_.Shown[0].Default, BoxDefault::Second);
   EXPECT_EQ(Row(View).CurrentKeys, L"F6");
 }
 

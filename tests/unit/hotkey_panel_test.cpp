@@ -39,9 +39,9 @@ class HotkeyPanelTest : public testing::Test {
   CommandList list_{catalogue_, settings_};
   MemoryFiles files_;
   Texts texts_{files_};
-  FakeMessageBoxes boxes_;
-  HotkeyAssignment assignment_{catalogue_, notation_, texts_, boxes_};
-  HotkeyPanel panel_{catalogue_, list_, assignment_, notation_, settings_, boxes_};
+  FakeMessageBoxes messageBoxes_;
+  HotkeyAssignment assignment_{catalogue_, notation_, texts_, messageBoxes_};
+  HotkeyPanel panel_{catalogue_, list_, assignment_, notation_, settings_, messageBoxes_};
 };
 
 TEST_F(HotkeyPanelTest, ComposesModifiersInFixedOrderBeforeTheKey) {
@@ -92,7 +92,7 @@ TEST_F(HotkeyPanelTest, IsDisabledForAHeadingRowAndForNoRow) {
 TEST_F(HotkeyPanelTest, AssignNeedsAChosenKey) {
   EXPECT_FALSE(panel_.AssignEnabled());
   EXPECT_FALSE(panel_.Assign());
-  EXPECT_EQ(boxes_.BeepCount, 1);
+  EXPECT_EQ(messageBoxes_.BeepCount, 1);
   EXPECT_EQ(Row(Pack).CurrentKeys, L"---");
   panel_.ChooseKey(IndexOf(L"X"));
   EXPECT_TRUE(panel_.Assign());
@@ -103,7 +103,7 @@ TEST_F(HotkeyPanelTest, AssigningTheSameKeyAgainBeeps) {
   panel_.ChooseKey(IndexOf(L"F6"));
   list_.ShowRowDetails(View);
   EXPECT_FALSE(panel_.Assign());
-  EXPECT_EQ(boxes_.BeepCount, 1);
+  EXPECT_EQ(messageBoxes_.BeepCount, 1);
 }
 
 TEST_F(HotkeyPanelTest, AddNeedsAFirstKeyAndAChosenOne) {
@@ -117,18 +117,18 @@ TEST_F(HotkeyPanelTest, AddNeedsAFirstKeyAndAChosenOne) {
   EXPECT_EQ(Row(View).CurrentKeys, L"F6 = X");
   panel_.ChooseKey(NoKeyChosen);
   EXPECT_FALSE(panel_.Add());
-  EXPECT_EQ(boxes_.BeepCount, 2);
+  EXPECT_EQ(messageBoxes_.BeepCount, 2);
 }
 
 TEST_F(HotkeyPanelTest, DeleteOnAHeadingRowBeeps) {
   list_.ShowRowDetails(Heading);
   EXPECT_FALSE(panel_.Delete());
-  EXPECT_EQ(boxes_.BeepCount, 1);
+  EXPECT_EQ(messageBoxes_.BeepCount, 1);
 }
 
 TEST_F(HotkeyPanelTest, DeleteAllKeepsTheSelectedRow) {
   list_.ShowRowDetails(View);
-  boxes_.Answers = {BoxAnswer::Yes};
+  messageBoxes_.Answers = {BoxAnswer::Yes};
   EXPECT_TRUE(panel_.DeleteAll());
   EXPECT_EQ(list_.SelectedRow(), View);
 }
@@ -198,7 +198,7 @@ TEST_F(HotkeyPanelTest, EnterAssignsTheChosenKeyAndResetsThePanel) {
 TEST_F(HotkeyPanelTest, EnterWithoutAChosenKeyDoesNothing) {
   const PanelReaction reaction = panel_.KeyDown({.Code = KeyCode::Enter});
   EXPECT_FALSE(reaction.Handled);
-  EXPECT_EQ(boxes_.BeepCount, 0);
+  EXPECT_EQ(messageBoxes_.BeepCount, 0);
 }
 
 TEST_F(HotkeyPanelTest, BackspaceAndEscapeResetThePanel) {
@@ -237,7 +237,7 @@ TEST_F(HotkeyPanelTest, NoKeyDoesAnythingOnAHeadingRow) {
   EXPECT_FALSE(panel_.BoxChecked(Modifier::Ctrl) || panel_.BoxChecked(Modifier::Alt) ||
                panel_.BoxChecked(Modifier::Shift));
   EXPECT_EQ(panel_.ChosenKey(), 3);
-  EXPECT_EQ(boxes_.BeepCount, 0);
+  EXPECT_EQ(messageBoxes_.BeepCount, 0);
 }
 
 }  // namespace

@@ -31,9 +31,9 @@ class KeysListTest : public testing::Test {
   CommandList list_{catalogue_, settings_};
   MemoryFiles files_;
   Texts texts_{files_};
-  FakeMessageBoxes boxes_;
-  HotkeyAssignment assignment_{catalogue_, notation_, texts_, boxes_};
-  HotkeyPanel panel_{catalogue_, list_, assignment_, notation_, settings_, boxes_};
+  FakeMessageBoxes messageBoxes_;
+  HotkeyAssignment assignment_{catalogue_, notation_, texts_, messageBoxes_};
+  HotkeyPanel panel_{catalogue_, list_, assignment_, notation_, settings_, messageBoxes_};
   KeysList keys_{panel_};
 };
 

@@ -19,7 +19,7 @@ constexpr std::size_t Pack = 4;
 /// moved on so far, and then may write it; held for no time, it is written at that very moment.
 class HeldFiles final : public MemoryFiles {
  public:
-  const FakeClock* Time = nullptr;
+  const FakeClock* Clock = nullptr;
   std::wstring Held = IniFile;
   int HeldFor = 0;                     ///< milliseconds of sleep
   std::optional<std::string> Written;  ///< by the other program
@@ -45,7 +45,7 @@ class HeldFiles final : public MemoryFiles {
   }
 
  private:
-  [[nodiscard]] bool IsHeld() const { return isSaving_ && Time->SleptMilliseconds < HeldFor; }
+  [[nodiscard]] bool IsHeld() const { return isSaving_ && Clock->SleptMilliseconds < HeldFor; }
 
   bool isSaving_ = false;
 };
@@ -64,10 +64,11 @@ const std::string Unsaved = "F3=cm_Copy\r\nX=cm_Pack\r\n";
 
 /// A program with an unsaved change to the keys in `file`.
 void Start(World& world, const std::wstring& file) {
-  world.Disk.Time = &world.Time;
-  world.Disk.Held = file;
-  if (file != IniFile) world.Disk.Contents[IniFile] = "[Shortcuts]\r\nRedirectSection=keys.ini\r\n";
-  world.Disk.Contents[file] = Old.Whole();
+  world.Files.Clock = &world.Clock;
+  world.Files.Held = file;
+  if (file != IniFile)
+    world.Files.Contents[IniFile] = "[Shortcuts]\r\nRedirectSection=keys.ini\r\n";
+  world.Files.Contents[file] = Old.Whole();
   world.Start();
   world.Assign(Pack, 0, L"X");
   ASSERT_TRUE(world.Program.Modified());
@@ -78,14 +79,14 @@ TEST(OtherPrograms, AFileHeldForAWhileIsSavedWithinTwoSecondsOrLeftAsItWas) {
     for (int held = 10; held <= 3000; held += 10) {
       World world;
       Start(world, file);
-      world.Disk.HeldFor = held;
+      world.Files.HeldFor = held;
       world.Program.FileSave();
       const bool gaveUp = held > 2000;
       ASSERT_EQ(world.Program.Modified(), gaveUp) << held;
       const Parts expected{Old.Before, gaveUp ? Old.Keys : Unsaved, Old.Behind};
-      ASSERT_EQ(world.Disk.Contents[file], expected.Whole()) << held;
-      ASSERT_EQ(world.Disk.Contents.contains(file + L".unsaved"), gaveUp) << held;
-      ASSERT_LE(world.Time.SleptMilliseconds, 2000);
+      ASSERT_EQ(world.Files.Contents[file], expected.Whole()) << held;
+      ASSERT_EQ(world.Files.Contents.contains(file + L".unsaved"), gaveUp) << held;
+      ASSERT_LE(world.Clock.SleptMilliseconds, 2000);
     }
   }
 }
@@ -94,11 +95,11 @@ TEST(OtherPrograms, WhatOneWroteWhileItHeldTheFileStays) {
   for (const std::wstring& file : {IniFile, OtherFile}) {
     World world;
     Start(world, file);
-    world.Disk.HeldFor = 500;
-    world.Disk.Written = Old.Whole() + "\n[Last]\nc";
+    world.Files.HeldFor = 500;
+    world.Files.Written = Old.Whole() + "\n[Last]\nc";
     world.Program.FileSave();
     EXPECT_FALSE(world.Program.Modified());
-    EXPECT_EQ(world.Disk.Contents[file],
+    EXPECT_EQ(world.Files.Contents[file],
               (Parts{Old.Before, Unsaved, Old.Behind + "\n[Last]\nc"}.Whole()));
   }
 }
@@ -107,10 +108,10 @@ TEST(OtherPrograms, WhatOneWroteWhileTheSaveWasPreparedStays) {
   for (const std::wstring& file : {IniFile, OtherFile}) {
     World world;
     Start(world, file);
-    world.Disk.Written = Old.Whole() + "\n[Last]\nc";
+    world.Files.Written = Old.Whole() + "\n[Last]\nc";
     world.Program.FileSave();
     EXPECT_FALSE(world.Program.Modified());
-    EXPECT_EQ(world.Disk.Contents[file],
+    EXPECT_EQ(world.Files.Contents[file],
               (Parts{Old.Before, Unsaved, Old.Behind + "\n[Last]\nc"}.Whole()));
   }
 }
@@ -119,9 +120,9 @@ TEST(OtherPrograms, WhatOneWroteBetweenOpenAndSaveStays) {
   for (const std::wstring& file : {IniFile, OtherFile}) {
     World world;
     Start(world, file);
-    world.Disk.Contents[file] = Parts{"[New]\na=b\n" + Old.Before, Old.Keys, "[Last]\nc"}.Whole();
+    world.Files.Contents[file] = Parts{"[New]\na=b\n" + Old.Before, Old.Keys, "[Last]\nc"}.Whole();
     world.Program.FileSave();
-    EXPECT_EQ(world.Disk.Contents[file],
+    EXPECT_EQ(world.Files.Contents[file],
               (Parts{"[New]\na=b\n" + Old.Before, Unsaved, "[Last]\nc"}.Whole()));
   }
 }
@@ -130,15 +131,15 @@ TEST(OtherPrograms, SettingsHeldForAWhileAreSavedOrLeftAsTheyWere) {
   const std::string stored = "[Other]\nx=1\n[Tessera]\r\nMainWindowLeft=7\r\n";
   for (int held = 100; held <= 3000; held += 100) {
     World world;
-    world.Disk.Time = &world.Time;
-    world.Disk.Held = world::SettingsFile;
-    world.Disk.Contents[world::SettingsFile] = stored;
+    world.Files.Clock = &world.Clock;
+    world.Files.Held = world::SettingsFile;
+    world.Files.Contents[world::SettingsFile] = stored;
     world.Start();
-    const std::string before = world.Disk.Contents[world::SettingsFile] +=
+    const std::string before = world.Files.Contents[world::SettingsFile] +=
         "[Meanwhile]\n\xE4 = 1\n";
-    world.Disk.HeldFor = held;
+    world.Files.HeldFor = held;
     world.Program.Unload({.Left = 100}, {});
-    const std::string& after = world.Disk.Contents[world::SettingsFile];
+    const std::string& after = world.Files.Contents[world::SettingsFile];
     ASSERT_EQ(after == before, held > 2000) << held;
     ASSERT_TRUE(after.starts_with("[Other]\nx=1\n[Tessera]\r\n")) << held;
     ASSERT_TRUE(after.ends_with("[Meanwhile]\n\xE4 = 1\n") ||

@@ -18,18 +18,18 @@ const std::wstring path = L"C:\\some.ini";
 class ProfileFileTest : public testing::Test {
  protected:
   ProfileFile With(std::string bytes) {
-    Disk.Contents[path] = std::move(bytes);
-    return {Disk, path};
+    Files.Contents[path] = std::move(bytes);
+    return {Files, path};
   }
 
   /// The content of the file after a save that must succeed.
   std::string Saved(ProfileFile& file) {
-    EXPECT_EQ(file.Save(Disk, Time, KeepCopies::No), FileError::None);
-    return Disk.Contents[path];
+    EXPECT_EQ(file.Save(Files, Clock, KeepCopies::No), FileError::None);
+    return Files.Contents[path];
   }
 
-  MemoryFiles Disk;
-  FakeClock Time;
+  MemoryFiles Files;
+  FakeClock Clock;
 };
 
 TEST_F(ProfileFileTest, AbsentKeyGivesTheDefaultWithoutItsTrailingBlanks) {
@@ -142,11 +142,11 @@ TEST_F(ProfileFileTest, FileIsReadOnceAndWrittenOnce) {
   ProfileFile file = With("[s]\nk=v\n");
   for (int i = 0; i < 10; ++i) file.WriteString(L"s", L"k" + std::to_wstring(i), L"v");
   static_cast<void>(Saved(file));
-  EXPECT_EQ(Disk.Reads, 1);
-  const int writes = Disk.Writes;
+  EXPECT_EQ(Files.Reads, 1);
+  const int writes = Files.Writes;
   EXPECT_GT(writes, 0);
   static_cast<void>(Saved(file));
-  EXPECT_EQ(Disk.Writes, writes);
+  EXPECT_EQ(Files.Writes, writes);
 }
 
 TEST_F(ProfileFileTest, UnchangedBytesAreNotWritten) {
@@ -156,34 +156,34 @@ TEST_F(ProfileFileTest, UnchangedBytesAreNotWritten) {
   file.DeleteValue(L"s", L"none");
   file.DeleteSection(L"none");
   EXPECT_EQ(Saved(file), "[s]\nk=v\n");
-  EXPECT_EQ(Disk.Writes, 0);
+  EXPECT_EQ(Files.Writes, 0);
 }
 
 TEST_F(ProfileFileTest, MissingFileIsCreatedByAnyChangeOnly) {
-  ProfileFile file(Disk, path);
+  ProfileFile file(Files, path);
   EXPECT_EQ(file.ReadError(), FileError::NotFound);
   EXPECT_EQ(file.ReadString(L"s", L"k", L"default"), L"default");
-  EXPECT_EQ(file.Save(Disk, Time, KeepCopies::No), FileError::None);
-  EXPECT_FALSE(Disk.Exists(path));
+  EXPECT_EQ(file.Save(Files, Clock, KeepCopies::No), FileError::None);
+  EXPECT_FALSE(Files.Exists(path));
   file.DeleteSection(L"s");
   EXPECT_EQ(Saved(file), "");
-  EXPECT_TRUE(Disk.Exists(path));
+  EXPECT_TRUE(Files.Exists(path));
 }
 
 TEST_F(ProfileFileTest, FileThatCouldNotBeReadIsNotOverwritten) {
-  Disk.ReadErrors = {FileError::SharingViolation};
+  Files.ReadErrors = {FileError::SharingViolation};
   ProfileFile file = With("[s]\nprecious=1\n");
   EXPECT_EQ(file.ReadError(), FileError::SharingViolation);
   file.WriteString(L"s", L"k", L"v");
-  EXPECT_EQ(file.Save(Disk, Time, KeepCopies::No), FileError::SharingViolation);
-  EXPECT_EQ(Disk.Contents[path], "[s]\nprecious=1\n");
+  EXPECT_EQ(file.Save(Files, Clock, KeepCopies::No), FileError::SharingViolation);
+  EXPECT_EQ(Files.Contents[path], "[s]\nprecious=1\n");
 }
 
 TEST_F(ProfileFileTest, FailedSaveCanBeTriedAgain) {
   ProfileFile file = With("[s]\nk=v\n");
   file.WriteString(L"s", L"k", L"new");
-  Disk.WriteErrors = {FileError::DiskFull};
-  EXPECT_EQ(file.Save(Disk, Time, KeepCopies::No), FileError::DiskFull);
+  Files.WriteErrors = {FileError::DiskFull};
+  EXPECT_EQ(file.Save(Files, Clock, KeepCopies::No), FileError::DiskFull);
   EXPECT_EQ(Saved(file), "[s]\nk=new\n");
 }
 

@@ -46,7 +46,7 @@ constexpr const char* Content =
 
 void TakeKeys(World& world) {
   world.Start();
-  world.Boxes.Answers = {BoxAnswer::Yes};
+  world.MessageBoxes.Answers = {BoxAnswer::Yes};
   world.Assign(Pack, 3, L"F1");  // of the Start Menu
 }
 
@@ -57,7 +57,7 @@ std::vector<Scenario> Scenarios() {
        {IniFile},
        true,
        [](World& world) {
-         world.Disk.Contents[IniFile] = Content;
+         world.Files.Contents[IniFile] = Content;
          TakeKeys(world);
        },
        save},
@@ -65,9 +65,9 @@ std::vector<Scenario> Scenarios() {
        {IniFile, OtherFile},
        true,
        [](World& world) {
-         world.Disk.Contents[IniFile] =
+         world.Files.Contents[IniFile] =
              "[Shortcuts]\r\nRedirectSection=keys.ini\r\n[user]\r\nmenu1=Paint\r\nkey1=1\r\n";
-         world.Disk.Contents[OtherFile] = "[a]\nb\n[Shortcuts]\nF3=cm_Copy\nF8=cm_View\n[c]\nd=e";
+         world.Files.Contents[OtherFile] = "[a]\nb\n[Shortcuts]\nF3=cm_Copy\nF8=cm_View\n[c]\nd=e";
          TakeKeys(world);
        },
        save},
@@ -75,8 +75,8 @@ std::vector<Scenario> Scenarios() {
        {world::SettingsFile},
        false,
        [](World& world) {
-         world.Disk.Contents[IniFile] = Content;
-         world.Disk.Contents[world::SettingsFile] =
+         world.Files.Contents[IniFile] = Content;
+         world.Files.Contents[world::SettingsFile] =
              "[Other]\nx=1\n[Tessera]\r\nFontSize=12\r\nMainWindowLeft=7";
          world.Start();
        },
@@ -90,10 +90,10 @@ std::unique_ptr<World> Prepared(const Scenario& scenario) {
   scenario.Prepare(*world);
   if (scenario.KeepsCopies) {
     for (const std::wstring& path : scenario.Written)
-      world->Disk.Contents[path + L".bak"] = "older";
+      world->Files.Contents[path + L".bak"] = "older";
   }
-  world->Disk.Calls.clear();
-  world->Disk.CallCount = 0;
+  world->Files.Calls.clear();
+  world->Files.CallCount = 0;
   return world;
 }
 
@@ -105,63 +105,64 @@ struct Contents {
 Contents ContentsOf(const Scenario& scenario) {
   Contents contents;
   const auto world = Prepared(scenario);
-  contents.Old = world->Disk.Contents;
+  contents.Old = world->Files.Contents;
   scenario.Save(*world);
-  contents.New = world->Disk.Contents;
+  contents.New = world->Files.Contents;
   for (const std::wstring& path : scenario.Written) {
     EXPECT_NE(contents.Old.at(path), contents.New.at(path));
   }
   return contents;
 }
 
-bool Holds(const FaultyFiles& disk, const std::wstring& path, const std::string& content) {
-  const auto found = disk.Contents.find(path);
-  return found != disk.Contents.end() && found->second == content;
+bool Holds(const FaultyFiles& files, const std::wstring& path, const std::string& content) {
+  const auto found = files.Contents.find(path);
+  return found != files.Contents.end() && found->second == content;
 }
 
 /// What must be true of one written file as long as the program runs.
-void CheckFile(const Scenario& scenario, const Contents& contents, const FaultyFiles& disk,
+void CheckFile(const Scenario& scenario, const Contents& contents, const FaultyFiles& files,
                const std::wstring& path, bool modified) {
   const std::string& before = contents.Old.at(path);
   const std::string& after = contents.New.at(path);
-  const bool isNew = Holds(disk, path, after);
+  const bool isNew = Holds(files, path, after);
   // Only where nothing can be renamed any more does the old content stay under another name.
-  const bool isAside = !disk.Contents.contains(path) && disk.FaultStays != Lasts::Once &&
-                       Holds(disk, path + L".tessera-old", before);
-  ASSERT_TRUE(isNew || isAside || Holds(disk, path, before)) << disk.Contents.contains(path);
+  const bool isAside = !files.Contents.contains(path) && files.FaultStays != Lasts::Once &&
+                       Holds(files, path + L".tessera-old", before);
+  ASSERT_TRUE(isNew || isAside || Holds(files, path, before)) << files.Contents.contains(path);
   if (!scenario.KeepsCopies) {
-    ASSERT_FALSE(disk.Contents.contains(path + L".bak"));
-    ASSERT_FALSE(disk.Contents.contains(path + L".unsaved"));
+    ASSERT_FALSE(files.Contents.contains(path + L".bak"));
+    ASSERT_FALSE(files.Contents.contains(path + L".unsaved"));
     return;
   }
-  const bool isPrepared = std::ranges::count(disk.Calls, L"Replace " + path) > 0;
-  const bool isUnsaved = Holds(disk, path + L".unsaved", after);
-  ASSERT_TRUE(isUnsaved || !disk.Contents.contains(path + L".unsaved")) << "a part of the content";
+  const bool isPrepared = std::ranges::count(files.Calls, L"Replace " + path) > 0;
+  const bool isUnsaved = Holds(files, path + L".unsaved", after);
+  ASSERT_TRUE(isUnsaved || !files.Contents.contains(path + L".unsaved")) << "a part of the content";
   if (isNew) {
-    ASSERT_TRUE(Holds(disk, path + L".bak", before) || Holds(disk, path + L".tessera-old", before))
+    ASSERT_TRUE(Holds(files, path + L".bak", before) ||
+                Holds(files, path + L".tessera-old", before))
         << "which the next start makes the backup";
     ASSERT_FALSE(isUnsaved);
   } else {
     ASSERT_TRUE(modified) << "an error was dropped";
-    ASSERT_TRUE(Holds(disk, path + L".bak", "older"));
-    ASSERT_TRUE(isUnsaved || !isPrepared || disk.FaultStays != Lasts::Once);
+    ASSERT_TRUE(Holds(files, path + L".bak", "older"));
+    ASSERT_TRUE(isUnsaved || !isPrepared || files.FaultStays != Lasts::Once);
   }
 }
 
 /// The files' state once the program has been started anew.
-void CheckRestart(const Scenario& scenario, const Contents& contents, const FaultyFiles& disk) {
+void CheckRestart(const Scenario& scenario, const Contents& contents, const FaultyFiles& files) {
   World next;
-  next.Disk.Contents = disk.Contents;
+  next.Files.Contents = files.Contents;
   next.Start();
   for (const std::wstring& path : scenario.Written) {
     const std::string& before = contents.Old.at(path);
-    const bool isNew = Holds(next.Disk, path, contents.New.at(path));
-    ASSERT_TRUE(isNew || Holds(next.Disk, path, before));
+    const bool isNew = Holds(next.Files, path, contents.New.at(path));
+    ASSERT_TRUE(isNew || Holds(next.Files, path, before));
     if (scenario.KeepsCopies) {
-      ASSERT_TRUE(Holds(next.Disk, path + L".bak", isNew ? before : "older"));
+      ASSERT_TRUE(Holds(next.Files, path + L".bak", isNew ? before : "older"));
     }
-    ASSERT_FALSE(next.Disk.Contents.contains(path + L".tessera-new"));
-    ASSERT_FALSE(next.Disk.Contents.contains(path + L".tessera-old"));
+    ASSERT_FALSE(next.Files.Contents.contains(path + L".tessera-new"));
+    ASSERT_FALSE(next.Files.Contents.contains(path + L".tessera-old"));
   }
 }
 
@@ -169,25 +170,25 @@ void CheckRestart(const Scenario& scenario, const Contents& contents, const Faul
 bool SaveWithFault(const Scenario& scenario, const Contents& contents, int call, FileError fault,
                    Lasts lasts) {
   const auto world = Prepared(scenario);
-  FaultyFiles& disk = world->Disk;
-  disk.FaultAtCall = call;
-  disk.Fault = fault;
-  disk.FaultStays = lasts;
+  FaultyFiles& files = world->Files;
+  files.FaultAtCall = call;
+  files.Fault = fault;
+  files.FaultStays = lasts;
   scenario.Save(*world);
-  if (disk.CallCount <= call) return false;
+  if (files.CallCount <= call) return false;
   const bool modified = world->Program.Modified();
   for (const std::wstring& path : scenario.Written) {
-    CheckFile(scenario, contents, disk, path, modified);
+    CheckFile(scenario, contents, files, path, modified);
   }
-  EXPECT_LE(world->Time.SleptMilliseconds, 2000 * static_cast<int>(scenario.Written.size()));
-  CheckRestart(scenario, contents, disk);
+  EXPECT_LE(world->Clock.SleptMilliseconds, 2000 * static_cast<int>(scenario.Written.size()));
+  CheckRestart(scenario, contents, files);
 
   // With the fault gone, the same program can still save.
-  disk.FaultAtCall = -1;
+  files.FaultAtCall = -1;
   scenario.Save(*world);
   for (const std::wstring& path : scenario.Written) {
-    EXPECT_TRUE(Holds(disk, path, contents.New.at(path)));
-    EXPECT_FALSE(modified && disk.Contents.contains(path + L".tessera-old"));
+    EXPECT_TRUE(Holds(files, path, contents.New.at(path)));
+    EXPECT_FALSE(modified && files.Contents.contains(path + L".tessera-old"));
   }
   EXPECT_FALSE(world->Program.Modified());
   return true;
@@ -215,16 +216,16 @@ TEST(SaveFaults, AnyFailingCallLeavesTheOldContentOrTheNewOne) {
 /// Ends the program after so many elementary changes of a save; `fault` is met at call `call`.
 std::optional<FaultyFiles> Killed(const Scenario& scenario, int steps, int call, FileError fault) {
   const auto world = Prepared(scenario);
-  world->Disk.StepsUntilKilled = steps;
-  world->Disk.FaultAtCall = call;
-  world->Disk.Fault = fault;
+  world->Files.StepsUntilKilled = steps;
+  world->Files.FaultAtCall = call;
+  world->Files.Fault = fault;
   try {
     scenario.Save(*world);
     return std::nullopt;
   } catch (const tessera::Killed&) {
-    world->Disk.StepsUntilKilled = -1;
-    world->Disk.FaultAtCall = -1;
-    return world->Disk;
+    world->Files.StepsUntilKilled = -1;
+    world->Files.FaultAtCall = -1;
+    return world->Files;
   }
 }
 
@@ -237,9 +238,9 @@ TEST(SaveFaults, AnEndAtAnyMomentLeavesTheOldContentOrTheNewOne) {
         for (int steps = 0;; ++steps) {
           SCOPED_TRACE(testing::Message() << scenario.Name << ", after " << steps
                                           << " steps, with a fault at call " << call);
-          const auto disk = Killed(scenario, steps, call, fault);
-          if (!disk) break;
-          CheckRestart(scenario, contents, *disk);
+          const auto files = Killed(scenario, steps, call, fault);
+          if (!files) break;
+          CheckRestart(scenario, contents, *files);
           if (testing::Test::HasFailure()) return;
         }
       }
@@ -253,51 +254,51 @@ TEST(SaveFaults, AReplaceThatFailsLeavesThePreparedContentAsUnsaved) {
     const Contents contents = ContentsOf(scenario);
     for (const FileError fault : Faults) {
       const auto world = Prepared(scenario);
-      world->Disk.ReplaceErrors.assign(100, fault);
+      world->Files.ReplaceErrors.assign(100, fault);
       scenario.Save(*world);
       const std::wstring& path = scenario.Written.front();
-      EXPECT_TRUE(Holds(world->Disk, path, contents.Old.at(path)));
-      EXPECT_TRUE(Holds(world->Disk, path + L".unsaved", contents.New.at(path)));
+      EXPECT_TRUE(Holds(world->Files, path, contents.Old.at(path)));
+      EXPECT_TRUE(Holds(world->Files, path + L".unsaved", contents.New.at(path)));
       EXPECT_TRUE(world->Program.Modified());
-      world->Disk.ReplaceErrors.clear();
+      world->Files.ReplaceErrors.clear();
       scenario.Save(*world);
-      EXPECT_TRUE(world->Disk.Contents == contents.New);
+      EXPECT_TRUE(world->Files.Contents == contents.New);
     }
   }
 }
 
 TEST(SaveFaults, AFileThatCouldNotBeReadAtTheOpenIsNotSaved) {
   World world;
-  world.Disk.Contents[IniFile] = Content;
+  world.Files.Contents[IniFile] = Content;
   world.Program.Load();
-  world.Disk.ReadErrors.assign(8, FileError::SharingViolation);  // as often as it is tried
+  world.Files.ReadErrors.assign(8, FileError::SharingViolation);  // as often as it is tried
   world.Program.Activate();
-  ASSERT_TRUE(world.Disk.ReadErrors.empty());
+  ASSERT_TRUE(world.Files.ReadErrors.empty());
   ASSERT_EQ(world.Program.Rows().Count(), 5U);
   world.Assign(Pack, 0, L"X");
   EXPECT_TRUE(world.Program.Modified());
   world.Program.FileSave();
-  EXPECT_EQ(world.Disk.Contents[IniFile], Content);
+  EXPECT_EQ(world.Files.Contents[IniFile], Content);
   EXPECT_TRUE(world.Program.Modified());
-  EXPECT_EQ(world.Boxes.BeepCount, 1);
+  EXPECT_EQ(world.MessageBoxes.BeepCount, 1);
 
-  world.Boxes.Answers = {BoxAnswer::No};
+  world.MessageBoxes.Answers = {BoxAnswer::No};
   world.Program.OpenShortcutFile(false, IniFile, false);
   world.Assign(Pack, 0, L"X");
   world.Program.FileSave();
   EXPECT_FALSE(world.Program.Modified());
-  EXPECT_NE(world.Disk.Contents[IniFile].find("C+F3=cm_View\r\n"), std::string::npos);
+  EXPECT_NE(world.Files.Contents[IniFile].find("C+F3=cm_View\r\n"), std::string::npos);
 }
 
 TEST(SaveFaults, AFileThatIsHeldForAMomentIsReadAllTheSame) {
   World world;
-  world.Disk.Contents[IniFile] = Content;
+  world.Files.Contents[IniFile] = Content;
   world.Program.Load();
-  world.Disk.ReadErrors.assign(3, FileError::SharingViolation);
+  world.Files.ReadErrors.assign(3, FileError::SharingViolation);
   world.Program.Activate();
   EXPECT_EQ(world.Program.Rows().At(1).CurrentKeys, L"F3");
   world.Assign(Pack, 0, L"X");
-  world.Disk.ReadErrors.assign(3, FileError::LockViolation);
+  world.Files.ReadErrors.assign(3, FileError::LockViolation);
   world.Program.FileSave();
   EXPECT_FALSE(world.Program.Modified());
 }
@@ -306,12 +307,12 @@ TEST(SaveFaults, SettingsThatCouldNotBeReadAreNotReplacedByDefaults) {
   World world;
   const std::string stored = "[Tessera]\r\nFontSize=20\r\n";
   for (const FileError fault : Faults) {
-    world.Disk.Contents[world::SettingsFile] = stored;
-    world.Disk.ReadErrors.assign(100, fault);
+    world.Files.Contents[world::SettingsFile] = stored;
+    world.Files.ReadErrors.assign(100, fault);
     world.Program.Load();
-    world.Disk.ReadErrors.clear();
+    world.Files.ReadErrors.clear();
     world.Program.Unload({}, {});
-    EXPECT_EQ(world.Disk.Contents[world::SettingsFile], stored);
+    EXPECT_EQ(world.Files.Contents[world::SettingsFile], stored);
   }
 }
 

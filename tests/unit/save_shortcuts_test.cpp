@@ -40,23 +40,23 @@ class SaveShortcutsTest : public testing::Test {
   }
 
   FileError Save() {
-    return SaveShortcuts(Shown, Notation, {Path, KeepUnknown}, Disk, Time, Surroundings);
+    return SaveShortcuts(Shown, Notation, {Path, KeepUnknown}, Files, Clock, Environment);
   }
 
   /// The content that a save of these current keys gives an empty file.
   std::string Saved(const std::vector<std::wstring>& currentKeys) {
-    Disk.Contents[Path] = "";
+    Files.Contents[Path] = "";
     Show(currentKeys);
     EXPECT_EQ(Save(), FileError::None);
-    return Disk.Contents[Path];
+    return Files.Contents[Path];
   }
 
   Catalogue Shown;
   HotkeyNotation Notation;
   bool KeepUnknown = false;
-  MemoryFiles Disk;
-  FakeClock Time;
-  FakeEnvironment Surroundings;
+  MemoryFiles Files;
+  FakeClock Clock;
+  FakeEnvironment Environment;
 };
 
 TEST_F(SaveShortcutsTest, EveryKeyIsALine) {
@@ -65,10 +65,10 @@ TEST_F(SaveShortcutsTest, EveryKeyIsALine) {
 }
 
 TEST_F(SaveShortcutsTest, AnEmptyCellAndTheMarkerAreNoKeys) {
-  Disk.Contents[Path] = "[A]\r\nx=1\r\n[Shortcuts]\r\nF5=cm_1\r\n[B]\r\ny=1\r\n";
+  Files.Contents[Path] = "[A]\r\nx=1\r\n[Shortcuts]\r\nF5=cm_1\r\n[B]\r\ny=1\r\n";
   Show({L"---", L""});
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[A]\r\nx=1\r\n[B]\r\ny=1\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[A]\r\nx=1\r\n[B]\r\ny=1\r\n");
 }
 
 TEST_F(SaveShortcutsTest, KeypadKeysLoseTheFirstNumOnly) {
@@ -96,78 +96,78 @@ TEST_F(SaveShortcutsTest, OfEqualKeysTheRowWrittenLastWins) {
 }
 
 TEST_F(SaveShortcutsTest, LinesFollowTheDisplayedOrder) {
-  Disk.Contents[Path] = "";
+  Files.Contents[Path] = "";
   Show({L"F1", L"F2", L"F3"});
   Shown.ListView1.RemoveHeadings();
   Shown.ListView1.Sort(Column::Description, SortDirection::Descending);
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF3=cm_3\r\nF2=cm_2\r\nF1=cm_1\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nF3=cm_3\r\nF2=cm_2\r\nF1=cm_1\r\n");
 }
 
 TEST_F(SaveShortcutsTest, WhatWasReadIsWrittenBackAsItWas) {
   const std::string content = "[Shortcuts]\r\nCA+F1=cm_1\r\nS+F2=cm_1\r\nA++=cm_2\r\n+=cm_3\r\n";
-  Disk.Contents[Path] = content;
+  Files.Contents[Path] = content;
   Show({L"---", L"---", L"---"});
-  ReadShortcuts(Shown.lvwHidden, WincmdIni(Disk, Time, Surroundings, Path).Shortcuts(), Notation,
+  ReadShortcuts(Shown.lvwHidden, WincmdIni(Files, Clock, Environment, Path).Shortcuts(), Notation,
                 [] {});
   BuildDisplayTable(Shown, Notation, [] {});
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], content);
-  EXPECT_EQ(Disk.Writes, 0);
-  Disk.Contents[Path].clear();
+  EXPECT_EQ(Files.Contents[Path], content);
+  EXPECT_EQ(Files.Writes, 0);
+  Files.Contents[Path].clear();
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], content);
+  EXPECT_EQ(Files.Contents[Path], content);
 }
 
 TEST_F(SaveShortcutsTest, EverythingElseInTheFileStays) {
-  Disk.Contents[Path] =
+  Files.Contents[Path] =
       "; mine\r\n[Configuration]\r\nSetEncoding=\xC3\x28\r\n\r\n[Shortcuts]\r\n; "
       "keys\r\nF5=cm_1\r\n"
       "F6=em_own\r\n\r\n[Left]\r\npath=c:\\\r\n";
   Show({L"F7"});
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path],
+  EXPECT_EQ(Files.Contents[Path],
             "; mine\r\n[Configuration]\r\nSetEncoding=\xC3\x28\r\n\r\n[Shortcuts]\r\n; keys\r\n"
             "F7=cm_1\r\n\r\n[Left]\r\npath=c:\\\r\n");
 }
 
 TEST_F(SaveShortcutsTest, ChangesThatOthersMadeMeanwhileStay) {
-  Disk.Contents[Path] = "[Left]\r\npath=c:\\\r\n[Shortcuts]\r\nF5=cm_1\r\n";
+  Files.Contents[Path] = "[Left]\r\npath=c:\\\r\n[Shortcuts]\r\nF5=cm_1\r\n";
   Show({L"---"});
-  ReadShortcuts(Shown.lvwHidden, WincmdIni(Disk, Time, Surroundings, Path).Shortcuts(), Notation,
+  ReadShortcuts(Shown.lvwHidden, WincmdIni(Files, Clock, Environment, Path).Shortcuts(), Notation,
                 [] {});
   BuildDisplayTable(Shown, Notation, [] {});
-  Disk.Contents[Path] = "[Left]\r\npath=d:\\new\r\n[Shortcuts]\r\nF5=cm_1\r\n";
+  Files.Contents[Path] = "[Left]\r\npath=d:\\new\r\n[Shortcuts]\r\nF5=cm_1\r\n";
   Shown.ListView1.Edit(2).CurrentKeys = L"F6";
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[Left]\r\npath=d:\\new\r\n[Shortcuts]\r\nF6=cm_1\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[Left]\r\npath=d:\\new\r\n[Shortcuts]\r\nF6=cm_1\r\n");
 }
 
 TEST_F(SaveShortcutsTest, TheFormerContentIsKeptAsACopy) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nF5=cm_1\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nF5=cm_1\r\n";
   Show({L"F6"});
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[std::wstring(Path) + L".bak"], "[Shortcuts]\r\nF5=cm_1\r\n");
+  EXPECT_EQ(Files.Contents[std::wstring(Path) + L".bak"], "[Shortcuts]\r\nF5=cm_1\r\n");
 }
 
 TEST_F(SaveShortcutsTest, AMissingFileIsCreated) {
   Show({L"F6"});
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\n");
 }
 
 // -- Start Menu keys
 
 TEST_F(SaveShortcutsTest, AStartMenuKeyThatWasTakenIsDeletedAndItsCaptionStays) {
-  Disk.Contents[Path] =
+  Files.Contents[Path] =
       "[user]\r\nmenu1=a\r\nkey1=1\r\nmenu2=b\r\nkey2=13\r\n[Shortcuts]\r\nF5=cm_1\r\n";
   Show({L"F5"});
   Shown.StartMenuKeys[0] = {L"Ctrl + Alt + F1 *", L"a", L"key1"};
   Shown.StartMenuKeys[12] = {L"Ctrl + Alt + Shift + F1", L"b", L"key2"};
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path],
+  EXPECT_EQ(Files.Contents[Path],
             "[user]\r\nmenu1=a\r\nmenu2=b\r\nkey2=13\r\n[Shortcuts]\r\nF5=cm_1\r\n");
-  EXPECT_EQ(Disk.Writes, 1);
+  EXPECT_EQ(Files.Writes, 1);
   EXPECT_EQ(Shown.StartMenuKeys[0].Key, L"");
   EXPECT_EQ(Shown.StartMenuKeys[0].Caption, L"");
   EXPECT_EQ(Shown.StartMenuKeys[0].ValueName, L"");
@@ -176,22 +176,22 @@ TEST_F(SaveShortcutsTest, AStartMenuKeyThatWasTakenIsDeletedAndItsCaptionStays) 
 
 TEST_F(SaveShortcutsTest, AFailedSaveChangesNeitherFileNorCatalogue) {
   const std::string content = "[user]\r\nmenu1=a\r\nkey1=1\r\n[Shortcuts]\r\nF5=cm_1\r\n";
-  Disk.Contents[Path] = content;
+  Files.Contents[Path] = content;
   Show({L"F6"});
   Shown.StartMenuKeys[0] = {L"Ctrl + Alt + F1 *", L"a", L"key1"};
-  Disk.WriteErrors = {FileError::DiskFull};
+  Files.WriteErrors = {FileError::DiskFull};
   EXPECT_EQ(Save(), FileError::DiskFull);
-  EXPECT_EQ(Disk.Contents[Path], content);
+  EXPECT_EQ(Files.Contents[Path], content);
   EXPECT_EQ(Shown.StartMenuKeys[0].Key, L"Ctrl + Alt + F1 *");
 }
 
 TEST_F(SaveShortcutsTest, AFileThatCannotBeReadIsNotReplaced) {
-  Disk.Contents[Path] = "[Left]\r\npath=c:\\\r\n";
+  Files.Contents[Path] = "[Left]\r\npath=c:\\\r\n";
   Show({L"F6"});
-  Disk.ReadErrors.assign(100, FileError::SharingViolation);
+  Files.ReadErrors.assign(100, FileError::SharingViolation);
   EXPECT_EQ(Save(), FileError::SharingViolation);
-  EXPECT_EQ(Disk.Contents[Path], "[Left]\r\npath=c:\\\r\n");
-  EXPECT_EQ(Disk.Writes, 0);
+  EXPECT_EQ(Files.Contents[Path], "[Left]\r\npath=c:\\\r\n");
+  EXPECT_EQ(Files.Writes, 0);
 }
 
 // -- Redirected sections
@@ -199,92 +199,92 @@ TEST_F(SaveShortcutsTest, AFileThatCannotBeReadIsNotReplaced) {
 TEST_F(SaveShortcutsTest, ARedirectedSectionIsWrittenToItsFileAlone) {
   const std::string content =
       "[Shortcuts]\r\nRedirectSection=%COMMANDER_PATH%\\s.ini\r\nF9=cm_1\r\n[Left]\r\na=b\r\n";
-  Surroundings.Variables[L"COMMANDER_PATH"] = L"D:\\Total";
-  Disk.Contents[Path] = content;
-  Disk.Contents[L"D:\\Total\\s.ini"] =
+  Environment.Variables[L"COMMANDER_PATH"] = L"D:\\Total";
+  Files.Contents[Path] = content;
+  Files.Contents[L"D:\\Total\\s.ini"] =
       "[Other]\r\nx=1\r\n[Shortcuts]\r\nredirectsection=t.ini\r\nF5=cm_1\r\n";
   Show({L"F6"});
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], content);
-  EXPECT_EQ(Disk.Contents[L"D:\\Total\\s.ini"],
+  EXPECT_EQ(Files.Contents[Path], content);
+  EXPECT_EQ(Files.Contents[L"D:\\Total\\s.ini"],
             "[Other]\r\nx=1\r\n[Shortcuts]\r\nredirectsection=t.ini\r\nF6=cm_1\r\n");
-  EXPECT_TRUE(Disk.Contents.contains(L"D:\\Total\\s.ini.bak"));
-  EXPECT_EQ(Disk.Writes, 1);
+  EXPECT_TRUE(Files.Contents.contains(L"D:\\Total\\s.ini.bak"));
+  EXPECT_EQ(Files.Writes, 1);
 }
 
 TEST_F(SaveShortcutsTest, ARedirectedFileThatIsMissingIsCreated) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nRedirectSection=s.ini\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nRedirectSection=s.ini\r\n";
   Show({L"F6"});
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[L"C:\\tc\\s.ini"], "[Shortcuts]\r\nF6=cm_1\r\n");
+  EXPECT_EQ(Files.Contents[L"C:\\tc\\s.ini"], "[Shortcuts]\r\nF6=cm_1\r\n");
 }
 
 TEST_F(SaveShortcutsTest, TheRedirectingLineIsNeverLost) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nF5=cm_1\r\nRedirectSection=0\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nF5=cm_1\r\nRedirectSection=0\r\n";
   Show({L"---"});
   for (const bool keepUnknown : {false, true}) {
     KeepUnknown = keepUnknown;
     EXPECT_EQ(Save(), FileError::None);
-    EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nRedirectSection=0\r\n");
+    EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nRedirectSection=0\r\n");
   }
 }
 
 TEST_F(SaveShortcutsTest, BothSectionsInOneOtherFileAreWrittenOnce) {
-  Disk.Contents[Path] =
+  Files.Contents[Path] =
       "[Shortcuts]\r\nRedirectSection=1\r\n[user]\r\nRedirectSection=.\\u.ini\r\n"
       "[Configuration]\r\nAlternateUserIni=u.ini\r\n";
-  Disk.Contents[L"C:\\tc\\u.ini"] = "[user]\r\nmenu1=a\r\nkey1=1\r\n[Shortcuts]\r\nF5=cm_1\r\n";
+  Files.Contents[L"C:\\tc\\u.ini"] = "[user]\r\nmenu1=a\r\nkey1=1\r\n[Shortcuts]\r\nF5=cm_1\r\n";
   Show({L"F6"});
   Shown.StartMenuKeys[0] = {L"Ctrl + Alt + F1 *", L"a", L"key1"};
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[L"C:\\tc\\u.ini"], "[user]\r\nmenu1=a\r\n[Shortcuts]\r\nF6=cm_1\r\n");
-  EXPECT_EQ(Disk.Writes, 1);
+  EXPECT_EQ(Files.Contents[L"C:\\tc\\u.ini"], "[user]\r\nmenu1=a\r\n[Shortcuts]\r\nF6=cm_1\r\n");
+  EXPECT_EQ(Files.Writes, 1);
 }
 
 // -- Lines of unknown commands
 
 TEST_F(SaveShortcutsTest, LinesOfUnknownCommandsGoUnlessTheyAreToBeKept) {
   const std::string content = "[Shortcuts]\r\nA+F5=em_own\r\nF5=cm_1\r\nF8=cm_exit 1\r\n";
-  Disk.Contents[Path] = content;
+  Files.Contents[Path] = content;
   Show({L"F6"});
   KeepUnknown = true;
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\nA+F5=em_own\r\nF8=cm_exit 1\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\nA+F5=em_own\r\nF8=cm_exit 1\r\n");
   KeepUnknown = false;
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nF6=cm_1\r\n");
 }
 
 TEST_F(SaveShortcutsTest, AKeptLineGivesWayToACommandThatHasTakenItsKey) {
-  Disk.Contents[Path] = "[Shortcuts]\r\na+f5=em_own\r\nF8=em_two\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\na+f5=em_own\r\nF8=em_two\r\n";
   Show({L"Alt + F5"});
   KeepUnknown = true;
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nA+F5=cm_1\r\nF8=em_two\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nA+F5=cm_1\r\nF8=em_two\r\n");
 }
 
 TEST_F(SaveShortcutsTest, AKeyIsWrittenWithoutTheControlCharactersAroundItsName) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nF=em_own\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nF=em_own\r\n";
   Show({L"\x01\tF\x02", L"\x03"});
   KeepUnknown = true;
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF=cm_1\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nF=cm_1\r\n");
 }
 
 TEST_F(SaveShortcutsTest, LinesOfKnownCommandsAreNotKept) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nF5=CM_1\r\nF6=102\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nF5=CM_1\r\nF6=102\r\n";
   Show({L"---"});
   KeepUnknown = true;
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "");
+  EXPECT_EQ(Files.Contents[Path], "");
 }
 
 TEST_F(SaveShortcutsTest, OfLinesWithOneKeyTheFirstIsTheOneInForce) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nF5=em_a\r\nF5=em_b\r\nF6=cm_1\r\nF6=em_c\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nF5=em_a\r\nF5=em_b\r\nF6=cm_1\r\nF6=em_c\r\n";
   Show({L"---"});
   KeepUnknown = true;
   EXPECT_EQ(Save(), FileError::None);
-  EXPECT_EQ(Disk.Contents[Path], "[Shortcuts]\r\nF5=em_a\r\n");
+  EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nF5=em_a\r\n");
 }
 
 TEST_F(SaveShortcutsTest, AKeptLineReadsAsBefore) {
@@ -292,12 +292,12 @@ TEST_F(SaveShortcutsTest, AKeptLineReadsAsBefore) {
       "em_own",      "\"\"em x\"\"",         "\" em \"",         "'\"a\" b'", "\"'em'\"", "'em\"",
       "\"a\" \"b\"", "\xEF\xBB\xBF\xD0\xAF", "\xEF\xBB\xBF\tem", "\"em\t\"",  "\xE9",     ""};
   for (const std::string& value : values) {
-    Disk.Contents[Path] = "[Shortcuts]\r\nF5=" + value + "\r\n";
-    const std::wstring before = ProfileFile(Disk, Path).ReadString(L"Shortcuts", L"F5", L"none");
+    Files.Contents[Path] = "[Shortcuts]\r\nF5=" + value + "\r\n";
+    const std::wstring before = ProfileFile(Files, Path).ReadString(L"Shortcuts", L"F5", L"none");
     Show({L"F6"});
     KeepUnknown = true;
     EXPECT_EQ(Save(), FileError::None);
-    const ProfileFile after(Disk, Path);
+    const ProfileFile after(Files, Path);
     EXPECT_EQ(after.ReadString(L"Shortcuts", L"F5", L"none"), before) << value;
     EXPECT_EQ(after.Entries(L"Shortcuts").size(), 2u);
   }

@@ -176,27 +176,27 @@ TEST(WincmdIni, ManyCommandsAndManyKeysAreRead) {
 
 class WincmdIniFiles : public testing::Test {
  protected:
-  WincmdIni Open() { return WincmdIni(Disk, Time, Surroundings, Path); }
+  WincmdIni Open() { return WincmdIni(Files, Clock, Environment, Path); }
 
-  MemoryFiles Disk;
-  FakeEnvironment Surroundings;
-  FakeClock Time;
+  MemoryFiles Files;
+  FakeEnvironment Environment;
+  FakeClock Clock;
 };
 
 TEST_F(WincmdIniFiles, BothSectionsLiveInTheFileItself) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nF5=cm_X\r\n[user]\r\nmenu1=a\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nF5=cm_X\r\n[user]\r\nmenu1=a\r\n";
   WincmdIni ini = Open();
-  EXPECT_EQ(Disk.Reads, 1);
+  EXPECT_EQ(Files.Reads, 1);
   EXPECT_EQ(&ini.Shortcuts(), &ini.StartMenu());
   EXPECT_EQ(ini.Shortcuts().Path(), Path);
 }
 
 TEST_F(WincmdIniFiles, ARedirectedSectionIsReadFromItsFile) {
-  Disk.Contents[Path] =
+  Files.Contents[Path] =
       "[Shortcuts]\r\nRedirectSection=s.ini\r\nF5=cm_X\r\n[user]\r\nmenu1=here\r\n";
-  Disk.Contents[L"C:\\tc\\s.ini"] = "[Shortcuts]\r\nF6=cm_Y\r\n[user]\r\nmenu1=there\r\n";
+  Files.Contents[L"C:\\tc\\s.ini"] = "[Shortcuts]\r\nF6=cm_Y\r\n[user]\r\nmenu1=there\r\n";
   const WincmdIni ini = Open();
-  EXPECT_EQ(Disk.Reads, 2);
+  EXPECT_EQ(Files.Reads, 2);
   std::vector<CommandEntry> rows = SampleRows();
   ReadShortcuts(rows, ini.Shortcuts(), HotkeyNotation{}, [] {});
   EXPECT_EQ(CurrentKeys(rows), (Texts{L"", L"---", L"F6", L"---"}));
@@ -204,7 +204,7 @@ TEST_F(WincmdIniFiles, ARedirectedSectionIsReadFromItsFile) {
 }
 
 TEST_F(WincmdIniFiles, ARedirectedFileThatIsMissingIsEmpty) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nRedirectSection=s.ini\r\nF5=cm_X\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nRedirectSection=s.ini\r\nF5=cm_X\r\n";
   const WincmdIni ini = Open();
   EXPECT_EQ(ini.Shortcuts().Path(), L"C:\\tc\\s.ini");
   EXPECT_TRUE(ini.Shortcuts().Entries(L"Shortcuts").empty());
@@ -212,38 +212,38 @@ TEST_F(WincmdIniFiles, ARedirectedFileThatIsMissingIsEmpty) {
 }
 
 TEST_F(WincmdIniFiles, ARedirectingLineIsNotFollowedTwice) {
-  Disk.Contents[Path] = "[Shortcuts]\r\nRedirectSection=s.ini\r\n";
-  Disk.Contents[L"C:\\tc\\s.ini"] = "[Shortcuts]\r\nRedirectSection=t.ini\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nRedirectSection=s.ini\r\n";
+  Files.Contents[L"C:\\tc\\s.ini"] = "[Shortcuts]\r\nRedirectSection=t.ini\r\n";
   EXPECT_EQ(Open().Shortcuts().Path(), L"C:\\tc\\s.ini");
 }
 
 TEST_F(WincmdIniFiles, OneFileIsHeldOnceHoweverItIsNamed) {
-  Disk.Contents[Path] =
+  Files.Contents[Path] =
       "[Shortcuts]\r\nRedirectSection=sub\\..\\S.INI\r\n[user]\r\nRedirectSection=s.ini\r\n";
   WincmdIni two = Open();
   EXPECT_EQ(&two.Shortcuts(), &two.StartMenu());
 
-  Disk.Contents[Path] = "[Shortcuts]\r\nRedirectSection=.\\Wincmd.ini\r\n";
+  Files.Contents[Path] = "[Shortcuts]\r\nRedirectSection=.\\Wincmd.ini\r\n";
   WincmdIni itself = Open();
   EXPECT_EQ(&itself.Shortcuts(), &itself.StartMenu());
 
-  Disk.Contents[Path] = "[Shortcuts]\r\nRedirectSection=link.ini\r\n";
-  Disk.Links[L"C:\\tc\\link.ini"] = Path;
+  Files.Contents[Path] = "[Shortcuts]\r\nRedirectSection=link.ini\r\n";
+  Files.Links[L"C:\\tc\\link.ini"] = Path;
   WincmdIni link = Open();
   EXPECT_EQ(&link.Shortcuts(), &link.StartMenu());
 }
 
 TEST_F(WincmdIniFiles, SavingWritesNothingButTheFilesThatChanged) {
-  Disk.Contents[Path] = "[user]\r\nRedirectSection=u.ini\r\n[Shortcuts]\r\nF5=cm_X\r\n";
-  Disk.Contents[L"C:\\tc\\u.ini"] = "[user]\r\nmenu1=a\r\nkey1=1\r\n";
+  Files.Contents[Path] = "[user]\r\nRedirectSection=u.ini\r\n[Shortcuts]\r\nF5=cm_X\r\n";
+  Files.Contents[L"C:\\tc\\u.ini"] = "[user]\r\nmenu1=a\r\nkey1=1\r\n";
   WincmdIni ini = Open();
-  EXPECT_EQ(ini.Save(Disk, Time), FileError::None);
-  EXPECT_EQ(Disk.Writes, 0);
+  EXPECT_EQ(ini.Save(Files, Clock), FileError::None);
+  EXPECT_EQ(Files.Writes, 0);
   ini.StartMenu().DeleteValue(L"user", L"key1");
-  EXPECT_EQ(ini.Save(Disk, Time), FileError::None);
-  EXPECT_EQ(Disk.Contents[L"C:\\tc\\u.ini"], "[user]\r\nmenu1=a\r\n");
-  EXPECT_EQ(Disk.Contents[L"C:\\tc\\u.ini.bak"], "[user]\r\nmenu1=a\r\nkey1=1\r\n");
-  EXPECT_FALSE(Disk.Contents.contains(std::wstring(Path) + L".bak"));
+  EXPECT_EQ(ini.Save(Files, Clock), FileError::None);
+  EXPECT_EQ(Files.Contents[L"C:\\tc\\u.ini"], "[user]\r\nmenu1=a\r\n");
+  EXPECT_EQ(Files.Contents[L"C:\\tc\\u.ini.bak"], "[user]\r\nmenu1=a\r\nkey1=1\r\n");
+  EXPECT_FALSE(Files.Contents.contains(std::wstring(Path) + L".bak"));
 }
 
 }  // namespace
