@@ -58,8 +58,8 @@ class LanguageTest : public EndToEndTest {
   void ExpectGermanWindow() {
     WaitFor("German headings", [&] { return window_->Header(0).Text == L"Beschreibung"; });
     EXPECT_EQ(window_->Header(1).Text, L"Befehl");
-    EXPECT_EQ(window_->Header(2).Text, L"Standard-Tastenk\u00FCrzel");
-    EXPECT_EQ(window_->Header(3).Text, L"Aktuelles Tastenk\u00FCrzel");
+    EXPECT_EQ(window_->Header(2).Text, L"Standardk\u00FCrzel");
+    EXPECT_EQ(window_->Header(3).Text, L"Aktuelles K\u00FCrzel");
     EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileOpen), L"\u00D6ffnen...");
     EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileSave), L"Speichern");
     EXPECT_EQ(window_->ControlText(IDC_lblHotkey), L"Tastenk\u00FCrzel:");

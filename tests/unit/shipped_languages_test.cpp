@@ -89,6 +89,18 @@ bool IsInvisible(wchar_t character) {
          isWithin(0x2028, 0x202E) || isWithin(0x2066, 0x2069) || code == 0xFEFF || code == 0xFFFD;
 }
 
+/// About how wide a character is, in hundredths of the font's size.
+int WidthOf(wchar_t character) {
+  const auto isOneOf = [character](std::wstring_view letters) {
+    return letters.find(character) != std::wstring_view::npos;
+  };
+  if (isOneOf(L" .:'()Iijlfrt")) return 30;
+  if (isOneOf(L"MWmw")) return 80;
+  if (character < 0x400) return character >= L'A' && character <= L'Z' ? 62 : 54;
+  if (character < 0x600) return 62;      // Cyrillic
+  return character < 0x2E80 ? 45 : 100;  // Arabic; Chinese and Japanese
+}
+
 TEST_F(ShippedLanguages, AreTheseAndATemplate) {
   for (const std::wstring_view language :
        {L"Arabic", L"ChineseSimplified", L"French", L"German", L"Italian", L"Japanese", L"Polish",
@@ -147,6 +159,19 @@ TEST_F(ShippedLanguages, FitWhereTheEnglishTextsFit) {
   });
 }
 
+TEST_F(ShippedLanguages, HeadTheColumnsOfKeysWithTextsThatAreNotCut) {
+  // 2000 twips are 133 pixels; 33 go to the edges and the arrow of the sort. The font is 13 high.
+  const int room = 100 * (133 - 33) / 13;
+  ForEach([&](const std::wstring&, const Texts& texts) {
+    for (const int heading : {3200, 3201}) {
+      const std::wstring text = texts.GetLangText(heading);
+      int width = 0;
+      for (const wchar_t character : text) width += WidthOf(character);
+      EXPECT_LE(width, room) << Encode(text, Utf8CodePage);
+    }
+  });
+}
+
 TEST_F(ShippedLanguages, EndAsTheEnglishTextsDo) {
   ForEachText([](const BuiltInText& english, const std::wstring& text) {
     EXPECT_EQ(text.ends_with(L"..."), english.Text.ends_with(L"..."));
@@ -172,6 +197,31 @@ TEST_F(ShippedLanguages, NameTheProgramThatIsRestarted) {
     if (name == Template) return;
     EXPECT_NE(texts.GetLangText(TextId::SaveAndRestart).find(L"Total Commander"),
               std::wstring::npos);
+  });
+}
+
+TEST_F(ShippedLanguages, AskWhetherToSave) {
+  ForEach([](const std::wstring& name, const Texts& texts) {
+    if (name == Template) return;
+    EXPECT_NE(std::wstring_view(L"?\u061F\uFF1F").find(texts.GetLangText(3020).back()),
+              std::wstring_view::npos);
+  });
+}
+
+TEST_F(ShippedLanguages, KeepSignsOnTheLineOfTheirWord) {
+  constexpr std::wstring_view Signs = L":!?";
+  ForEach([&](const std::wstring& name, const Texts& texts) {
+    if (name == Template) return;
+    for (const BuiltInText& english : TextTable()) {
+      const std::wstring text = texts.GetLangText(english.Id);
+      for (std::size_t sign = text.find_first_of(Signs); sign != std::wstring::npos;
+           sign = text.find_first_of(Signs, sign + 1)) {
+        ASSERT_GT(sign, 0U);
+        const bool isApart = text[sign - 1] == L'\u00A0';
+        EXPECT_EQ(isApart, name == L"French") << english.Id;
+        EXPECT_NE(text[sign - 1], L' ') << english.Id;
+      }
+    }
   });
 }
 
