@@ -88,6 +88,15 @@ def check_settings(root):
     yield from (name for name in names if f"<code>{name}</code>" not in page)
 
 
+def check_languages(root):
+    """Every language that is shipped is named."""
+    page = pages(root).get("translate.html", "")
+    files = sorted(file.name for file in (root / "Languages").glob("*.lng"))
+    if not files:
+        yield "no languages were found in Languages"
+    yield from (name for name in files if f"<code>{name}</code>" not in page)
+
+
 def dead(root, target, here=""):
     """True when a link leads nowhere; `here` is the page that holds it."""
     name, _, anchor = target.partition("#")
@@ -156,10 +165,12 @@ GOOD = {
     "help/a.html": f'<h1 id="top">A</h1>{PICTURE}<dfn>File</dfn> <dfn>Open...</dfn>'
                    '<a href="#top">A</a><a href="settings.html#b">B</a>\n',
     "help/settings.html": '<p id="b"><code>SortOrder</code></p>\n',
+    "help/translate.html": "<p><code>French.lng</code></p>\n",
+    "Languages/French.lng": "[UserLanguage]\n",
     "help/images/a.png": "\x00" * 16 + "\0\0\0\x03\0\0\0\x02",
-    "help/contents.hhc": sitemap("a.html") + sitemap("settings.html"),
+    "help/contents.hhc": sitemap("a.html") + sitemap("settings.html") + sitemap("translate.html"),
     "help/keywords.hhk": sitemap("a.html#top"),
-    "help/Readme.hhp": "[FILES]\na.html\nsettings.html\nimages/a.png\n",
+    "help/Readme.hhp": "[FILES]\na.html\nsettings.html\ntranslate.html\nimages/a.png\n",
 }
 # Per check: what replaces a file of the good help, and must be complained about.
 BAD = {
@@ -173,6 +184,10 @@ BAD = {
         {"settings/Settings.cpp": 'Field{ProgramSection, L"SortedList", 1},\n'},
         {"settings/Settings.cpp": "\n"},
     ],
+    check_languages: [
+        {"Languages/Polish.lng": "[UserLanguage]\n"},
+        {"help/translate.html": "<p>French</p>\n"},
+    ],
     check_pages: [
         {"help/settings.html": '<a href="b.html">B</a>\n'},
         {"help/settings.html": '<a href="a.html#bottom">A</a>\n'},
@@ -184,13 +199,13 @@ BAD = {
         {"help/settings.html": "<p>\u00e9</p>\n"},
     ],
     check_contents: [
-        {"help/contents.hhc": sitemap("a.html") + sitemap("settings.html") + sitemap("b.html")},
+        {"help/contents.hhc": GOOD["help/contents.hhc"] + sitemap("b.html")},
         {"help/contents.hhc": sitemap("a.html")},
         {"help/keywords.hhk": sitemap("a.html#bottom")},
     ],
     check_project: [
         {"help/Readme.hhp": GOOD["help/Readme.hhp"] + "b.html\n"},
-        {"help/Readme.hhp": "[FILES]\na.html\nimages/a.png\n"},
+        {"help/Readme.hhp": "[FILES]\na.html\ntranslate.html\nimages/a.png\n"},
         {"help/a.html": "<p>A</p>\n"},
     ],
 }

@@ -103,8 +103,8 @@ int WidthOf(wchar_t character) {
 
 TEST_F(ShippedLanguages, AreTheseAndATemplate) {
   for (const std::wstring_view language :
-       {L"Arabic", L"ChineseSimplified", L"French", L"German", L"Italian", L"Japanese", L"Polish",
-        L"Russian", L"Spanish", L"Template"}) {
+       {L"Arabic", L"ChineseSimplified", L"English", L"French", L"German", L"Italian", L"Japanese",
+        L"Polish", L"Russian", L"Spanish", L"Template"}) {
     EXPECT_TRUE(files_.Contents.contains(PathOf(language))) << Encode(language);
   }
 }
@@ -314,6 +314,13 @@ TEST_F(ShippedLanguages, LeadEveryDefaultKeyToTheKeyThatIsSaved) {
     notation.ReverseOrderHotkey = true;
     ExpectDefaultKeysAreSavedAsThemselves(notation);
   });
+}
+
+TEST_F(ShippedLanguages, PutTheSlipsOfTheBuiltInEnglishRight) {
+  Texts texts(files_);
+  ASSERT_TRUE(texts.UseLanguageFile(PathOf(L"English")));
+  EXPECT_EQ(texts.GetLangText(3060), L"Do you want to assign it to:");
+  EXPECT_NE(texts.GetLangText(3209).find(L"have not yet been saved"), std::wstring::npos);
 }
 
 TEST_F(ShippedLanguages, HaveATemplateInTheEnglishOfTheProgram) {
