@@ -163,7 +163,7 @@ TEST_F(ShippedLanguages, HeadTheColumnsOfKeysWithTextsThatAreNotCut) {
   // 2000 twips are 133 pixels; 33 go to the edges and the arrow of the sort. The font is 13 high.
   const int room = 100 * (133 - 33) / 13;
   ForEach([&](const std::wstring&, const Texts& texts) {
-    for (const int heading : {3200, 3201}) {
+    for (const TextId heading : {TextId::DefaultHotkeyColumn, TextId::CurrentHotkeyColumn}) {
       const std::wstring text = texts.GetLangText(heading);
       int width = 0;
       for (const wchar_t character : text) width += WidthOf(character);
@@ -203,8 +203,9 @@ TEST_F(ShippedLanguages, NameTheProgramThatIsRestarted) {
 TEST_F(ShippedLanguages, AskWhetherToSave) {
   ForEach([](const std::wstring& name, const Texts& texts) {
     if (name == Template) return;
-    EXPECT_NE(std::wstring_view(L"?\u061F\uFF1F").find(texts.GetLangText(3020).back()),
-              std::wstring_view::npos);
+    EXPECT_NE(
+        std::wstring_view(L"?\u061F\uFF1F").find(texts.GetLangText(TextId::SaveChangesTo).back()),
+        std::wstring_view::npos);
   });
 }
 
@@ -218,8 +219,8 @@ TEST_F(ShippedLanguages, KeepSignsOnTheLineOfTheirWord) {
            sign = text.find_first_of(Signs, sign + 1)) {
         ASSERT_GT(sign, 0U);
         const bool isApart = text[sign - 1] == L'\u00A0';
-        EXPECT_EQ(isApart, name == L"French") << english.Id;
-        EXPECT_NE(text[sign - 1], L' ') << english.Id;
+        EXPECT_EQ(isApart, name == L"French") << NumberOf(english.Id);
+        EXPECT_NE(text[sign - 1], L' ') << NumberOf(english.Id);
       }
     }
   });
@@ -319,8 +320,9 @@ TEST_F(ShippedLanguages, LeadEveryDefaultKeyToTheKeyThatIsSaved) {
 TEST_F(ShippedLanguages, PutTheSlipsOfTheBuiltInEnglishRight) {
   Texts texts(files_);
   ASSERT_TRUE(texts.UseLanguageFile(PathOf(L"English")));
-  EXPECT_EQ(texts.GetLangText(3060), L"Do you want to assign it to:");
-  EXPECT_NE(texts.GetLangText(3209).find(L"have not yet been saved"), std::wstring::npos);
+  EXPECT_EQ(texts.GetLangText(TextId::AssignItTo), L"Do you want to assign it to:");
+  EXPECT_NE(texts.GetLangText(TextId::NotSavedYet).find(L"have not yet been saved"),
+            std::wstring::npos);
 }
 
 TEST_F(ShippedLanguages, HaveATemplateInTheEnglishOfTheProgram) {
