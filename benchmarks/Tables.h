@@ -7,6 +7,9 @@
 
 namespace tessera {
 
+inline constexpr int FewCommands = 600;  ///< as many as Total Commander has
+inline constexpr int ManyCommands = 100'000;
+
 [[nodiscard]] std::vector<Ratio> EditorRatios();
 [[nodiscard]] std::vector<Ratio> OpeningRatios();
 [[nodiscard]] std::vector<Ratio> IniRatios();

@@ -4,18 +4,18 @@
 #include <algorithm>
 #include <memory>
 
-#include "benchmarks/SampleProgram.h"
 #include "benchmarks/Tables.h"
 #include "export/ClipboardTable.h"
 #include "localisation/Texts.h"
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
+#include "tests/support/LargeProgram.h"
 #include "text/Text.h"
 
 namespace tessera {
 namespace {
 
 void Assign(benchmark::State& state) {
-  SampleProgram program(static_cast<int>(state.range(0)));
+  LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   const std::size_t rows = program.Editor.Rows().Count();
   std::size_t row = 0;
@@ -31,7 +31,7 @@ void Assign(benchmark::State& state) {
 }
 
 void Delete(benchmark::State& state) {
-  SampleProgram program(static_cast<int>(state.range(0)));
+  LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   const std::size_t rows = program.Editor.Rows().Count();
   std::size_t row = 0;
@@ -51,7 +51,7 @@ void Delete(benchmark::State& state) {
 void DeleteAll(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
-    auto program = std::make_unique<SampleProgram>(static_cast<int>(state.range(0)));
+    auto program = std::make_unique<LargeProgram>(static_cast<int>(state.range(0)));
     program->Start();
     state.ResumeTiming();
     program->Editor.DeleteAllKeys();
@@ -63,7 +63,7 @@ void DeleteAll(benchmark::State& state) {
 
 /// From file order into the sorted view.
 void SortView(benchmark::State& state) {
-  SampleProgram program(static_cast<int>(state.range(0)));
+  LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   for (auto _ : state) {
     program.Editor.ToggleSortedList();
@@ -75,7 +75,7 @@ void SortView(benchmark::State& state) {
 
 /// Back from the sorted view.
 void UnsortView(benchmark::State& state) {
-  SampleProgram program(static_cast<int>(state.range(0)));
+  LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   for (auto _ : state) {
     state.PauseTiming();
@@ -89,7 +89,7 @@ Column ColumnOf(const benchmark::State& state) { return static_cast<Column>(stat
 
 /// From file order into the order of a column, as the list does it.
 void SortRows(benchmark::State& state) {
-  SampleProgram program(static_cast<int>(state.range(0)));
+  LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   DisplayTable table = program.Editor.Rows();
   for (auto _ : state) {
@@ -101,7 +101,7 @@ void SortRows(benchmark::State& state) {
 
 /// The texts of a column alone, sorted in the same order with the same comparison.
 void StableSort(benchmark::State& state) {
-  SampleProgram program(static_cast<int>(state.range(0)));
+  LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   std::vector<std::wstring> texts;
   for (std::size_t position = 0; position < program.Editor.Rows().Count(); ++position) {
@@ -118,7 +118,7 @@ void StableSort(benchmark::State& state) {
 }
 
 void Save(benchmark::State& state) {
-  SampleProgram program(static_cast<int>(state.range(0)));
+  LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   int key = 0;
   bool once = true;

@@ -5,12 +5,12 @@
 #include <array>
 #include <memory>
 
-#include "benchmarks/SampleProgram.h"
 #include "benchmarks/Tables.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/InternalCommands.h"
 #include "shortcuts/WincmdIni.h"
+#include "tests/support/LargeProgram.h"
 
 namespace tessera {
 namespace {
@@ -19,7 +19,7 @@ void Open(benchmark::State& state) {
   bool readOnce = true;
   for (auto _ : state) {
     state.PauseTiming();
-    auto program = std::make_unique<SampleProgram>(static_cast<int>(state.range(0)));
+    auto program = std::make_unique<LargeProgram>(static_cast<int>(state.range(0)));
     program->Editor.Load();
     program->Files.Reads = 0;
     state.ResumeTiming();
@@ -35,7 +35,7 @@ void Open(benchmark::State& state) {
 
 /// Opening without its meaning: the same bytes, split into lines.
 void SplitLines(benchmark::State& state) {
-  const SampleProgram program(static_cast<int>(state.range(0)));
+  const LargeProgram program(static_cast<int>(state.range(0)));
   for (auto _ : state) {
     for (const auto& [path, bytes] : program.Files.Contents) {
       std::vector<std::string> lines;
@@ -53,7 +53,7 @@ void SplitLines(benchmark::State& state) {
 struct Opening {
   explicit Opening(int commands) : Program(commands) {}
 
-  SampleProgram Program;
+  LargeProgram Program;
   FakeEnvironment Environment;
   FakeClock Clock;
   HotkeyNotation Notation;
@@ -70,7 +70,7 @@ constexpr std::array Steps = {
     OpeningStep{"read the commands",
                 [](Opening& o) {
                   std::string bytes;
-                  static_cast<void>(o.Program.Files.Read(SampleProgram::CommandsPath, bytes));
+                  static_cast<void>(o.Program.Files.Read(IncFile, bytes));
                   o.Commands.Text =
                       std::make_shared<const std::wstring>(DecodeInternalCommands(bytes));
                   o.Commands.lvwHidden =
@@ -78,13 +78,12 @@ constexpr std::array Steps = {
                 }},
     OpeningStep{"fill in the default keys",
                 [](Opening& o) {
-                  const ProfileFile file(o.Program.Files, SampleProgram::DefaultKeysPath);
+                  const ProfileFile file(o.Program.Files, DataFile);
                   FillDefaultKeys(o.Commands.lvwHidden, file, o.Notation, o.Step);
                 }},
     OpeningStep{"read the current keys",
                 [](Opening& o) {
-                  const WincmdIni file(o.Program.Files, o.Clock, o.Environment,
-                                       SampleProgram::IniPath);
+                  const WincmdIni file(o.Program.Files, o.Clock, o.Environment, IniFile);
                   ReadShortcuts(o.Commands.lvwHidden, file.Shortcuts(), o.Notation, o.Step);
                 }},
     OpeningStep{"make the displayed rows",

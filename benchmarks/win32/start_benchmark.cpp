@@ -13,7 +13,7 @@
 #include <limits>
 
 #include "benchmarks/RatioRow.h"
-#include "tests/e2e/Program.h"
+#include "tests/support/win32/Program.h"
 
 namespace tessera {
 namespace {

@@ -22,6 +22,15 @@ NUMBERS = "resources"
 PRODUCT_FOLDERS = sorted({folder.split("/")[0] for folder in RANKS} | {NUMBERS})
 CODE_FOLDERS = [*PRODUCT_FOLDERS, "tests", "benchmarks"]
 
+# What else than the program's own folders each part of the tests and benchmarks may include.
+BESIDES_PRODUCT = {
+    "tests/support": set(),
+    "tests/fuzz": {"tests/support"},
+    "tests/unit": {"tests/support", "tests/fuzz"},
+    "tests/e2e": {"tests/support"},
+    "benchmarks": {"tests/support"},
+}
+
 # Tests that are not named after one source file, and why.
 OTHER_TESTS = {
     "conflict_model": "holds the whole program to a model of its rules over random edits",
@@ -57,7 +66,7 @@ def code_files(root):
 def belongs_to_windows(file):
     return (file.name.startswith("frm") or file.as_posix() == "app/main.cpp"
             or file.parts[:2] in (("platform", "win32"), ("tests", "e2e"), ("benchmarks", "win32"))
-            or file.parts[:3] == ("tests", "unit", "win32"))
+            or file.parts[:3] in (("tests", "unit", "win32"), ("tests", "support", "win32")))
 
 
 def may_use_the_system(file):
@@ -126,6 +135,24 @@ def reachable(graph, start):
     return seen
 
 
+def tests_part(path):
+    """The part of the tests or benchmarks that a file or header belongs to; None for the program's."""
+    parts = Path(path).parts
+    if parts[0] == "tests":
+        return "/".join(parts[:2])
+    return "benchmarks" if parts[0] == "benchmarks" else None
+
+
+def check_test_includes(root):
+    """The program includes no tests, and tests and benchmarks include what they share, in no circle."""
+    for file in code_files(root):
+        here = tests_part(file)
+        for header in QUOTED_INCLUDE.findall((root / file).read_text(encoding="utf-8")):
+            there = tests_part(header)
+            if there not in {None, here} | BESIDES_PRODUCT.get(here, set()):
+                yield f"{file} includes {header}"
+
+
 def check_test_names(root):
     """A unit test is named after the source file that it tests: file_dialog_test.cpp for cFileDialog."""
     files = code_files(root)
@@ -133,7 +160,7 @@ def check_test_names(root):
     tested = {name.lower() for name in sources} | {
         name[1:].lower() for name in sources if re.match("c[A-Z]", name)}
     for file in files:
-        if file.parts[:2] != ("tests", "unit") or "fakes" in file.parts or file.suffix != ".cpp":
+        if file.parts[:2] != ("tests", "unit") or file.suffix != ".cpp":
             continue
         name = file.stem.removesuffix("_test")
         if name == file.stem:
@@ -191,6 +218,18 @@ BAD = {
         {"options/a.h": '#include "export/b.h"\n', "export/b.h": '#include "recent/c.h"\n',
          "recent/c.h": '#include "options/a.h"\n'},
     ],
+    check_test_includes: [
+        {"app/Editor.cpp": '#include "tests/support/FakeClock.h"\n'},
+        {"settings/a.h": '#include "benchmarks/b.h"\n'},
+        {"tests/unit/a_test.cpp": '#include "benchmarks/b.h"\n'},
+        {"tests/unit/a_test.cpp": '#include "tests/e2e/b.h"\n'},
+        {"tests/support/a.h": '#include "benchmarks/b.h"\n'},
+        {"tests/support/a.h": '#include "tests/unit/b.h"\n'},
+        {"tests/e2e/a.cpp": '#include "tests/unit/b.h"\n'},
+        {"tests/fuzz/a.cpp": '#include "tests/unit/b.h"\n'},
+        {"benchmarks/a.cpp": '#include "tests/unit/b.h"\n'},
+        {"benchmarks/win32/a.cpp": '#include "tests/e2e/b.h"\n'},
+    ],
     check_test_names: [
         {"tests/unit/nothing_test.cpp": "\n"},
         {"tests/unit/win32/nothing_test.cpp": "\n"},
@@ -208,6 +247,8 @@ GOOD = {
     "app/main.cpp": '#include <windows.h>\n\n#include "resources/resource.h"\n',
     "options/frmOptions.cpp": '#include <windows.h>\n\n#include "resources/resource.h"\n',
     "editing/good.h": '#include "dialogs/b.h"\n#include "shortcuts/b.h"\n',
+    "benchmarks/good.cpp": '#include "benchmarks/b.h"\n#include "tests/support/b.h"\n',
+    "tests/support/good.h": '#include "app/Editor.h"\n#include "tests/support/b.h"\n',
     "tests/unit/good_case_test.cpp": "\n",
     "tests/unit/good_test.cpp": '#include "settings/good.h"\n\n#include <gtest/gtest.h>\n',
 }

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "tests/e2e/Wait.h"
+#include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 namespace {

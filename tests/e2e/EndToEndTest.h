@@ -11,7 +11,7 @@
 #include "tests/e2e/Dialog.h"
 #include "tests/e2e/Folder.h"
 #include "tests/e2e/MainWindow.h"
-#include "tests/e2e/Program.h"
+#include "tests/support/win32/Program.h"
 
 namespace tessera::e2e {
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-#include "tests/e2e/Wait.h"
+#include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 namespace {

@@ -11,8 +11,8 @@
 #include "resources/resource.h"
 #include "tests/e2e/Folder.h"
 #include "tests/e2e/Input.h"
-#include "tests/e2e/Program.h"
-#include "tests/e2e/Wait.h"
+#include "tests/support/win32/Program.h"
+#include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 

@@ -12,7 +12,7 @@
 #include "resources/resource.h"
 #include "tests/e2e/Input.h"
 #include "tests/e2e/MainWindow.h"
-#include "tests/e2e/Wait.h"
+#include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 namespace {

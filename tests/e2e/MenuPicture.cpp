@@ -8,8 +8,8 @@
 
 #include "tests/e2e/Folder.h"
 #include "tests/e2e/Screen.h"
-#include "tests/e2e/Wait.h"
 #include "tests/e2e/Window.h"
+#include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 namespace {

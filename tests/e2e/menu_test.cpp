@@ -11,7 +11,7 @@
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Input.h"
 #include "tests/e2e/MenuPicture.h"
-#include "tests/e2e/Wait.h"
+#include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 namespace {

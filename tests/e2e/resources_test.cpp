@@ -9,7 +9,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/e2e/LongRun.h"
 #include "tests/e2e/SystemObjects.h"
-#include "tests/e2e/Wait.h"
+#include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
 
 namespace tessera {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "dialogs/cCommonDialog.h"
 #include "settings/ini/MissingMarker.h"
-#include "tests/unit/fakes/FakeDialogs.h"
+#include "tests/support/FakeDialogs.h"
 
 namespace tessera {
 namespace {

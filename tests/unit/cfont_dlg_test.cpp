@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/cFontDlg.h"
-#include "tests/unit/fakes/FakeDialogs.h"
+#include "tests/support/FakeDialogs.h"
 
 namespace tessera {
 namespace {

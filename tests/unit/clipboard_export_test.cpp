@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "export/ClipboardExport.h"
-#include "tests/unit/fakes/FakeClipboard.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeClipboard.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "export/ClipboardTable.h"
-#include "tests/unit/fakes/MemoryFiles.h"
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
+#include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "shortcuts/CommandFinder.h"
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
 #include "text/Text.h"
 
 namespace tessera {

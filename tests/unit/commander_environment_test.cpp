@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "settings/commander/CommanderEnvironment.h"
-#include "tests/unit/fakes/FakeEnvironment.h"
+#include "tests/support/FakeEnvironment.h"
 
 namespace tessera {
 namespace {

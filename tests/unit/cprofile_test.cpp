@@ -6,8 +6,8 @@
 #include <stdexcept>
 
 #include "settings/ini/MissingMarker.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/MemoryFiles.h"
 
 namespace tessera {
 namespace {

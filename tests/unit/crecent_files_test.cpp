@@ -2,9 +2,9 @@
 
 #include "recent/cRecentFiles.h"
 #include "settings/ini/MissingMarker.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/FakeMessageBoxes.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/FakeMessageBoxes.h"
+#include "tests/support/MemoryFiles.h"
 
 namespace tessera {
 namespace {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "settings/ini/MissingMarker.h"
-#include "tests/unit/fakes/FakeRegistry.h"
+#include "tests/support/FakeRegistry.h"
 
 namespace tessera {
 namespace {

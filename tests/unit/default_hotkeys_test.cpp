@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "shortcuts/DefaultHotkeys.h"
-#include "tests/unit/fakes/MemoryFiles.h"
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
+#include "tests/support/MemoryFiles.h"
 
 namespace tessera {
 namespace {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "shortcuts/DisplayTable.h"
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
 #include "text/Text.h"
 
 namespace tessera {

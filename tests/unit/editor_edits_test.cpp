@@ -29,7 +29,7 @@ void DoEverything(Editor& editor) {
   editor.ClickColumn(2);
   editor.ToggleSortedList();
   editor.FileOpen();
-  editor.OpenFile(otherIniPath);
+  editor.OpenFile(OtherIniFile);
   editor.OpenRecentFile(1);
   editor.ClearRecentFiles();
   editor.FileSave();
@@ -55,35 +55,35 @@ std::vector<std::wstring> Shown(const Editor& editor) {
 TEST_F(EditorTest, AnEditEnablesSavingAndASaveDisablesIt) {
   Start();
   Assign(Pack, L"X");
-  EXPECT_TRUE(editor_.Modified());
-  EXPECT_TRUE(editor_.SaveAndRestartEnabled());
-  editor_.FileSave();
-  EXPECT_FALSE(editor_.Modified());
-  EXPECT_FALSE(editor_.SaveAndRestartEnabled());
+  EXPECT_TRUE(Editor.Modified());
+  EXPECT_TRUE(Editor.SaveAndRestartEnabled());
+  Editor.FileSave();
+  EXPECT_FALSE(Editor.Modified());
+  EXPECT_FALSE(Editor.SaveAndRestartEnabled());
 }
 
 TEST_F(EditorTest, ARefusedEditLeavesTheFileUnmodified) {
   Start();
-  messageBoxes_.Answers = {BoxAnswer::No};
+  MessageBoxes.Answers = {BoxAnswer::No};
   Assign(Pack, L"F5");
-  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"---");
-  EXPECT_FALSE(editor_.Modified());
+  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"---");
+  EXPECT_FALSE(Editor.Modified());
 }
 
 TEST_F(EditorTest, EditsByKeyboardAreEditsToo) {
   Start();
-  editor_.SelectRow(View);
-  editor_.KeyDown({.Code = KeyCode::Delete});
-  EXPECT_EQ(editor_.Rows().At(View).CurrentKeys, L"---");
-  EXPECT_TRUE(editor_.Modified());
+  Editor.SelectRow(View);
+  Editor.KeyDown({.Code = KeyCode::Delete});
+  EXPECT_EQ(Editor.Rows().At(View).CurrentKeys, L"---");
+  EXPECT_TRUE(Editor.Modified());
 }
 
 TEST_F(EditorTest, APositionOutsideTheListSelectsNothingElse) {
   Start();
-  editor_.SelectRow(View);
-  editor_.SelectRow(5);
-  editor_.SelectRow(static_cast<std::size_t>(-1));
-  EXPECT_EQ(editor_.List().SelectedRow(), 3U);
+  Editor.SelectRow(View);
+  Editor.SelectRow(5);
+  Editor.SelectRow(static_cast<std::size_t>(-1));
+  EXPECT_EQ(Editor.List().SelectedRow(), 3U);
 }
 
 // -- While a load or a save runs
@@ -91,60 +91,60 @@ TEST_F(EditorTest, APositionOutsideTheListSelectsNothingElse) {
 TEST_F(EditorTest, EventsDuringALoadChangeNothing) {
   Start();
   int disturbances = 0;
-  Editor* busyEditor = nullptr;
-  Editor editor(system_, [&](const LoadProgress&) {
+  tessera::Editor* busyEditor = nullptr;
+  tessera::Editor editor(Seams, [&](const LoadProgress&) {
     if (busyEditor != nullptr && busyEditor->Busy()) {
       ++disturbances;
       DoEverything(*busyEditor);
     }
   });
   busyEditor = &editor;
-  clock_.StepPerReading = 1;  // a long load
+  Clock.StepPerReading = 1;  // a long load
   editor.Load();
   editor.Activate();
   EXPECT_GT(disturbances, 2);
-  EXPECT_EQ(Shown(editor), Shown(editor_));
+  EXPECT_EQ(Shown(editor), Shown(Editor));
   EXPECT_FALSE(editor.Modified());
-  EXPECT_TRUE(messageBoxes_.Shown.empty());
-  EXPECT_TRUE(dialogs_.OpenRequests.empty());
-  EXPECT_TRUE(clipboard_.Texts.empty());
-  EXPECT_EQ(Ini(), iniContent);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
+  EXPECT_TRUE(Dialogs.OpenRequests.empty());
+  EXPECT_TRUE(Clipboard.Texts.empty());
+  EXPECT_EQ(Ini(), IniContent);
 }
 
 TEST_F(EditorTest, EventsDuringASaveChangeNothing) {
-  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
   Start();
   Assign(Pack, L"X");
-  const std::vector<std::wstring> before = Shown(editor_);
-  clock_.OnDoEvents = [this] { DoEverything(editor_); };
-  editor_.FileSaveAndRestart();
-  clock_.OnDoEvents = nullptr;
-  EXPECT_GT(clock_.DoEventsCount, 0);
+  const std::vector<std::wstring> before = Shown(Editor);
+  Clock.OnDoEvents = [this] { DoEverything(Editor); };
+  Editor.FileSaveAndRestart();
+  Clock.OnDoEvents = nullptr;
+  EXPECT_GT(Clock.DoEventsCount, 0);
   // The options, which the window does not open at such a time, reset the panel.
-  EXPECT_EQ(editor_.Panel().ChosenKey(), NoKeyChosen);
+  EXPECT_EQ(Editor.Panel().ChosenKey(), NoKeyChosen);
   Choose(L"X");
-  EXPECT_EQ(Shown(editor_), before);
-  EXPECT_TRUE(messageBoxes_.Shown.empty());
-  EXPECT_TRUE(clipboard_.Texts.empty());
-  EXPECT_EQ(std::count(log_.begin(), log_.end(), L"SendClose 7"), 1);
+  EXPECT_EQ(Shown(Editor), before);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
+  EXPECT_TRUE(Clipboard.Texts.empty());
+  EXPECT_EQ(std::count(Calls.begin(), Calls.end(), L"SendClose 7"), 1);
   EXPECT_NE(Ini().find("X=cm_Pack\r\n"), std::string::npos);
 }
 
 // -- Order
 
 TEST_F(EditorTest, TheStoredSortIsAppliedAtStart) {
-  SettingsFile() = "[Tessera]\r\nSortedList=1\r\nSortedColumn=2\r\nSortOrder=1\r\n";
+  StoredSettings() = "[Tessera]\r\nSortedList=1\r\nSortedColumn=2\r\nSortOrder=1\r\n";
   Start();
-  ASSERT_EQ(editor_.Rows().Count(), 3U);
-  EXPECT_EQ(editor_.Rows().At(0).CommandName, L"cm_View");
-  EXPECT_EQ(editor_.List().IconOf(Column::Command), HeaderIcon::Descending);
+  ASSERT_EQ(Editor.Rows().Count(), 3U);
+  EXPECT_EQ(Editor.Rows().At(0).CommandName, L"cm_View");
+  EXPECT_EQ(Editor.List().IconOf(Column::Command), HeaderIcon::Descending);
 }
 
 TEST_F(EditorTest, StoredSortValuesOutOfRangeAreRepairedAtStart) {
   for (const char* column : {"0", "7"}) {
-    SettingsFile() =
+    StoredSettings() =
         "[Tessera]\r\nSortedList=1\r\nSortOrder=5\r\nSortedColumn=" + std::string(column) + "\r\n";
-    Editor editor(system_, [](const LoadProgress&) {});
+    tessera::Editor editor(Seams, [](const LoadProgress&) {});
     editor.Load();
     editor.Activate();
     EXPECT_EQ(editor.Options().SortedColumn, 3);
@@ -158,24 +158,24 @@ TEST_F(EditorTest, StoredSortValuesOutOfRangeAreRepairedAtStart) {
 }
 
 TEST_F(EditorTest, AStoredFourthColumnReachesTheColumnClickAsNone) {
-  SettingsFile() = "[Tessera]\r\nSortedList=1\r\nSortedColumn=4\r\n";
+  StoredSettings() = "[Tessera]\r\nSortedList=1\r\nSortedColumn=4\r\n";
   Start();
-  EXPECT_EQ(editor_.Options().SortedColumn, 0);
-  EXPECT_EQ(editor_.List().IconOf(Column::Current), HeaderIcon::None);
+  EXPECT_EQ(Editor.Options().SortedColumn, 0);
+  EXPECT_EQ(Editor.List().IconOf(Column::Current), HeaderIcon::None);
 }
 
 TEST_F(EditorTest, ShortcutsAreSavedInTheOrderOfTheList) {
   Start();
-  editor_.ToggleSortedList();
-  editor_.ClickColumn(2);
-  ASSERT_EQ(editor_.Rows().At(1).CommandName, L"cm_Pack");
+  Editor.ToggleSortedList();
+  Editor.ClickColumn(2);
+  ASSERT_EQ(Editor.Rows().At(1).CommandName, L"cm_Pack");
   Assign(1, L"X");
-  editor_.FileSave();
+  Editor.FileSave();
   EXPECT_NE(Ini().find("[Shortcuts]\r\nF3=cm_Copy\r\nX=cm_Pack\r\nC+F3=cm_View\r\n"),
             std::string::npos);
-  editor_.ClickColumn(2);
+  Editor.ClickColumn(2);
   Assign(2, L"Y");
-  editor_.FileSave();
+  Editor.FileSave();
   EXPECT_NE(Ini().find("[Shortcuts]\r\nC+F3=cm_View\r\nX=cm_Pack\r\nY=cm_Copy\r\n"),
             std::string::npos);
 }
@@ -184,32 +184,32 @@ TEST_F(EditorTest, ShortcutsAreSavedInTheOrderOfTheList) {
 
 TEST_F(EditorTest, AChoiceInTheKeysListIsTheChoosers) {
   Start();
-  editor_.SelectRow(Pack);
-  EXPECT_EQ(editor_.ToggleKeysList().FocusTo, PanelReaction::Focus::Unchanged);
-  EXPECT_TRUE(editor_.AllKeys().Visible());
-  editor_.SelectInKeysList(5);
-  EXPECT_EQ(editor_.Panel().ChosenKey(), 5);
-  EXPECT_FALSE(editor_.AllKeys().Visible());
-  editor_.ChooseKey(7);
-  EXPECT_EQ(editor_.AllKeys().Selection(), 7);
+  Editor.SelectRow(Pack);
+  EXPECT_EQ(Editor.ToggleKeysList().FocusTo, PanelReaction::Focus::Unchanged);
+  EXPECT_TRUE(Editor.AllKeys().Visible());
+  Editor.SelectInKeysList(5);
+  EXPECT_EQ(Editor.Panel().ChosenKey(), 5);
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+  Editor.ChooseKey(7);
+  EXPECT_EQ(Editor.AllKeys().Selection(), 7);
 }
 
 TEST_F(EditorTest, SelectingARowClosesTheKeysList) {
   Start();
-  editor_.SelectRow(Pack);
-  editor_.ToggleKeysList();
-  editor_.SelectRow(View);
-  EXPECT_FALSE(editor_.AllKeys().Visible());
-  editor_.ToggleKeysList();
-  editor_.ToggleSortedList();
-  EXPECT_FALSE(editor_.AllKeys().Visible());
+  Editor.SelectRow(Pack);
+  Editor.ToggleKeysList();
+  Editor.SelectRow(View);
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+  Editor.ToggleKeysList();
+  Editor.ToggleSortedList();
+  EXPECT_FALSE(Editor.AllKeys().Visible());
 }
 
 TEST_F(EditorTest, TheKeysListDoesNotOpenForAHeadingRow) {
   Start();
-  editor_.SelectRow(Heading);
-  editor_.ToggleKeysList();
-  EXPECT_FALSE(editor_.AllKeys().Visible());
+  Editor.SelectRow(Heading);
+  Editor.ToggleKeysList();
+  EXPECT_FALSE(Editor.AllKeys().Visible());
 }
 
 }  // namespace

@@ -8,175 +8,175 @@ namespace {
 TEST_F(EditorTest, ASaveChangesSectionShortcutsAlone) {
   Start();
   Assign(Pack, L"X");
-  editor_.FileSave();
+  Editor.FileSave();
   EXPECT_EQ(Ini(),
             "[Configuration]\r\nkey=value\r\n"
             "[Shortcuts]\r\nF3=cm_Copy\r\nC+F3=cm_View\r\nX=cm_Pack\r\n"
             "[user]\r\nmenu1=Paint\r\nkey1=1\r\n"
             "[Colors]\r\nred=1\r\n");
-  EXPECT_EQ(files_.Contents[iniPath + L".bak"], iniContent);
+  EXPECT_EQ(Files.Contents[IniFile + L".bak"], IniContent);
 }
 
 TEST_F(EditorTest, ASaveReleasesAStartMenuKeyThatWasTaken) {
   Start();
-  editor_.SetBox(Modifier::Ctrl, true);
-  editor_.SetBox(Modifier::Alt, true);
-  messageBoxes_.Answers = {BoxAnswer::Yes};
+  Editor.SetBox(Modifier::Ctrl, true);
+  Editor.SetBox(Modifier::Alt, true);
+  MessageBoxes.Answers = {BoxAnswer::Yes};
   Assign(Pack, L"F1");
-  editor_.FileSave();
+  Editor.FileSave();
   EXPECT_NE(Ini().find("[user]\r\nmenu1=Paint\r\n[Colors]"), std::string::npos);
   EXPECT_NE(Ini().find("CA+F1=cm_Pack\r\n"), std::string::npos);
 }
 
 TEST_F(EditorTest, SavingWithoutChangesTouchesNothing) {
-  SettingsFile() = "[Tessera]\r\nAlwaysRestartTC=1\r\n";
-  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  StoredSettings() = "[Tessera]\r\nAlwaysRestartTC=1\r\n";
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
   Start();
-  files_.Reads = files_.Writes = clock_.DoEventsCount = 0;
-  editor_.FileSave();
-  editor_.FileSaveAndRestart();
-  EXPECT_EQ(files_.Reads, 0);
-  EXPECT_EQ(files_.Writes, 0);
-  EXPECT_EQ(clock_.DoEventsCount, 0);
-  EXPECT_TRUE(log_.empty()) << "Total Commander is not even asked to close";
+  Files.Reads = Files.Writes = Clock.DoEventsCount = 0;
+  Editor.FileSave();
+  Editor.FileSaveAndRestart();
+  EXPECT_EQ(Files.Reads, 0);
+  EXPECT_EQ(Files.Writes, 0);
+  EXPECT_EQ(Clock.DoEventsCount, 0);
+  EXPECT_TRUE(Calls.empty()) << "Total Commander is not even asked to close";
 }
 
 TEST_F(EditorTest, ASaveThatFailsKeepsTheChangesUnsaved) {
   Start();
   Assign(Pack, L"X");
-  files_.ReplaceErrors.assign(100, FileError::AccessDenied);
-  editor_.FileSave();
-  EXPECT_TRUE(editor_.Modified());
-  EXPECT_EQ(Ini(), iniContent);
-  EXPECT_NE(files_.Contents[iniPath + L".unsaved"].find("X=cm_Pack"), std::string::npos);
+  Files.ReplaceErrors.assign(100, FileError::AccessDenied);
+  Editor.FileSave();
+  EXPECT_TRUE(Editor.Modified());
+  EXPECT_EQ(Ini(), IniContent);
+  EXPECT_NE(Files.Contents[IniFile + L".unsaved"].find("X=cm_Pack"), std::string::npos);
 }
 
 TEST_F(EditorTest, WithoutTheSettingASaveNeverTouchesTotalCommander) {
-  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
   Start();
   Assign(Pack, L"X");
-  editor_.FileSave();
-  EXPECT_TRUE(log_.empty());
+  Editor.FileSave();
+  EXPECT_TRUE(Calls.empty());
 }
 
 TEST_F(EditorTest, SaveAndRestartClosesWritesAndStarts) {
-  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
   Start();
   Assign(Pack, L"X");
-  files_.Writes = 0;
-  clock_.OnDoEvents = [this] {
-    const std::wstring pause = files_.Writes == 0 ? L"pause before the write" : L"pause after it";
-    if (log_.back() != pause) {
-      log_.push_back(pause);
+  Files.Writes = 0;
+  Clock.OnDoEvents = [this] {
+    const std::wstring pause = Files.Writes == 0 ? L"pause before the write" : L"pause after it";
+    if (Calls.back() != pause) {
+      Calls.push_back(pause);
     }
   };
-  editor_.FileSaveAndRestart();
-  EXPECT_EQ(log_,
+  Editor.FileSaveAndRestart();
+  EXPECT_EQ(Calls,
             (Log{L"SetForeground 7", L"SendClose 7", L"pause before the write", L"SetForeground 7",
                  L"pause after it", L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""}));
-  EXPECT_FALSE(editor_.Modified());
-  EXPECT_EQ(editor_.Options().AlwaysRestartTC, 0);
+  EXPECT_FALSE(Editor.Modified());
+  EXPECT_EQ(Editor.Options().AlwaysRestartTC, 0);
 }
 
 TEST_F(EditorTest, WithTheSettingEverySaveRestartsAndOneThatIsNotRunningIsStarted) {
-  SettingsFile() = "[Tessera]\r\nAlwaysRestartTC=1\r\n";
+  StoredSettings() = "[Tessera]\r\nAlwaysRestartTC=1\r\n";
   Start();
   Assign(Pack, L"X");
-  programs_.StartSucceeds = false;
-  messageBoxes_.Answers = {BoxAnswer::Yes};
-  EXPECT_TRUE(editor_.QueryUnload());
-  EXPECT_EQ(log_, (Log{L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""}));
+  Programs.StartSucceeds = false;
+  MessageBoxes.Answers = {BoxAnswer::Yes};
+  EXPECT_TRUE(Editor.QueryUnload());
+  EXPECT_EQ(Calls, (Log{L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""}));
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
-  EXPECT_EQ(messageBoxes_.Shown.size(), 1U) << "a start that fails is not told";
+  EXPECT_EQ(MessageBoxes.Shown.size(), 1U) << "a start that fails is not told";
   Assign(Pack, L"Y");
-  editor_.FileSaveAndRestart();
-  EXPECT_EQ(log_.size(), 2U);
-  EXPECT_EQ(editor_.Options().AlwaysRestartTC, 1);
+  Editor.FileSaveAndRestart();
+  EXPECT_EQ(Calls.size(), 2U);
+  EXPECT_EQ(Editor.Options().AlwaysRestartTC, 1);
 }
 
 TEST_F(EditorTest, NothingIsDoneTwiceWhileASavePauses) {
-  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
   Start();
   Assign(Pack, L"X");
-  clock_.OnDoEvents = [this] {
-    EXPECT_TRUE(editor_.Busy());
-    editor_.FileSave();
-    editor_.DeleteKeys();
-    editor_.ToggleSortedList();
-    EXPECT_FALSE(editor_.QueryUnload());
+  Clock.OnDoEvents = [this] {
+    EXPECT_TRUE(Editor.Busy());
+    Editor.FileSave();
+    Editor.DeleteKeys();
+    Editor.ToggleSortedList();
+    EXPECT_FALSE(Editor.QueryUnload());
   };
-  editor_.FileSaveAndRestart();
-  clock_.OnDoEvents = nullptr;
-  EXPECT_FALSE(editor_.Busy());
-  EXPECT_EQ(std::count(log_.begin(), log_.end(), L"SendClose 7"), 1);
-  EXPECT_EQ(editor_.Rows().At(Pack).CurrentKeys, L"X");
+  Editor.FileSaveAndRestart();
+  Clock.OnDoEvents = nullptr;
+  EXPECT_FALSE(Editor.Busy());
+  EXPECT_EQ(std::count(Calls.begin(), Calls.end(), L"SendClose 7"), 1);
+  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"X");
 }
 
 TEST_F(EditorTest, SaveAndRestartIsEnabledOnlyWhileTotalCommanderRunsAndChangesWait) {
   Start();
   Assign(Pack, L"X");
-  editor_.RefreshRestartItems();
-  EXPECT_FALSE(editor_.SaveAndRestartEnabled());
-  EXPECT_FALSE(editor_.RestartButtonEnabled());
-  programs_.Windows[L"TTOTAL_CMD"] = 7;
-  editor_.RefreshRestartItems();
-  EXPECT_TRUE(editor_.SaveAndRestartEnabled());
-  EXPECT_TRUE(editor_.RestartButtonEnabled());
-  editor_.FileSave();
-  editor_.RefreshRestartItems();
-  EXPECT_FALSE(editor_.SaveAndRestartEnabled());
-  EXPECT_TRUE(editor_.RestartButtonEnabled());
+  Editor.RefreshRestartItems();
+  EXPECT_FALSE(Editor.SaveAndRestartEnabled());
+  EXPECT_FALSE(Editor.RestartButtonEnabled());
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Editor.RefreshRestartItems();
+  EXPECT_TRUE(Editor.SaveAndRestartEnabled());
+  EXPECT_TRUE(Editor.RestartButtonEnabled());
+  Editor.FileSave();
+  Editor.RefreshRestartItems();
+  EXPECT_FALSE(Editor.SaveAndRestartEnabled());
+  EXPECT_TRUE(Editor.RestartButtonEnabled());
 }
 
 // -- Closing
 
 TEST_F(EditorTest, WithoutChangesItClosesWithoutAQuestion) {
   Start();
-  EXPECT_TRUE(editor_.QueryUnload());
-  EXPECT_TRUE(messageBoxes_.Shown.empty());
+  EXPECT_TRUE(Editor.QueryUnload());
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
 }
 
 TEST_F(EditorTest, CancelKeepsTheProgramRunningWithItsEdits) {
   Start();
   Assign(Pack, L"X");
-  messageBoxes_.Answers = {BoxAnswer::Cancel};
-  EXPECT_FALSE(editor_.QueryUnload());
-  EXPECT_TRUE(editor_.Modified());
-  EXPECT_EQ(Ini(), iniContent);
+  MessageBoxes.Answers = {BoxAnswer::Cancel};
+  EXPECT_FALSE(Editor.QueryUnload());
+  EXPECT_TRUE(Editor.Modified());
+  EXPECT_EQ(Ini(), IniContent);
 }
 
 TEST_F(EditorTest, NoClosesWithoutSaving) {
   Start();
   Assign(Pack, L"X");
-  messageBoxes_.Answers = {BoxAnswer::No};
-  EXPECT_TRUE(editor_.QueryUnload());
-  EXPECT_EQ(Ini(), iniContent);
+  MessageBoxes.Answers = {BoxAnswer::No};
+  EXPECT_TRUE(Editor.QueryUnload());
+  EXPECT_EQ(Ini(), IniContent);
 }
 
 TEST_F(EditorTest, YesSavesAndCloses) {
   Start();
   Assign(Pack, L"X");
-  messageBoxes_.Answers = {BoxAnswer::Yes};
-  EXPECT_TRUE(editor_.QueryUnload());
+  MessageBoxes.Answers = {BoxAnswer::Yes};
+  EXPECT_TRUE(Editor.QueryUnload());
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
 }
 
 TEST_F(EditorTest, ASaveThatFailsBeeps) {
   Start();
   Assign(Pack, L"X");
-  files_.ReplaceErrors.assign(100, FileError::AccessDenied);
-  editor_.FileSave();
-  EXPECT_TRUE(editor_.Modified());
-  EXPECT_EQ(messageBoxes_.BeepCount, 1);
+  Files.ReplaceErrors.assign(100, FileError::AccessDenied);
+  Editor.FileSave();
+  EXPECT_TRUE(Editor.Modified());
+  EXPECT_EQ(MessageBoxes.BeepCount, 1);
 }
 
 TEST_F(EditorTest, ItDoesNotCloseOverASaveThatFailed) {
   Start();
   Assign(Pack, L"X");
-  messageBoxes_.Answers = {BoxAnswer::Yes};
-  files_.ReplaceErrors.assign(100, FileError::AccessDenied);
-  EXPECT_FALSE(editor_.QueryUnload());
-  EXPECT_EQ(messageBoxes_.BeepCount, 1);
+  MessageBoxes.Answers = {BoxAnswer::Yes};
+  Files.ReplaceErrors.assign(100, FileError::AccessDenied);
+  EXPECT_FALSE(Editor.QueryUnload());
+  EXPECT_EQ(MessageBoxes.BeepCount, 1);
 }
 
 }  // namespace

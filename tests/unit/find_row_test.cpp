@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/FindRow.h"
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
 
 namespace tessera {
 

@@ -1,30 +1,25 @@
 // Values that no one should store anywhere: the program starts, works and saves all the same.
 #include <gtest/gtest.h>
 
-#include "tests/unit/editor_world.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/MemoryFiles.h"
+#include "tests/support/SampleProgram.h"
 
 namespace tessera {
 namespace {
 
-using world::IniFile;
-using world::SettingsFile;
-using World = world::EditorWorld<MemoryFiles>;
-
-constexpr std::size_t Copy = 1;
-constexpr std::size_t Pack = 4;
+using World = SampleProgram<MemoryFiles>;
 
 /// Edits, sorts, saves and closes as a user would.
 void ExpectWorkingProgram(World& world) {
-  ASSERT_EQ(world.Program.Rows().Count(), 5U);
+  ASSERT_EQ(world.Editor.Rows().Count(), 5U);
   world.Assign(Pack, 1, L"J");
-  EXPECT_TRUE(world.Program.Modified());
-  world.Program.ToggleSortedList();
-  world.Program.ToggleSortedList();
-  world.Program.FileSave();
-  EXPECT_FALSE(world.Program.Modified());
-  EXPECT_TRUE(world.Program.QueryUnload());
-  world.Program.Unload({}, ReadColumnLayout(world.Program.Options()));
+  EXPECT_TRUE(world.Editor.Modified());
+  world.Editor.ToggleSortedList();
+  world.Editor.ToggleSortedList();
+  world.Editor.FileSave();
+  EXPECT_FALSE(world.Editor.Modified());
+  EXPECT_TRUE(world.Editor.QueryUnload());
+  world.Editor.Unload({}, ReadColumnLayout(world.Editor.Options()));
 }
 
 TEST(HostileValues, SettingsOutOfRangeAndNoNumbersLeaveAWorkingProgram) {
@@ -61,8 +56,8 @@ TEST(HostileValues, SettingsOutOfRangeAndNoNumbersLeaveAWorkingProgram) {
     world.Start();
     SCOPED_TRACE(value);
     ExpectWorkingProgram(world);
-    EXPECT_GE(world.Program.Options().NumberOfRecentFiles, 2);
-    EXPECT_LE(world.Program.Options().NumberOfRecentFiles, 16);
+    EXPECT_GE(world.Editor.Options().NumberOfRecentFiles, 2);
+    EXPECT_LE(world.Editor.Options().NumberOfRecentFiles, 16);
   }
 }
 
@@ -90,17 +85,17 @@ TEST(HostileValues, LongPathsAreOpenedAndSaved) {
     const std::wstring path =
         std::wstring(L"C:\\").append(length - 17, L'd').append(L"\\f\\Wincmd.ini");
     world.Files.Contents[path] = "[Shortcuts]\r\nA+V=cm_Copy\r\n";
-    world.Program.OpenShortcutFile(false, path, true);
-    EXPECT_EQ(world.Program.Rows().At(Copy).CurrentKeys, L"Alt + V");
+    world.Editor.OpenShortcutFile(false, path, true);
+    EXPECT_EQ(world.Editor.Rows().At(Copy).CurrentKeys, L"Alt + V");
     world.Assign(Pack, 0, L"X");
-    world.Program.FileSave();
+    world.Editor.FileSave();
     EXPECT_EQ(world.Files.Contents[path], "[Shortcuts]\r\nA+V=cm_Copy\r\nX=cm_Pack\r\n");
     EXPECT_EQ(world.Files.Contents[path + L".bak"], "[Shortcuts]\r\nA+V=cm_Copy\r\n");
     // A path beyond the buffer of a read comes back cut, and is then reported as missing.
     World next;
     next.Files.Contents = world.Files.Contents;
     next.Start();
-    next.Program.OpenRecentFile(2);
+    next.Editor.OpenRecentFile(2);
     EXPECT_EQ(next.MessageBoxes.Shown.size(), length < ProfileBufferLength ? 0U : 1U);
   }
 }
@@ -114,7 +109,7 @@ TEST(HostileValues, ALanguageFileIsShownAsItIs) {
       "&&\x1B[\r\n3060=%99999999s\r\n404=%s\r\n405=&\r\n406=\x07\r\n";
   world.Files.Contents[IniFile] = "[Shortcuts]\r\nCAS+F1=cm_Copy\r\n";
   world.Start();
-  EXPECT_EQ(world.Program.Rows().At(Copy).CurrentKeys, L"%s + & + Shift + F1")
+  EXPECT_EQ(world.Editor.Rows().At(Copy).CurrentKeys, L"%s + & + Shift + F1")
       << "a name of control characters alone is no name";
   world.MessageBoxes.Answers = {BoxAnswer::No};
   world.Assign(Pack, 0, L"F5");
@@ -122,7 +117,7 @@ TEST(HostileValues, ALanguageFileIsShownAsItIs) {
   EXPECT_EQ(world.MessageBoxes.Shown[0].Text,
             L"%s%n%d\x01 &&\x1B[  cm_Copy\t\n\n%99999999s  cm_Pack\t");
   world.Assign(Pack, 7, L"F2");
-  world.Program.FileSave();
+  world.Editor.FileSave();
   EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nCAS+F1=cm_Copy\r\nCAS+F2=cm_Pack\r\n");
 }
 
@@ -132,14 +127,14 @@ TEST(HostileValues, AColumnOfManyKeysIsReadEditedAndSaved) {
   for (int i = 0; i < 1000; ++i) lines += "K" + std::to_string(i) + "=cm_Copy\r\n";
   world.Files.Contents[IniFile] = "[Shortcuts]\r\n" + lines;
   world.Start();
-  EXPECT_GT(world.Program.Rows().At(Copy).CurrentKeys.size(), 5000U);
-  world.Program.SelectRow(Copy);
+  EXPECT_GT(world.Editor.Rows().At(Copy).CurrentKeys.size(), 5000U);
+  world.Editor.SelectRow(Copy);
   world.Compose(1, L"J");
-  world.Program.AddKey();
-  world.Program.FileSave();
+  world.Editor.AddKey();
+  world.Editor.FileSave();
   EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\n" + lines + "C+J=cm_Copy\r\n");
-  world.Program.DeleteKeys();
-  world.Program.FileSave();
+  world.Editor.DeleteKeys();
+  world.Editor.FileSave();
   EXPECT_EQ(world.Files.Contents[IniFile], "");
 }
 
@@ -152,14 +147,14 @@ TEST(HostileValues, ThirtyThousandShortcutsAreReadAndSaved) {
     commands += "cm_N" + number + "=" + number + ";n\r\n";
     lines += "K" + number + "=cm_N" + number + "\r\n";
   }
-  world.Files.Contents[world::IncFile] = commands;
-  world.Files.Contents[world::DataFile] = "";
+  world.Files.Contents[IncFile] = commands;
+  world.Files.Contents[DataFile] = "";
   world.Files.Contents[IniFile] = "[Shortcuts]\r\n" + lines + "[a]\nb";
   world.Start();
-  ASSERT_EQ(world.Program.Rows().Count(), 30'000U);
-  EXPECT_EQ(world.Program.Rows().At(29'999).CurrentKeys, L"K29999");
+  ASSERT_EQ(world.Editor.Rows().Count(), 30'000U);
+  EXPECT_EQ(world.Editor.Rows().At(29'999).CurrentKeys, L"K29999");
   world.Assign(29'999, 0, L"X");
-  world.Program.FileSave();
+  world.Editor.FileSave();
   lines.replace(lines.rfind("K29999"), 6, "X");
   EXPECT_TRUE(world.Files.Contents[IniFile] == "[Shortcuts]\r\n" + lines + "[a]\nb");
 }
@@ -173,8 +168,8 @@ TEST(HostileValues, AFileOfFiftyMegabytesIsSavedInOneSection) {
   world.Files.Contents[IniFile] = before + "[Shortcuts]\nF3=cm_Copy\n" + after;
   world.Start();
   world.Assign(Pack, 0, L"X");
-  world.Program.FileSave();
-  EXPECT_FALSE(world.Program.Modified());
+  world.Editor.FileSave();
+  EXPECT_FALSE(world.Editor.Modified());
   EXPECT_TRUE(world.Files.Contents[IniFile] ==
               before + "[Shortcuts]\nF3=cm_Copy\r\nX=cm_Pack\r\n" + after);
 }
@@ -184,16 +179,16 @@ TEST(HostileValues, FilesThatVanishWhileOpenAreMadeAnewOrAskedFor) {
   world.Files.Contents[IniFile] = "[Shortcuts]\r\nF3=cm_Copy\r\n";
   world.Start();
   world.Assign(Pack, 0, L"X");
-  for (const std::wstring& path : {IniFile, SettingsFile, world::IncFile, world::DataFile}) {
+  for (const std::wstring& path : {IniFile, SettingsFile, IncFile, DataFile}) {
     world.Files.Contents.erase(path);
   }
-  world.Program.FileSave();
-  EXPECT_FALSE(world.Program.Modified());
+  world.Editor.FileSave();
+  EXPECT_FALSE(world.Editor.Modified());
   EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nF3=cm_Copy\r\nX=cm_Pack\r\n");
-  world.Program.OpenShortcutFile(false, IniFile, false);
-  EXPECT_EQ(world.Program.Rows().Count(), 5U) << "the commands are read once";
+  world.Editor.OpenShortcutFile(false, IniFile, false);
+  EXPECT_EQ(world.Editor.Rows().Count(), 5U) << "the commands are read once";
   EXPECT_EQ(world.MessageBoxes.Shown.size(), 1U) << "about the default keys";
-  world.Program.Unload({}, {});
+  world.Editor.Unload({}, {});
   EXPECT_TRUE(world.Files.Contents.contains(SettingsFile));
 }
 
@@ -211,10 +206,10 @@ TEST(HostileValues, ARegistryValueOfAnotherTypeOrWithoutItsEndLeadsToTheQuestion
     }
     world.Start();
     EXPECT_EQ(world.Dialogs.OpenRequests.size(), 1U);
-    EXPECT_EQ(world.Program.Rows().Count(), 0U);
-    EXPECT_FALSE(world.Program.Modified());
+    EXPECT_EQ(world.Editor.Rows().Count(), 0U);
+    EXPECT_FALSE(world.Editor.Modified());
     world.Files.Contents[IniFile] = "";
-    world.Program.OpenShortcutFile(false, IniFile, false);
+    world.Editor.OpenShortcutFile(false, IniFile, false);
     ExpectWorkingProgram(world);
   }
 }
@@ -229,15 +224,15 @@ class LockedFolder final : public MemoryFiles {
 };
 
 TEST(HostileValues, AProgramFolderThatCannotBeWrittenStopsNothing) {
-  world::EditorWorld<LockedFolder> world;
+  SampleProgram<LockedFolder> world;
   world.Start();
   world.Assign(Pack, 0, L"X");
-  world.Program.FileSave();
-  EXPECT_FALSE(world.Program.Modified());
+  world.Editor.FileSave();
+  EXPECT_FALSE(world.Editor.Modified());
   EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nX=cm_Pack\r\n");
-  world.Program.Unload({}, {});
+  world.Editor.Unload({}, {});
   EXPECT_FALSE(world.Files.Contents.contains(SettingsFile));
-  EXPECT_EQ(world.Program.Options().MainWindowWidth, 0) << "as given to Unload";
+  EXPECT_EQ(world.Editor.Options().MainWindowWidth, 0) << "as given to Unload";
 }
 
 TEST(HostileValues, ARecentFileOnAMissingDriveIsReportedAndGoes) {
@@ -245,7 +240,7 @@ TEST(HostileValues, ARecentFileOnAMissingDriveIsReportedAndGoes) {
   world.Files.Contents[SettingsFile] =
       "[Tessera]\r\nRecentFiles1=Q:\\gone\\Wincmd.ini\r\nRecentFiles2=C:\\TC\\Wincmd.ini\r\n";
   world.Start();
-  world.Program.OpenRecentFile(2);
+  world.Editor.OpenRecentFile(2);
   ASSERT_EQ(world.MessageBoxes.Shown.size(), 1U);
   EXPECT_NE(world.MessageBoxes.Shown[0].Text.find(L"Q:\\gone\\Wincmd.ini"), std::wstring::npos);
   EXPECT_EQ(world.Files.Contents[SettingsFile].find("gone"), std::string::npos);

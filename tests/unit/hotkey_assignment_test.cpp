@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "editing/HotkeyAssignment.h"
-#include "tests/unit/fakes/FakeMessageBoxes.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeMessageBoxes.h"
+#include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera {

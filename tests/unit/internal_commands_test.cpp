@@ -5,7 +5,7 @@
 #include <string>
 
 #include "shortcuts/InternalCommands.h"
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
 
 namespace tessera {
 namespace {

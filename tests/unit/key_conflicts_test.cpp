@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "editing/KeyConflicts.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "editing/KeysList.h"
-#include "tests/unit/fakes/FakeMessageBoxes.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeMessageBoxes.h"
+#include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/LoadProgress.h"
-#include "tests/unit/fakes/FakeClock.h"
+#include "tests/support/FakeClock.h"
 
 namespace tessera {
 namespace {

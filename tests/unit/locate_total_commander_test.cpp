@@ -5,9 +5,9 @@
 
 #include "settings/commander/LocateTotalCommander.h"
 #include "settings/ini/MissingMarker.h"
-#include "tests/unit/fakes/FakeEnvironment.h"
-#include "tests/unit/fakes/FakeRegistry.h"
-#include "tests/unit/fakes/FaultyFiles.h"
+#include "tests/support/FakeEnvironment.h"
+#include "tests/support/FakeRegistry.h"
+#include "tests/support/FaultyFiles.h"
 
 namespace tessera {
 namespace {

@@ -5,8 +5,8 @@
 #include "dialogs/cFontDlg.h"
 #include "options/OptionsSelection.h"
 #include "settings/ini/MissingMarker.h"
-#include "tests/unit/fakes/FakeDialogs.h"
-#include "tests/unit/fakes/FakeEnvironment.h"
+#include "tests/support/FakeDialogs.h"
+#include "tests/support/FakeEnvironment.h"
 
 namespace tessera {
 namespace {

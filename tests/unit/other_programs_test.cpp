@@ -4,16 +4,13 @@
 #include <optional>
 #include <utility>
 
-#include "tests/unit/editor_world.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/MemoryFiles.h"
+#include "tests/support/SampleProgram.h"
 
 namespace tessera {
 namespace {
 
-using world::IniFile;
-
 const std::wstring OtherFile = L"C:\\TC\\keys.ini";
-constexpr std::size_t Pack = 4;
 
 /// From the moment in which a save has read it, another program holds one file until the clock has
 /// moved on so far, and then may write it; held for no time, it is written at that very moment.
@@ -50,7 +47,7 @@ class HeldFiles final : public MemoryFiles {
   bool isSaving_ = false;
 };
 
-using World = world::EditorWorld<HeldFiles>;
+using World = SampleProgram<HeldFiles>;
 
 /// Text before section "Shortcuts", its lines, text behind it.
 struct Parts {
@@ -71,7 +68,7 @@ void Start(World& world, const std::wstring& file) {
   world.Files.Contents[file] = Old.Whole();
   world.Start();
   world.Assign(Pack, 0, L"X");
-  ASSERT_TRUE(world.Program.Modified());
+  ASSERT_TRUE(world.Editor.Modified());
 }
 
 TEST(OtherPrograms, AFileHeldForAWhileIsSavedWithinTwoSecondsOrLeftAsItWas) {
@@ -80,9 +77,9 @@ TEST(OtherPrograms, AFileHeldForAWhileIsSavedWithinTwoSecondsOrLeftAsItWas) {
       World world;
       Start(world, file);
       world.Files.HeldFor = held;
-      world.Program.FileSave();
+      world.Editor.FileSave();
       const bool gaveUp = held > 2000;
-      ASSERT_EQ(world.Program.Modified(), gaveUp) << held;
+      ASSERT_EQ(world.Editor.Modified(), gaveUp) << held;
       const Parts expected{Old.Before, gaveUp ? Old.Keys : Unsaved, Old.Behind};
       ASSERT_EQ(world.Files.Contents[file], expected.Whole()) << held;
       ASSERT_EQ(world.Files.Contents.contains(file + L".unsaved"), gaveUp) << held;
@@ -97,8 +94,8 @@ TEST(OtherPrograms, WhatOneWroteWhileItHeldTheFileStays) {
     Start(world, file);
     world.Files.HeldFor = 500;
     world.Files.Written = Old.Whole() + "\n[Last]\nc";
-    world.Program.FileSave();
-    EXPECT_FALSE(world.Program.Modified());
+    world.Editor.FileSave();
+    EXPECT_FALSE(world.Editor.Modified());
     EXPECT_EQ(world.Files.Contents[file],
               (Parts{Old.Before, Unsaved, Old.Behind + "\n[Last]\nc"}.Whole()));
   }
@@ -109,8 +106,8 @@ TEST(OtherPrograms, WhatOneWroteWhileTheSaveWasPreparedStays) {
     World world;
     Start(world, file);
     world.Files.Written = Old.Whole() + "\n[Last]\nc";
-    world.Program.FileSave();
-    EXPECT_FALSE(world.Program.Modified());
+    world.Editor.FileSave();
+    EXPECT_FALSE(world.Editor.Modified());
     EXPECT_EQ(world.Files.Contents[file],
               (Parts{Old.Before, Unsaved, Old.Behind + "\n[Last]\nc"}.Whole()));
   }
@@ -121,7 +118,7 @@ TEST(OtherPrograms, WhatOneWroteBetweenOpenAndSaveStays) {
     World world;
     Start(world, file);
     world.Files.Contents[file] = Parts{"[New]\na=b\n" + Old.Before, Old.Keys, "[Last]\nc"}.Whole();
-    world.Program.FileSave();
+    world.Editor.FileSave();
     EXPECT_EQ(world.Files.Contents[file],
               (Parts{"[New]\na=b\n" + Old.Before, Unsaved, "[Last]\nc"}.Whole()));
   }
@@ -132,14 +129,13 @@ TEST(OtherPrograms, SettingsHeldForAWhileAreSavedOrLeftAsTheyWere) {
   for (int held = 100; held <= 3000; held += 100) {
     World world;
     world.Files.Clock = &world.Clock;
-    world.Files.Held = world::SettingsFile;
-    world.Files.Contents[world::SettingsFile] = stored;
+    world.Files.Held = SettingsFile;
+    world.Files.Contents[SettingsFile] = stored;
     world.Start();
-    const std::string before = world.Files.Contents[world::SettingsFile] +=
-        "[Meanwhile]\n\xE4 = 1\n";
+    const std::string before = world.Files.Contents[SettingsFile] += "[Meanwhile]\n\xE4 = 1\n";
     world.Files.HeldFor = held;
-    world.Program.Unload({.Left = 100}, {});
-    const std::string& after = world.Files.Contents[world::SettingsFile];
+    world.Editor.Unload({.Left = 100}, {});
+    const std::string& after = world.Files.Contents[SettingsFile];
     ASSERT_EQ(after == before, held > 2000) << held;
     ASSERT_TRUE(after.starts_with("[Other]\nx=1\n[Tessera]\r\n")) << held;
     ASSERT_TRUE(after.ends_with("[Meanwhile]\n\xE4 = 1\n") ||

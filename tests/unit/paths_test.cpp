@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/unit/fakes/FakeEnvironment.h"
-#include "tests/unit/fakes/FaultyFiles.h"
+#include "tests/support/FakeEnvironment.h"
+#include "tests/support/FaultyFiles.h"
 
 namespace tessera {
 namespace {

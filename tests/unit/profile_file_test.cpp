@@ -5,8 +5,8 @@
 
 #include "settings/ini/MissingMarker.h"
 #include "settings/ini/ProfileFile.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/MemoryFiles.h"
 
 namespace tessera {
 namespace {

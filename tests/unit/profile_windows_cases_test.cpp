@@ -7,8 +7,8 @@
 
 #include "settings/cProfile.h"
 #include "settings/ini/IniDocument.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/MemoryFiles.h"
 #include "text/Text.h"
 
 namespace tessera {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "shortcuts/RedirectSection.h"
-#include "tests/unit/fakes/FakeEnvironment.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeEnvironment.h"
+#include "tests/support/MemoryFiles.h"
 
 namespace tessera {
 namespace {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "settings/ini/ReplaceContent.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/FaultyFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/FaultyFiles.h"
 
 namespace tessera {
 namespace {

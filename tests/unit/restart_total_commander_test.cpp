@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "settings/commander/RestartTotalCommander.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/FakeEnvironment.h"
-#include "tests/unit/fakes/FakePrograms.h"
-#include "tests/unit/fakes/FaultyFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/FakeEnvironment.h"
+#include "tests/support/FakePrograms.h"
+#include "tests/support/FaultyFiles.h"
 
 namespace tessera {
 namespace {

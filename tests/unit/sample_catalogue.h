@@ -2,7 +2,7 @@
 #pragma once
 
 #include "shortcuts/Catalogue.h"
-#include "tests/unit/kept.h"
+#include "tests/support/Kept.h"
 
 namespace tessera {
 

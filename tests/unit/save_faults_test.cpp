@@ -7,15 +7,14 @@
 #include <memory>
 #include <optional>
 
-#include "tests/unit/editor_world.h"
-#include "tests/unit/fakes/FaultyFiles.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FaultyFiles.h"
+#include "tests/support/MemoryFiles.h"
+#include "tests/support/SampleProgram.h"
 
 namespace tessera {
 namespace {
 
-using world::IniFile;
-using World = world::EditorWorld<FaultyFiles>;
+using World = SampleProgram<FaultyFiles>;
 using Lasts = FaultyFiles::FaultLasts;
 using FileTable = std::map<std::wstring, std::string>;
 
@@ -29,7 +28,6 @@ constexpr FileError Faults[] = {FileError::AccessDenied,
                                 FileError::UnableToMoveReplacement2};
 
 const std::wstring OtherFile = L"C:\\TC\\keys.ini";
-constexpr std::size_t Pack = 4;
 
 /// One way of saving: the files that it writes, and how.
 struct Scenario {
@@ -51,7 +49,7 @@ void TakeKeys(World& world) {
 }
 
 std::vector<Scenario> Scenarios() {
-  const auto save = [](World& world) { world.Program.FileSave(); };
+  const auto save = [](World& world) { world.Editor.FileSave(); };
   return {
       {"Wincmd.ini",
        {IniFile},
@@ -72,15 +70,15 @@ std::vector<Scenario> Scenarios() {
        },
        save},
       {"vantor.ini",
-       {world::SettingsFile},
+       {SettingsFile},
        false,
        [](World& world) {
          world.Files.Contents[IniFile] = Content;
-         world.Files.Contents[world::SettingsFile] =
+         world.Files.Contents[SettingsFile] =
              "[Other]\nx=1\n[Tessera]\r\nFontSize=12\r\nMainWindowLeft=7";
          world.Start();
        },
-       [](World& world) { world.Program.Unload({.Left = 100, .Width = 9000}, {}); }},
+       [](World& world) { world.Editor.Unload({.Left = 100, .Width = 9000}, {}); }},
   };
 }
 
@@ -176,7 +174,7 @@ bool SaveWithFault(const Scenario& scenario, const Contents& contents, int call,
   files.FaultStays = lasts;
   scenario.Save(*world);
   if (files.CallCount <= call) return false;
-  const bool modified = world->Program.Modified();
+  const bool modified = world->Editor.Modified();
   for (const std::wstring& path : scenario.Written) {
     CheckFile(scenario, contents, files, path, modified);
   }
@@ -190,7 +188,7 @@ bool SaveWithFault(const Scenario& scenario, const Contents& contents, int call,
     EXPECT_TRUE(Holds(files, path, contents.New.at(path)));
     EXPECT_FALSE(modified && files.Contents.contains(path + L".tessera-old"));
   }
-  EXPECT_FALSE(world->Program.Modified());
+  EXPECT_FALSE(world->Editor.Modified());
   return true;
 }
 
@@ -259,7 +257,7 @@ TEST(SaveFaults, AReplaceThatFailsLeavesThePreparedContentAsUnsaved) {
       const std::wstring& path = scenario.Written.front();
       EXPECT_TRUE(Holds(world->Files, path, contents.Old.at(path)));
       EXPECT_TRUE(Holds(world->Files, path + L".unsaved", contents.New.at(path)));
-      EXPECT_TRUE(world->Program.Modified());
+      EXPECT_TRUE(world->Editor.Modified());
       world->Files.ReplaceErrors.clear();
       scenario.Save(*world);
       EXPECT_TRUE(world->Files.Contents == contents.New);
@@ -270,49 +268,49 @@ TEST(SaveFaults, AReplaceThatFailsLeavesThePreparedContentAsUnsaved) {
 TEST(SaveFaults, AFileThatCouldNotBeReadAtTheOpenIsNotSaved) {
   World world;
   world.Files.Contents[IniFile] = Content;
-  world.Program.Load();
+  world.Editor.Load();
   world.Files.ReadErrors.assign(8, FileError::SharingViolation);  // as often as it is tried
-  world.Program.Activate();
+  world.Editor.Activate();
   ASSERT_TRUE(world.Files.ReadErrors.empty());
-  ASSERT_EQ(world.Program.Rows().Count(), 5U);
+  ASSERT_EQ(world.Editor.Rows().Count(), 5U);
   world.Assign(Pack, 0, L"X");
-  EXPECT_TRUE(world.Program.Modified());
-  world.Program.FileSave();
+  EXPECT_TRUE(world.Editor.Modified());
+  world.Editor.FileSave();
   EXPECT_EQ(world.Files.Contents[IniFile], Content);
-  EXPECT_TRUE(world.Program.Modified());
+  EXPECT_TRUE(world.Editor.Modified());
   EXPECT_EQ(world.MessageBoxes.BeepCount, 1);
 
   world.MessageBoxes.Answers = {BoxAnswer::No};
-  world.Program.OpenShortcutFile(false, IniFile, false);
+  world.Editor.OpenShortcutFile(false, IniFile, false);
   world.Assign(Pack, 0, L"X");
-  world.Program.FileSave();
-  EXPECT_FALSE(world.Program.Modified());
+  world.Editor.FileSave();
+  EXPECT_FALSE(world.Editor.Modified());
   EXPECT_NE(world.Files.Contents[IniFile].find("C+F3=cm_View\r\n"), std::string::npos);
 }
 
 TEST(SaveFaults, AFileThatIsHeldForAMomentIsReadAllTheSame) {
   World world;
   world.Files.Contents[IniFile] = Content;
-  world.Program.Load();
+  world.Editor.Load();
   world.Files.ReadErrors.assign(3, FileError::SharingViolation);
-  world.Program.Activate();
-  EXPECT_EQ(world.Program.Rows().At(1).CurrentKeys, L"F3");
+  world.Editor.Activate();
+  EXPECT_EQ(world.Editor.Rows().At(1).CurrentKeys, L"F3");
   world.Assign(Pack, 0, L"X");
   world.Files.ReadErrors.assign(3, FileError::LockViolation);
-  world.Program.FileSave();
-  EXPECT_FALSE(world.Program.Modified());
+  world.Editor.FileSave();
+  EXPECT_FALSE(world.Editor.Modified());
 }
 
 TEST(SaveFaults, SettingsThatCouldNotBeReadAreNotReplacedByDefaults) {
   World world;
   const std::string stored = "[Tessera]\r\nFontSize=20\r\n";
   for (const FileError fault : Faults) {
-    world.Files.Contents[world::SettingsFile] = stored;
+    world.Files.Contents[SettingsFile] = stored;
     world.Files.ReadErrors.assign(100, fault);
-    world.Program.Load();
+    world.Editor.Load();
     world.Files.ReadErrors.clear();
-    world.Program.Unload({}, {});
-    EXPECT_EQ(world.Files.Contents[world::SettingsFile], stored);
+    world.Editor.Unload({}, {});
+    EXPECT_EQ(world.Files.Contents[SettingsFile], stored);
   }
 }
 

@@ -6,10 +6,10 @@
 
 #include "shortcuts/SaveShortcuts.h"
 #include "shortcuts/WincmdIni.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/FakeEnvironment.h"
-#include "tests/unit/fakes/MemoryFiles.h"
-#include "tests/unit/kept.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/FakeEnvironment.h"
+#include "tests/support/Kept.h"
+#include "tests/support/MemoryFiles.h"
 
 namespace tessera {
 namespace {

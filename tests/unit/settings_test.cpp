@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "settings/ini/MissingMarker.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/FakeEnvironment.h"
-#include "tests/unit/fakes/FaultyFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/FakeEnvironment.h"
+#include "tests/support/FaultyFiles.h"
 
 namespace tessera {
 namespace {

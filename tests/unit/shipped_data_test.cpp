@@ -14,9 +14,9 @@
 #include "shortcuts/InternalCommands.h"
 #include "shortcuts/SaveShortcuts.h"
 #include "shortcuts/WincmdIni.h"
-#include "tests/unit/fakes/FakeClock.h"
-#include "tests/unit/fakes/FakeEnvironment.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/FakeEnvironment.h"
+#include "tests/support/MemoryFiles.h"
 #include "text/Text.h"
 
 namespace tessera {

@@ -13,7 +13,7 @@
 #include "localisation/TextTable.h"
 #include "settings/ini/ProfileFile.h"
 #include "shortcuts/HotkeyNotation.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/MemoryFiles.h"
 #include "text/Text.h"
 #include "text/Trim.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "shortcuts/StartMenuKeys.h"
-#include "tests/unit/fakes/MemoryFiles.h"
+#include "tests/support/MemoryFiles.h"
 
 namespace tessera {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/unit/fakes/FaultyFiles.h"
+#include "tests/support/FaultyFiles.h"
 
 namespace tessera {
 namespace {

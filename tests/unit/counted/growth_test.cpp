@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
-#include "benchmarks/SampleProgram.h"
 #include "export/ClipboardTable.h"
 #include "localisation/Texts.h"
 #include "settings/ini/IniDocument.h"
+#include "tests/support/LargeProgram.h"
 
 namespace {
 
@@ -45,7 +45,7 @@ double BlocksOf(Work work) {
 template <typename Work>
 double GrowthOf(Work work) {
   const auto blocksFor = [&](int commands) {
-    SampleProgram program(commands);
+    LargeProgram program(commands);
     program.Start();
     // The first edit makes the indexes that edits need.
     program.Editor.SelectRow(1);
@@ -60,7 +60,7 @@ double GrowthOf(Work work) {
 
 TEST(Growth, OpeningGrowsAsTheCommands) {
   const auto blocksFor = [](int commands) {
-    SampleProgram program(commands);
+    LargeProgram program(commands);
     program.Editor.Load();
     return BlocksOf([&] { program.Editor.Activate(); });
   };
@@ -70,13 +70,13 @@ TEST(Growth, OpeningGrowsAsTheCommands) {
 }
 
 TEST(Growth, SavingGrowsAsTheCommands) {
-  EXPECT_LT(GrowthOf([](SampleProgram& program) { program.Editor.FileSave(); }), Linear);
+  EXPECT_LT(GrowthOf([](LargeProgram& program) { program.Editor.FileSave(); }), Linear);
 }
 
 TEST(Growth, SortingGrowsAsTheRowsTimesTheirLogarithm) {
   for (const Column column :
        {Column::Description, Column::Command, Column::Defaults, Column::Current}) {
-    const auto sort = [&](SampleProgram& program) {
+    const auto sort = [&](LargeProgram& program) {
       DisplayTable rows = program.Editor.Rows();
       rows.RemoveHeadings();
       rows.Sort(column, SortDirection::Descending);
@@ -86,7 +86,7 @@ TEST(Growth, SortingGrowsAsTheRowsTimesTheirLogarithm) {
 }
 
 TEST(Growth, GoingBackToFileOrderGrowsAsTheRows) {
-  const auto back = [](SampleProgram& program) {
+  const auto back = [](LargeProgram& program) {
     DisplayTable rows = program.Editor.Rows();
     rows.RestoreFileOrder();
   };
@@ -94,7 +94,7 @@ TEST(Growth, GoingBackToFileOrderGrowsAsTheRows) {
 }
 
 TEST(Growth, AssigningAKeyCostsTheSameAmongManyCommands) {
-  const auto assign = [](SampleProgram& program) {
+  const auto assign = [](LargeProgram& program) {
     for (int key = 0; key < 60; ++key) {
       program.Editor.SelectRow(static_cast<std::size_t>(2 + key));
       program.Editor.ChooseKey(key);
@@ -105,7 +105,7 @@ TEST(Growth, AssigningAKeyCostsTheSameAmongManyCommands) {
 }
 
 TEST(Growth, DeletingAKeyCostsTheSameAmongManyCommands) {
-  const auto remove = [](SampleProgram& program) {
+  const auto remove = [](LargeProgram& program) {
     for (std::size_t row = 1; row < 200; ++row) {
       program.Editor.SelectRow(row);
       program.Editor.DeleteKeys();
@@ -115,13 +115,13 @@ TEST(Growth, DeletingAKeyCostsTheSameAmongManyCommands) {
 }
 
 TEST(Growth, DeletingAllKeysGrowsAsTheCommands) {
-  EXPECT_LT(GrowthOf([](SampleProgram& program) { program.Editor.DeleteAllKeys(); }), Linear);
+  EXPECT_LT(GrowthOf([](LargeProgram& program) { program.Editor.DeleteAllKeys(); }), Linear);
 }
 
 TEST(Growth, ExportingGrowsAsTheRows) {
   const MemoryFiles files;
   const Texts texts(files);
-  const auto write = [&](SampleProgram& program) {
+  const auto write = [&](LargeProgram& program) {
     static_cast<void>(
         BuildExportText(program.Editor.Rows(), {true, true, true, true}, texts, L"---"));
   };

@@ -7,7 +7,7 @@
 #include <tuple>
 
 #include "platform/Registry.h"
-#include "tests/unit/fakes/Log.h"
+#include "tests/support/Log.h"
 #include "text/Text.h"
 
 namespace tessera {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/Files.h"
-#include "tests/unit/fakes/Log.h"
+#include "tests/support/Log.h"
 
 namespace tessera {
 

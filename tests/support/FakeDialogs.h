@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/Dialogs.h"
-#include "tests/unit/fakes/Log.h"
+#include "tests/support/Log.h"
 
 namespace tessera {
 

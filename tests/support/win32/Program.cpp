@@ -1,10 +1,10 @@
 // The variable is set for the child alone, so that tests do not hand it to one another.
-#include "tests/e2e/Program.h"
+#include "tests/support/win32/Program.h"
 
 #include <array>
 #include <stdexcept>
 
-#include "tests/e2e/Wait.h"
+#include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 namespace {

@@ -2,12 +2,13 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "platform/MessageBoxes.h"
-#include "tests/unit/fakes/Log.h"
+#include "tests/support/Log.h"
 
 namespace tessera {
 
@@ -24,11 +25,13 @@ class FakeMessageBoxes final : public MessageBoxes {
   explicit FakeMessageBoxes(Log& log) : log_(&log) {}
 
   std::vector<Box> Shown;
-  std::deque<BoxAnswer> Answers;  ///< taken in order; a box with only "OK" needs none
+  std::deque<BoxAnswer> Answers;         ///< taken in order; a box with only "OK" needs none
+  std::optional<BoxAnswer> AnswerToAll;  ///< in place of a script; such boxes are not remembered
   int BeepCount = 0;
 
   BoxAnswer Show(const std::wstring& text, BoxButtons buttons, BoxIcon icon,
                  BoxDefault defaultButton) override {
+    if (AnswerToAll) return *AnswerToAll;
     Shown.push_back({text, buttons, icon, defaultButton});
     if (log_ != nullptr) log_->push_back(L"Show " + text);
     if (buttons == BoxButtons::Ok) return BoxAnswer::Ok;

@@ -1,5 +1,4 @@
-// Makes the files of a program with many commands.
-#include "benchmarks/SampleProgram.h"
+#include "tests/support/Installation.h"
 
 namespace tessera {
 
@@ -43,25 +42,15 @@ std::string Shortcuts(int commands) {
 
 }  // namespace
 
-BoxAnswer YesToAll::Show(const std::wstring&, BoxButtons, BoxIcon, BoxDefault) {
-  return BoxAnswer::Yes;
+Installation SmallInstallation() {
+  return {
+      "[___File___]=0\r\ncm_Copy=101;Copy files\r\ncm_View=102;View a file\r\n"
+      "[___Other___]=0\r\ncm_Pack=103;Pack files\r\n",
+      "[TC Default Hotkeys]\r\n101=F5\r\n102=F3\r\n", ""};
 }
 
-SampleProgram::SampleProgram(int commands)
-    : Editor(
-          {Files, registry_, environment_, messageBoxes_, dialogs_, programs_, clock_, clipboard_},
-          [](const LoadProgress&) {}) {
-  environment_.Variables[L"Commander_Path"] = L"C:\\TC";
-  registry_.SetText(RootKey::CurrentUser, L"Software\\Ghisler\\Total Commander", L"IniFileName",
-                    IniPath);
-  Files.Contents[CommandsPath] = CommandLines(commands);
-  Files.Contents[DefaultKeysPath] = DefaultKeys(commands);
-  Files.Contents[IniPath] = Shortcuts(commands);
-}
-
-void SampleProgram::Start() {
-  Editor.Load();
-  Editor.Activate();
+Installation LargeInstallation(int commands) {
+  return {CommandLines(commands), DefaultKeys(commands), Shortcuts(commands)};
 }
 
 }  // namespace tessera

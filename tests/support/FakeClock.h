@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/Clock.h"
-#include "tests/unit/fakes/Log.h"
+#include "tests/support/Log.h"
 
 namespace tessera {
 

@@ -1,0 +1,31 @@
+// Installations of Total Commander, as the texts of their files.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace tessera {
+
+inline const std::wstring SettingsFile = L"C:\\Tessera\\vantor.ini";
+inline const std::wstring DataFile = L"C:\\Tessera\\Data Files\\tc default hotkeys.hky";
+inline const std::wstring IncFile = L"C:\\TC\\Totalcmd.inc";
+inline const std::wstring IniFile = L"C:\\TC\\Wincmd.ini";
+
+/// The texts of the files above, but for the settings.
+struct Installation {
+  std::string Commands, DefaultKeys, Ini;
+};
+
+// Positions in the list of the small installation, in file order
+inline constexpr std::size_t Heading = 0;
+inline constexpr std::size_t Copy = 1;
+inline constexpr std::size_t View = 2;
+inline constexpr std::size_t Pack = 4;
+
+/// Three commands below two headings, no current keys.
+[[nodiscard]] Installation SmallInstallation();
+
+/// Every fifth command has a default key, every tenth a current one.
+[[nodiscard]] Installation LargeInstallation(int commands);
+
+}  // namespace tessera
