@@ -169,6 +169,17 @@ def check_test_names(root):
             yield f"{file} is named after no source file, and OTHER_TESTS gives no reason for it"
 
 
+def check_test_namespaces(root):
+    """Tests are compiled several files at once, so each file has a namespace of its own name."""
+    for file in code_files(root):
+        if file.parts[0] != "tests" or not file.name.endswith("_test.cpp"):
+            continue
+        outer = "tessera::e2e" if "e2e" in file.parts else "tessera"
+        code = (root / file).read_text(encoding="utf-8")
+        if re.findall(r"^namespace ([\w:]+) \{", code, re.M) != [f"{outer}::{file.stem}"]:
+            yield f"{file} is not in namespace {outer}::{file.stem} alone"
+
+
 def check_format(root):
     """clang-format changes nothing."""
     files = [str(root / file) for file in code_files(root)]
@@ -235,6 +246,12 @@ BAD = {
         {"tests/unit/win32/nothing_test.cpp": "\n"},
         {"tests/unit/a.cpp": "\n", "settings/a.h": "\n"},
     ],
+    check_test_namespaces: [
+        {"tests/unit/a_test.cpp": "namespace tessera {}\n"},
+        {"tests/unit/a_test.cpp": "namespace tessera::b_test {}\n"},
+        {"tests/unit/win32/a_test.cpp": "namespace {}\n"},
+        {"tests/e2e/a_test.cpp": "namespace tessera::a_test {}\n"},
+    ],
     check_format: [{"settings/a.cpp": "int  f( );\n"}],
     check_line_ends: [
         {"settings/a.cpp": "int a;\r\n"}, {"settings/a.cpp": "int a; \n"}, {"settings/a.cpp": "int a;"},
@@ -249,8 +266,10 @@ GOOD = {
     "editing/good.h": '#include "dialogs/b.h"\n#include "shortcuts/b.h"\n',
     "benchmarks/good.cpp": '#include "benchmarks/b.h"\n#include "tests/support/b.h"\n',
     "tests/support/good.h": '#include "app/Editor.h"\n#include "tests/support/b.h"\n',
-    "tests/unit/good_case_test.cpp": "\n",
-    "tests/unit/good_test.cpp": '#include "settings/good.h"\n\n#include <gtest/gtest.h>\n',
+    "tests/unit/good_case_test.cpp": "namespace tessera::good_case_test {}\n",
+    "tests/unit/good_test.cpp":
+        '#include "settings/good.h"\n\n#include <gtest/gtest.h>\n\nnamespace tessera::good_test {}\n',
+    "tests/e2e/good_test.cpp": "namespace tessera::e2e::good_test {}\n",
 }
 
 

@@ -18,11 +18,11 @@ namespace tessera::e2e {
 namespace {
 
 constexpr std::size_t Columns = 4;
-constexpr std::size_t TextLength = 256;  // characters with the terminator
+constexpr std::size_t CellLength = 256;  // characters with the terminator
 
 /// What LVM_GETITEMTEXT takes and fills, for many rows: the program's memory is slow to reach.
 constexpr int RowsAtOnce = 128;
-using Text = std::array<wchar_t, TextLength>;
+using Text = std::array<wchar_t, CellLength>;
 using Requests = std::array<std::array<LVITEMW, Columns>, RowsAtOnce>;
 using Answers = std::array<std::array<Text, Columns>, RowsAtOnce>;
 constexpr std::size_t TextsAt = sizeof(Requests);
@@ -52,7 +52,7 @@ std::vector<RowTexts> MainWindow::ReadRows(int first, int count) const {
     for (std::size_t column = 0; column < Columns; ++column) {
       LVITEMW& item = (*requests)[row][column];
       item.iSubItem = static_cast<int>(column);
-      item.cchTextMax = TextLength;
+      item.cchTextMax = CellLength;
       item.pszText =
           static_cast<wchar_t*>(memory_.At(TextsAt + (row * Columns + column) * sizeof(Text)));
     }
@@ -96,7 +96,7 @@ int MainWindow::SelectedRow() const {
 HeaderShows MainWindow::Header(int column) const {
   HDITEMW item{};
   item.mask = HDI_TEXT | HDI_FORMAT | HDI_IMAGE;
-  item.cchTextMax = TextLength;
+  item.cchTextMax = CellLength;
   item.pszText = static_cast<wchar_t*>(memory_.At(TextsAt));
   memory_.Put(item);
   const HWND list = Control(IDC_ListView1);

@@ -5,7 +5,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::close_test {
 namespace {
 
 class CloseTest : public EndToEndTest {
@@ -104,4 +104,4 @@ TEST_F(CloseTest, SavedKeysAreFoundAtTheNextStart) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::close_test

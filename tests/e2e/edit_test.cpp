@@ -7,7 +7,7 @@
 #include "tests/e2e/Screen.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::edit_test {
 namespace {
 
 using EditTest = EndToEndTest;
@@ -250,4 +250,4 @@ TEST_F(EditTest, KeysOnAHeadingRowDoNothing) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::edit_test

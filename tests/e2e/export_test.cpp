@@ -10,7 +10,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::export_test {
 namespace {
 
 using Columns = std::array<bool, 4>;
@@ -211,4 +211,4 @@ TEST_F(ExportTest, CloseButtonCopiesTheTableOfTheLastOkAgain) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::export_test

@@ -6,7 +6,7 @@
 #include "tests/e2e/Expected.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::hostile_test {
 namespace {
 
 class HostileTest : public EndToEndTest {
@@ -77,4 +77,4 @@ TEST_F(HostileTest, EveryWindowIsShownAndTheFileIsSaved) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::hostile_test

@@ -7,7 +7,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::keys_list_test {
 namespace {
 
 constexpr wchar_t KeysListClass[] = L"frmKeysList";
@@ -195,4 +195,4 @@ TEST_F(KeysListTest, ChosenKeyCanBeAssigned) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::keys_list_test

@@ -14,7 +14,7 @@
 #include "tests/e2e/Screen.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::language_test {
 namespace {
 
 class LanguageTest : public EndToEndTest {
@@ -269,4 +269,4 @@ TEST_F(LanguageTest, TranslatorsSeeTheRoomOfTextsInAqua) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::language_test

@@ -13,7 +13,7 @@
 #include "tests/e2e/MenuPicture.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::menu_test {
 namespace {
 
 class MenuTest : public EndToEndTest {
@@ -157,4 +157,4 @@ TEST_F(MenuTest, SaveIsEnabledWhileThereAreUnsavedChanges) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::menu_test

@@ -8,7 +8,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::missing_files_test {
 namespace {
 
 constexpr char NoCommandList[] = "Cannot find your Totalcmd.inc file !";
@@ -193,4 +193,4 @@ TEST_F(MissingFilesTest, RandomCommandListIsShownAsItIs) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::missing_files_test

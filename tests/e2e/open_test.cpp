@@ -8,7 +8,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::open_test {
 namespace {
 
 class OpenTest : public EndToEndTest {
@@ -78,4 +78,4 @@ TEST_F(OpenTest, DropAsksAboutUnsavedChangesFirst) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::open_test

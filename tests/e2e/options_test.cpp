@@ -14,7 +14,7 @@
 #include "tests/e2e/Screen.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::options_test {
 namespace {
 
 enum Tab { Layout, ColorAndFont, Operation, Language };
@@ -311,4 +311,4 @@ TEST_F(OptionsTest, PathIsSelectedWhenTheBoxGetsTheFocus) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::options_test

@@ -9,7 +9,7 @@
 #include "tests/e2e/Expected.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::placement_test {
 namespace {
 
 class PlacementTest : public EndToEndTest {
@@ -105,4 +105,4 @@ TEST_F(PlacementTest, WindowStoredOutsideTheScreenCanBeReached) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::placement_test

@@ -9,7 +9,7 @@
 #include "tests/e2e/MenuPicture.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::recent_test {
 namespace {
 
 class RecentTest : public EndToEndTest {
@@ -184,4 +184,4 @@ TEST_F(RecentTest, UnsavedChangesAreAskedForFirst) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::recent_test

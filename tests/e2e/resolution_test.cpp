@@ -15,7 +15,7 @@
 #include "tests/e2e/RemoteMemory.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::resolution_test {
 namespace {
 
 constexpr std::array Resolutions{96, 144, 192};
@@ -265,4 +265,4 @@ TEST_F(ResolutionTest, WindowFollowsItThereAndBack) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::resolution_test

@@ -11,7 +11,7 @@
 #include "tests/e2e/SystemObjects.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::resources_test {
 namespace {
 
 class ResourcesTest : public EndToEndTest {
@@ -111,4 +111,4 @@ TEST_F(ResourcesTest, KeysListKeepsNone) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::resources_test

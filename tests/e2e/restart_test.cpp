@@ -9,7 +9,7 @@
 #include "tests/e2e/MenuPicture.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::restart_test {
 namespace {
 
 class RestartTest : public EndToEndTest {
@@ -169,4 +169,4 @@ TEST_F(RestartOf64BitTest, TheOnlyExecutableThereIsStarted) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::restart_test

@@ -6,7 +6,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::save_test {
 namespace {
 
 class SaveTest : public EndToEndTest {
@@ -133,4 +133,4 @@ TEST_F(SaveTest, WhatAnotherProgramWritesBeforeAndDuringASaveStays) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::save_test

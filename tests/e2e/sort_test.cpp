@@ -7,7 +7,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::sort_test {
 namespace {
 
 class SortTest : public EndToEndTest {
@@ -107,4 +107,4 @@ TEST_F(SortTest, SortIsFoundAgainAtTheNextStart) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::sort_test

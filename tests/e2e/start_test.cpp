@@ -5,7 +5,7 @@
 #include "tests/e2e/Input.h"
 #include "tests/support/win32/Wait.h"
 
-namespace tessera::e2e {
+namespace tessera::e2e::start_test {
 namespace {
 
 using StartTest = EndToEndTest;
@@ -103,4 +103,4 @@ TEST_F(StartTest, ToolbarCanBeHiddenAndShownAgain) {
 }
 
 }  // namespace
-}  // namespace tessera::e2e
+}  // namespace tessera::e2e::start_test

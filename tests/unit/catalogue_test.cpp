@@ -8,7 +8,7 @@
 
 #include "tests/support/Kept.h"
 
-namespace tessera {
+namespace tessera::catalogue_test {
 namespace {
 
 CommandEntry Heading(RowKey key) {
@@ -153,4 +153,4 @@ TEST(Catalogue, EachCurrentKeyMarksOneDefaultKeyTheFirstThatIsUnmarked) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::catalogue_test

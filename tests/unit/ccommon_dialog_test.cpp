@@ -7,7 +7,7 @@
 #include "settings/ini/MissingMarker.h"
 #include "tests/support/FakeDialogs.h"
 
-namespace tessera {
+namespace tessera::ccommon_dialog_test {
 namespace {
 
 TEST(FilterText, EachIndexHasItsPairs) {
@@ -82,4 +82,4 @@ TEST_F(cCommonDialogTest, CancelledColorIsTheMissingMarker) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::ccommon_dialog_test

@@ -4,7 +4,7 @@
 #include "dialogs/cFontDlg.h"
 #include "tests/support/FakeDialogs.h"
 
-namespace tessera {
+namespace tessera::cfont_dlg_test {
 namespace {
 
 class cFontDlgTest : public testing::Test {
@@ -93,4 +93,4 @@ TEST_F(cFontDlgTest, OnlyWeight700IsBold) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::cfont_dlg_test

@@ -6,7 +6,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
-namespace tessera {
+namespace tessera::clipboard_export_test {
 namespace {
 
 const std::wstring SettingsFile = L"C:\\Tessera\\vantor.ini";
@@ -113,4 +113,4 @@ TEST_F(ClipboardExportTest, ASettingsFileThatCannotBeWrittenSpoilsNoExport) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::clipboard_export_test

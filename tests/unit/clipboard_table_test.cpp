@@ -5,7 +5,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
-namespace tessera {
+namespace tessera::clipboard_table_test {
 namespace {
 
 constexpr ExportColumns CommandAndKeys{false, true, true, true};
@@ -196,4 +196,4 @@ TEST_F(ClipboardTableTest, TheFrameFitsATranslatedWarning) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::clipboard_table_test

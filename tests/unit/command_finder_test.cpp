@@ -9,7 +9,7 @@
 #include "tests/support/Kept.h"
 #include "text/Text.h"
 
-namespace tessera {
+namespace tessera::command_finder_test {
 namespace {
 
 CommandEntry Command(const std::wstring& name, const std::wstring& code,
@@ -105,4 +105,4 @@ TEST(CommandFinder, FollowsEveryChangeOfCurrentKeys) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::command_finder_test

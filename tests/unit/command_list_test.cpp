@@ -3,7 +3,7 @@
 #include "editing/CommandList.h"
 #include "tests/unit/sample_catalogue.h"
 
-namespace tessera {
+namespace tessera::command_list_test {
 namespace {
 
 using namespace sample;
@@ -206,4 +206,4 @@ TEST(ColumnLayout, WhatIsMissingOrImpossibleTakesItsDefault) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::command_list_test

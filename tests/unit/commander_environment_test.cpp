@@ -3,7 +3,7 @@
 #include "settings/commander/CommanderEnvironment.h"
 #include "tests/support/FakeEnvironment.h"
 
-namespace tessera {
+namespace tessera::commander_environment_test {
 namespace {
 
 TEST(CommanderEnvironment, TellsTheFolderWhereTheVariableIsMissing) {
@@ -27,4 +27,4 @@ TEST(CommanderEnvironment, LeavesEveryOtherVariableAndASetOneAsTheyAre) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::commander_environment_test

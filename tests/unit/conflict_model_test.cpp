@@ -22,7 +22,7 @@
 #include "tests/unit/rounds.h"
 #include "text/Text.h"
 
-namespace tessera {
+namespace tessera::conflict_model_test {
 namespace {
 
 using namespace model;
@@ -334,4 +334,4 @@ TEST(ConflictModel, EveryKeyIsSavedAndReadBackAsItWasShown) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::conflict_model_test

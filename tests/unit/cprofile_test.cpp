@@ -9,7 +9,7 @@
 #include "tests/support/FakeClock.h"
 #include "tests/support/MemoryFiles.h"
 
-namespace tessera {
+namespace tessera::cprofile_test {
 namespace {
 
 const std::wstring path = L"C:\\some.ini";
@@ -120,4 +120,4 @@ TEST_F(cProfileTest, ListThatDoesNotFitIsCutInItsLastText) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::cprofile_test

@@ -6,7 +6,7 @@
 #include "tests/support/FakeMessageBoxes.h"
 #include "tests/support/MemoryFiles.h"
 
-namespace tessera {
+namespace tessera::crecent_files_test {
 namespace {
 
 const std::wstring SettingsFile = L"C:\\Tessera\\vantor.ini";
@@ -304,4 +304,4 @@ TEST_F(RecentFilesTest, ReadingReplacesWhatTheListHeld) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::crecent_files_test

@@ -6,7 +6,7 @@
 #include "settings/ini/MissingMarker.h"
 #include "tests/support/FakeRegistry.h"
 
-namespace tessera {
+namespace tessera::cregistry_test {
 namespace {
 
 const std::wstring Subkey = L"Software\\Test";
@@ -117,4 +117,4 @@ TEST_F(cRegistryTest, DeletekeyDeletesTheKeyBelowThePath) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::cregistry_test

@@ -8,7 +8,7 @@
 #include "tests/support/Kept.h"
 #include "tests/support/MemoryFiles.h"
 
-namespace tessera {
+namespace tessera::default_hotkeys_test {
 namespace {
 
 CommandEntry Command(const std::wstring& code) {
@@ -98,4 +98,4 @@ TEST(DefaultHotkeys, AValueIsCutAtTheBuffersLength) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::default_hotkeys_test

@@ -3,7 +3,7 @@
 
 #include "dialogs/DialogLayout.h"
 
-namespace tessera {
+namespace tessera::dialog_layout_test {
 namespace {
 
 constexpr DialogMetrics Metrics{.Dpi = 96, .TextHeight = 13};
@@ -80,4 +80,4 @@ TEST(DialogLayout, GrowsWithTheResolution) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::dialog_layout_test

@@ -9,7 +9,7 @@
 #include "tests/support/Kept.h"
 #include "text/Text.h"
 
-namespace tessera {
+namespace tessera::display_table_test {
 namespace {
 
 CommandEntry Heading(RowKey key, const std::wstring& text) {
@@ -148,4 +148,4 @@ TEST(DisplayTable, SortsAnyRowsIntoAStableOrder) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::display_table_test

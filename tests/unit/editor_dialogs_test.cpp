@@ -2,7 +2,7 @@
 
 #include "tests/unit/editor_fixture.h"
 
-namespace tessera {
+namespace tessera::editor_dialogs_test {
 namespace {
 
 // -- Recent files
@@ -240,4 +240,4 @@ TEST_F(EditorTest, ALanguageFileThatIsMissingIsReportedOnce) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::editor_dialogs_test

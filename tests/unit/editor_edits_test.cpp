@@ -1,6 +1,6 @@
 #include "tests/unit/editor_fixture.h"
 
-namespace tessera {
+namespace tessera::editor_edits_test {
 namespace {
 
 /// Everything that events can set off; told apart from the rest of a test by happening while the
@@ -213,4 +213,4 @@ TEST_F(EditorTest, TheKeysListDoesNotOpenForAHeadingRow) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::editor_edits_test

@@ -1,6 +1,6 @@
 #include "tests/unit/editor_fixture.h"
 
-namespace tessera {
+namespace tessera::editor_saving_test {
 namespace {
 
 // -- Saving
@@ -180,4 +180,4 @@ TEST_F(EditorTest, ItDoesNotCloseOverASaveThatFailed) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::editor_saving_test

@@ -1,6 +1,6 @@
 #include "tests/unit/editor_fixture.h"
 
-namespace tessera {
+namespace tessera::editor_test {
 namespace {
 
 // -- Opening
@@ -317,4 +317,4 @@ TEST_F(EditorTest, AMaximisedWindowStoresThatAlone) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::editor_test

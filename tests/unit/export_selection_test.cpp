@@ -2,7 +2,7 @@
 
 #include "export/ExportSelection.h"
 
-namespace tessera {
+namespace tessera::export_selection_test {
 namespace {
 
 TEST(ExportSelection, TheDescriptionIsOffByDefault) {
@@ -67,4 +67,4 @@ TEST(ExportSelection, UncheckingTheLastBoxOfAPairChecksTheOther) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::export_selection_test

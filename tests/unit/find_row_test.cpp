@@ -4,7 +4,7 @@
 #include "app/FindRow.h"
 #include "tests/support/Kept.h"
 
-namespace tessera {
+namespace tessera::find_row_test {
 
 namespace {
 
@@ -39,4 +39,4 @@ TEST(FindRow, FindsNothingInAnEmptyList) { EXPECT_EQ(FindRow(TableOf({}), L"a", 
 
 }  // namespace
 
-}  // namespace tessera
+}  // namespace tessera::find_row_test

@@ -8,7 +8,7 @@
 
 #include "tests/fuzz/Targets.h"
 
-namespace tessera::fuzz {
+namespace tessera::fuzz_regressions_test {
 namespace {
 
 const std::filesystem::path Folder = std::filesystem::path(TESSERA_SOURCE_DIRECTORY) / "tests/fuzz";
@@ -19,7 +19,7 @@ std::string BytesOf(const std::filesystem::path& path) {
 }
 
 TEST(FuzzRegressions, EverySeedHolds) {
-  for (const Target& target : Targets()) {
+  for (const fuzz::Target& target : fuzz::Targets()) {
     int seeds = 0;
     for (const auto& entry : std::filesystem::directory_iterator(Folder / "corpus" / target.Name)) {
       EXPECT_NO_THROW(target.Run(BytesOf(entry.path()))) << entry.path();
@@ -32,7 +32,7 @@ TEST(FuzzRegressions, EverySeedHolds) {
 TEST(FuzzRegressions, EveryFindHolds) {
   for (const auto& entry : std::filesystem::directory_iterator(Folder / "found")) {
     const std::string name = entry.path().filename().string();
-    for (const Target& target : Targets()) {
+    for (const fuzz::Target& target : fuzz::Targets()) {
       if (!name.starts_with(std::string(target.Name) + "-")) continue;
       EXPECT_NO_THROW(target.Run(BytesOf(entry.path()))) << name;
     }
@@ -40,8 +40,8 @@ TEST(FuzzRegressions, EveryFindHolds) {
 }
 
 TEST(FuzzRegressions, EveryTargetTakesNothing) {
-  for (const Target& target : Targets()) EXPECT_NO_THROW(target.Run("")) << target.Name;
+  for (const fuzz::Target& target : fuzz::Targets()) EXPECT_NO_THROW(target.Run("")) << target.Name;
 }
 
 }  // namespace
-}  // namespace tessera::fuzz
+}  // namespace tessera::fuzz_regressions_test

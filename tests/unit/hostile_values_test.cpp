@@ -4,7 +4,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/support/SampleProgram.h"
 
-namespace tessera {
+namespace tessera::hostile_values_test {
 namespace {
 
 using World = SampleProgram<MemoryFiles>;
@@ -248,4 +248,4 @@ TEST(HostileValues, ARecentFileOnAMissingDriveIsReportedAndGoes) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::hostile_values_test

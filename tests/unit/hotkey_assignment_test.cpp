@@ -5,7 +5,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
-namespace tessera {
+namespace tessera::hotkey_assignment_test {
 namespace {
 
 using namespace sample;
@@ -186,4 +186,4 @@ TEST_F(HotkeyAssignmentTest, DeleteAllWithoutAnyKeysIsNoChange) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::hotkey_assignment_test

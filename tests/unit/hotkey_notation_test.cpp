@@ -5,7 +5,7 @@
 
 #include "shortcuts/HotkeyNotation.h"
 
-namespace tessera {
+namespace tessera::hotkey_notation_test {
 namespace {
 
 using Strings = std::vector<std::wstring>;
@@ -426,4 +426,4 @@ TEST(SplitText, GivesOnePieceForAnEmptySeparatorOrText) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::hotkey_notation_test

@@ -5,7 +5,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
-namespace tessera {
+namespace tessera::hotkey_panel_test {
 namespace {
 
 using namespace sample;
@@ -241,4 +241,4 @@ TEST_F(HotkeyPanelTest, NoKeyDoesAnythingOnAHeadingRow) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::hotkey_panel_test

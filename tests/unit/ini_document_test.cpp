@@ -7,7 +7,7 @@
 #include "settings/ini/IniDocument.h"
 #include "text/Lines.h"
 
-namespace tessera {
+namespace tessera::ini_document_test {
 namespace {
 
 using namespace std::literals;
@@ -393,4 +393,4 @@ TEST(IniDocument, AnEmptiedSectionStaysInFrontOfAnotherOfItsName) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::ini_document_test

@@ -13,7 +13,7 @@
 #include "tests/unit/simple_ini_reader.h"
 #include "text/Trim.h"
 
-namespace tessera {
+namespace tessera::ini_properties_test {
 namespace {
 
 /// Asks engine and reader the same about the whole file.
@@ -49,7 +49,7 @@ void ExpectSameAnswers(const IniDocument& document, const SimpleReader& reader, 
 
 TEST(IniProperties, ReadingGivesWhatTheSimpleReaderGivesAndChangesNoByte) {
   std::mt19937 engine(1);
-  for (int i = 0; i < Rounds(10'000); ++i) {
+  for (int i = 0; i < Rounds(3'000); ++i) {
     const std::string file = RandomFile(engine).Bytes();
     const IniDocument document(file);
     const bool isUtf16 = document.FileEncoding() == IniDocument::Encoding::Utf16Le;
@@ -104,7 +104,7 @@ bool LacksOneLine(const std::string& before, const std::string& after) {
 
 TEST(IniProperties, AnEditTouchesOnlyItsLineAndReadsBack) {
   std::mt19937 engine(2);
-  for (int i = 0; i < Rounds(10'000); ++i) {
+  for (int i = 0; i < Rounds(3'000); ++i) {
     RandomFile random(engine);
     const std::string file = random.Bytes();
     const bool isUtf16 = file.starts_with("\xFF\xFE");
@@ -221,7 +221,7 @@ void ExpectNothingElseChanged(const std::string& file, const Units& section,
 
 TEST(IniProperties, ReplacedEntriesTouchNothingButTheSectionsKeyLines) {
   std::mt19937 engine(3);
-  for (int i = 0; i < Rounds(10'000); ++i) {
+  for (int i = 0; i < Rounds(3'000); ++i) {
     RandomFile random(engine);
     const std::string file = random.Bytes();
     // Nothing can stand behind half a character.
@@ -236,4 +236,4 @@ TEST(IniProperties, ReplacedEntriesTouchNothingButTheSectionsKeyLines) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::ini_properties_test

@@ -3,7 +3,7 @@
 
 #include "settings/ini/IniText.h"
 
-namespace tessera {
+namespace tessera::ini_text_test {
 namespace {
 
 using namespace std::string_view_literals;
@@ -32,4 +32,4 @@ TEST(HeaderName, IsWhatStandsBetweenTheBracketsOnOneLine) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::ini_text_test

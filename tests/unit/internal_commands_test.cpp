@@ -7,7 +7,7 @@
 #include "shortcuts/InternalCommands.h"
 #include "tests/support/Kept.h"
 
-namespace tessera {
+namespace tessera::internal_commands_test {
 namespace {
 
 std::vector<CommandEntry> Read(std::string_view bytes) {
@@ -177,4 +177,4 @@ TEST(InternalCommands, AnyBytesAreRead) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::internal_commands_test

@@ -4,7 +4,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
-namespace tessera {
+namespace tessera::key_conflicts_test {
 namespace {
 
 using namespace sample;
@@ -68,4 +68,4 @@ TEST(KeyQuestions, SayWhoHasTheKeyAndWhoGetsIt) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::key_conflicts_test

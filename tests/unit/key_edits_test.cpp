@@ -3,7 +3,7 @@
 #include "editing/KeyEdits.h"
 #include "tests/unit/sample_catalogue.h"
 
-namespace tessera {
+namespace tessera::key_edits_test {
 namespace {
 
 using namespace sample;
@@ -150,4 +150,4 @@ TEST_F(KeyEdits, DeletingNothingChangesNothing) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::key_edits_test

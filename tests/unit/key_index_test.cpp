@@ -9,7 +9,7 @@
 #include "shortcuts/KeyIndex.h"
 #include "text/Text.h"
 
-namespace tessera {
+namespace tessera::key_index_test {
 namespace {
 
 TEST(KeyIndex, IsEmptyAtFirst) {
@@ -213,4 +213,4 @@ TEST(KeyIndex, GivesWhatAPlainListGivesAfterAnyChanges) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::key_index_test

@@ -8,7 +8,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
-namespace tessera {
+namespace tessera::keys_list_test {
 namespace {
 
 using Focus = PanelReaction::Focus;
@@ -166,4 +166,4 @@ TEST_F(KeysListTest, TheChoosersOwnListEnablesThePanelToolbarAndLeavesThisOneOpe
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::keys_list_test

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tessera {
+namespace tessera::layout_test {
 
 namespace {
 
@@ -126,4 +126,4 @@ TEST(Layout, ColumnPositionsAndOrderAreInverse) {
 
 }  // namespace
 
-}  // namespace tessera
+}  // namespace tessera::layout_test

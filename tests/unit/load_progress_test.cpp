@@ -3,7 +3,7 @@
 #include "app/LoadProgress.h"
 #include "tests/support/FakeClock.h"
 
-namespace tessera {
+namespace tessera::load_progress_test {
 namespace {
 
 TEST(LoadProgress, StartsWithRoomFor1500Steps) {
@@ -95,4 +95,4 @@ TEST(LoadProgress, StaysWithinWhatABarCanShowHoweverLongTheLoad) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::load_progress_test

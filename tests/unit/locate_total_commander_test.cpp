@@ -9,7 +9,7 @@
 #include "tests/support/FakeRegistry.h"
 #include "tests/support/FaultyFiles.h"
 
-namespace tessera {
+namespace tessera::locate_total_commander_test {
 namespace {
 
 const std::wstring Subkey = L"Software\\Ghisler\\Total Commander";
@@ -154,4 +154,4 @@ TEST_F(LocateWincmdIniTest, CancelledQuestionGivesTheMarker) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::locate_total_commander_test

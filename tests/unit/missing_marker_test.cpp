@@ -3,7 +3,7 @@
 
 #include "settings/ini/MissingMarker.h"
 
-namespace tessera {
+namespace tessera::missing_marker_test {
 namespace {
 
 TEST(MissingMarker, IsComparedWholeAndByCase) {
@@ -13,4 +13,4 @@ TEST(MissingMarker, IsComparedWholeAndByCase) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::missing_marker_test

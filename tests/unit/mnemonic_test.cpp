@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tessera {
+namespace tessera::mnemonic_test {
 namespace {
 
 struct Case {
@@ -36,4 +36,4 @@ TEST(Mnemonic, AddedInParenthesesGoesAsAWhole) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::mnemonic_test

@@ -5,7 +5,7 @@
 
 #include <limits>
 
-namespace tessera {
+namespace tessera::numbers_test {
 namespace {
 
 TEST(LeadingNumber, StopsWhereTheNumberEnds) {
@@ -50,4 +50,4 @@ TEST(Rounding, IsHalfToEvenAndStaysInRange) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::numbers_test

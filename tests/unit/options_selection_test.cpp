@@ -8,7 +8,7 @@
 #include "tests/support/FakeDialogs.h"
 #include "tests/support/FakeEnvironment.h"
 
-namespace tessera {
+namespace tessera::options_selection_test {
 namespace {
 
 constexpr std::array AllBoxes{OptionBox::ShowGridLines,     OptionBox::FixedBorders,
@@ -242,4 +242,4 @@ TEST_F(OptionsSelectionTest, AnotherPathOrAnotherChoiceIsAnotherLanguage) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::options_selection_test

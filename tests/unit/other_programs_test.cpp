@@ -7,7 +7,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/support/SampleProgram.h"
 
-namespace tessera {
+namespace tessera::other_programs_test {
 namespace {
 
 const std::wstring OtherFile = L"C:\\TC\\keys.ini";
@@ -145,4 +145,4 @@ TEST(OtherPrograms, SettingsHeldForAWhileAreSavedOrLeftAsTheyWere) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::other_programs_test

@@ -6,7 +6,7 @@
 #include "tests/support/FakeEnvironment.h"
 #include "tests/support/FaultyFiles.h"
 
-namespace tessera {
+namespace tessera::paths_test {
 namespace {
 
 TEST(AddBackslash, AppendsOneWhereTheLastCharacterIsAnother) {
@@ -55,4 +55,4 @@ TEST(DirectoryOf, IsThePathUpToItsLastBackslash) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::paths_test

@@ -8,7 +8,7 @@
 #include "tests/support/FakeClock.h"
 #include "tests/support/MemoryFiles.h"
 
-namespace tessera {
+namespace tessera::profile_file_test {
 namespace {
 
 using namespace std::string_literals;
@@ -188,4 +188,4 @@ TEST_F(ProfileFileTest, FailedSaveCanBeTriedAgain) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::profile_file_test

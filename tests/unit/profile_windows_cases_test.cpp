@@ -11,7 +11,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "text/Text.h"
 
-namespace tessera {
+namespace tessera::profile_windows_cases_test {
 namespace {
 
 const std::wstring path = L"C:\\case.ini";
@@ -232,4 +232,4 @@ TEST(ProfileWindowsCases, EngineDoesWhatWindowsDid) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::profile_windows_cases_test

@@ -7,7 +7,7 @@
 #include "tests/support/FakeEnvironment.h"
 #include "tests/support/MemoryFiles.h"
 
-namespace tessera {
+namespace tessera::redirect_section_test {
 namespace {
 
 constexpr const wchar_t* WincmdPath = L"C:\\tc\\ini\\wincmd.ini";
@@ -83,4 +83,4 @@ TEST(RedirectSection, APathWithoutFolderLeavesTheOtherWithoutFolder) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::redirect_section_test

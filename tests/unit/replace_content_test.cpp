@@ -9,7 +9,7 @@
 #include "tests/support/FakeClock.h"
 #include "tests/support/FaultyFiles.h"
 
-namespace tessera {
+namespace tessera::replace_content_test {
 namespace {
 
 const std::wstring Path = L"C:\\TC\\Wincmd.ini";
@@ -330,4 +330,4 @@ TEST(ReadWhenFree, WaitsForAHeldFileAndNotForAMissingOne) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::replace_content_test

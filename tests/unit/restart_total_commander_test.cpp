@@ -7,7 +7,7 @@
 #include "tests/support/FakePrograms.h"
 #include "tests/support/FaultyFiles.h"
 
-namespace tessera {
+namespace tessera::restart_total_commander_test {
 namespace {
 
 class RestartTotalCommanderTest : public testing::Test {
@@ -109,4 +109,4 @@ TEST(Pause, LastsHalfASecondWhileEventsAreHandled) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::restart_total_commander_test

@@ -11,7 +11,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "tests/support/SampleProgram.h"
 
-namespace tessera {
+namespace tessera::save_faults_test {
 namespace {
 
 using World = SampleProgram<FaultyFiles>;
@@ -315,4 +315,4 @@ TEST(SaveFaults, SettingsThatCouldNotBeReadAreNotReplacedByDefaults) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::save_faults_test

@@ -11,7 +11,7 @@
 #include "tests/support/Kept.h"
 #include "tests/support/MemoryFiles.h"
 
-namespace tessera {
+namespace tessera::save_shortcuts_test {
 namespace {
 
 constexpr const wchar_t* Path = L"C:\\tc\\wincmd.ini";
@@ -304,4 +304,4 @@ TEST_F(SaveShortcutsTest, AKeptLineReadsAsBefore) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::save_shortcuts_test

@@ -12,7 +12,7 @@
 #include "tests/support/FakeEnvironment.h"
 #include "tests/support/FaultyFiles.h"
 
-namespace tessera {
+namespace tessera::settings_test {
 namespace {
 
 const std::wstring Path = L"C:\\Tessera\\vantor.ini";
@@ -323,4 +323,4 @@ TEST_F(SettingsTest, LoadRecoversFromASaveThatWasKilled) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::settings_test

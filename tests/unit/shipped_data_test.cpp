@@ -19,7 +19,7 @@
 #include "tests/support/MemoryFiles.h"
 #include "text/Text.h"
 
-namespace tessera {
+namespace tessera::shipped_data_test {
 namespace {
 
 constexpr const wchar_t* DataPath = L"tc default hotkeys.hky";
@@ -102,4 +102,4 @@ TEST_F(ShippedData, EveryKeyIsShownAsTheSameKeyOfAUser) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::shipped_data_test

@@ -17,7 +17,7 @@
 #include "text/Text.h"
 #include "text/Trim.h"
 
-namespace tessera {
+namespace tessera::shipped_languages_test {
 namespace {
 
 constexpr std::wstring_view Template = L"Template";
@@ -334,4 +334,4 @@ TEST_F(ShippedLanguages, HaveATemplateInTheEnglishOfTheProgram) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::shipped_languages_test

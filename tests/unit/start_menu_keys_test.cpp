@@ -6,7 +6,7 @@
 #include "shortcuts/StartMenuKeys.h"
 #include "tests/support/MemoryFiles.h"
 
-namespace tessera {
+namespace tessera::start_menu_keys_test {
 namespace {
 
 StartMenuKeyTable Read(const std::string& content, const HotkeyNotation& notation = {}) {
@@ -93,4 +93,4 @@ TEST(StartMenuKeys, ACaptionBehindTheByteOrderMarkIsUtf8) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::start_menu_keys_test

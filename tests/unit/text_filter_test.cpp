@@ -5,7 +5,7 @@
 
 #include "shortcuts/TextFilter.h"
 
-namespace tessera {
+namespace tessera::text_filter_test {
 namespace {
 
 TEST(TextFilter, MayHoldWhatWasAddedInAnyLetterCase) {
@@ -28,4 +28,4 @@ TEST(TextFilter, TellsMostOtherTexts) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::text_filter_test

@@ -3,7 +3,7 @@
 
 #include "text/TextHash.h"
 
-namespace tessera {
+namespace tessera::text_hash_test {
 namespace {
 
 TEST(TextHash, TextsThatAreEqualIgnoringCaseHaveOneHash) {
@@ -25,4 +25,4 @@ TEST(TextHash, BytesOfAsciiHashLikeTheirText) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::text_hash_test

@@ -6,7 +6,7 @@
 
 #include "localisation/TextTable.h"
 
-namespace tessera {
+namespace tessera::text_table_test {
 namespace {
 
 TEST(TextTable, IdsAscend) {
@@ -114,4 +114,4 @@ TEST(TextTable, AnUnknownIdHasNoText) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::text_table_test

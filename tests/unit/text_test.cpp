@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace tessera {
+namespace tessera::text_test {
 namespace {
 
 constexpr unsigned windows1252 = 1252;
@@ -83,4 +83,4 @@ TEST(Text, OrderIgnoresLetterCase) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::text_test

@@ -5,7 +5,7 @@
 
 #include "tests/support/FaultyFiles.h"
 
-namespace tessera {
+namespace tessera::texts_test {
 namespace {
 
 const std::wstring Path = L"C:\\Tessera\\Languages\\Test.lng";
@@ -164,4 +164,4 @@ TEST_F(TextsTest, AreBuiltInAgainWhenTheLanguageIsLeft) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::texts_test

@@ -3,7 +3,7 @@
 
 #include "app/ToolbarSpecification.h"
 
-namespace tessera {
+namespace tessera::toolbar_specification_test {
 namespace {
 
 TEST(ToolbarSpecification, GivesButtonsInOrderWithImagesAndToolTips) {
@@ -33,4 +33,4 @@ TEST(ToolbarSpecification, UnknownStyleIsNormalAndEmptyItemsAreSkipped) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::toolbar_specification_test

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tessera {
+namespace tessera::trim_test {
 namespace {
 
 TEST(TrimSpaces, TakesSpacesOnly) {
@@ -13,4 +13,4 @@ TEST(TrimSpaces, TakesSpacesOnly) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::trim_test

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tessera {
+namespace tessera::utf8_test {
 namespace {
 
 using namespace std::string_literals;
@@ -34,4 +34,4 @@ TEST(Utf8, CutLeavesNoPartOfACharacter) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::utf8_test

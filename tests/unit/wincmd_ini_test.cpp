@@ -10,7 +10,7 @@
 #include "tests/support/Kept.h"
 #include "tests/support/MemoryFiles.h"
 
-namespace tessera {
+namespace tessera::wincmd_ini_test {
 namespace {
 
 constexpr const wchar_t* Path = L"C:\\tc\\wincmd.ini";
@@ -247,4 +247,4 @@ TEST_F(WincmdIniFiles, SavingWritesNothingButTheFilesThatChanged) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::wincmd_ini_test

@@ -22,7 +22,7 @@ extern "C"
 
 void __sanitizer_cov_trace_pc() { ++blocksRun; }
 
-namespace tessera {
+namespace tessera::growth_test {
 namespace {
 
 constexpr int Few = 500;
@@ -157,4 +157,4 @@ TEST(Growth, ApplyingALanguageGrowsAsTheLinesOfItsFile) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::growth_test

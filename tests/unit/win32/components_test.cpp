@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tessera {
+namespace tessera::components_test {
 namespace {
 
 /// The table of the interfaces that a process shares among its threads; every Windows has it.
@@ -34,4 +34,4 @@ TEST(Components, MayBeStartedAgain) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::components_test

@@ -10,7 +10,7 @@
 
 #include "settings/ini/IniDocument.h"
 
-namespace tessera {
+namespace tessera::profile_oracle_test {
 namespace {
 
 constexpr std::string_view names[] = {"alpha",
@@ -180,4 +180,4 @@ TEST_P(ProfileOracle, RemovesSectionsAsTheSystemRemovesThem) {
 INSTANTIATE_TEST_SUITE_P(Seeds, ProfileOracle, testing::Range(1u, 41u));
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::profile_oracle_test

@@ -5,7 +5,7 @@
 
 #include "platform/win32/SystemFunction.h"
 
-namespace tessera {
+namespace tessera::system_function_test {
 namespace {
 
 TEST(SystemFunction, CanBeCalled) {
@@ -25,4 +25,4 @@ TEST(SystemFunction, NullWithoutSuchAFunctionOrLibrary) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::system_function_test

@@ -7,7 +7,7 @@
 
 #include "platform/win32/WindowsClipboard.h"
 
-namespace tessera {
+namespace tessera::windows_clipboard_test {
 namespace {
 
 class WindowsClipboardTest : public testing::Test {
@@ -60,4 +60,4 @@ TEST_F(WindowsClipboardTest, AClipboardThatIsHeldForAMomentIsWaitedFor) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::windows_clipboard_test

@@ -5,7 +5,7 @@
 
 #include "platform/win32/WindowsClock.h"
 
-namespace tessera {
+namespace tessera::windows_clock_test {
 namespace {
 
 constexpr UINT FirstMessage = WM_APP + 1;
@@ -44,4 +44,4 @@ TEST(WindowsClock, RequestToQuitStaysPending) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::windows_clock_test

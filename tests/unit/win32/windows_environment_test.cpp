@@ -4,7 +4,7 @@
 
 #include "platform/win32/WindowsEnvironment.h"
 
-namespace tessera {
+namespace tessera::windows_environment_test {
 namespace {
 
 TEST(WindowsEnvironment, VariableHasItsWholeValue) {
@@ -35,4 +35,4 @@ TEST(WindowsEnvironment, ScreenIsMeasuredInTwips) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::windows_environment_test

@@ -10,7 +10,7 @@
 #include "platform/win32/WindowsFiles.h"
 #include "settings/ini/ReplaceContent.h"
 
-namespace tessera {
+namespace tessera::windows_files_test {
 namespace {
 
 std::wstring TemporaryFolder() {
@@ -251,4 +251,4 @@ TEST_F(WindowsFilesTest, SaveOfAFileHeldOpenLeavesItAndTheUnsavedContent) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::windows_files_test

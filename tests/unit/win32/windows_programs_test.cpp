@@ -7,7 +7,7 @@
 #include "platform/win32/WindowsFiles.h"
 #include "platform/win32/WindowsPrograms.h"
 
-namespace tessera {
+namespace tessera::windows_programs_test {
 namespace {
 
 int closeRequests = 0;
@@ -81,4 +81,4 @@ TEST(WindowsPrograms, UnquotedPathWithBlanksStartsThatProgramAndNoOther) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::windows_programs_test

@@ -6,7 +6,7 @@
 #include "settings/cRegistry.h"
 #include "settings/ini/MissingMarker.h"
 
-namespace tessera {
+namespace tessera::windows_registry_test {
 namespace {
 
 class WindowsRegistryTest : public testing::Test {
@@ -63,4 +63,4 @@ TEST_F(WindowsRegistryTest, DeletedKeyIsGone) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::windows_registry_test
