@@ -16,11 +16,15 @@ struct Installation {
   std::string Commands, DefaultKeys, Ini;
 };
 
-// Positions in the list of the small installation, in file order
+/// Positions in the list of the small installation, in file order.
+namespace installation {
+
 inline constexpr std::size_t Heading = 0;
 inline constexpr std::size_t Copy = 1;
 inline constexpr std::size_t View = 2;
 inline constexpr std::size_t Pack = 4;
+
+}  // namespace installation
 
 /// Three commands below two headings, no current keys.
 [[nodiscard]] Installation SmallInstallation();

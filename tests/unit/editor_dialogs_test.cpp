@@ -5,6 +5,8 @@
 namespace tessera::editor_dialogs_test {
 namespace {
 
+using namespace installation;
+
 // -- Recent files
 
 TEST_F(EditorTest, AnOpenedFileIsTheNewestRecentFile) {

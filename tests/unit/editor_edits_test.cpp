@@ -3,6 +3,8 @@
 namespace tessera::editor_edits_test {
 namespace {
 
+using namespace installation;
+
 /// Everything that events can set off; told apart from the rest of a test by happening while the
 /// editor is busy.
 void DoEverything(Editor& editor) {

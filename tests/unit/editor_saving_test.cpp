@@ -3,6 +3,8 @@
 namespace tessera::editor_saving_test {
 namespace {
 
+using namespace installation;
+
 // -- Saving
 
 TEST_F(EditorTest, ASaveChangesSectionShortcutsAlone) {

@@ -3,6 +3,8 @@
 namespace tessera::editor_test {
 namespace {
 
+using namespace installation;
+
 // -- Opening
 
 TEST_F(EditorTest, TheFirstActivationShowsEveryRowInFileOrder) {

@@ -7,6 +7,8 @@
 namespace tessera::hostile_values_test {
 namespace {
 
+using namespace installation;
+
 using World = SampleProgram<MemoryFiles>;
 
 /// Edits, sorts, saves and closes as a user would.

@@ -10,6 +10,8 @@
 namespace tessera::other_programs_test {
 namespace {
 
+using namespace installation;
+
 const std::wstring OtherFile = L"C:\\TC\\keys.ini";
 
 /// From the moment in which a save has read it, another program holds one file until the clock has

@@ -14,6 +14,8 @@
 namespace tessera::save_faults_test {
 namespace {
 
+using namespace installation;
+
 using World = SampleProgram<FaultyFiles>;
 using Lasts = FaultyFiles::FaultLasts;
 using FileTable = std::map<std::wstring, std::string>;
