@@ -261,6 +261,35 @@ TEST_F(RecentFilesTest, ASavedListIsReadBack) {
   EXPECT_EQ(Paths(), (List{L"C:\\c\\Wincmd.ini", L"C:\\a b\\Wincmd.ini"}));
 }
 
+TEST_F(RecentFilesTest, EverySlotOfAFullListIsSaved) {
+  Add({L"a", L"b", L"c", L"d"});
+  Save();
+  recent_.Setup(4);
+  Read();
+  EXPECT_EQ(Paths(), (List{L"d", L"c", L"b", L"a"}));
+}
+
+TEST_F(RecentFilesTest, AListThatCouldNotBeReadIsNotSaved) {
+  const std::string stored = "[Tessera]\r\nRecentFiles1=a\r\nRecentFiles2=b\r\n";
+  for (const FileError fault : {FileError::AccessDenied, FileError::SharingViolation,
+                                FileError::LockViolation, FileError::Other}) {
+    files_.Contents[SettingsFile] = stored;
+    files_.ReadErrors = {fault};
+    Read();
+    ASSERT_TRUE(files_.ReadErrors.empty());
+    Add({L"c"});
+    Save();
+    EXPECT_EQ(files_.Contents[SettingsFile], stored);
+  }
+}
+
+TEST_F(RecentFilesTest, AListWithoutAFileToReadIsSaved) {
+  Read();
+  Add({L"a"});
+  Save();
+  EXPECT_EQ(files_.Contents[SettingsFile], "[Tessera]\r\nRecentFiles1=a\r\n");
+}
+
 TEST_F(RecentFilesTest, SavingDeletesTheKeysOfEmptySlotsAndTouchesNoOthers) {
   files_.Contents[SettingsFile] =
       "[Common]\r\nRecentFiles1=c\r\n[Tessera]\r\nRecentFiles1=a\r\nSortOrder=1\r\n"

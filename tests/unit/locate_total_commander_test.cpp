@@ -84,6 +84,13 @@ TEST_F(LocateTotalcmdIncTest, DirectoryOfTheSettingsIsExpandedAndStaysAsItIs) {
   EXPECT_EQ(directory_, L"%tools%\\");
 }
 
+TEST_F(LocateTotalcmdIncTest, DirectoryOfTheSettingsMayBeOnAShare) {
+  directory_ = L"\\\\server\\tc\\";
+  files_.Contents = {{L"\\\\server\\tc\\Totalcmd.inc", ""}};
+  EXPECT_EQ(LocateInc(), L"\\\\server\\tc\\Totalcmd.inc");
+  EXPECT_TRUE(asked_.empty());
+}
+
 TEST_F(LocateTotalcmdIncTest, UserIsAskedOnceWhenNothingIsFound) {
   answer_ = L"F:\\Here\\Totalcmd.inc";
   EXPECT_EQ(LocateInc(), answer_);
@@ -138,6 +145,21 @@ TEST_F(LocateWincmdIniTest, UserDefinedFileThatExistsIsUsedWithoutAnyQuestion) {
   EXPECT_EQ(LocateIni(), L"E:\\Tools\\my.ini");
   EXPECT_EQ(userDefined_, L"%tools%\\my.ini");
   EXPECT_TRUE(asked_.empty());
+}
+
+TEST_F(LocateWincmdIniTest, UserDefinedFileOfAKilledSaveIsThereAgain) {
+  userDefined_ = L"E:\\my.ini";
+  files_.Contents = {{L"E:\\my.ini.tessera-old", "old"}};
+  EXPECT_EQ(LocateIni(), L"E:\\my.ini");
+  EXPECT_EQ(files_.Contents[L"E:\\my.ini"], "old");
+  EXPECT_TRUE(asked_.empty());
+}
+
+TEST_F(LocateWincmdIniTest, QuestionStartsInTheExpandedDirectory) {
+  directory_ = L"%tools%\\";
+  environment_.Variables[L"tools"] = L"E:\\Tools";
+  EXPECT_EQ(LocateIni(), MissingMarker);
+  EXPECT_EQ(asked_, std::vector<std::wstring>{L"E:\\Tools\\"});
 }
 
 TEST_F(LocateWincmdIniTest, AnswerBecomesTheUserDefinedFile) {

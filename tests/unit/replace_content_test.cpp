@@ -82,6 +82,14 @@ TEST_F(ReplaceContentTest, FileHeldForAMomentIsTriedAgain) {
   }
 }
 
+TEST_F(ReplaceContentTest, BackupHeldForAMomentIsMadeAllTheSame) {
+  files_.Contents = {{Path, "old"}, {Backup, "older"}};
+  files_.MoveErrors = {FileError::SharingViolation, FileError::SharingViolation};
+  EXPECT_EQ(Save(KeepCopies::Yes), FileError::None);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "new"}, {Backup, "old"}}));
+  EXPECT_EQ(clock_.SleptMilliseconds, 20 + 40);
+}
+
 TEST_F(ReplaceContentTest, FileHeldForGoodIsGivenUpAfterTwoSeconds) {
   files_.Contents = {{Path, "old"}, {Backup, "older"}};
   files_.ReplaceErrors.assign(100, FileError::SharingViolation);
@@ -243,6 +251,23 @@ TEST(ClearLeftOvers, FormerContentThatIsStillInPlaceIsNoBackup) {
   files.Contents = {{Path, "old"}, {Former, "old"}, {Backup, "older"}, {Prepared, "new"}};
   ClearLeftOvers(files, Path, KeepCopies::Yes);
   EXPECT_EQ(files.Contents, (FileTable{{Path, "old"}, {Backup, "older"}}));
+}
+
+TEST(ClearLeftOvers, FormerContentReturnsBesideTheTargetOfALink) {
+  const std::wstring real = L"D:\\Settings\\Wincmd.ini";
+  FaultyFiles files;
+  files.Links = {{Path, real}};
+  files.Contents = {{real + L".tessera-old", "old"}, {real + L".tessera-new", "new"}};
+  ClearLeftOvers(files, Path, KeepCopies::Yes);
+  EXPECT_EQ(files.Contents, (FileTable{{real, "old"}}));
+}
+
+TEST(ClearLeftOvers, NothingGoesWhileTheFormerContentCannotReturn) {
+  FaultyFiles files;
+  files.Contents = {{Prepared, "new"}, {Former, "old"}};
+  files.MoveErrors = {FileError::AccessDenied};
+  ClearLeftOvers(files, Path, KeepCopies::Yes);
+  EXPECT_EQ(files.Contents, (FileTable{{Prepared, "new"}, {Former, "old"}}));
 }
 
 TEST(ClearLeftOvers, NothingIsReadWhenNothingIsLeft) {

@@ -267,27 +267,40 @@ TEST(SaveFaults, AReplaceThatFailsLeavesThePreparedContentAsUnsaved) {
   }
 }
 
-TEST(SaveFaults, AFileThatCouldNotBeReadAtTheOpenIsNotSaved) {
-  World world;
-  world.Files.Contents[IniFile] = Content;
-  world.Editor.Load();
-  world.Files.ReadErrors.assign(8, FileError::SharingViolation);  // as often as it is tried
-  world.Editor.Activate();
-  ASSERT_TRUE(world.Files.ReadErrors.empty());
-  ASSERT_EQ(world.Editor.Rows().Count(), 5U);
-  world.Assign(Pack, 0, L"X");
-  EXPECT_TRUE(world.Editor.Modified());
-  world.Editor.FileSave();
-  EXPECT_EQ(world.Files.Contents[IniFile], Content);
-  EXPECT_TRUE(world.Editor.Modified());
-  EXPECT_EQ(world.MessageBoxes.BeepCount, 1);
+/// Files of which Wincmd.ini alone cannot be read while there is a fault.
+class UnreadableIni final : public MemoryFiles {
+ public:
+  FileError Fault = FileError::None;
 
-  world.MessageBoxes.Answers = {BoxAnswer::No};
-  world.Editor.OpenShortcutFile(false, IniFile, false);
-  world.Assign(Pack, 0, L"X");
-  world.Editor.FileSave();
-  EXPECT_FALSE(world.Editor.Modified());
-  EXPECT_NE(world.Files.Contents[IniFile].find("C+F3=cm_View\r\n"), std::string::npos);
+  [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override {
+    const bool isUnread = path == IniFile && Fault != FileError::None;
+    return isUnread ? Fault : MemoryFiles::Read(path, bytes);
+  }
+};
+
+TEST(SaveFaults, AFileThatCouldNotBeReadAtTheOpenIsNotSaved) {
+  for (const FileError fault : Faults) {
+    SCOPED_TRACE(static_cast<int>(fault));
+    SampleProgram<UnreadableIni> program;
+    program.Files.Contents[IniFile] = Content;
+    program.Files.Fault = fault;
+    program.Start();
+    program.Files.Fault = FileError::None;
+    ASSERT_EQ(program.Editor.Rows().Count(), 5U);
+    program.Assign(Pack, 0, L"X");
+    EXPECT_TRUE(program.Editor.Modified());
+    program.Editor.FileSave();
+    EXPECT_EQ(program.Files.Contents[IniFile], Content);
+    EXPECT_TRUE(program.Editor.Modified());
+    EXPECT_EQ(program.MessageBoxes.BeepCount, 1);
+
+    program.MessageBoxes.Answers = {BoxAnswer::No};
+    program.Editor.OpenShortcutFile(false, IniFile, false);
+    program.Assign(Pack, 0, L"X");
+    program.Editor.FileSave();
+    EXPECT_FALSE(program.Editor.Modified());
+    EXPECT_NE(program.Files.Contents[IniFile].find("C+F3=cm_View\r\n"), std::string::npos);
+  }
 }
 
 TEST(SaveFaults, AFileThatIsHeldForAMomentIsReadAllTheSame) {
