@@ -44,6 +44,16 @@ TEST_F(EditorTest, ARecentFileThatHasGoneIsReportedAndRemoved) {
   EXPECT_EQ(StoredSettings().find("gone.ini"), std::string::npos);
 }
 
+TEST_F(EditorTest, ARecentFileOfAKilledSaveIsThereAgain) {
+  Files.Contents[OtherIniFile + L".tessera-old"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  StoredSettings() = "[Tessera]\r\nRecentFiles1=C:\\TC\\Other.ini\r\n";
+  Start();
+  Editor.OpenRecentFile(2);
+  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
+  EXPECT_EQ(Editor.RecentFiles().ListItems(1), OtherIniFile);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
+}
+
 TEST_F(EditorTest, NoKeepsTheRecentFilesAndYesClearsThem) {
   Start();
   const std::string before = StoredSettings();
@@ -64,6 +74,14 @@ TEST_F(EditorTest, AFileNamedAtTheStartIsOpenedInPlaceOfTheOneFound) {
   EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Other.ini - Tessera");
 }
 
+TEST_F(EditorTest, AFileNamedAtTheStartIsThereAgainAfterAKilledSave) {
+  Files.Contents[OtherIniFile + L".tessera-old"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  Editor.Load(OtherIniFile);
+  Editor.Activate();
+  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Other.ini - Tessera");
+  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
+}
+
 TEST_F(EditorTest, AFileNamedAtTheStartThatDoesNotExistIsPassedOver) {
   Editor.Load(L"C:\\nothing.ini");
   Editor.Activate();
@@ -80,6 +98,18 @@ TEST_F(EditorTest, ARedirectedSectionIsFoundByTheFolderOfTotalCommander) {
   Assign(Pack, L"X");
   Editor.FileSave();
   EXPECT_EQ(Files.Contents[L"C:\\TC\\keys.ini"], "[Shortcuts]\r\nX=cm_Pack\r\n");
+}
+
+TEST_F(EditorTest, TheStoredFolderOfTotalCommanderMayHoldVariables) {
+  Environment.Variables = {{L"tools", L"C:\\TC"}};
+  StoredSettings() = "[Common]\r\nTCInstallDir=%tools%\r\n";
+  Ini() = "[Shortcuts]\r\nRedirectSection=%COMMANDER_PATH%\\keys.ini\r\n";
+  Files.Contents[L"C:\\TC\\keys.ini"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  Start();
+  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
+  Editor.FileOpen();
+  ASSERT_EQ(Dialogs.OpenRequests.size(), 1U);
+  EXPECT_EQ(Dialogs.OpenRequests[0].Folder, L"C:\\TC\\");
 }
 
 // The folder that was found counts for files alone, deliberately.
@@ -125,6 +155,22 @@ TEST_F(EditorTest, TheExportFollowsTheListAndWarnsOfUnsavedChanges) {
   Editor.BeginExport().Ok(Files, Clock, SettingsFile);
   Editor.EndExport();
   EXPECT_EQ(Clipboard.Texts.back().find(L"Important"), std::wstring::npos);
+}
+
+TEST_F(EditorTest, TheExportStartsWithTheStoredColumns) {
+  StoredSettings() = "[Tessera]\r\nClipOptions=1,0,0,1\r\n";
+  Start();
+  EXPECT_EQ(Editor.BeginExport().Selection().ClipOptions(), L"1,0,0,1");
+}
+
+TEST_F(EditorTest, ALanguageFileThatGoesIsReportedByTheExportToo) {
+  StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
+  Start();
+  Files.Contents.erase(L"C:\\de.lng");
+  Editor.BeginExport();
+  EXPECT_EQ(MessageBoxes.Shown.size(), 1U);
+  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
 }
 
 TEST_F(EditorTest, OptionsResetThePanelAndAreStoredAtOnce) {
@@ -176,6 +222,33 @@ TEST_F(EditorTest, AnotherLanguageIsInUseAfterTheOptions) {
   again.Apply();
   EXPECT_TRUE(Editor.EndOptions().LanguageChanged);
   EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
+}
+
+TEST_F(EditorTest, TheRecentFilesFollowTheLanguage) {
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n109=Liste leeren\r\n";
+  Start();
+  OptionsSelection& options = Editor.BeginOptions();
+  options.UseDefaultLanguage(false);
+  options.EditLanguageFilePath(L"C:\\de.lng");
+  options.Apply();
+  Editor.EndOptions();
+  EXPECT_EQ(Editor.RecentFiles().ClearEntry().Caption, L"Liste leeren");
+}
+
+TEST_F(EditorTest, AnotherLanguageNamesTheModifiersFromTheNextOpenOn) {
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n";
+  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nC+X=cm_Pack\r\n";
+  Start();
+  OptionsSelection& options = Editor.BeginOptions();
+  options.UseDefaultLanguage(false);
+  options.EditLanguageFilePath(L"C:\\de.lng");
+  options.Apply();
+  Editor.EndOptions();
+  Editor.SetBox(Modifier::Ctrl, true);
+  Choose(L"X");
+  EXPECT_EQ(Editor.Panel().ComposeKey(), L"Ctrl + X");
+  Editor.OpenFile(OtherIniFile);
+  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Strg + X");
 }
 
 TEST_F(EditorTest, TheDefaultLanguageLeavesTheLanguageFileAlone) {

@@ -88,6 +88,27 @@ TEST_F(EditorTest, APositionOutsideTheListSelectsNothingElse) {
   EXPECT_EQ(Editor.List().SelectedRow(), 3U);
 }
 
+TEST_F(EditorTest, TheStoredContextMenuKeyStandsForAltFromItsFirstPress) {
+  for (const char* value : {"1", "2", "-1"}) {
+    StoredSettings() = std::string("[Tessera]\r\nUseContextMenuKey=") + value + "\r\n";
+    tessera::Editor editor(Seams, [](const LoadProgress&) {});
+    editor.Load();
+    editor.Activate();
+    editor.SelectRow(Pack);
+    editor.KeyDown({.Code = KeyCode::ContextMenu});
+    EXPECT_TRUE(editor.Panel().BoxChecked(Modifier::Alt)) << value;
+  }
+}
+
+TEST_F(EditorTest, TheToolbarGoesAndComesBack) {
+  Start();
+  ASSERT_EQ(Editor.Options().ToolbarVisible, 1);
+  Editor.ToggleToolbar();
+  EXPECT_EQ(Editor.Options().ToolbarVisible, 0);
+  Editor.ToggleToolbar();
+  EXPECT_EQ(Editor.Options().ToolbarVisible, 1);
+}
+
 // -- While a load or a save runs
 
 TEST_F(EditorTest, EventsDuringALoadChangeNothing) {
@@ -130,6 +151,33 @@ TEST_F(EditorTest, EventsDuringASaveChangeNothing) {
   EXPECT_TRUE(Clipboard.Texts.empty());
   EXPECT_EQ(std::count(Calls.begin(), Calls.end(), L"SendClose 7"), 1);
   EXPECT_NE(Ini().find("X=cm_Pack\r\n"), std::string::npos);
+}
+
+TEST_F(EditorTest, AMissingRecentFileStaysInTheListDuringASave) {
+  StoredSettings() = "[Tessera]\r\nRecentFiles1=C:\\gone.ini\r\n";
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Assign(Pack, L"X");
+  Clock.OnDoEvents = [this] { Editor.OpenRecentFile(2); };
+  Editor.FileSaveAndRestart();
+  EXPECT_GT(Clock.DoEventsCount, 0);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
+  EXPECT_EQ(Editor.RecentFiles().ListItems(2), L"C:\\gone.ini");
+}
+
+TEST_F(EditorTest, AKeyReleasedDuringASaveTurnsNoToggle) {
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Assign(Pack, L"X");
+  int pauses = 0;
+  Clock.OnDoEvents = [&] {
+    if (pauses++ == 0) Editor.KeyUp({.Code = KeyCode::Shift});
+  };
+  Editor.FileSaveAndRestart();
+  EXPECT_GT(pauses, 0);
+  Clock.OnDoEvents = nullptr;
+  Editor.KeyDown({.Code = KeyCode::Shift, .ShiftHeld = true});
+  EXPECT_TRUE(Editor.Panel().BoxChecked(Modifier::Shift));
 }
 
 // -- Order
@@ -205,6 +253,28 @@ TEST_F(EditorTest, SelectingARowClosesTheKeysList) {
   Editor.ToggleKeysList();
   Editor.ToggleSortedList();
   EXPECT_FALSE(Editor.AllKeys().Visible());
+}
+
+TEST_F(EditorTest, OpeningAFileClosesTheKeysList) {
+  Start();
+  Editor.SelectRow(Pack);
+  Editor.ToggleKeysList();
+  ASSERT_TRUE(Editor.AllKeys().Visible());
+  Editor.OpenFile(IniFile);
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+}
+
+TEST_F(EditorTest, TheKeysListFollowsAResetOfThePanel) {
+  Start();
+  Editor.SelectRow(Pack);
+  Editor.ChooseKey(7);
+  ASSERT_EQ(Editor.AllKeys().Selection(), 7);
+  Editor.KeyDown({.Code = KeyCode::Escape});
+  EXPECT_EQ(Editor.AllKeys().Selection(), NoKeyChosen);
+  Editor.ChooseKey(7);
+  Editor.BeginOptions();
+  Editor.EndOptions();
+  EXPECT_EQ(Editor.AllKeys().Selection(), NoKeyChosen);
 }
 
 TEST_F(EditorTest, TheKeysListDoesNotOpenForAHeadingRow) {

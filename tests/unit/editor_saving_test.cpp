@@ -130,6 +130,32 @@ TEST_F(EditorTest, SaveAndRestartIsEnabledOnlyWhileTotalCommanderRunsAndChangesW
   EXPECT_TRUE(Editor.RestartButtonEnabled());
 }
 
+TEST_F(EditorTest, ShortcutsOfUnknownCommandsStayWhereTheSettingIsNotZero) {
+  for (const char* value : {"0", "1", "2", "-1"}) {
+    StoredSettings() = std::string("[Tessera]\r\nKeepUnknownShortcuts=") + value + "\r\n";
+    Ini() = "[Shortcuts]\r\nF3=cm_Copy\r\nA+F5=em_own\r\n";
+    tessera::Editor editor(Seams, [](const LoadProgress&) {});
+    editor.Load();
+    editor.Activate();
+    editor.SelectRow(Copy);
+    editor.DeleteKeys();
+    editor.FileSave();
+    ASSERT_FALSE(editor.Modified());
+    EXPECT_EQ(Ini(), *value == '0' ? "" : "[Shortcuts]\r\nA+F5=em_own\r\n") << value;
+  }
+}
+
+TEST_F(EditorTest, TotalCommanderIsStartedAgainAfterASaveThatFailed) {
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Assign(Pack, L"X");
+  Files.ReplaceErrors.assign(100, FileError::AccessDenied);
+  Editor.FileSaveAndRestart();
+  EXPECT_TRUE(Editor.Modified());
+  ASSERT_FALSE(Calls.empty());
+  EXPECT_EQ(Calls.back(), L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\"");
+}
+
 // -- Closing
 
 TEST_F(EditorTest, WithoutChangesItClosesWithoutAQuestion) {

@@ -277,6 +277,16 @@ TEST_F(EditorTest, KeysAreShownWithTheModifierNamesOfTheLanguage) {
             std::string::npos);
 }
 
+TEST_F(EditorTest, AnyNumberButNoughtReversesTheOrderOfKeys) {
+  for (const char* value : {"0", "1", "2", "-1"}) {
+    StoredSettings() = std::string("[Tessera]\r\nReverseOrderHotkey=") + value + "\r\n";
+    tessera::Editor editor(Seams, [](const LoadProgress&) {});
+    editor.Load();
+    editor.Activate();
+    EXPECT_EQ(editor.Rows().At(View).CurrentKeys, *value == '0' ? L"Ctrl + F3" : L"F3 + Ctrl");
+  }
+}
+
 // -- The end
 
 TEST_F(EditorTest, UnloadStoresWindowColumnsAndSort) {
