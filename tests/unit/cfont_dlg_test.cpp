@@ -36,6 +36,15 @@ TEST_F(cFontDlgTest, RecordIsBuiltFromTheDescription) {
   EXPECT_EQ(record.PointSizeInTenths, 120);
 }
 
+TEST_F(cFontDlgTest, ScriptIsAByteOfTheRecord) {
+  const std::pair<int, int> cases[] = {{-1, 0}, {0, 0}, {254, 254}, {255, 255}, {256, 255}};
+  for (const auto& [script, charSet] : cases) {
+    dialog_.Script = script;
+    EXPECT_FALSE(dialog_.ShowFont());
+    EXPECT_EQ(dialogs_.FontRequests.back().CharSet, charSet) << script;
+  }
+}
+
 TEST_F(cFontDlgTest, PlainDescriptionHasNormalWeight) {
   dialog_.FontStyle = cFontDlg::Italic | cFontDlg::Underline;
   EXPECT_FALSE(dialog_.ShowFont());

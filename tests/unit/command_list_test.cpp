@@ -164,6 +164,16 @@ TEST_F(CommandListTest, AStoredFourthColumnIsRestoredAsNone) {
   EXPECT_EQ(Order(), byCurrentKeys);
 }
 
+TEST_F(CommandListTest, AStoredOrderThatIsNoneCountsAsDescending) {
+  for (const short order : {short{2}, short{-1}}) {
+    settings_.SortedColumn = 2;
+    settings_.SortOrder = order;
+    list_.SortCommandList();
+    EXPECT_EQ(Order(), byCommandDescending);
+    EXPECT_EQ(settings_.SortOrder, 1);
+  }
+}
+
 TEST_F(CommandListTest, WithoutSortedListNothingIsRestored) {
   list_.RestoreStoredSort();
   EXPECT_EQ(Order(), fileOrder);
@@ -194,6 +204,7 @@ TEST(ColumnLayout, WhatIsMissingOrImpossibleTakesItsDefault) {
       {L"1,2,3,4", L"0,40000,2000,2000", {0, 40000, 2000, 2000}},
       {L"0,1,2,3", L"1e9,,,", {3000, 2000, 2000, 2000}},
       {L"1,2,3,5", L"100,200,300,400,500", {100, 200, 300, 400}},
+      {L"1,2,3,4", L"900,99,1000000,1000001", {900, 99, 1000000, 2000}},
   };
   for (const auto& [positions, widths, expectedWidths] : cases) {
     Settings settings;

@@ -97,5 +97,14 @@ TEST(DefaultHotkeys, AValueIsCutAtTheBuffersLength) {
   EXPECT_EQ(KeysOfValue(std::string(500, 'x')), std::wstring(499, L'x'));
 }
 
+TEST(DefaultHotkeys, AnUndefinedMarkerIsCutAsAValueIs) {
+  HotkeyNotation notation;
+  notation.UndefinedHotkey = std::wstring(600, L'-');
+  MemoryFiles files;
+  std::vector<CommandEntry> rows{Command(L"300")};
+  FillDefaultKeys(rows, ProfileFile(files, L"keys.hky"), notation, [] {});
+  EXPECT_EQ(rows[0].DefaultKeys, std::wstring(499, L'-'));
+}
+
 }  // namespace
 }  // namespace tessera::default_hotkeys_test

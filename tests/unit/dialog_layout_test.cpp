@@ -55,6 +55,36 @@ TEST(DialogLayout, TextBoxLeavesRoomForItsButton) {
   EXPECT_EQ(button, (Area{370, 0, 30, 23}));
 }
 
+TEST(DialogLayout, TextBoxInAFrameLeavesRoomForItsButtonToo) {
+  constexpr MeasuredControl Controls[] = {
+      {ControlKind::Frame, 0, 50}, {ControlKind::TextBox, 0, 0}, {ControlKind::SideButton, 0, 9}};
+  const PagesLayout layout = LayOutPages(Controls, Metrics, 400);
+  const Area& frame = layout.Controls[0];
+  const Area& text = layout.Controls[1];
+  const Area& button = layout.Controls[2];
+  EXPECT_EQ(text.Left, 11);
+  EXPECT_EQ(text.Left + text.Width + 7, button.Left);
+  EXPECT_EQ(button.Left + button.Width + 11, frame.Left + frame.Width);
+}
+
+TEST(DialogLayout, WidestLabelMakesRoomForTheSwatches) {
+  constexpr MeasuredControl Controls[] = {{ControlKind::Frame, 0, 50},
+                                          {ControlKind::Label, 0, 300},
+                                          {ControlKind::Swatch, 0, 0},
+                                          {ControlKind::Label, 0, 40},
+                                          {ControlKind::Swatch, 0, 0}};
+  const PagesLayout layout = LayOutPages(Controls, Metrics, 200);
+  const Area& swatch = layout.Controls[2];
+  EXPECT_LE(swatch.Left + swatch.Width + 11, layout.Width);
+}
+
+TEST(DialogLayout, PagesAreAsHighAsTheHighestWhereverItIs) {
+  constexpr MeasuredControl Controls[] = {{ControlKind::CheckBox, 0, 10},
+                                          {ControlKind::CheckBox, 0, 10},
+                                          {ControlKind::CheckBox, 1, 10}};
+  EXPECT_EQ(LayOutPages(Controls, Metrics, 0).Height, 41);
+}
+
 TEST(DialogLayout, PagesHaveTheSameSize) {
   constexpr MeasuredControl Controls[] = {{ControlKind::CheckBox, 0, 500},
                                           {ControlKind::CheckBox, 1, 10},

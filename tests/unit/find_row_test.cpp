@@ -35,6 +35,12 @@ TEST(FindRow, SearchesFromTheStartRoundToIt) {
   EXPECT_EQ(FindRow(table, L"m", 3), 1U);
 }
 
+TEST(FindRow, TheRowWhereTheSearchStartsComesFirst) {
+  const DisplayTable table = TableOf({L"Copy", L"Copy names", L"Copy paths"});
+  EXPECT_EQ(FindRow(table, L"cop", 1), 1U);
+  EXPECT_EQ(FindRow(table, L"copy p", 1), 2U);
+}
+
 TEST(FindRow, FindsNothingInAnEmptyList) { EXPECT_EQ(FindRow(TableOf({}), L"a", 0), std::nullopt); }
 
 }  // namespace

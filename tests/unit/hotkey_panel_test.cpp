@@ -182,6 +182,23 @@ TEST_F(HotkeyPanelTest, WithTheOptionTheContextMenuKeyTogglesTheAltBoxAndAltDoes
   }
 }
 
+TEST_F(HotkeyPanelTest, WithoutTheOptionTheContextMenuKeyIsLeftToTheControlAndToNoToggle) {
+  EXPECT_FALSE(panel_.KeyDown(ContextMenu).Handled);
+  EXPECT_FALSE(panel_.KeyUp(ContextMenu).Handled);
+  panel_.KeyDown(AltPressed);
+  panel_.KeyUp(AltReleased);
+  panel_.TimerTick();
+  EXPECT_TRUE(panel_.BoxChecked(Modifier::Alt));
+}
+
+TEST_F(HotkeyPanelTest, KeysThatThePanelUsesDoNotReachTheControl) {
+  EXPECT_TRUE(panel_.KeyDown({.Code = KeyCode::Delete, .AltHeld = true}).Handled);
+  EXPECT_FALSE(panel_.KeyDown(AltPressed).Handled);
+  settings_.UseContextMenuKey = 1;
+  EXPECT_TRUE(panel_.KeyDown(ContextMenu).Handled);
+  EXPECT_TRUE(panel_.KeyUp(ContextMenu).Handled);
+}
+
 TEST_F(HotkeyPanelTest, EnterAssignsTheChosenKeyAndResetsThePanel) {
   panel_.KeyDown(CtrlPressed);
   panel_.KeyUp(CtrlReleased);

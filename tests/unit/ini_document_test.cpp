@@ -313,6 +313,32 @@ bool DiffersInOneLine(std::string_view before, std::string_view after) {
   return old.size() - head - tail <= 1 && now.size() - head - tail <= 1;
 }
 
+TEST(IniDocument, AHeaderIsNoKeyWhateverItsName) {
+  const IniDocument document("[a=b]\nk=1\n[k=v]\n");
+  EXPECT_EQ(document.Entries("a=b").size(), 1U);
+  for (int look = 0; look < 3; ++look) {  // each first look is without an index
+    EXPECT_EQ(document.Find("a=b", "[a"), std::nullopt);
+    EXPECT_EQ(document.Find("k=v", "[k"), std::nullopt);
+  }
+}
+
+TEST(IniDocument, WhatStandsBeforeTheFirstHeaderIsNoSectionOfThatName) {
+  // But for its first character, each reads as that header does.
+  for (const std::string before : {";s\n", "xs]\n"}) {
+    EXPECT_EQ(Replaced(before + "[s]\na=1\n", {}), before);
+  }
+}
+
+TEST(IniDocument, ARemovedLineLeavesNoBlankOneToLaterEdits) {
+  IniDocument document("[s]\r\na=1\r\nb=2\r\n");
+  document.Remove("s", "a");
+  document.ReplaceEntries("s", {{"c", "3"}}, KeepNone);
+  EXPECT_EQ(document.Bytes(), "[s]\r\nc=3\r\n");
+  document.Remove("s", "c");
+  document.Set("t", "k", "v");
+  EXPECT_EQ(document.Bytes(), "[s]\r\n[t]\r\nk=v\r\n");
+}
+
 TEST(IniDocumentProperties, ReadingChangesNoByte) {
   RandomFiles random(1);
   for (int i = 0; i < 3000; ++i) {

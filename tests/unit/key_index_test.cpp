@@ -8,6 +8,7 @@
 
 #include "shortcuts/KeyIndex.h"
 #include "text/Text.h"
+#include "text/TextHash.h"
 
 namespace tessera::key_index_test {
 namespace {
@@ -69,6 +70,24 @@ TEST(KeyIndex, TheFirstOfSeveralMatchesWins) {
   index.Add(L"F1", 3);
   EXPECT_EQ(index.FindKey(L"F1"), marked);
   EXPECT_EQ(index.FindWhole(L"F1"), plain);
+}
+
+TEST(KeyIndex, TextsWithOneHashAreToldApart) {
+  ASSERT_EQ(HashIgnoringCase()(L"AÄ"), HashIgnoringCase()(L"BA"));
+  KeyIndex index;
+  index.Add(L"AÄ", 1);
+  EXPECT_EQ(index.FindWhole(L"BA"), std::nullopt);
+  EXPECT_EQ(index.FindKey(L"BA"), std::nullopt);
+  const auto second = index.Add(L"BA", 2);
+  EXPECT_EQ(index.FindWhole(L"BA"), second);
+  EXPECT_EQ(index.FindKey(L"BA"), second);
+}
+
+TEST(KeyIndex, ARowBeyondAllOwnersOwnsNothing) {
+  KeyIndex index;
+  index.Add(L"F1", 7);
+  for (const RowKey owner : {RowKey{8}, RowKey{9}, RowKey{100}}) index.RemoveOwnedBy(owner);
+  EXPECT_EQ(index.Count(), 1u);
 }
 
 TEST(KeyIndex, AChangedTextIsFoundInItsOldPlaceOfTheOrder) {

@@ -124,6 +124,42 @@ TEST(Layout, ColumnPositionsAndOrderAreInverse) {
   EXPECT_EQ(PositionsOfOrder(OrderOfPositions(positions)), positions);
 }
 
+TEST(Layout, WindowThatOnlyTouchesAScreenIsOffIt) {
+  const std::vector<Area> screens{{0, 0, 1920, 1040}};
+  const auto placed = [&](int left, int top) {
+    return MakeReachable({left, top, 600, 400}, screens, 96);
+  };
+  // What counts is the title bar without its ends, 100 pixels each.
+  EXPECT_EQ(placed(1819, 100).Left, 1819);
+  EXPECT_EQ(placed(1820, 100).Left, 1320);
+  EXPECT_EQ(placed(-499, 100).Left, -499);
+  EXPECT_EQ(placed(-500, 100).Left, 0);
+  EXPECT_EQ(placed(100, 1039).Top, 1039);
+  EXPECT_EQ(placed(100, 1040).Top, 640);
+  EXPECT_EQ(placed(100, -8).Top, -8);
+  EXPECT_EQ(placed(100, -9).Top, 0);
+}
+
+TEST(Layout, NarrowWindowIsMovedByItsMiddleThird) {
+  const std::vector<Area> screens{{0, 0, 1920, 1040}};
+  EXPECT_EQ(MakeReachable({1879, 100, 120, 400}, screens, 96).Left, 1879);
+  EXPECT_EQ(MakeReachable({1880, 100, 120, 400}, screens, 96).Left, 1800);
+}
+
+TEST(Layout, KeysListThatJustFitsOpensUnderThePanel) {
+  const Area panel{100, 500, 600, 40};
+  const Area button{400, 510, 15, 16};
+  EXPECT_EQ(PlaceKeysList({panel, button, {0, 0, 1280, 840}}, 160, 300).Top, 540);
+  EXPECT_EQ(PlaceKeysList({panel, button, {0, 0, 1280, 839}}, 160, 300).Top, 200);
+}
+
+TEST(Layout, KeysListLargerThanItsScreenStartsAtTheScreensCorner) {
+  const Area screen{100, 100, 200, 200};
+  const Area panel{100, 450, 600, 40};
+  const Area button{150, 460, 15, 16};
+  EXPECT_EQ(PlaceKeysList({panel, button, screen, true}, 300, 300), (Area{100, 100, 300, 300}));
+}
+
 }  // namespace
 
 }  // namespace tessera::layout_test

@@ -10,29 +10,14 @@ namespace {
 
 TEST(LeadingNumber, StopsWhereTheNumberEnds) {
   const std::pair<std::wstring_view, double> cases[] = {
-      {L"", 0},
-      {L"abc", 0},
-      {L"12abc", 12},
-      {L"  -7 ", -7},
-      {L"+3", 3},
-      {L"2.5", 2.5},
-      {L".5x", 0.5},
-      {L"5.", 5},
-      {L".", 0},
-      {L"-", 0},
-      {L"1e3", 1000},
-      {L"1E-2z", 0.01},
-      {L"1e", 1},
-      {L"1e+", 1},
-      {L"0x10", 0},
-      {L"inf", 0},
-      {L"nan", 0},
-      {L"1,5", 1},
-      {L"--1", 0},
-      {L"1 2", 1},
-      {L"\u0661", 0},
-      {L"1e-999", 0},
-      {L"1e999", std::numeric_limits<double>::max()},
+      {L"", 0},         {L"abc", 0},    {L"12abc", 12},
+      {L"  -7 ", -7},   {L"\t7", 7},    {L"+3", 3},
+      {L"2.5", 2.5},    {L".5x", 0.5},  {L"5.", 5},
+      {L".", 0},        {L"-", 0},      {L"1e3", 1000},
+      {L"1E-2z", 0.01}, {L"1e", 1},     {L"1e+", 1},
+      {L"0x10", 0},     {L"inf", 0},    {L"nan", 0},
+      {L"1,5", 1},      {L"--1", 0},    {L"1 2", 1},
+      {L"\u0661", 0},   {L"1e-999", 0}, {L"1e999", std::numeric_limits<double>::max()},
   };
   for (const auto& [text, number] : cases) EXPECT_EQ(LeadingNumber(text), number);
 }

@@ -97,6 +97,15 @@ TEST_F(ProfileFileTest, CodePageOfChoiceCountsBothWays) {
   EXPECT_EQ(Saved(file), "[s]\nk=\xD0\x96\n\xD0\x96=\xE4\xB8\xAD\r\n");
 }
 
+TEST_F(ProfileFileTest, LongValueOfAUtf8FileIsNotCutInsideACharacter) {
+  std::string value;
+  for (int i = 0; i < 2100; ++i) value += "\xD0\x96";
+  ProfileFile file = With("[s]\nk=" + value + "\n");
+  file.UseCodePage(Utf8CodePage);
+  EXPECT_EQ(file.ReadString(L"s", L"k", L""), std::wstring(2047, L'\u0416'));
+  EXPECT_EQ(file.ReadString(L"s", L"k", L"", 4), L"\u0416");
+}
+
 TEST_F(ProfileFileTest, Utf16FileHoldsAnyText) {
   ProfileFile file = With("\xFF\xFE[\0s\0]\0\n\0k\0=\0\x16\x04\n\0"s);
   EXPECT_EQ(file.ReadString(L"s", L"k", L""), L"\u0416");
@@ -136,6 +145,18 @@ TEST_F(ProfileFileTest, EntriesAreReplacedAsTexts) {
   file.ReplaceEntries(L"s", {{L"x", L" \u0416 "}, {L"\u00E9", L"2"}},
                       [](std::wstring_view key) { return key == L"RedirectSection"; });
   EXPECT_EQ(Saved(file), "[s]\nRedirectSection=1\nx=\xEF\xBB\xBF\xD0\x96\r\n\xE9=2\r\n;c\n");
+}
+
+TEST_F(ProfileFileTest, MarkOfAReplacedValueStandsWithinItsQuotes) {
+  ProfileFile file = With("");
+  file.ReplaceEntries(
+      L"s", {{L"a", L"'\u0416'"}, {L"b", L"\"\u0416\""}, {L"c", L"\"\u0416"}, {L"d", L"'x'"}},
+      [](std::wstring_view) { return false; });
+  EXPECT_EQ(Saved(file),
+            "[s]\r\na='\xEF\xBB\xBF\xD0\x96'\r\nb=\"\xEF\xBB\xBF\xD0\x96\"\r\n"
+            "c=\xEF\xBB\xBF\"\xD0\x96\r\nd='x'\r\n");
+  for (const wchar_t* key : {L"a", L"b"}) EXPECT_EQ(file.ReadString(L"s", key, L""), L"\u0416");
+  EXPECT_EQ(file.ReadString(L"s", L"c", L""), L"\"\u0416");
 }
 
 TEST_F(ProfileFileTest, FileIsReadOnceAndWrittenOnce) {
@@ -185,6 +206,22 @@ TEST_F(ProfileFileTest, FailedSaveCanBeTriedAgain) {
   Files.WriteErrors = {FileError::DiskFull};
   EXPECT_EQ(file.Save(Files, Clock, KeepCopies::No), FileError::DiskFull);
   EXPECT_EQ(Saved(file), "[s]\nk=new\n");
+}
+
+TEST_F(ProfileFileTest, FileIsSavedAsOftenAsItChanges) {
+  ProfileFile file = With("[s]\nk=v\n");
+  for (const wchar_t* value : {L"longer", L"shorter", L"x", L"v"}) {
+    file.WriteString(L"s", L"k", value);
+    EXPECT_EQ(Saved(file), "[s]\nk=" + Encode(value) + "\n");
+  }
+}
+
+TEST_F(ProfileFileTest, ValueOfAUtf16FileIsCutInCharactersAndKeepsAMark) {
+  const ProfileFile file = With(
+      "\xFF\xFE[\0s\0]\0\n\0k\0=\0\x16\x04\x17\x04\x18\x04\n\0"
+      "m\0=\0\xFF\xFEx\0"s);
+  EXPECT_EQ(file.ReadString(L"s", L"k", L"", 3), L"\u0416\u0417");
+  EXPECT_EQ(file.ReadString(L"s", L"m", L""), L"\uFEFFx");
 }
 
 }  // namespace

@@ -43,6 +43,8 @@ TEST(RedirectSection, OneStandsForTheAlternateFile) {
             L"C:\\tc\\ini\\user.ini");
   EXPECT_EQ(PathWith(section + "[Configuration]\r\nAlternateUserIni=%COMMANDER_PATH%\\u.ini\r\n"),
             L"D:\\Total\\u.ini");
+  EXPECT_EQ(PathWith(section + "[Configuration]\r\nAlternateUserIni=\" user.ini \"\r\n"),
+            L"C:\\tc\\ini\\user.ini");
   EXPECT_EQ(PathWith(section + "[Configuration]\r\nAlternateUserIni=\r\n"), WincmdPath);
   EXPECT_EQ(PathWith(section), WincmdPath);
 }

@@ -315,6 +315,28 @@ TEST_F(SettingsTest, FileThatCannotBeReadIsNotReplaced) {
   EXPECT_EQ(files_.Contents[Path], "[Tessera]\r\nFontSize=8\r\n");
 }
 
+TEST_F(SettingsTest, FileThatCouldNotBeReadAndIsGoneIsMadeAnew) {
+  files_.Contents[Path] = "[Tessera]\r\nFontSize=8\r\n";
+  files_.ReadErrors.assign(100, FileError::SharingViolation);
+  Settings settings = Load();
+  files_.ReadErrors.clear();
+  settings.FontSize = 20;
+  EXPECT_EQ(Save(settings), FileError::AccessDenied);
+  files_.Contents.clear();
+  EXPECT_EQ(Save(settings), FileError::None);
+  EXPECT_EQ(ValueOf("FontSize"), "20");
+}
+
+TEST_F(SettingsTest, AnyNumberButNoughtStandsForAMaximisedWindow) {
+  for (const short maximised : {short{1}, short{2}, short{-1}}) {
+    Settings settings = LoadLines("MainWindowLeft=7\r\n");
+    settings.MainWindowLeft = 100;
+    settings.MainWindowMaxmized = maximised;
+    EXPECT_EQ(Save(settings), FileError::None);
+    EXPECT_EQ(ValueOf("MainWindowLeft"), "7") << maximised;
+  }
+}
+
 TEST_F(SettingsTest, LoadRecoversFromASaveThatWasKilled) {
   files_.Contents = {{Path + L".tessera-old", "[Tessera]\r\nFontSize=8\r\n"},
                      {Path + L".tessera-new", "[Tess"}};

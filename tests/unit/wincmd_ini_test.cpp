@@ -102,6 +102,15 @@ TEST(WincmdIni, AKeyTextAsValueFindsTheRowThatShowsIt) {
   EXPECT_EQ(KeysAfterReading("F1=cm_Twin\r\nF2=f1\r\n"), (Texts{L"", L"---", L"---", L"F1 = F2"}));
 }
 
+TEST(WincmdIni, TheMarkerAsValueFindsARowWithoutAKey) {
+  std::vector<CommandEntry> rows = SampleRows();
+  rows[1].DefaultKeys = L"F10";
+  rows[3].DefaultKeys = L"F12";
+  ReadShortcuts(rows, FileWith("[Shortcuts]\r\nF1=cm_X\r\nF2=---\r\nF3=---\r\n"), HotkeyNotation{},
+                [] {});
+  EXPECT_EQ(CurrentKeys(rows), (Texts{L"", L"F1", L"F2", L"F3"}));
+}
+
 TEST(WincmdIni, ANameThatStandsTwiceCountsTwiceWithItsFirstValue) {
   EXPECT_EQ(KeysAfterReading("F1=cm_X\r\nf1=cm_Y\r\n"), (Texts{L"", L"F1 = f1", L"---", L"---"}));
 }
