@@ -19,17 +19,15 @@ constexpr int MaximumWidth = 1000000;  // twips, beyond any screen
 
 bool IsColumn(int column) { return column >= FirstColumn && column <= LastColumn; }
 
-/// Sorting again brings the stored order back, because it turns this one round.
+/// Sorting again brings the stored order back, because it turns this one round. Any order but 0
+/// counts as descending.
 SortDirection OppositeOf(short sortOrder) {
   return sortOrder == 0 ? SortDirection::Descending : SortDirection::Ascending;
 }
 
-void RepairSort(Settings& settings) {
+void RepairSortedColumn(Settings& settings) {
   if (!IsColumn(settings.SortedColumn)) {
     settings.SortedColumn = DefaultSortedColumn;
-  }
-  if (settings.SortOrder != 0 && settings.SortOrder != 1) {
-    settings.SortOrder = 1;
   }
 }
 
@@ -119,7 +117,7 @@ void CommandList::SortByColumn(int column) {
 
 void CommandList::SortCommandList() {
   settings_.SortedList = 1;
-  RepairSort(settings_);
+  RepairSortedColumn(settings_);
   catalogue_.ListView1.RemoveHeadings();
   sorted_ = true;
   direction_ = OppositeOf(settings_.SortOrder);
@@ -139,7 +137,7 @@ void CommandList::RestoreStoredSort() {
   if (settings_.SortedList != 1) {
     return;
   }
-  RepairSort(settings_);
+  RepairSortedColumn(settings_);
   // A stored 4 becomes 0, which names no column. Kept so.
   settings_.SortedColumn = static_cast<short>(settings_.SortedColumn % LastColumn);
   direction_ = OppositeOf(settings_.SortOrder);

@@ -75,13 +75,15 @@ TEST(DialogLayout, WidestLabelMakesRoomForTheSwatches) {
                                           {ControlKind::Swatch, 0, 0}};
   const PagesLayout layout = LayOutPages(Controls, Metrics, 200);
   const Area& swatch = layout.Controls[2];
+  EXPECT_GE(swatch.Left, layout.Controls[1].Left + 300);
   EXPECT_LE(swatch.Left + swatch.Width + 11, layout.Width);
 }
 
 TEST(DialogLayout, PagesAreAsHighAsTheHighestWhereverItIs) {
   constexpr MeasuredControl Controls[] = {{ControlKind::CheckBox, 0, 10},
                                           {ControlKind::CheckBox, 0, 10},
-                                          {ControlKind::CheckBox, 1, 10}};
+                                          {ControlKind::CheckBox, 1, 10},
+                                          {ControlKind::CheckBox, 2, 10}};
   EXPECT_EQ(LayOutPages(Controls, Metrics, 0).Height, 41);
 }
 
