@@ -1,26 +1,27 @@
-// The program without its window: its state for the whole run, and every operation on it. The
+// The program without its window: what it consists of, its start and end, and its commands. The
 // window turns an event into one call and afterwards shows what the queries tell.
 #pragma once
 
 #include <functional>
 #include <string>
+#include <tuple>
+#include <utility>
 
+#include "app/Document.h"
+#include "app/InputFiles.h"
 #include "app/LoadProgress.h"
-#include "dialogs/cCommonDialog.h"
 #include "editing/CommandList.h"
 #include "editing/HotkeyAssignment.h"
 #include "editing/HotkeyPanel.h"
 #include "editing/KeysList.h"
+#include "editing/Reaction.h"
 #include "export/ClipboardExport.h"
 #include "localisation/Texts.h"
 #include "options/OptionsSelection.h"
+#include "platform/Pinned.h"
 #include "platform/System.h"
 #include "recent/cRecentFiles.h"
-#include "settings/commander/CommanderEnvironment.h"
-#include "settings/commander/LocateTotalCommander.h"
 #include "settings/Settings.h"
-#include "shortcuts/Catalogue.h"
-#include "shortcuts/HotkeyNotation.h"
 
 namespace tessera {
 
@@ -36,38 +37,37 @@ struct WindowPlacement {
 
 /// What the window has to do after the options dialog.
 struct OptionsOutcome {
-  PanelReaction Panel;
+  Reaction Panel;
   bool LanguageChanged = false;  ///< all texts of the window are to be shown anew
 };
 
-class Editor {
+class Editor : Pinned {
  public:
   /// `showProgress` is called while a long load runs; it may handle window events.
   Editor(const System& system, std::function<void(const LoadProgress&)> showProgress);
 
   // -- Queries: what the window shows
 
-  [[nodiscard]] const DisplayTable& Rows() const;
+  [[nodiscard]] const tessera::Document& Document() const;
   [[nodiscard]] const CommandList& List() const;
   [[nodiscard]] const HotkeyPanel& Panel() const;
   [[nodiscard]] const KeysList& AllKeys() const;
   [[nodiscard]] const cRecentFiles& RecentFiles() const;
   [[nodiscard]] const Settings& Options() const;
   [[nodiscard]] const Texts& Language() const;
-  [[nodiscard]] std::wstring Caption() const;
 
-  /// There are changes that are not saved: File > Save, and the Save button, are enabled.
-  [[nodiscard]] bool Modified() const;
+  // -- Work on the rows
 
-  /// File > Save and Restart is enabled. Holds as of the last RefreshRestartItems or edit.
-  [[nodiscard]] bool SaveAndRestartEnabled() const;
-
-  /// The same item on the Save button's menu.
-  [[nodiscard]] bool RestartButtonEnabled() const;
-
-  /// True while a load or a save runs, whose pauses let window events through: commands and edits
-  /// do nothing then.
-  [[nodiscard]] bool Busy() const;
+  /// Runs an operation of the panel, the command list or the keys list, and does what follows from
+  /// it. While the document is busy, nothing.
+  template <typename Part, typename... Parameters, typename... Arguments>
+  Reaction Work(Reaction (Part::*operation)(Parameters...), Arguments&&... arguments) {
+    if (document_.Busy()) {
+      return {};
+    }
+    Part& part = std::get<Part&>(workplace_);
+    return FollowUp((part.*operation)(std::forward<Arguments>(arguments)...));
+  }
 
   // -- Start and end of the program
 
@@ -90,15 +90,12 @@ class Editor {
   void FileSave();
   void FileSaveAndRestart();
   void ToggleToolbar();
-  void ToggleSortedList();
 
   /// When the File menu or the Save button's menu is about to open.
   void RefreshRestartItems();
 
-  void OpenShortcutFile(bool browse, std::wstring path, bool addToRecent);
-
-  /// A file that was dropped on the window.
-  void OpenFile(const std::wstring& path);
+  /// Opens the file that the user picks, with `browse`, or the one at `path`.
+  void OpenShortcutFile(bool browse, const std::wstring& path, bool addToRecent);
 
   /// Opens the file of that 1-based index of the recent files, or tells that it has gone.
   void OpenRecentFile(int index);
@@ -116,78 +113,29 @@ class Editor {
 
   OptionsOutcome EndOptions();
 
-  // -- The command list
-
-  /// Selects the row at a 0-based position of the list; one outside the list is ignored.
-  void SelectRow(std::size_t position);
-
-  /// A click on the header of the column of that 1-based index.
-  void ClickColumn(int column);
-
-  // -- The panel
-
-  void SetBox(Modifier box, bool checked);
-  void ChooseKey(int index);
-  void AssignKey();
-  void AddKey();
-  void DeleteKeys();
-  void DeleteAllKeys();
-  PanelReaction KeyDown(const KeyEvent& event);
-  PanelReaction KeyUp(const KeyEvent& event);
-  PanelReaction TimerTick();
-
-  // -- The keys list
-
-  PanelReaction ToggleKeysList();
-  PanelReaction SelectInKeysList(int index);
-  PanelReaction KeyDownInKeysList(KeyCode code);
-  void ReleaseMouseInKeysList();
-  void ChooserDropsDown();
-
  private:
-  /// Yes, No or Cancel; No when there is nothing to save. After Yes the save has been tried.
-  [[nodiscard]] BoxAnswer AskToSaveChanges();
-
-  /// Asks about unsaved changes; false when they have to stay: the user cancelled, or a save
-  /// failed.
-  [[nodiscard]] bool ChangesMayGo();
-  void SetModified(bool modified);
-  void Save(bool restarts);
-  void Edit(bool (HotkeyPanel::*edit)());
-  void LoadCatalogue();
-  void AskForMissingDataFile();
-  [[nodiscard]] std::wstring FindWincmdIni(const LocateSources& sources);
+  Reaction FollowUp(const Reaction& reaction);
+  void OpenPath(const std::wstring& path, bool addToRecent);
   void ReadRecentFiles();
   void SaveRecentFiles();
   void ApplyLanguage();
-  void ReadModifierNames();
-  [[nodiscard]] std::wstring AskForFile(TextId message, BoxIcon icon, const std::wstring& folder,
-                                        const std::wstring& fileName, FileFilter filter);
 
   System system_;
   Settings settings_;
   Texts texts_;
-  HotkeyNotation notation_;
-  Catalogue catalogue_;
+  InputFiles inputFiles_;
+  tessera::Document document_;
   CommandList list_;
   HotkeyAssignment assignment_;
   HotkeyPanel panel_;
   KeysList keysList_;
+  std::tuple<HotkeyPanel&, CommandList&, KeysList&> workplace_{panel_, list_, keysList_};
   ClipboardExport export_;
   OptionsSelection options_;
   cRecentFiles recentFiles_;
-  cCommonDialog commonDialog_;
-  CommanderEnvironment commanderEnvironment_;
   LoadProgress progress_;
   std::wstring fileToOpen_;
-  std::wstring totalcmdIncPath_;
-  std::wstring wincmdPath_;
   bool activated_ = false;
-  bool modified_ = false;
-  bool wincmdUnread_ = false;  ///< the file is there, and reading it failed
-  bool saveAndRestartEnabled_ = false;
-  bool restartButtonEnabled_ = false;
-  bool busy_ = false;
 };
 
 }  // namespace tessera

@@ -14,7 +14,7 @@ constexpr std::wstring_view RecentFilesPrefix = L"RecentFiles";
 
 void Editor::OpenRecentFile(int index) {
   const std::wstring path = recentFiles_.ListItems(index);
-  if (busy_ || IsMissing(path)) {
+  if (document_.Busy() || IsMissing(path)) {
     return;
   }
   if (ExistsOrReturns(system_.Files, path)) {
@@ -29,7 +29,7 @@ void Editor::OpenRecentFile(int index) {
 }
 
 void Editor::ClearRecentFiles() {
-  if (!busy_ && recentFiles_.Clear()) {
+  if (!document_.Busy() && recentFiles_.Clear()) {
     SaveRecentFiles();
   }
 }
@@ -49,7 +49,7 @@ ClipboardExport& Editor::BeginExport() {
   return export_;
 }
 
-void Editor::EndExport() { export_.CopyTo(system_.Clipboard, modified_); }
+void Editor::EndExport() { export_.CopyTo(system_.Clipboard, document_.Modified()); }
 
 OptionsSelection& Editor::BeginOptions() {
   options_.RememberLanguage();
@@ -59,8 +59,7 @@ OptionsSelection& Editor::BeginOptions() {
 }
 
 OptionsOutcome Editor::EndOptions() {
-  const PanelReaction panel = panel_.ResetPanel();
-  keysList_.FollowChooser();
+  const Reaction panel = FollowUp(panel_.ResetPanel());
   // As with all settings, a folder that cannot be written is not reported.
   static_cast<void>(SaveSettings(settings_, system_.Files, system_.Clock, system_.Environment));
   const bool languageChanged = options_.LanguageChanged();

@@ -29,14 +29,15 @@ bool MenuIsOpen() {
 
 frmMain::frmMain(WindowsSystem& windowsSystem)
     : windowsSystem_(windowsSystem),
-      system_(windowsSystem.Seams()),
-      editor_(system_, [this](const LoadProgress& progress) { ShowProgress(progress); }),
+      editor_(windowsSystem.Seams(),
+              [this](const LoadProgress& progress) { ShowProgress(progress); }),
       frmOptions_(editor_.Language(), editor_.Options()),
       frmExportToClipboard_(editor_.Language(), editor_.Options()),
-      frmKeysList_({.Select = [this](int index) { React(editor_.SelectInKeysList(index)); },
-                    .KeyDown = [this](KeyCode code) { React(editor_.KeyDownInKeysList(code)); },
-                    .ReleaseMouse = [this] { editor_.ReleaseMouseInKeysList(); },
-                    .Close = [this] { React(editor_.KeyDownInKeysList(KeyCode::Escape)); }}) {
+      frmKeysList_(
+          {.Select = [this](int index) { React(editor_.Work(&KeysList::Select, index)); },
+           .KeyDown = [this](KeyCode code) { React(editor_.Work(&KeysList::KeyDown, code)); },
+           .ReleaseMouse = [this] { editor_.Work(&KeysList::ReleaseMouse); },
+           .Close = [this] { React(editor_.Work(&KeysList::KeyDown, KeyCode::Escape)); }}) {
   windowsSystem_.SetMessageFilter([this](MSG& message) { return FilterMessage(message); });
 }
 
@@ -47,8 +48,9 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   RegisterWindowClass(WindowClass, WindowProcedure);
   const DWORD direction = editor_.Language().RightToLeft() ? WS_EX_LAYOUTRTL : 0;
   CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES | direction, WindowClass,
-                  editor_.Caption().c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
-                  CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), this);
+                  editor_.Document().Caption().c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                  CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr),
+                  this);
   if (window_ == nullptr) {
     return false;
   }
@@ -140,7 +142,7 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     }
     case WM_SETCURSOR:
-      if (editor_.Busy() && LOWORD(lParam) == HTCLIENT) {
+      if (editor_.Document().Busy() && LOWORD(lParam) == HTCLIENT) {
         SetCursor(LoadCursorW(nullptr, IDC_WAIT));
         return TRUE;
       }
@@ -197,7 +199,7 @@ void frmMain::OnTimer() {
   if (MenuIsOpen()) {
     EndMenu();
   }
-  React(editor_.TimerTick());
+  React(editor_.Work(&HotkeyPanel::TimerTick));
 }
 
 void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
@@ -211,7 +213,7 @@ void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
 }
 
 void frmMain::Form_Activate() {
-  if (editor_.Busy()) {
+  if (editor_.Document().Busy()) {
     return;
   }
   editor_.Activate();
@@ -241,7 +243,7 @@ void frmMain::Form_Unload() {
 void frmMain::OnDropFile(const std::wstring& path) {
   if (AcceptsInput() && !path.empty()) {
     SetForegroundWindow(window_);
-    editor_.OpenFile(path);
+    editor_.OpenShortcutFile(false, path, true);
     Sync();
     ShowSelectedRow();
   }
@@ -253,9 +255,11 @@ void frmMain::ForwardToControls(UINT message, WPARAM wParam, LPARAM lParam) cons
   }
 }
 
-bool frmMain::AcceptsInput() const { return IsWindowEnabled(window_) != FALSE && !editor_.Busy(); }
+bool frmMain::AcceptsInput() const {
+  return IsWindowEnabled(window_) != FALSE && !editor_.Document().Busy();
+}
 
-void frmMain::React(const PanelReaction& reaction) {
+void frmMain::React(const Reaction& reaction) {
   if (reaction.StartTimer) {
     SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr);
   }
@@ -266,17 +270,17 @@ void frmMain::React(const PanelReaction& reaction) {
     SyncCommands();
     SyncKeysList();
   }
-  if (!AcceptsInput() || reaction.FocusTo == PanelReaction::Focus::Unchanged) {
+  if (!AcceptsInput() || reaction.FocusTo == Reaction::Focus::Unchanged) {
     return;
   }
-  SetFocus(reaction.FocusTo == PanelReaction::Focus::Chooser ? Combo1_ : ListView1_);
+  SetFocus(reaction.FocusTo == Reaction::Focus::Chooser ? Combo1_ : ListView1_);
 }
 
 void frmMain::Sync() {
   if (GetDlgItem(window_, IDC_ListView1) == nullptr) {
     return;
   }
-  SetText(window_, editor_.Caption());
+  SetText(window_, editor_.Document().Caption());
   SyncList();
   SyncPanel();
   SyncCommands();

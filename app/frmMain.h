@@ -117,14 +117,13 @@ class frmMain {
   void SyncPanel();
   bool OnPanelCommand(int id, int notification);
   bool FilterKey(const MSG& message);
-  void React(const PanelReaction& reaction);
+  void React(const Reaction& reaction);
   bool ChooserIsOpen() const;
 
   /// Shows the state of the editor in every control.
   void Sync();
 
   WindowsSystem& windowsSystem_;
-  System system_;
   Editor editor_;
   frmOptions frmOptions_;
   frmExportToClipboard frmExportToClipboard_;

@@ -6,7 +6,8 @@ namespace tessera {
 void frmMain::ShowExport() {
   ClipboardExport& model = editor_.BeginExport();
   frmExportToClipboard_.Show(window_, model, [this, &model] {
-    model.Ok(system_.Files, system_.Clock, SettingsPath(system_.Environment));
+    const System system = windowsSystem_.Seams();
+    model.Ok(system.Files, system.Clock, SettingsPath(system.Environment));
   });
   editor_.EndExport();
 }
@@ -27,7 +28,7 @@ void frmMain::ShowOptions() {
 
 void frmMain::ToggleKeysList() {
   if (AcceptsInput()) {
-    React(editor_.ToggleKeysList());
+    React(editor_.Work(&KeysList::ToggleKeysList));
   }
 }
 

@@ -140,14 +140,15 @@ LRESULT frmMain::OnListNotify(NMHDR& header) {
       return 0;
     case LVN_COLUMNCLICK:
       if (AcceptsInput()) {
-        editor_.ClickColumn(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem + 1);
+        editor_.Work(&CommandList::SortByColumn,
+                     reinterpret_cast<const NMLISTVIEW&>(header).iSubItem + 1);
         Sync();
       }
       return 0;
     case LVN_ODFINDITEMW: {
       const auto& search = reinterpret_cast<const NMLVFINDITEMW&>(header);
       const bool byText = (search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) != 0;
-      const auto found = byText ? FindRow(editor_.Rows(), search.lvfi.psz,
+      const auto found = byText ? FindRow(editor_.Document().Rows(), search.lvfi.psz,
                                           static_cast<std::size_t>(std::max(0, search.iStart)))
                                 : std::nullopt;
       return found ? static_cast<LRESULT>(*found) : -1;
@@ -167,7 +168,7 @@ LRESULT frmMain::OnListNotify(NMHDR& header) {
 }
 
 void frmMain::FillListCell(LVITEMW& item) const {
-  const DisplayTable& rows = editor_.Rows();
+  const DisplayTable& rows = editor_.Document().Rows();
   const auto position = static_cast<std::size_t>(item.iItem);
   if (position >= rows.Count() || item.iSubItem < 0 || item.iSubItem >= 4) {
     return;
@@ -198,7 +199,7 @@ void frmMain::SelectListRow(int position) {
   if (position < 0 || !AcceptsInput()) {
     return;
   }
-  editor_.SelectRow(static_cast<std::size_t>(position));
+  editor_.Work(&CommandList::SelectRow, static_cast<std::size_t>(position));
   SyncPanel();
   SyncCommands();
   SyncKeysList();
@@ -210,7 +211,8 @@ LRESULT frmMain::OnListCustomDraw(NMLVCUSTOMDRAW& draw) {
     case CDDS_PREPAINT:
       return CDRF_NOTIFYITEMDRAW;
     case CDDS_ITEMPREPAINT:
-      return position < editor_.Rows().Count() && editor_.Rows().At(position).DefaultKeysAreRed
+      return position < editor_.Document().Rows().Count() &&
+                     editor_.Document().Rows().At(position).DefaultKeysAreRed
                  ? CDRF_NOTIFYSUBITEMDRAW
                  : CDRF_DODEFAULT;
     case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
@@ -227,7 +229,7 @@ LRESULT frmMain::OnListCustomDraw(NMLVCUSTOMDRAW& draw) {
 // colour.
 bool frmMain::DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw) {
   const std::size_t position = draw.nmcd.dwItemSpec;
-  if (position >= editor_.Rows().Count() ||
+  if (position >= editor_.Document().Rows().Count() ||
       ListView_GetItemState(ListView1_, static_cast<int>(position), LVIS_SELECTED) == 0) {
     return false;
   }
@@ -241,14 +243,14 @@ bool frmMain::DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw) {
   SetBkMode(context, TRANSPARENT);
   const HGDIOBJ former = SelectObject(context, listFont_.get());
   cell.left += Scaled(6, dpi_);
-  DrawTextW(context, editor_.Rows().At(position).DefaultKeys.c_str(), -1, &cell,
+  DrawTextW(context, editor_.Document().Rows().At(position).DefaultKeys.c_str(), -1, &cell,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
   SelectObject(context, former);
   return true;
 }
 
 void frmMain::SyncList() {
-  const auto count = static_cast<int>(editor_.Rows().Count());
+  const auto count = static_cast<int>(editor_.Document().Rows().Count());
   syncing_ = true;
   if (ListView_GetItemCount(ListView1_) != count) {
     ListView_SetItemCountEx(ListView1_, count, LVSICF_NOSCROLL);
@@ -261,10 +263,10 @@ void frmMain::SyncList() {
 }
 
 void frmMain::SyncListSelection() {
-  const auto position = editor_.Rows().PositionOf(editor_.List().SelectedRow());
+  const auto position = editor_.Document().Rows().PositionOf(editor_.List().SelectedRow());
   const int shown = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
   const int wanted = position ? static_cast<int>(*position) : -1;
-  if (shown == wanted || editor_.Busy()) {
+  if (shown == wanted || editor_.Document().Busy()) {
     return;
   }
   syncing_ = true;

@@ -11,36 +11,48 @@ namespace {
 bool Always(const Editor& /*editor*/) { return true; }
 bool Never(const Editor& /*editor*/) { return false; }
 
+/// Runs an operation of the editor, or of a part that it lets work.
+template <auto Operation>
+void Run(Editor& editor) {
+  if constexpr (requires { (editor.*Operation)(); }) {
+    (editor.*Operation)();
+  } else {
+    editor.Work(Operation);
+  }
+}
+
 struct Command {
   int Id;
-  void (Editor::*Run)();  ///< none for what the window does itself
+  void (*Run)(Editor&);  ///< none for what the window does itself
   bool (*Enabled)(const Editor&);
   bool (*Checked)(const Editor&) = Never;
 };
 
 constexpr Command Commands[] = {
-    {IDM_mnuFileOpen, &Editor::FileOpen, Always},
-    {IDM_mnuFileSave, &Editor::FileSave, [](const Editor& editor) { return editor.Modified(); }},
-    {IDM_mnuFileSavenRestartTC, &Editor::FileSaveAndRestart,
-     [](const Editor& editor) { return editor.SaveAndRestartEnabled(); }},
-    {IDM_restarttc, &Editor::FileSaveAndRestart,
-     [](const Editor& editor) { return editor.RestartButtonEnabled(); }},
+    {IDM_mnuFileOpen, Run<&Editor::FileOpen>, Always},
+    {IDM_mnuFileSave, Run<&Editor::FileSave>,
+     [](const Editor& editor) { return editor.Document().Modified(); }},
+    {IDM_mnuFileSavenRestartTC, Run<&Editor::FileSaveAndRestart>,
+     [](const Editor& editor) { return editor.Document().SaveAndRestartEnabled(); }},
+    {IDM_restarttc, Run<&Editor::FileSaveAndRestart>,
+     [](const Editor& editor) { return editor.Document().RestartButtonEnabled(); }},
     {IDM_mnuFileExportToClipboard, nullptr, Always},
-    {IDM_mnuRecentClear, &Editor::ClearRecentFiles,
+    {IDM_mnuRecentClear, Run<&Editor::ClearRecentFiles>,
      [](const Editor& editor) { return editor.RecentFiles().ClearEntry().Enabled; }},
     {IDM_mnuFileExit, nullptr, Always},
-    {IDM_mnuViewToolbar, &Editor::ToggleToolbar, Always,
+    {IDM_mnuViewToolbar, Run<&Editor::ToggleToolbar>, Always,
      [](const Editor& editor) { return editor.Options().ToolbarVisible != 0; }},
-    {IDM_mnuViewSortList, &Editor::ToggleSortedList, Always,
+    {IDM_mnuViewSortList, Run<&CommandList::ToggleSortedList>, Always,
      [](const Editor& editor) { return editor.Options().SortedList != 0; }},
     {IDM_mnuViewOptions, nullptr, Always},
-    {IDM_mnuHelpHelpTopics, &Editor::ShowHelpTopics, Always},
-    {IDM_assign, &Editor::AssignKey,
+    {IDM_mnuHelpHelpTopics, Run<&Editor::ShowHelpTopics>, Always},
+    {IDM_assign, Run<&HotkeyPanel::Assign>,
      [](const Editor& editor) { return editor.Panel().AssignEnabled(); }},
-    {IDM_new, &Editor::AddKey, [](const Editor& editor) { return editor.Panel().AddEnabled(); }},
-    {IDM_delete, &Editor::DeleteKeys,
+    {IDM_new, Run<&HotkeyPanel::Add>,
+     [](const Editor& editor) { return editor.Panel().AddEnabled(); }},
+    {IDM_delete, Run<&HotkeyPanel::Delete>,
      [](const Editor& editor) { return editor.Panel().DeleteEnabled(); }},
-    {IDM_delall, &Editor::DeleteAllKeys, Always},
+    {IDM_delall, Run<&HotkeyPanel::DeleteAll>, Always},
 };
 
 const Command* CommandOf(int id) {
@@ -128,7 +140,7 @@ void frmMain::OnCommand(int id, HWND control) {
     return;
   }
   if (control == Toolbar1_) {
-    system_.Clock.DoEvents();
+    windowsSystem_.Seams().Clock.DoEvents();
   }
   editor_.RefreshRestartItems();
   if (id == IDM_mnuFileExit) {
@@ -136,7 +148,7 @@ void frmMain::OnCommand(int id, HWND control) {
   } else if (!AcceptsInput() || OpenRecentFile(id) || OpenDialog(id)) {
     // done, or the events before it have started something else
   } else if (command != nullptr && command->Run != nullptr && command->Enabled(editor_)) {
-    (editor_.*command->Run)();
+    command->Run(editor_);
   }
   Sync();
   if (id == IDM_mnuViewToolbar) {

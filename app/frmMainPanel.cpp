@@ -95,7 +95,7 @@ bool frmMain::OnPanelCommand(int id, int notification) {
     return true;
   }
   if (id == IDC_Combo1 && notification == CBN_DROPDOWN) {
-    editor_.ChooserDropsDown();
+    editor_.Work(&KeysList::ChooserDropsDown);
     SyncCommands();
     SyncKeysList();
     return true;
@@ -109,9 +109,10 @@ bool frmMain::OnPanelCommand(int id, int notification) {
   if (AcceptsInput()) {
     if (isBox) {
       const auto index = static_cast<std::size_t>(box - BoxIds);
-      editor_.SetBox(AllModifiers[index], Button_GetCheck(chkCtrlAlt_[index]) == BST_CHECKED);
+      editor_.Work(&HotkeyPanel::SetBox, AllModifiers[index],
+                   Button_GetCheck(chkCtrlAlt_[index]) == BST_CHECKED);
     } else {
-      editor_.ChooseKey(ComboBox_GetCurSel(Combo1_));
+      editor_.Work(&HotkeyPanel::ChooseKey, ComboBox_GetCurSel(Combo1_));
     }
   }
   SyncPanel();
@@ -151,7 +152,7 @@ bool frmMain::FilterKey(const MSG& message) {
     ToggleKeysList();
     return true;
   }
-  const PanelReaction reaction = down ? editor_.KeyDown(event) : editor_.KeyUp(event);
+  const Reaction reaction = editor_.Work(down ? &HotkeyPanel::KeyDown : &HotkeyPanel::KeyUp, event);
   React(reaction);
   return reaction.Handled;
 }

@@ -17,34 +17,34 @@ namespace {
 void Assign(benchmark::State& state) {
   LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
-  const std::size_t rows = program.Editor.Rows().Count();
+  const std::size_t rows = program.Editor.Document().Rows().Count();
   std::size_t row = 0;
   int key = 0;
   for (auto _ : state) {
     row = (row + 7919) % rows;
     key = (key + 1) % 67;
-    program.Editor.SelectRow(row);
-    program.Editor.SetBox(Modifier::Ctrl, key % 2 == 0);
-    program.Editor.ChooseKey(key);
-    program.Editor.AssignKey();
+    program.Editor.Work(&CommandList::SelectRow, row);
+    program.Editor.Work(&HotkeyPanel::SetBox, Modifier::Ctrl, key % 2 == 0);
+    program.Editor.Work(&HotkeyPanel::ChooseKey, key);
+    program.Editor.Work(&HotkeyPanel::Assign);
   }
 }
 
 void Delete(benchmark::State& state) {
   LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
-  const std::size_t rows = program.Editor.Rows().Count();
+  const std::size_t rows = program.Editor.Document().Rows().Count();
   std::size_t row = 0;
   int key = 0;
   for (auto _ : state) {
     state.PauseTiming();
     row = (row + 7919) % rows;
-    program.Editor.SelectRow(row);
-    program.Editor.SetBox(Modifier::Ctrl, ++key % 2 == 0);
-    program.Editor.ChooseKey(key % 67);
-    program.Editor.AssignKey();
+    program.Editor.Work(&CommandList::SelectRow, row);
+    program.Editor.Work(&HotkeyPanel::SetBox, Modifier::Ctrl, ++key % 2 == 0);
+    program.Editor.Work(&HotkeyPanel::ChooseKey, key % 67);
+    program.Editor.Work(&HotkeyPanel::Assign);
     state.ResumeTiming();
-    program.Editor.DeleteKeys();
+    program.Editor.Work(&HotkeyPanel::Delete);
   }
 }
 
@@ -54,7 +54,7 @@ void DeleteAll(benchmark::State& state) {
     auto program = std::make_unique<LargeProgram>(static_cast<int>(state.range(0)));
     program->Start();
     state.ResumeTiming();
-    program->Editor.DeleteAllKeys();
+    program->Editor.Work(&HotkeyPanel::DeleteAll);
     state.PauseTiming();
     program.reset();
     state.ResumeTiming();
@@ -66,9 +66,9 @@ void SortView(benchmark::State& state) {
   LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   for (auto _ : state) {
-    program.Editor.ToggleSortedList();
+    program.Editor.Work(&CommandList::ToggleSortedList);
     state.PauseTiming();
-    program.Editor.ToggleSortedList();
+    program.Editor.Work(&CommandList::ToggleSortedList);
     state.ResumeTiming();
   }
 }
@@ -79,9 +79,9 @@ void UnsortView(benchmark::State& state) {
   program.Start();
   for (auto _ : state) {
     state.PauseTiming();
-    program.Editor.ToggleSortedList();
+    program.Editor.Work(&CommandList::ToggleSortedList);
     state.ResumeTiming();
-    program.Editor.ToggleSortedList();
+    program.Editor.Work(&CommandList::ToggleSortedList);
   }
 }
 
@@ -91,7 +91,7 @@ Column ColumnOf(const benchmark::State& state) { return static_cast<Column>(stat
 void SortRows(benchmark::State& state) {
   LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
-  DisplayTable table = program.Editor.Rows();
+  DisplayTable table = program.Editor.Document().Rows();
   for (auto _ : state) {
     table.RestoreFileOrder();
     table.RemoveHeadings();
@@ -104,8 +104,8 @@ void StableSort(benchmark::State& state) {
   LargeProgram program(static_cast<int>(state.range(0)));
   program.Start();
   std::vector<std::wstring> texts;
-  for (std::size_t position = 0; position < program.Editor.Rows().Count(); ++position) {
-    const CommandEntry& row = program.Editor.Rows().At(position);
+  for (std::size_t position = 0; position < program.Editor.Document().Rows().Count(); ++position) {
+    const CommandEntry& row = program.Editor.Document().Rows().At(position);
     if (!row.IsHeading()) texts.emplace_back(CellText(row, ColumnOf(state)));
   }
   for (auto _ : state) {
@@ -125,9 +125,9 @@ void Save(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
     key = (key + 1) % 67;  // another key each time, as there is nothing to save otherwise
-    program.Editor.SelectRow(1);
-    program.Editor.ChooseKey(key);
-    program.Editor.AssignKey();
+    program.Editor.Work(&CommandList::SelectRow, 1);
+    program.Editor.Work(&HotkeyPanel::ChooseKey, key);
+    program.Editor.Work(&HotkeyPanel::Assign);
     program.Files.Reads = program.Files.Writes = 0;
     state.ResumeTiming();
     program.Editor.FileSave();

@@ -86,17 +86,25 @@ HeaderIcon CommandList::IconOf(Column column) const { return icons_.at(IndexOf(c
 
 void CommandList::ShowRowDetails(RowKey row) { selectedRow_ = row; }
 
+Reaction CommandList::SelectRow(std::size_t position) {
+  if (position >= catalogue_.ListView1.Count()) {
+    return {};
+  }
+  ShowRowDetails(catalogue_.ListView1.At(position).Key);
+  return {.HideKeysList = true};
+}
+
 void CommandList::ShowFirstRow() {
   const DisplayTable& rows = catalogue_.ListView1;
   ShowRowDetails(rows.Count() == 0 ? 0 : rows.At(0).Key);
 }
 
-void CommandList::SortByColumn(int column) {
+Reaction CommandList::SortByColumn(int column) {
   icons_.fill(HeaderIcon::None);
   if (!sorted_) {
     settings_.SortOrder = 1;
     settings_.SortedColumn = DefaultSortedColumn;
-    return;
+    return {};
   }
   if (column != NoColumn) {
     sortKey_ = static_cast<Column>(column);
@@ -113,6 +121,7 @@ void CommandList::SortByColumn(int column) {
   settings_.SortOrder = static_cast<short>(direction_);
   settings_.SortedColumn = static_cast<short>(column);
   catalogue_.ListView1.Sort(sortKey_, direction_);
+  return {};
 }
 
 void CommandList::SortCommandList() {
@@ -131,6 +140,15 @@ void CommandList::RestoreFileOrder() {
   catalogue_.ListView1.RestoreFileOrder();
   SortByColumn(static_cast<int>(Column::Defaults));
   ShowFirstRow();
+}
+
+Reaction CommandList::ToggleSortedList() {
+  if (settings_.SortedList != 0) {
+    RestoreFileOrder();
+  } else {
+    SortCommandList();
+  }
+  return {.HideKeysList = true};
 }
 
 void CommandList::RestoreStoredSort() {

@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "editing/Reaction.h"
+#include "platform/Pinned.h"
 #include "settings/Settings.h"
 #include "shortcuts/Catalogue.h"
 
@@ -21,7 +23,7 @@ struct ColumnLayout {
 [[nodiscard]] ColumnLayout ReadColumnLayout(const Settings& settings);
 void StoreColumnLayout(const ColumnLayout& layout, Settings& settings);
 
-class CommandList {
+class CommandList : Pinned {
  public:
   CommandList(Catalogue& catalogue, Settings& settings);
 
@@ -39,15 +41,21 @@ class CommandList {
 
   void ShowRowDetails(RowKey row);
 
+  /// Selects the row at a 0-based position of the list; one outside the list is ignored.
+  Reaction SelectRow(std::size_t position);
+
   /// Selects the first displayed row, or none in an empty list.
   void ShowFirstRow();
 
   /// In the sorted view sorts by the column of that 1-based index, or turns the order round when it
   /// is the one sorted by already; 0 names no column. In file order it resets the stored order.
-  void SortByColumn(int column);
+  Reaction SortByColumn(int column);
 
   void SortCommandList();
   void RestoreFileOrder();
+
+  /// Sorts, or goes back to file order.
+  Reaction ToggleSortedList();
 
   /// Brings back the stored sort at the first activation of the program.
   void RestoreStoredSort();

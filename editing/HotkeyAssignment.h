@@ -5,6 +5,7 @@
 
 #include "localisation/Texts.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Pinned.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
 
@@ -12,7 +13,7 @@ namespace tessera {
 
 /// Each operation gives true when it changed the keys of a command. Rows are command rows; keys are
 /// in display notation.
-class HotkeyAssignment {
+class HotkeyAssignment : Pinned {
  public:
   HotkeyAssignment(Catalogue& catalogue, const HotkeyNotation& notation, const Texts& texts,
                    MessageBoxes& messageBoxes);

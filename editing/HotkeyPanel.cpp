@@ -54,57 +54,61 @@ std::wstring HotkeyPanel::ComposeKey() const {
   return notation_.ApplyReverseOrder(key.empty() ? notation_.UndefinedHotkey : key);
 }
 
-void HotkeyPanel::SetBox(Modifier box, bool checked) { boxesChecked_[IndexOf(box)] = checked; }
-
-void HotkeyPanel::ChooseKey(int index) {
-  const bool exists = index >= 0 && static_cast<std::size_t>(index) < KeyVocabulary().size();
-  chosenKey_ = exists ? index : NoKeyChosen;
+Reaction HotkeyPanel::SetBox(Modifier box, bool checked) {
+  boxesChecked_[IndexOf(box)] = checked;
+  return {};
 }
 
-PanelReaction HotkeyPanel::ResetPanel() {
+Reaction HotkeyPanel::ChooseKey(int index) {
+  const bool exists = index >= 0 && static_cast<std::size_t>(index) < KeyVocabulary().size();
+  chosenKey_ = exists ? index : NoKeyChosen;
+  return {.FollowChooser = true};
+}
+
+Reaction HotkeyPanel::ResetPanel() {
   boxesChecked_.fill(false);
   modifierToggle_ = ToggleResetValues();
   chosenKey_ = NoKeyChosen;
-  return {.FocusTo = PanelReaction::Focus::CommandList, .Handled = true};
+  return {.FollowChooser = true, .FocusTo = Reaction::Focus::CommandList, .Handled = true};
 }
 
-bool HotkeyPanel::Assign() {
+Reaction HotkeyPanel::Assign() {
   if (!AssignEnabled()) {
     messageBoxes_.Beep();
-    return false;
+    return {};
   }
-  return assignment_.Assign(list_.SelectedRow(), ComposeKey());
+  return {.Changed = assignment_.Assign(list_.SelectedRow(), ComposeKey())};
 }
 
-bool HotkeyPanel::Add() {
+Reaction HotkeyPanel::Add() {
   if (!AssignEnabled() || !AddEnabled()) {
     messageBoxes_.Beep();
-    return false;
+    return {};
   }
-  return assignment_.Add(list_.SelectedRow(), ComposeKey());
+  return {.Changed = assignment_.Add(list_.SelectedRow(), ComposeKey())};
 }
 
-bool HotkeyPanel::Delete() {
+Reaction HotkeyPanel::Delete() {
   if (!list_.CommandSelected()) {
     messageBoxes_.Beep();
-    return false;
+    return {};
   }
-  return assignment_.Delete(list_.SelectedRow());
+  return {.Changed = assignment_.Delete(list_.SelectedRow())};
 }
 
-bool HotkeyPanel::DeleteAll() { return assignment_.DeleteAll(); }
+Reaction HotkeyPanel::DeleteAll() { return {.Changed = assignment_.DeleteAll()}; }
 
-PanelReaction HotkeyPanel::KeyDown(const KeyEvent& event) {
+Reaction HotkeyPanel::KeyDown(const KeyEvent& event) {
   if (!list_.CommandSelected()) {
     return {};
   }
-  PanelReaction reaction;
+  Reaction reaction{.FollowChooser = true};
   const auto press = [&](Modifier box) {
     boxesChecked_[IndexOf(box)] = modifierToggle_[IndexOf(box)];
-    reaction.FocusTo = PanelReaction::Focus::Chooser;
+    reaction.FocusTo = Reaction::Focus::Chooser;
   };
   if (event.Code == KeyCode::Delete) {
-    reaction.Changed = Delete();
+    reaction.Changed = Delete().Changed;
     reaction.Handled = true;
   }
   if (event.CtrlHeld) {
@@ -120,7 +124,7 @@ PanelReaction HotkeyPanel::KeyDown(const KeyEvent& event) {
     press(Modifier::Shift);
   }
   if (event.Code == KeyCode::Enter && chosenKey_ != NoKeyChosen) {
-    const bool changed = Assign();
+    const bool changed = Assign().Changed;
     reaction = ResetPanel();
     reaction.Changed = changed;
   }
@@ -130,7 +134,7 @@ PanelReaction HotkeyPanel::KeyDown(const KeyEvent& event) {
   return reaction;
 }
 
-PanelReaction HotkeyPanel::KeyUp(const KeyEvent& event) {
+Reaction HotkeyPanel::KeyUp(const KeyEvent& event) {
   if (!list_.CommandSelected()) {
     return {};
   }
@@ -139,7 +143,7 @@ PanelReaction HotkeyPanel::KeyUp(const KeyEvent& event) {
     toggle = !toggle;
   };
   const bool usesContextMenuKey = settings_.UseContextMenuKey != 0;
-  PanelReaction reaction;
+  Reaction reaction;
   if (event.Code == KeyCode::Ctrl) {
     flip(Modifier::Ctrl);
   } else if (event.Code == KeyCode::ContextMenu && usesContextMenuKey) {
@@ -153,11 +157,11 @@ PanelReaction HotkeyPanel::KeyUp(const KeyEvent& event) {
   return reaction;
 }
 
-PanelReaction HotkeyPanel::TimerTick() {
+Reaction HotkeyPanel::TimerTick() {
   bool& toggle = modifierToggle_[IndexOf(Modifier::Alt)];
   toggle = !toggle;
   boxesChecked_[IndexOf(Modifier::Alt)] = toggle;
-  return {.FocusTo = PanelReaction::Focus::Chooser};
+  return {.FocusTo = Reaction::Focus::Chooser};
 }
 
 }  // namespace tessera

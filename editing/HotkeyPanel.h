@@ -7,7 +7,9 @@
 
 #include "editing/CommandList.h"
 #include "editing/HotkeyAssignment.h"
+#include "editing/Reaction.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Pinned.h"
 #include "settings/Settings.h"
 #include "shortcuts/HotkeyNotation.h"
 
@@ -34,15 +36,6 @@ struct KeyEvent {
   bool ShiftHeld = false;
 };
 
-/// What the window has to do after a key.
-struct PanelReaction {
-  enum class Focus { Unchanged, CommandList, Chooser };
-  Focus FocusTo = Focus::Unchanged;
-  bool StartTimer = false;  ///< the one-shot timer of PanelTimerMilliseconds
-  bool Handled = false;     ///< the key did its work here and must not reach the control
-  bool Changed = false;     ///< the keys of a command changed
-};
-
 inline constexpr int PanelTimerMilliseconds = 50;
 
 /// No key chosen in the chooser.
@@ -53,7 +46,7 @@ enum class Modifier { Ctrl, Alt, Shift };
 
 inline constexpr std::array AllModifiers{Modifier::Ctrl, Modifier::Alt, Modifier::Shift};
 
-class HotkeyPanel {
+class HotkeyPanel : Pinned {
  public:
   HotkeyPanel(Catalogue& catalogue, CommandList& list, HotkeyAssignment& assignment,
               const HotkeyNotation& notation, const Settings& settings, MessageBoxes& messageBoxes);
@@ -70,25 +63,25 @@ class HotkeyPanel {
 
   // -- Changes by the controls
 
-  void SetBox(Modifier box, bool checked);
+  Reaction SetBox(Modifier box, bool checked);
 
   /// An index outside the vocabulary chooses no key.
-  void ChooseKey(int index);
+  Reaction ChooseKey(int index);
 
-  PanelReaction ResetPanel();
+  Reaction ResetPanel();
 
-  // -- Edits of the selected row; true when the keys of a command changed
+  // -- Edits of the selected row
 
-  bool Assign();
-  bool Add();
-  bool Delete();
-  bool DeleteAll();
+  Reaction Assign();
+  Reaction Add();
+  Reaction Delete();
+  Reaction DeleteAll();
 
   // -- Keyboard
 
-  PanelReaction KeyDown(const KeyEvent& event);
-  PanelReaction KeyUp(const KeyEvent& event);
-  PanelReaction TimerTick();
+  Reaction KeyDown(const KeyEvent& event);
+  Reaction KeyUp(const KeyEvent& event);
+  Reaction TimerTick();
 
  private:
   using PerModifier = std::array<bool, AllModifiers.size()>;

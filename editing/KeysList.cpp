@@ -1,4 +1,4 @@
-// The keys list's two flags.
+// When a selection is a choice.
 #include "editing/KeysList.h"
 
 namespace tessera {
@@ -7,11 +7,14 @@ KeysList::KeysList(HotkeyPanel& panel) : panel_(panel) {}
 
 bool KeysList::Visible() const { return visible_; }
 
-int KeysList::Selection() const { return selection_; }
+int KeysList::Selection() const { return moved_.value_or(panel_.ChosenKey()); }
 
 bool KeysList::PanelToolbarEnabled() const { return panelToolbarEnabled_; }
 
-PanelReaction KeysList::ToggleKeysList() {
+Reaction KeysList::ToggleKeysList() {
+  if (!panel_.InputsEnabled()) {
+    return {};
+  }
   if (visible_) {
     return CloseKeysList();
   }
@@ -21,9 +24,9 @@ PanelReaction KeysList::ToggleKeysList() {
   return {};
 }
 
-PanelReaction KeysList::CloseKeysList() {
+Reaction KeysList::CloseKeysList() {
   Hide();
-  return {.FocusTo = PanelReaction::Focus::Chooser, .Handled = true};
+  return {.FocusTo = Reaction::Focus::Chooser, .Handled = true};
 }
 
 void KeysList::Hide() {
@@ -31,20 +34,16 @@ void KeysList::Hide() {
   panelToolbarEnabled_ = true;
 }
 
-void KeysList::FollowChooser() {
-  suppressClick_ = true;
-  Select(panel_.ChosenKey());
-  suppressClick_ = false;
-}
+void KeysList::FollowChooser() { moved_.reset(); }
 
-void KeysList::ChooserDropsDown() {
-  suppressClick_ = false;
+Reaction KeysList::ChooserDropsDown() {
   panelToolbarEnabled_ = true;
+  return {};
 }
 
-PanelReaction KeysList::Select(int index) {
-  selection_ = index;
-  if (suppressClick_ || !acceptClick_) {
+Reaction KeysList::Select(int index) {
+  if (!acceptClick_) {
+    moved_ = index;
     return {};
   }
   panel_.ChooseKey(index);
@@ -52,14 +51,17 @@ PanelReaction KeysList::Select(int index) {
   return CloseKeysList();
 }
 
-void KeysList::ReleaseMouse() { acceptClick_ = true; }
+Reaction KeysList::ReleaseMouse() {
+  acceptClick_ = true;
+  return {};
+}
 
-PanelReaction KeysList::KeyDown(KeyCode code) {
+Reaction KeysList::KeyDown(KeyCode code) {
   if (code == KeyCode::Escape) {
     return CloseKeysList();
   }
   acceptClick_ = code == KeyCode::Enter || code == KeyCode::Space;
-  return acceptClick_ ? Select(selection_) : PanelReaction{};
+  return acceptClick_ ? Select(Selection()) : Reaction{};
 }
 
 }  // namespace tessera

@@ -1,11 +1,15 @@
 // The pop-up that shows all keys at once: what a selection in it means, and when it closes.
 #pragma once
 
+#include <optional>
+
 #include "editing/HotkeyPanel.h"
+#include "editing/Reaction.h"
+#include "platform/Pinned.h"
 
 namespace tessera {
 
-class KeysList {
+class KeysList : Pinned {
  public:
   explicit KeysList(HotkeyPanel& panel);
 
@@ -21,39 +25,38 @@ class KeysList {
 
   // -- Opening and closing. A list that was opened takes the focus.
 
-  /// A click on the all-keys button, or Right in the chooser.
-  PanelReaction ToggleKeysList();
-  PanelReaction CloseKeysList();
+  /// A click on the all-keys button, or Right in the chooser. Without a command there is no list.
+  Reaction ToggleKeysList();
+  Reaction CloseKeysList();
 
   /// Closes the list, when a row is selected, and leaves the focus where it is.
   void Hide();
 
   // -- The chooser
 
-  /// The chooser's selection changed: List1 follows, and this is not taken for a choice.
+  /// List1 selects the chooser's key again, which is not taken for a choice.
   void FollowChooser();
 
   /// The chooser's own list opens, which enables the panel toolbar.
-  void ChooserDropsDown();
+  Reaction ChooserDropsDown();
 
   // -- List1
 
   /// List1's selection changed. It is a choice, which closes the list, unless a key moved it.
-  PanelReaction Select(int index);
+  Reaction Select(int index);
 
   /// A mouse button was released over List1: the next selection is a choice.
-  void ReleaseMouse();
+  Reaction ReleaseMouse();
 
   /// Enter and Space choose, Esc closes without a choice; any other key only moves.
-  PanelReaction KeyDown(KeyCode code);
+  Reaction KeyDown(KeyCode code);
 
  private:
   HotkeyPanel& panel_;
   bool visible_ = false;
   bool panelToolbarEnabled_ = true;
-  int selection_ = NoKeyChosen;
   bool acceptClick_ = true;
-  bool suppressClick_ = false;
+  std::optional<int> moved_;  ///< where a key has moved the selection, without choosing it
 };
 
 }  // namespace tessera

@@ -42,28 +42,29 @@ class SampleProgram {
   /// Chooses a key of the vocabulary, and leaves the modifiers.
   void Choose(std::wstring_view key) {
     const auto keys = KeyVocabulary();
-    Editor.ChooseKey(static_cast<int>(std::find(keys.begin(), keys.end(), key) - keys.begin()));
+    Editor.Work(&HotkeyPanel::ChooseKey,
+                static_cast<int>(std::find(keys.begin(), keys.end(), key) - keys.begin()));
   }
 
   /// Chooses modifiers (bit 0 Ctrl, bit 1 Alt, bit 2 Shift) and a key of the vocabulary.
   void Compose(unsigned modifiers, std::wstring_view key) {
     for (const Modifier box : AllModifiers) {
-      Editor.SetBox(box, (modifiers >> static_cast<unsigned>(box) & 1U) != 0);
+      Editor.Work(&HotkeyPanel::SetBox, box, (modifiers >> static_cast<unsigned>(box) & 1U) != 0);
     }
     Choose(key);
   }
 
   /// Gives the row at `position` the key, with the modifiers that are chosen.
   void Assign(std::size_t position, std::wstring_view key) {
-    Editor.SelectRow(position);
+    Editor.Work(&CommandList::SelectRow, position);
     Choose(key);
-    Editor.AssignKey();
+    Editor.Work(&HotkeyPanel::Assign);
   }
 
   void Assign(std::size_t position, unsigned modifiers, std::wstring_view key) {
-    Editor.SelectRow(position);
+    Editor.Work(&CommandList::SelectRow, position);
     Compose(modifiers, key);
-    Editor.AssignKey();
+    Editor.Work(&HotkeyPanel::Assign);
   }
 
   Log Calls;  ///< of other programs

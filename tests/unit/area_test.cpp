@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tessera {
+namespace tessera::area_test {
 namespace {
 
 TEST(Ratio, HalvesAreRoundedAwayFromNought) {
@@ -19,4 +19,4 @@ TEST(Ratio, ProductMayBeLargerThanItsFactors) {
 }
 
 }  // namespace
-}  // namespace tessera
+}  // namespace tessera::area_test

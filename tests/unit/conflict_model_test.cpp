@@ -248,10 +248,10 @@ class Pair {
     BeginEdit();
     const Text shown = Shown(modifiers, Vocabulary[key], model_.Reversed);
     if (assigns) {
-      const bool changed = session_.Panel.Assign();
+      const bool changed = session_.Panel.Assign().Changed;
       EndEdit(changed, model_.Assign(shown));
     } else {
-      const bool changed = session_.Panel.Add();
+      const bool changed = session_.Panel.Add().Changed;
       EndEdit(changed, model_.Add(shown));
     }
   }
@@ -259,13 +259,13 @@ class Pair {
   void DeleteOne() {
     Select();
     BeginEdit();
-    const bool changed = session_.Panel.Delete();
+    const bool changed = session_.Panel.Delete().Changed;
     EndEdit(changed, model_.Delete());
   }
 
   void DeleteAll() {
     BeginEdit();
-    const bool changed = session_.Panel.DeleteAll();
+    const bool changed = session_.Panel.DeleteAll().Changed;
     EndEdit(changed, model_.DeleteAll());
   }
 
@@ -318,7 +318,7 @@ TEST(ConflictModel, EveryKeyIsSavedAndReadBackAsItWasShown) {
         session.Panel.ChooseKey(static_cast<int>(key));
         session.List.ShowRowDetails(1 + key % 2);
         session.MessageBoxes.Answers = {BoxAnswer::Yes};
-        ASSERT_TRUE(session.Panel.Assign());
+        ASSERT_TRUE(session.Panel.Assign().Changed);
         ASSERT_EQ(session.Tables.ListView1.Row(1 + key % 2).CurrentKeys, shown);
         ASSERT_EQ(SaveShortcuts(session.Tables, session.Notation, {IniPath, false}, session.Files,
                                 session.Clock, session.Environment),

@@ -12,7 +12,7 @@ using namespace installation;
 TEST_F(EditorTest, AnOpenedFileIsTheNewestRecentFile) {
   Files.Contents[OtherIniFile] = "[Shortcuts]\r\n";
   Start();
-  Editor.OpenFile(OtherIniFile);
+  Editor.OpenShortcutFile(false, OtherIniFile, true);
   EXPECT_EQ(Editor.RecentFiles().ListItems(1), OtherIniFile);
   EXPECT_EQ(Editor.RecentFiles().ListItems(2), IniFile);
   EXPECT_NE(StoredSettings().find("RecentFiles1=C:\\TC\\Other.ini\r\n"), std::string::npos);
@@ -25,10 +25,10 @@ TEST_F(EditorTest, ARecentFileIsOpenedAgain) {
   Start();
   ASSERT_EQ(Editor.RecentFiles().ListItems(2), OtherIniFile);
   Editor.OpenRecentFile(2);
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + V");
   EXPECT_EQ(Editor.RecentFiles().ListItems(1), OtherIniFile);
   Editor.OpenRecentFile(9);
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Other.ini - Tessera");
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Other.ini - Tessera");
 }
 
 TEST_F(EditorTest, ARecentFileThatHasGoneIsReportedAndRemoved) {
@@ -42,16 +42,6 @@ TEST_F(EditorTest, ARecentFileThatHasGoneIsReportedAndRemoved) {
   EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Exclamation);
   EXPECT_EQ(Editor.RecentFiles().MenuEntries().size(), 1U);
   EXPECT_EQ(StoredSettings().find("gone.ini"), std::string::npos);
-}
-
-TEST_F(EditorTest, ARecentFileOfAKilledSaveIsThereAgain) {
-  Files.Contents[OtherIniFile + L".tessera-old"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
-  StoredSettings() = "[Tessera]\r\nRecentFiles1=C:\\TC\\Other.ini\r\n";
-  Start();
-  Editor.OpenRecentFile(2);
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
-  EXPECT_EQ(Editor.RecentFiles().ListItems(1), OtherIniFile);
-  EXPECT_TRUE(MessageBoxes.Shown.empty());
 }
 
 TEST_F(EditorTest, NoKeepsTheRecentFilesAndYesClearsThem) {
@@ -71,21 +61,13 @@ TEST_F(EditorTest, AFileNamedAtTheStartIsOpenedInPlaceOfTheOneFound) {
   Files.Contents[OtherIniFile] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
   Editor.Load(OtherIniFile);
   Editor.Activate();
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Other.ini - Tessera");
-}
-
-TEST_F(EditorTest, AFileNamedAtTheStartIsThereAgainAfterAKilledSave) {
-  Files.Contents[OtherIniFile + L".tessera-old"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
-  Editor.Load(OtherIniFile);
-  Editor.Activate();
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Other.ini - Tessera");
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Other.ini - Tessera");
 }
 
 TEST_F(EditorTest, AFileNamedAtTheStartThatDoesNotExistIsPassedOver) {
   Editor.Load(L"C:\\nothing.ini");
   Editor.Activate();
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
 }
 
 TEST_F(EditorTest, ARedirectedSectionIsFoundByTheFolderOfTotalCommander) {
@@ -94,22 +76,10 @@ TEST_F(EditorTest, ARedirectedSectionIsFoundByTheFolderOfTotalCommander) {
   Ini() = "[Shortcuts]\r\nRedirectSection=%COMMANDER_PATH%\\keys.ini\r\n";
   Files.Contents[L"C:\\TC\\keys.ini"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
   Start();
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + V");
   Assign(Pack, L"X");
   Editor.FileSave();
   EXPECT_EQ(Files.Contents[L"C:\\TC\\keys.ini"], "[Shortcuts]\r\nX=cm_Pack\r\n");
-}
-
-TEST_F(EditorTest, TheStoredFolderOfTotalCommanderMayHoldVariables) {
-  Environment.Variables = {{L"tools", L"C:\\TC"}};
-  StoredSettings() = "[Common]\r\nTCInstallDir=%tools%\r\n";
-  Ini() = "[Shortcuts]\r\nRedirectSection=%COMMANDER_PATH%\\keys.ini\r\n";
-  Files.Contents[L"C:\\TC\\keys.ini"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
-  Start();
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
-  Editor.FileOpen();
-  ASSERT_EQ(Dialogs.OpenRequests.size(), 1U);
-  EXPECT_EQ(Dialogs.OpenRequests[0].Folder, L"C:\\TC\\");
 }
 
 // The folder that was found counts for files alone, deliberately.
@@ -157,26 +127,10 @@ TEST_F(EditorTest, TheExportFollowsTheListAndWarnsOfUnsavedChanges) {
   EXPECT_EQ(Clipboard.Texts.back().find(L"Important"), std::wstring::npos);
 }
 
-TEST_F(EditorTest, TheExportStartsWithTheStoredColumns) {
-  StoredSettings() = "[Tessera]\r\nClipOptions=1,0,0,1\r\n";
-  Start();
-  EXPECT_EQ(Editor.BeginExport().Selection().ClipOptions(), L"1,0,0,1");
-}
-
-TEST_F(EditorTest, ALanguageFileThatGoesIsReportedByTheExportToo) {
-  StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
-  Start();
-  Files.Contents.erase(L"C:\\de.lng");
-  Editor.BeginExport();
-  EXPECT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
-}
-
 TEST_F(EditorTest, OptionsResetThePanelAndAreStoredAtOnce) {
   Start();
-  Editor.SelectRow(Pack);
-  Editor.SetBox(Modifier::Ctrl, true);
+  Editor.Work(&CommandList::SelectRow, Pack);
+  Editor.Work(&HotkeyPanel::SetBox, Modifier::Ctrl, true);
   Choose(L"X");
   OptionsSelection& options = Editor.BeginOptions();
   options.Click(OptionBox::ShowGridLines);
@@ -192,7 +146,7 @@ TEST_F(EditorTest, OptionsResetThePanelAndAreStoredAtOnce) {
 TEST_F(EditorTest, AfterTheOptionsTheCommandListHasTheFocus) {
   Start();
   Editor.BeginOptions();
-  EXPECT_EQ(Editor.EndOptions().Panel.FocusTo, PanelReaction::Focus::CommandList);
+  EXPECT_EQ(Editor.EndOptions().Panel.FocusTo, Reaction::Focus::CommandList);
 }
 
 TEST_F(EditorTest, ALanguageFileThatGoesDuringTheRunChangesTheLanguage) {
@@ -222,33 +176,6 @@ TEST_F(EditorTest, AnotherLanguageIsInUseAfterTheOptions) {
   again.Apply();
   EXPECT_TRUE(Editor.EndOptions().LanguageChanged);
   EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
-}
-
-TEST_F(EditorTest, TheRecentFilesFollowTheLanguage) {
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n109=Liste leeren\r\n";
-  Start();
-  OptionsSelection& options = Editor.BeginOptions();
-  options.UseDefaultLanguage(false);
-  options.EditLanguageFilePath(L"C:\\de.lng");
-  options.Apply();
-  Editor.EndOptions();
-  EXPECT_EQ(Editor.RecentFiles().ClearEntry().Caption, L"Liste leeren");
-}
-
-TEST_F(EditorTest, AnotherLanguageNamesTheModifiersFromTheNextOpenOn) {
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n";
-  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nC+X=cm_Pack\r\n";
-  Start();
-  OptionsSelection& options = Editor.BeginOptions();
-  options.UseDefaultLanguage(false);
-  options.EditLanguageFilePath(L"C:\\de.lng");
-  options.Apply();
-  Editor.EndOptions();
-  Editor.SetBox(Modifier::Ctrl, true);
-  Choose(L"X");
-  EXPECT_EQ(Editor.Panel().ComposeKey(), L"Ctrl + X");
-  Editor.OpenFile(OtherIniFile);
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Strg + X");
 }
 
 TEST_F(EditorTest, TheDefaultLanguageLeavesTheLanguageFileAlone) {
@@ -312,6 +239,79 @@ TEST_F(EditorTest, ALanguageFileThatIsMissingIsReportedOnce) {
   Editor.BeginOptions();
   EXPECT_EQ(MessageBoxes.Shown.size(), 1U);
   EXPECT_EQ(Editor.Options().UseDefaultLanguage, 1);
+}
+
+TEST_F(EditorTest, ARecentFileOfAKilledSaveIsThereAgain) {
+  Files.Contents[OtherIniFile + L".tessera-old"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  StoredSettings() = "[Tessera]\r\nRecentFiles1=C:\\TC\\Other.ini\r\n";
+  Start();
+  Editor.OpenRecentFile(2);
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + V");
+  EXPECT_EQ(Editor.RecentFiles().ListItems(1), OtherIniFile);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
+}
+
+TEST_F(EditorTest, AFileNamedAtTheStartIsThereAgainAfterAKilledSave) {
+  Files.Contents[OtherIniFile + L".tessera-old"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  Editor.Load(OtherIniFile);
+  Editor.Activate();
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Other.ini - Tessera");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + V");
+}
+
+TEST_F(EditorTest, TheStoredFolderOfTotalCommanderMayHoldVariables) {
+  Environment.Variables = {{L"tools", L"C:\\TC"}};
+  StoredSettings() = "[Common]\r\nTCInstallDir=%tools%\r\n";
+  Ini() = "[Shortcuts]\r\nRedirectSection=%COMMANDER_PATH%\\keys.ini\r\n";
+  Files.Contents[L"C:\\TC\\keys.ini"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
+  Start();
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + V");
+  Editor.FileOpen();
+  ASSERT_EQ(Dialogs.OpenRequests.size(), 1U);
+  EXPECT_EQ(Dialogs.OpenRequests[0].Folder, L"C:\\TC\\");
+}
+
+TEST_F(EditorTest, TheExportStartsWithTheStoredColumns) {
+  StoredSettings() = "[Tessera]\r\nClipOptions=1,0,0,1\r\n";
+  Start();
+  EXPECT_EQ(Editor.BeginExport().Selection().ClipOptions(), L"1,0,0,1");
+}
+
+TEST_F(EditorTest, ALanguageFileThatGoesIsReportedByTheExportToo) {
+  StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
+  Start();
+  Files.Contents.erase(L"C:\\de.lng");
+  Editor.BeginExport();
+  EXPECT_EQ(MessageBoxes.Shown.size(), 1U);
+  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
+}
+
+TEST_F(EditorTest, TheRecentFilesFollowTheLanguage) {
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n109=Liste leeren\r\n";
+  Start();
+  OptionsSelection& options = Editor.BeginOptions();
+  options.UseDefaultLanguage(false);
+  options.EditLanguageFilePath(L"C:\\de.lng");
+  options.Apply();
+  Editor.EndOptions();
+  EXPECT_EQ(Editor.RecentFiles().ClearEntry().Caption, L"Liste leeren");
+}
+
+TEST_F(EditorTest, AnotherLanguageNamesTheModifiersFromTheNextOpenOn) {
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n";
+  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nC+X=cm_Pack\r\n";
+  Start();
+  OptionsSelection& options = Editor.BeginOptions();
+  options.UseDefaultLanguage(false);
+  options.EditLanguageFilePath(L"C:\\de.lng");
+  options.Apply();
+  Editor.EndOptions();
+  Editor.Work(&HotkeyPanel::SetBox, Modifier::Ctrl, true);
+  Choose(L"X");
+  EXPECT_EQ(Editor.Panel().ComposeKey(), L"Ctrl + X");
+  Editor.OpenShortcutFile(false, OtherIniFile, true);
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Strg + X");
 }
 
 }  // namespace

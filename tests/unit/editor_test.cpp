@@ -9,16 +9,16 @@ using namespace installation;
 
 TEST_F(EditorTest, TheFirstActivationShowsEveryRowInFileOrder) {
   Start();
-  ASSERT_EQ(Editor.Rows().Count(), 5U);
-  EXPECT_EQ(Editor.Rows().At(Heading).Description, L"[___File___]");
-  EXPECT_EQ(Editor.Rows().At(Copy).CommandName, L"cm_Copy");
-  EXPECT_EQ(Editor.Rows().At(Copy).DefaultKeys, L"F5");
-  EXPECT_EQ(Editor.Rows().At(Copy).CurrentKeys, L"F3");
-  EXPECT_EQ(Editor.Rows().At(View).DefaultKeys, L"F3 *");
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"---");
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
+  ASSERT_EQ(Editor.Document().Rows().Count(), 5U);
+  EXPECT_EQ(Editor.Document().Rows().At(Heading).Description, L"[___File___]");
+  EXPECT_EQ(Editor.Document().Rows().At(Copy).CommandName, L"cm_Copy");
+  EXPECT_EQ(Editor.Document().Rows().At(Copy).DefaultKeys, L"F5");
+  EXPECT_EQ(Editor.Document().Rows().At(Copy).CurrentKeys, L"F3");
+  EXPECT_EQ(Editor.Document().Rows().At(View).DefaultKeys, L"F3 *");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"---");
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
   EXPECT_EQ(Editor.List().SelectedRow(), 1U);
-  EXPECT_FALSE(Editor.Modified());
+  EXPECT_FALSE(Editor.Document().Modified());
   EXPECT_TRUE(MessageBoxes.Shown.empty());
 }
 
@@ -30,7 +30,7 @@ TEST_F(EditorTest, ASecondActivationDoesNothing) {
   Editor.Activate();
   EXPECT_EQ(Files.Reads, reads);
   EXPECT_TRUE(MessageBoxes.Shown.empty());
-  EXPECT_EQ(Editor.Rows().Count(), 5U);
+  EXPECT_EQ(Editor.Document().Rows().Count(), 5U);
 }
 
 TEST_F(EditorTest, AnOpenReadsEachInputFileOnce) {
@@ -62,8 +62,8 @@ TEST_F(EditorTest, ASecondOpenAppendsItsKeysToThoseOfTheFirst) {
   Files.Contents[OtherIniFile] = "[Shortcuts]\r\nA+V=cm_View\r\n";
   Start();
   Editor.OpenShortcutFile(false, OtherIniFile, false);
-  EXPECT_EQ(Editor.Rows().At(View).CurrentKeys, L"Ctrl + F3 = Alt + V");
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Other.ini - Tessera");
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"Ctrl + F3 = Alt + V");
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Other.ini - Tessera");
 }
 
 TEST_F(EditorTest, ASecondOpenWithUnsavedChangesAsksFirst) {
@@ -76,8 +76,8 @@ TEST_F(EditorTest, ASecondOpenWithUnsavedChangesAsksFirst) {
   EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Save changes to  C:\\TC\\Wincmd.ini\n");
   EXPECT_EQ(MessageBoxes.Shown[0].Buttons, BoxButtons::YesNoCancel);
   EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Exclamation);
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"X");
-  EXPECT_TRUE(Editor.Modified());
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"X");
+  EXPECT_TRUE(Editor.Document().Modified());
 
   MessageBoxes.Answers = {BoxAnswer::Cancel};
   Editor.FileOpen();
@@ -85,8 +85,8 @@ TEST_F(EditorTest, ASecondOpenWithUnsavedChangesAsksFirst) {
 
   MessageBoxes.Answers = {BoxAnswer::No};
   Editor.OpenShortcutFile(false, OtherIniFile, false);
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"---");
-  EXPECT_FALSE(Editor.Modified());
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"---");
+  EXPECT_FALSE(Editor.Document().Modified());
   EXPECT_EQ(Ini(), IniContent);
 }
 
@@ -105,9 +105,9 @@ TEST_F(EditorTest, YesSavesBeforeASecondOpen) {
   Start();
   Assign(Pack, L"X");
   MessageBoxes.Answers = {BoxAnswer::Yes};
-  Editor.OpenFile(OtherIniFile);
+  Editor.OpenShortcutFile(false, OtherIniFile, true);
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Other.ini - Tessera");
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Other.ini - Tessera");
 }
 
 TEST_F(EditorTest, ItDoesNotOpenOverASaveThatFailed) {
@@ -116,10 +116,10 @@ TEST_F(EditorTest, ItDoesNotOpenOverASaveThatFailed) {
   Assign(Pack, L"X");
   MessageBoxes.Answers = {BoxAnswer::Yes};
   Files.ReplaceErrors.assign(100, FileError::AccessDenied);
-  Editor.OpenFile(OtherIniFile);
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"X");
-  EXPECT_TRUE(Editor.Modified());
+  Editor.OpenShortcutFile(false, OtherIniFile, true);
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"X");
+  EXPECT_TRUE(Editor.Document().Modified());
   EXPECT_EQ(MessageBoxes.BeepCount, 1);
 }
 
@@ -128,19 +128,19 @@ TEST_F(EditorTest, ASecondOpenForgetsTheEditedKeysInTheIndexes) {
   Start();
   Assign(Pack, L"X");
   MessageBoxes.Answers = {BoxAnswer::No};
-  Editor.OpenFile(OtherIniFile);
+  Editor.OpenShortcutFile(false, OtherIniFile, true);
   MessageBoxes.Shown.clear();
   Assign(Copy, L"X");
   EXPECT_TRUE(MessageBoxes.Shown.empty());
-  EXPECT_EQ(Editor.Rows().At(Copy).CurrentKeys, L"X");
+  EXPECT_EQ(Editor.Document().Rows().At(Copy).CurrentKeys, L"X");
 }
 
 TEST_F(EditorTest, TheDefaultKeysAreLookedUpAgainAtEveryOpen) {
   Start();
   Files.Contents[DataFile] = "[TC Default Hotkeys]\r\n103=F8\r\n";
-  Editor.OpenFile(IniFile);
-  EXPECT_EQ(Editor.Rows().At(Copy).DefaultKeys, L"---");
-  EXPECT_EQ(Editor.Rows().At(Pack).DefaultKeys, L"F8");
+  Editor.OpenShortcutFile(false, IniFile, true);
+  EXPECT_EQ(Editor.Document().Rows().At(Copy).DefaultKeys, L"---");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).DefaultKeys, L"F8");
 }
 
 TEST_F(EditorTest, FileOpenTakesTheChosenFile) {
@@ -148,108 +148,18 @@ TEST_F(EditorTest, FileOpenTakesTheChosenFile) {
   Start();
   Dialogs.OpenAnswers = {OtherIniFile};
   Editor.FileOpen();
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + V");
   EXPECT_EQ(Dialogs.OpenRequests[0].Filter, L"Wincmd.ini (*.ini)|*.ini|All Files (*.*)|*.*");
 }
 
 TEST_F(EditorTest, ACancelledFileOpenChangesNothing) {
   Start();
   Editor.FileOpen();
-  EXPECT_EQ(Editor.Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
-  EXPECT_EQ(Editor.Rows().Count(), 5U);
+  EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Wincmd.ini - Tessera");
+  EXPECT_EQ(Editor.Document().Rows().Count(), 5U);
 }
 
-// -- What is missing
-
-TEST_F(EditorTest, WithoutTotalcmdIncTheUserIsToldAndAsked) {
-  Files.Contents.erase(IncFile);
-  Files.Contents[L"D:\\TC\\Totalcmd.inc"] = SmallInstallation().Commands;
-  Dialogs.OpenAnswers = {L"D:\\TC\\Totalcmd.inc"};
-  Start();
-  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot find your Totalcmd.inc file !");
-  EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Information);
-  EXPECT_EQ(MessageBoxes.Shown[0].Buttons, BoxButtons::Ok);
-  ASSERT_EQ(Dialogs.OpenRequests.size(), 1U);
-  EXPECT_EQ(Dialogs.OpenRequests[0].Folder, L"");
-  EXPECT_EQ(Dialogs.OpenRequests[0].FileName, L"Totalcmd.inc");
-  EXPECT_EQ(Dialogs.OpenRequests[0].Filter, FilterText(FileFilter::InternalCommands));
-  EXPECT_EQ(Editor.Rows().Count(), 5U);
-}
-
-TEST_F(EditorTest, ACancelledSearchForTotalcmdIncLeavesAnEmptyListAndAWorkingProgram) {
-  Files.Contents.erase(IncFile);
-  Start();
-  EXPECT_EQ(Editor.Rows().Count(), 0U);
-  EXPECT_FALSE(Editor.Panel().InputsEnabled());
-  Editor.SelectRow(0);
-  Editor.ToggleSortedList();
-  Editor.ToggleSortedList();
-  Editor.ClickColumn(2);
-  Choose(L"X");
-  Editor.AssignKey();
-  Editor.DeleteKeys();
-  EXPECT_FALSE(Editor.Modified());
-  EXPECT_TRUE(Editor.QueryUnload());
-}
-
-TEST_F(EditorTest, TheChosenWincmdIniIsRemembered) {
-  Files.Contents.erase(IniFile);
-  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
-  Dialogs.OpenAnswers = {OtherIniFile};
-  Start();
-  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot find Total Commander settings file [Wincmd.ini]");
-  EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Exclamation);
-  EXPECT_EQ(MessageBoxes.Shown[0].Buttons, BoxButtons::Ok);
-  ASSERT_EQ(Dialogs.OpenRequests.size(), 1U);
-  EXPECT_EQ(Dialogs.OpenRequests[0].Folder, L"C:\\TC\\");
-  EXPECT_EQ(Dialogs.OpenRequests[0].FileName, L"Wincmd.ini");
-  EXPECT_EQ(Dialogs.OpenRequests[0].Filter, FilterText(FileFilter::WincmdIni));
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
-  EXPECT_NE(StoredSettings().find("UserDefinedWincmd=C:\\TC\\Other.ini\r\n"), std::string::npos);
-
-  tessera::Editor next(Seams, [](const LoadProgress&) {});
-  next.Load();
-  next.Activate();
-  EXPECT_EQ(next.Caption(), OtherIniFile + L" - Tessera");
-  EXPECT_EQ(MessageBoxes.Shown.size(), 1U) << "it is used without a question";
-  EXPECT_EQ(Dialogs.OpenRequests.size(), 1U);
-}
-
-TEST_F(EditorTest, ACancelledSearchForWincmdIniLeavesAnEmptyListAndAWorkingProgram) {
-  Files.Contents.erase(IniFile);
-  Start();
-  EXPECT_EQ(Editor.Rows().Count(), 0U);
-  EXPECT_EQ(Editor.Caption(), L"Tessera");
-  EXPECT_EQ(StoredSettings().find("UserDefinedWincmd"), std::string::npos);
-  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
-  Editor.OpenShortcutFile(false, OtherIniFile, false);
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + V");
-}
-
-TEST_F(EditorTest, WithoutTheDataFileTheUserIsToldAndTheChosenOneIsStored) {
-  Files.Contents.erase(DataFile);
-  Files.Contents[L"D:\\keys.hky"] = SmallInstallation().DefaultKeys;
-  Dialogs.OpenAnswers = {L"D:\\keys.hky"};
-  Start();
-  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot find data file! Please open one to continue");
-  EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Critical);
-  EXPECT_EQ(MessageBoxes.Shown[0].Buttons, BoxButtons::Ok);
-  EXPECT_EQ(Dialogs.OpenRequests[0].FileName, L"tc default hotkeys.hky");
-  EXPECT_EQ(Dialogs.OpenRequests[0].Filter, FilterText(FileFilter::DefaultHotkeys));
-  EXPECT_EQ(Dialogs.OpenRequests[0].Folder, L"C:\\Tessera\\Data Files");
-  EXPECT_EQ(Editor.Rows().At(Copy).DefaultKeys, L"F5");
-  EXPECT_NE(StoredSettings().find("DefaultHotKeysDataFile=D:\\keys.hky\r\n"), std::string::npos);
-}
-
-TEST_F(EditorTest, WithoutAnyDataFileNoCommandHasDefaultKeys) {
-  Files.Contents.erase(DataFile);
-  Start();
-  EXPECT_EQ(Editor.Rows().At(Copy).DefaultKeys, L"---");
-  EXPECT_EQ(Editor.Rows().At(Copy).CurrentKeys, L"F3");
-}
+// -- The language
 
 TEST_F(EditorTest, AMissingLanguageFileIsReportedAndTheBuiltInTextsAreUsed) {
   StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\no.lng\r\n";
@@ -268,30 +178,20 @@ TEST_F(EditorTest, KeysAreShownWithTheModifierNamesOfTheLanguage) {
   StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
   Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n405=\" \"\r\n";
   Start();
-  EXPECT_EQ(Editor.Rows().At(View).CurrentKeys, L"Strg + F3");
-  Editor.SetBox(Modifier::Alt, true);
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"Strg + F3");
+  Editor.Work(&HotkeyPanel::SetBox, Modifier::Alt, true);
   Assign(Pack, L"X");
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"Alt + X") << "a blank name is no name";
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + X") << "a blank name is no name";
   Editor.FileSave();
   EXPECT_NE(Ini().find("[Shortcuts]\r\nF3=cm_Copy\r\nC+F3=cm_View\r\nA+X=cm_Pack\r\n"),
             std::string::npos);
-}
-
-TEST_F(EditorTest, AnyNumberButNoughtReversesTheOrderOfKeys) {
-  for (const char* value : {"0", "1", "2", "-1"}) {
-    StoredSettings() = std::string("[Tessera]\r\nReverseOrderHotkey=") + value + "\r\n";
-    tessera::Editor editor(Seams, [](const LoadProgress&) {});
-    editor.Load();
-    editor.Activate();
-    EXPECT_EQ(editor.Rows().At(View).CurrentKeys, *value == '0' ? L"Ctrl + F3" : L"F3 + Ctrl");
-  }
 }
 
 // -- The end
 
 TEST_F(EditorTest, UnloadStoresWindowColumnsAndSort) {
   Start();
-  Editor.ToggleSortedList();
+  Editor.Work(&CommandList::ToggleSortedList);
   Editor.Unload({.Left = 100, .Top = 200, .Width = 9000, .Height = 8000},
                 {{2, 1, 4, 3}, {100, 200, 300, 400}});
   for (const char* line :
@@ -305,7 +205,7 @@ TEST_F(EditorTest, UnloadStoresWindowColumnsAndSort) {
 TEST_F(EditorTest, UnloadInFileOrderStoresTheSortThatIsNext) {
   StoredSettings() = "[Tessera]\r\nSortedList=1\r\nSortedColumn=2\r\nSortOrder=0\r\n";
   Start();
-  Editor.ToggleSortedList();
+  Editor.Work(&CommandList::ToggleSortedList);
   Editor.Unload({}, {});
   for (const char* line : {"SortedList=0", "SortedColumn=3", "SortOrder=1"}) {
     EXPECT_NE(StoredSettings().find(std::string(line) + "\r\n"), std::string::npos) << line;
@@ -326,6 +226,134 @@ TEST_F(EditorTest, AMaximisedWindowStoresThatAlone) {
   Editor.Unload({.Maximised = true, .Left = -8, .Width = 20000}, {});
   EXPECT_NE(StoredSettings().find("MainWindowLeft=77\r\n"), std::string::npos);
   EXPECT_NE(StoredSettings().find("MainWindowMaxmized=1\r\n"), std::string::npos);
+}
+
+// -- Order
+
+TEST_F(EditorTest, TheStoredSortIsAppliedAtStart) {
+  StoredSettings() = "[Tessera]\r\nSortedList=1\r\nSortedColumn=2\r\nSortOrder=1\r\n";
+  Start();
+  ASSERT_EQ(Editor.Document().Rows().Count(), 3U);
+  EXPECT_EQ(Editor.Document().Rows().At(0).CommandName, L"cm_View");
+  EXPECT_EQ(Editor.List().IconOf(Column::Command), HeaderIcon::Descending);
+}
+
+TEST_F(EditorTest, StoredSortValuesOutOfRangeAreRepairedAtStart) {
+  for (const char* column : {"0", "7"}) {
+    StoredSettings() =
+        "[Tessera]\r\nSortedList=1\r\nSortOrder=5\r\nSortedColumn=" + std::string(column) + "\r\n";
+    tessera::Editor editor(Seams, [](const LoadProgress&) {});
+    editor.Load();
+    editor.Activate();
+    EXPECT_EQ(editor.Options().SortedColumn, 3);
+    EXPECT_EQ(editor.Options().SortOrder, 1);
+    EXPECT_EQ(editor.List().IconOf(Column::Defaults), HeaderIcon::Descending);
+    ASSERT_EQ(editor.Document().Rows().Count(), 3U);
+    EXPECT_EQ(editor.Document().Rows().At(0).DefaultKeys, L"F5");
+    EXPECT_EQ(editor.Document().Rows().At(1).DefaultKeys, L"F3 *");
+    EXPECT_EQ(editor.Document().Rows().At(2).DefaultKeys, L"---");
+  }
+}
+
+TEST_F(EditorTest, AStoredFourthColumnReachesTheColumnClickAsNone) {
+  StoredSettings() = "[Tessera]\r\nSortedList=1\r\nSortedColumn=4\r\n";
+  Start();
+  EXPECT_EQ(Editor.Options().SortedColumn, 0);
+  EXPECT_EQ(Editor.List().IconOf(Column::Current), HeaderIcon::None);
+}
+
+// -- Work on the rows
+
+TEST_F(EditorTest, APositionOutsideTheListSelectsNothingElse) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, View);
+  Editor.Work(&CommandList::SelectRow, 5);
+  Editor.Work(&CommandList::SelectRow, static_cast<std::size_t>(-1));
+  EXPECT_EQ(Editor.List().SelectedRow(), 3U);
+}
+
+TEST_F(EditorTest, AChoiceInTheKeysListIsTheChoosers) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, Pack);
+  EXPECT_EQ(Editor.Work(&KeysList::ToggleKeysList).FocusTo, Reaction::Focus::Unchanged);
+  EXPECT_TRUE(Editor.AllKeys().Visible());
+  Editor.Work(&KeysList::Select, 5);
+  EXPECT_EQ(Editor.Panel().ChosenKey(), 5);
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+  Editor.Work(&HotkeyPanel::ChooseKey, 7);
+  EXPECT_EQ(Editor.AllKeys().Selection(), 7);
+}
+
+TEST_F(EditorTest, SelectingARowClosesTheKeysList) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, Pack);
+  Editor.Work(&KeysList::ToggleKeysList);
+  Editor.Work(&CommandList::SelectRow, View);
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+  Editor.Work(&KeysList::ToggleKeysList);
+  Editor.Work(&CommandList::ToggleSortedList);
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+}
+
+TEST_F(EditorTest, TheKeysListDoesNotOpenForAHeadingRow) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, Heading);
+  Editor.Work(&KeysList::ToggleKeysList);
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+}
+
+TEST_F(EditorTest, AnyNumberButNoughtReversesTheOrderOfKeys) {
+  for (const char* value : {"0", "1", "2", "-1"}) {
+    StoredSettings() = std::string("[Tessera]\r\nReverseOrderHotkey=") + value + "\r\n";
+    tessera::Editor editor(Seams, [](const LoadProgress&) {});
+    editor.Load();
+    editor.Activate();
+    EXPECT_EQ(editor.Document().Rows().At(View).CurrentKeys,
+              *value == '0' ? L"Ctrl + F3" : L"F3 + Ctrl");
+  }
+}
+
+TEST_F(EditorTest, TheStoredContextMenuKeyStandsForAltFromItsFirstPress) {
+  for (const char* value : {"1", "2", "-1"}) {
+    StoredSettings() = std::string("[Tessera]\r\nUseContextMenuKey=") + value + "\r\n";
+    tessera::Editor editor(Seams, [](const LoadProgress&) {});
+    editor.Load();
+    editor.Activate();
+    editor.Work(&CommandList::SelectRow, Pack);
+    editor.Work(&HotkeyPanel::KeyDown, KeyEvent{.Code = KeyCode::ContextMenu});
+    EXPECT_TRUE(editor.Panel().BoxChecked(Modifier::Alt)) << value;
+  }
+}
+
+TEST_F(EditorTest, TheToolbarGoesAndComesBack) {
+  Start();
+  ASSERT_EQ(Editor.Options().ToolbarVisible, 1);
+  Editor.ToggleToolbar();
+  EXPECT_EQ(Editor.Options().ToolbarVisible, 0);
+  Editor.ToggleToolbar();
+  EXPECT_EQ(Editor.Options().ToolbarVisible, 1);
+}
+
+TEST_F(EditorTest, OpeningAFileClosesTheKeysList) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, Pack);
+  Editor.Work(&KeysList::ToggleKeysList);
+  ASSERT_TRUE(Editor.AllKeys().Visible());
+  Editor.OpenShortcutFile(false, IniFile, true);
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+}
+
+TEST_F(EditorTest, TheKeysListFollowsAResetOfThePanel) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, Pack);
+  Editor.Work(&HotkeyPanel::ChooseKey, 7);
+  ASSERT_EQ(Editor.AllKeys().Selection(), 7);
+  Editor.Work(&HotkeyPanel::KeyDown, KeyEvent{.Code = KeyCode::Escape});
+  EXPECT_EQ(Editor.AllKeys().Selection(), NoKeyChosen);
+  Editor.Work(&HotkeyPanel::ChooseKey, 7);
+  Editor.BeginOptions();
+  Editor.EndOptions();
+  EXPECT_EQ(Editor.AllKeys().Selection(), NoKeyChosen);
 }
 
 }  // namespace

@@ -13,13 +13,13 @@ using World = SampleProgram<MemoryFiles>;
 
 /// Edits, sorts, saves and closes as a user would.
 void ExpectWorkingProgram(World& world) {
-  ASSERT_EQ(world.Editor.Rows().Count(), 5U);
+  ASSERT_EQ(world.Editor.Document().Rows().Count(), 5U);
   world.Assign(Pack, 1, L"J");
-  EXPECT_TRUE(world.Editor.Modified());
-  world.Editor.ToggleSortedList();
-  world.Editor.ToggleSortedList();
+  EXPECT_TRUE(world.Editor.Document().Modified());
+  world.Editor.Work(&CommandList::ToggleSortedList);
+  world.Editor.Work(&CommandList::ToggleSortedList);
   world.Editor.FileSave();
-  EXPECT_FALSE(world.Editor.Modified());
+  EXPECT_FALSE(world.Editor.Document().Modified());
   EXPECT_TRUE(world.Editor.QueryUnload());
   world.Editor.Unload({}, ReadColumnLayout(world.Editor.Options()));
 }
@@ -88,7 +88,7 @@ TEST(HostileValues, LongPathsAreOpenedAndSaved) {
         std::wstring(L"C:\\").append(length - 17, L'd').append(L"\\f\\Wincmd.ini");
     world.Files.Contents[path] = "[Shortcuts]\r\nA+V=cm_Copy\r\n";
     world.Editor.OpenShortcutFile(false, path, true);
-    EXPECT_EQ(world.Editor.Rows().At(Copy).CurrentKeys, L"Alt + V");
+    EXPECT_EQ(world.Editor.Document().Rows().At(Copy).CurrentKeys, L"Alt + V");
     world.Assign(Pack, 0, L"X");
     world.Editor.FileSave();
     EXPECT_EQ(world.Files.Contents[path], "[Shortcuts]\r\nA+V=cm_Copy\r\nX=cm_Pack\r\n");
@@ -111,7 +111,7 @@ TEST(HostileValues, ALanguageFileIsShownAsItIs) {
       "&&\x1B[\r\n3060=%99999999s\r\n404=%s\r\n405=&\r\n406=\x07\r\n";
   world.Files.Contents[IniFile] = "[Shortcuts]\r\nCAS+F1=cm_Copy\r\n";
   world.Start();
-  EXPECT_EQ(world.Editor.Rows().At(Copy).CurrentKeys, L"%s + & + Shift + F1")
+  EXPECT_EQ(world.Editor.Document().Rows().At(Copy).CurrentKeys, L"%s + & + Shift + F1")
       << "a name of control characters alone is no name";
   world.MessageBoxes.Answers = {BoxAnswer::No};
   world.Assign(Pack, 0, L"F5");
@@ -129,13 +129,13 @@ TEST(HostileValues, AColumnOfManyKeysIsReadEditedAndSaved) {
   for (int i = 0; i < 1000; ++i) lines += "K" + std::to_string(i) + "=cm_Copy\r\n";
   world.Files.Contents[IniFile] = "[Shortcuts]\r\n" + lines;
   world.Start();
-  EXPECT_GT(world.Editor.Rows().At(Copy).CurrentKeys.size(), 5000U);
-  world.Editor.SelectRow(Copy);
+  EXPECT_GT(world.Editor.Document().Rows().At(Copy).CurrentKeys.size(), 5000U);
+  world.Editor.Work(&CommandList::SelectRow, Copy);
   world.Compose(1, L"J");
-  world.Editor.AddKey();
+  world.Editor.Work(&HotkeyPanel::Add);
   world.Editor.FileSave();
   EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\n" + lines + "C+J=cm_Copy\r\n");
-  world.Editor.DeleteKeys();
+  world.Editor.Work(&HotkeyPanel::Delete);
   world.Editor.FileSave();
   EXPECT_EQ(world.Files.Contents[IniFile], "");
 }
@@ -153,8 +153,8 @@ TEST(HostileValues, ThirtyThousandShortcutsAreReadAndSaved) {
   world.Files.Contents[DataFile] = "";
   world.Files.Contents[IniFile] = "[Shortcuts]\r\n" + lines + "[a]\nb";
   world.Start();
-  ASSERT_EQ(world.Editor.Rows().Count(), 30'000U);
-  EXPECT_EQ(world.Editor.Rows().At(29'999).CurrentKeys, L"K29999");
+  ASSERT_EQ(world.Editor.Document().Rows().Count(), 30'000U);
+  EXPECT_EQ(world.Editor.Document().Rows().At(29'999).CurrentKeys, L"K29999");
   world.Assign(29'999, 0, L"X");
   world.Editor.FileSave();
   lines.replace(lines.rfind("K29999"), 6, "X");
@@ -171,7 +171,7 @@ TEST(HostileValues, AFileOfFiftyMegabytesIsSavedInOneSection) {
   world.Start();
   world.Assign(Pack, 0, L"X");
   world.Editor.FileSave();
-  EXPECT_FALSE(world.Editor.Modified());
+  EXPECT_FALSE(world.Editor.Document().Modified());
   EXPECT_TRUE(world.Files.Contents[IniFile] ==
               before + "[Shortcuts]\nF3=cm_Copy\r\nX=cm_Pack\r\n" + after);
 }
@@ -185,10 +185,10 @@ TEST(HostileValues, FilesThatVanishWhileOpenAreMadeAnewOrAskedFor) {
     world.Files.Contents.erase(path);
   }
   world.Editor.FileSave();
-  EXPECT_FALSE(world.Editor.Modified());
+  EXPECT_FALSE(world.Editor.Document().Modified());
   EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nF3=cm_Copy\r\nX=cm_Pack\r\n");
   world.Editor.OpenShortcutFile(false, IniFile, false);
-  EXPECT_EQ(world.Editor.Rows().Count(), 5U) << "the commands are read once";
+  EXPECT_EQ(world.Editor.Document().Rows().Count(), 5U) << "the commands are read once";
   EXPECT_EQ(world.MessageBoxes.Shown.size(), 1U) << "about the default keys";
   world.Editor.Unload({}, {});
   EXPECT_TRUE(world.Files.Contents.contains(SettingsFile));
@@ -208,8 +208,8 @@ TEST(HostileValues, ARegistryValueOfAnotherTypeOrWithoutItsEndLeadsToTheQuestion
     }
     world.Start();
     EXPECT_EQ(world.Dialogs.OpenRequests.size(), 1U);
-    EXPECT_EQ(world.Editor.Rows().Count(), 0U);
-    EXPECT_FALSE(world.Editor.Modified());
+    EXPECT_EQ(world.Editor.Document().Rows().Count(), 0U);
+    EXPECT_FALSE(world.Editor.Document().Modified());
     world.Files.Contents[IniFile] = "";
     world.Editor.OpenShortcutFile(false, IniFile, false);
     ExpectWorkingProgram(world);
@@ -230,7 +230,7 @@ TEST(HostileValues, AProgramFolderThatCannotBeWrittenStopsNothing) {
   world.Start();
   world.Assign(Pack, 0, L"X");
   world.Editor.FileSave();
-  EXPECT_FALSE(world.Editor.Modified());
+  EXPECT_FALSE(world.Editor.Document().Modified());
   EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nX=cm_Pack\r\n");
   world.Editor.Unload({}, {});
   EXPECT_FALSE(world.Files.Contents.contains(SettingsFile));

@@ -9,7 +9,7 @@ namespace tessera::hotkey_panel_test {
 namespace {
 
 using namespace sample;
-using Focus = PanelReaction::Focus;
+using Focus = Reaction::Focus;
 
 constexpr KeyEvent CtrlPressed{.Code = KeyCode::Ctrl, .CtrlHeld = true};
 constexpr KeyEvent CtrlReleased{.Code = KeyCode::Ctrl};
@@ -91,45 +91,45 @@ TEST_F(HotkeyPanelTest, IsDisabledForAHeadingRowAndForNoRow) {
 
 TEST_F(HotkeyPanelTest, AssignNeedsAChosenKey) {
   EXPECT_FALSE(panel_.AssignEnabled());
-  EXPECT_FALSE(panel_.Assign());
+  EXPECT_FALSE(panel_.Assign().Changed);
   EXPECT_EQ(messageBoxes_.BeepCount, 1);
   EXPECT_EQ(Row(Pack).CurrentKeys, L"---");
   panel_.ChooseKey(IndexOf(L"X"));
-  EXPECT_TRUE(panel_.Assign());
+  EXPECT_TRUE(panel_.Assign().Changed);
   EXPECT_EQ(Row(Pack).CurrentKeys, L"X");
 }
 
 TEST_F(HotkeyPanelTest, AssigningTheSameKeyAgainBeeps) {
   panel_.ChooseKey(IndexOf(L"F6"));
   list_.ShowRowDetails(View);
-  EXPECT_FALSE(panel_.Assign());
+  EXPECT_FALSE(panel_.Assign().Changed);
   EXPECT_EQ(messageBoxes_.BeepCount, 1);
 }
 
 TEST_F(HotkeyPanelTest, AddNeedsAFirstKeyAndAChosenOne) {
   panel_.ChooseKey(IndexOf(L"X"));
   EXPECT_FALSE(panel_.AddEnabled());
-  EXPECT_FALSE(panel_.Add());
+  EXPECT_FALSE(panel_.Add().Changed);
   EXPECT_EQ(Row(Pack).CurrentKeys, L"---");
   list_.ShowRowDetails(View);
   EXPECT_TRUE(panel_.AddEnabled());
-  EXPECT_TRUE(panel_.Add());
+  EXPECT_TRUE(panel_.Add().Changed);
   EXPECT_EQ(Row(View).CurrentKeys, L"F6 = X");
   panel_.ChooseKey(NoKeyChosen);
-  EXPECT_FALSE(panel_.Add());
+  EXPECT_FALSE(panel_.Add().Changed);
   EXPECT_EQ(messageBoxes_.BeepCount, 2);
 }
 
 TEST_F(HotkeyPanelTest, DeleteOnAHeadingRowBeeps) {
   list_.ShowRowDetails(Heading);
-  EXPECT_FALSE(panel_.Delete());
+  EXPECT_FALSE(panel_.Delete().Changed);
   EXPECT_EQ(messageBoxes_.BeepCount, 1);
 }
 
 TEST_F(HotkeyPanelTest, DeleteAllKeepsTheSelectedRow) {
   list_.ShowRowDetails(View);
   messageBoxes_.Answers = {BoxAnswer::Yes};
-  EXPECT_TRUE(panel_.DeleteAll());
+  EXPECT_TRUE(panel_.DeleteAll().Changed);
   EXPECT_EQ(list_.SelectedRow(), View);
 }
 
@@ -203,7 +203,7 @@ TEST_F(HotkeyPanelTest, EnterAssignsTheChosenKeyAndResetsThePanel) {
   panel_.KeyDown(CtrlPressed);
   panel_.KeyUp(CtrlReleased);
   panel_.ChooseKey(IndexOf(L"X"));
-  const PanelReaction reaction = panel_.KeyDown({.Code = KeyCode::Enter});
+  const Reaction reaction = panel_.KeyDown({.Code = KeyCode::Enter});
   EXPECT_TRUE(reaction.Changed);
   EXPECT_TRUE(reaction.Handled);
   EXPECT_EQ(reaction.FocusTo, Focus::CommandList);
@@ -213,7 +213,7 @@ TEST_F(HotkeyPanelTest, EnterAssignsTheChosenKeyAndResetsThePanel) {
 }
 
 TEST_F(HotkeyPanelTest, EnterWithoutAChosenKeyDoesNothing) {
-  const PanelReaction reaction = panel_.KeyDown({.Code = KeyCode::Enter});
+  const Reaction reaction = panel_.KeyDown({.Code = KeyCode::Enter});
   EXPECT_FALSE(reaction.Handled);
   EXPECT_EQ(messageBoxes_.BeepCount, 0);
 }
@@ -233,7 +233,7 @@ TEST_F(HotkeyPanelTest, BackspaceAndEscapeResetThePanel) {
 
 TEST_F(HotkeyPanelTest, DeleteTakesTheKeysAway) {
   list_.ShowRowDetails(View);
-  const PanelReaction reaction = panel_.KeyDown({.Code = KeyCode::Delete});
+  const Reaction reaction = panel_.KeyDown({.Code = KeyCode::Delete});
   EXPECT_TRUE(reaction.Changed);
   EXPECT_EQ(Row(View).CurrentKeys, L"---");
   EXPECT_FALSE(panel_.KeyDown({.Code = KeyCode::Delete}).Changed);
@@ -245,7 +245,7 @@ TEST_F(HotkeyPanelTest, NoKeyDoesAnythingOnAHeadingRow) {
   for (const KeyEvent& event :
        {CtrlPressed, AltPressed, ShiftPressed, KeyEvent{.Code = KeyCode::Enter},
         KeyEvent{.Code = KeyCode::Delete}, KeyEvent{.Code = KeyCode::Escape}}) {
-    const PanelReaction reaction = panel_.KeyDown(event);
+    const Reaction reaction = panel_.KeyDown(event);
     EXPECT_FALSE(reaction.Handled);
     EXPECT_FALSE(reaction.Changed);
     EXPECT_EQ(reaction.FocusTo, Focus::Unchanged);

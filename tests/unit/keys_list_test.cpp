@@ -11,7 +11,7 @@
 namespace tessera::keys_list_test {
 namespace {
 
-using Focus = PanelReaction::Focus;
+using Focus = Reaction::Focus;
 
 constexpr KeyCode Down{40};
 
@@ -20,7 +20,7 @@ class KeysListTest : public testing::Test {
   KeysListTest() { list_.ShowRowDetails(sample::Pack); }
 
   /// An arrow key moves the selection before its own change is told.
-  PanelReaction MoveTo(int index) {
+  Reaction MoveTo(int index) {
     keys_.KeyDown(Down);
     return keys_.Select(index);
   }
@@ -94,7 +94,7 @@ TEST_F(KeysListTest, AnArrowKeyChangesNothingInThePanelUntilEnterOrSpace) {
     EXPECT_EQ(keys_.Selection(), 4);
     EXPECT_EQ(panel_.ChosenKey(), 2);
     EXPECT_TRUE(keys_.Visible());
-    const PanelReaction reaction = keys_.KeyDown(key);
+    const Reaction reaction = keys_.KeyDown(key);
     EXPECT_EQ(panel_.ChosenKey(), 4);
     EXPECT_FALSE(keys_.Visible());
     EXPECT_EQ(reaction.FocusTo, Focus::Chooser);
@@ -106,7 +106,7 @@ TEST_F(KeysListTest, EscClosesItAndLeavesTheChoosersSelection) {
   panel_.ChooseKey(2);
   keys_.ToggleKeysList();
   MoveTo(3);
-  const PanelReaction reaction = keys_.KeyDown(KeyCode::Escape);
+  const Reaction reaction = keys_.KeyDown(KeyCode::Escape);
   EXPECT_FALSE(keys_.Visible());
   EXPECT_EQ(panel_.ChosenKey(), 2);
   EXPECT_EQ(reaction.FocusTo, Focus::Chooser);
@@ -115,7 +115,7 @@ TEST_F(KeysListTest, EscClosesItAndLeavesTheChoosersSelection) {
 
 TEST_F(KeysListTest, ASelectionByMouseChooses) {
   keys_.ToggleKeysList();
-  const PanelReaction reaction = keys_.Select(7);
+  const Reaction reaction = keys_.Select(7);
   EXPECT_EQ(panel_.ChosenKey(), 7);
   EXPECT_EQ(reaction.FocusTo, Focus::Chooser);
   EXPECT_FALSE(keys_.Visible());

@@ -70,7 +70,7 @@ void Start(World& world, const std::wstring& file) {
   world.Files.Contents[file] = Old.Whole();
   world.Start();
   world.Assign(Pack, 0, L"X");
-  ASSERT_TRUE(world.Editor.Modified());
+  ASSERT_TRUE(world.Editor.Document().Modified());
 }
 
 TEST(OtherPrograms, AFileHeldForAWhileIsSavedWithinTwoSecondsOrLeftAsItWas) {
@@ -81,7 +81,7 @@ TEST(OtherPrograms, AFileHeldForAWhileIsSavedWithinTwoSecondsOrLeftAsItWas) {
       world.Files.HeldFor = held;
       world.Editor.FileSave();
       const bool gaveUp = held > 2000;
-      ASSERT_EQ(world.Editor.Modified(), gaveUp) << held;
+      ASSERT_EQ(world.Editor.Document().Modified(), gaveUp) << held;
       const Parts expected{Old.Before, gaveUp ? Old.Keys : Unsaved, Old.Behind};
       ASSERT_EQ(world.Files.Contents[file], expected.Whole()) << held;
       ASSERT_EQ(world.Files.Contents.contains(file + L".unsaved"), gaveUp) << held;
@@ -97,7 +97,7 @@ TEST(OtherPrograms, WhatOneWroteWhileItHeldTheFileStays) {
     world.Files.HeldFor = 500;
     world.Files.Written = Old.Whole() + "\n[Last]\nc";
     world.Editor.FileSave();
-    EXPECT_FALSE(world.Editor.Modified());
+    EXPECT_FALSE(world.Editor.Document().Modified());
     EXPECT_EQ(world.Files.Contents[file],
               (Parts{Old.Before, Unsaved, Old.Behind + "\n[Last]\nc"}.Whole()));
   }
@@ -109,7 +109,7 @@ TEST(OtherPrograms, WhatOneWroteWhileTheSaveWasPreparedStays) {
     Start(world, file);
     world.Files.Written = Old.Whole() + "\n[Last]\nc";
     world.Editor.FileSave();
-    EXPECT_FALSE(world.Editor.Modified());
+    EXPECT_FALSE(world.Editor.Document().Modified());
     EXPECT_EQ(world.Files.Contents[file],
               (Parts{Old.Before, Unsaved, Old.Behind + "\n[Last]\nc"}.Whole()));
   }

@@ -176,7 +176,7 @@ bool SaveWithFault(const Scenario& scenario, const Contents& contents, int call,
   files.FaultStays = lasts;
   scenario.Save(*world);
   if (files.CallCount <= call) return false;
-  const bool modified = world->Editor.Modified();
+  const bool modified = world->Editor.Document().Modified();
   for (const std::wstring& path : scenario.Written) {
     CheckFile(scenario, contents, files, path, modified);
   }
@@ -190,7 +190,7 @@ bool SaveWithFault(const Scenario& scenario, const Contents& contents, int call,
     EXPECT_TRUE(Holds(files, path, contents.New.at(path)));
     EXPECT_FALSE(modified && files.Contents.contains(path + L".tessera-old"));
   }
-  EXPECT_FALSE(world->Editor.Modified());
+  EXPECT_FALSE(world->Editor.Document().Modified());
   return true;
 }
 
@@ -259,7 +259,7 @@ TEST(SaveFaults, AReplaceThatFailsLeavesThePreparedContentAsUnsaved) {
       const std::wstring& path = scenario.Written.front();
       EXPECT_TRUE(Holds(world->Files, path, contents.Old.at(path)));
       EXPECT_TRUE(Holds(world->Files, path + L".unsaved", contents.New.at(path)));
-      EXPECT_TRUE(world->Editor.Modified());
+      EXPECT_TRUE(world->Editor.Document().Modified());
       world->Files.ReplaceErrors.clear();
       scenario.Save(*world);
       EXPECT_TRUE(world->Files.Contents == contents.New);
@@ -286,19 +286,19 @@ TEST(SaveFaults, AFileThatCouldNotBeReadAtTheOpenIsNotSaved) {
     program.Files.Fault = fault;
     program.Start();
     program.Files.Fault = FileError::None;
-    ASSERT_EQ(program.Editor.Rows().Count(), 5U);
+    ASSERT_EQ(program.Editor.Document().Rows().Count(), 5U);
     program.Assign(Pack, 0, L"X");
-    EXPECT_TRUE(program.Editor.Modified());
+    EXPECT_TRUE(program.Editor.Document().Modified());
     program.Editor.FileSave();
     EXPECT_EQ(program.Files.Contents[IniFile], Content);
-    EXPECT_TRUE(program.Editor.Modified());
+    EXPECT_TRUE(program.Editor.Document().Modified());
     EXPECT_EQ(program.MessageBoxes.BeepCount, 1);
 
     program.MessageBoxes.Answers = {BoxAnswer::No};
     program.Editor.OpenShortcutFile(false, IniFile, false);
     program.Assign(Pack, 0, L"X");
     program.Editor.FileSave();
-    EXPECT_FALSE(program.Editor.Modified());
+    EXPECT_FALSE(program.Editor.Document().Modified());
     EXPECT_NE(program.Files.Contents[IniFile].find("C+F3=cm_View\r\n"), std::string::npos);
   }
 }
@@ -309,11 +309,11 @@ TEST(SaveFaults, AFileThatIsHeldForAMomentIsReadAllTheSame) {
   world.Editor.Load();
   world.Files.ReadErrors.assign(3, FileError::SharingViolation);
   world.Editor.Activate();
-  EXPECT_EQ(world.Editor.Rows().At(1).CurrentKeys, L"F3");
+  EXPECT_EQ(world.Editor.Document().Rows().At(1).CurrentKeys, L"F3");
   world.Assign(Pack, 0, L"X");
   world.Files.ReadErrors.assign(3, FileError::LockViolation);
   world.Editor.FileSave();
-  EXPECT_FALSE(world.Editor.Modified());
+  EXPECT_FALSE(world.Editor.Document().Modified());
 }
 
 TEST(SaveFaults, SettingsThatCouldNotBeReadAreNotReplacedByDefaults) {

@@ -48,9 +48,9 @@ double GrowthOf(Work work) {
     LargeProgram program(commands);
     program.Start();
     // The first edit makes the indexes that edits need.
-    program.Editor.SelectRow(1);
-    program.Editor.ChooseKey(1);
-    program.Editor.AssignKey();
+    program.Editor.Work(&CommandList::SelectRow, 1);
+    program.Editor.Work(&HotkeyPanel::ChooseKey, 1);
+    program.Editor.Work(&HotkeyPanel::Assign);
     return BlocksOf([&] { work(program); });
   };
   const double few = blocksFor(Few);
@@ -77,7 +77,7 @@ TEST(Growth, SortingGrowsAsTheRowsTimesTheirLogarithm) {
   for (const Column column :
        {Column::Description, Column::Command, Column::Defaults, Column::Current}) {
     const auto sort = [&](LargeProgram& program) {
-      DisplayTable rows = program.Editor.Rows();
+      DisplayTable rows = program.Editor.Document().Rows();
       rows.RemoveHeadings();
       rows.Sort(column, SortDirection::Descending);
     };
@@ -87,7 +87,7 @@ TEST(Growth, SortingGrowsAsTheRowsTimesTheirLogarithm) {
 
 TEST(Growth, GoingBackToFileOrderGrowsAsTheRows) {
   const auto back = [](LargeProgram& program) {
-    DisplayTable rows = program.Editor.Rows();
+    DisplayTable rows = program.Editor.Document().Rows();
     rows.RestoreFileOrder();
   };
   EXPECT_LT(GrowthOf(back), Linear);
@@ -96,9 +96,9 @@ TEST(Growth, GoingBackToFileOrderGrowsAsTheRows) {
 TEST(Growth, AssigningAKeyCostsTheSameAmongManyCommands) {
   const auto assign = [](LargeProgram& program) {
     for (int key = 0; key < 60; ++key) {
-      program.Editor.SelectRow(static_cast<std::size_t>(2 + key));
-      program.Editor.ChooseKey(key);
-      program.Editor.AssignKey();
+      program.Editor.Work(&CommandList::SelectRow, static_cast<std::size_t>(2 + key));
+      program.Editor.Work(&HotkeyPanel::ChooseKey, key);
+      program.Editor.Work(&HotkeyPanel::Assign);
     }
   };
   EXPECT_LT(GrowthOf(assign), Constant);
@@ -107,15 +107,16 @@ TEST(Growth, AssigningAKeyCostsTheSameAmongManyCommands) {
 TEST(Growth, DeletingAKeyCostsTheSameAmongManyCommands) {
   const auto remove = [](LargeProgram& program) {
     for (std::size_t row = 1; row < 200; ++row) {
-      program.Editor.SelectRow(row);
-      program.Editor.DeleteKeys();
+      program.Editor.Work(&CommandList::SelectRow, row);
+      program.Editor.Work(&HotkeyPanel::Delete);
     }
   };
   EXPECT_LT(GrowthOf(remove), Constant);
 }
 
 TEST(Growth, DeletingAllKeysGrowsAsTheCommands) {
-  EXPECT_LT(GrowthOf([](LargeProgram& program) { program.Editor.DeleteAllKeys(); }), Linear);
+  EXPECT_LT(GrowthOf([](LargeProgram& program) { program.Editor.Work(&HotkeyPanel::DeleteAll); }),
+            Linear);
 }
 
 TEST(Growth, ExportingGrowsAsTheRows) {
@@ -123,7 +124,7 @@ TEST(Growth, ExportingGrowsAsTheRows) {
   const Texts texts(files);
   const auto write = [&](LargeProgram& program) {
     static_cast<void>(
-        BuildExportText(program.Editor.Rows(), {true, true, true, true}, texts, L"---"));
+        BuildExportText(program.Editor.Document().Rows(), {true, true, true, true}, texts, L"---"));
   };
   EXPECT_LT(GrowthOf(write), Linear);
 }

@@ -1,6 +1,6 @@
 #include "tests/unit/editor_fixture.h"
 
-namespace tessera::editor_saving_test {
+namespace tessera::document_test {
 namespace {
 
 using namespace installation;
@@ -21,8 +21,8 @@ TEST_F(EditorTest, ASaveChangesSectionShortcutsAlone) {
 
 TEST_F(EditorTest, ASaveReleasesAStartMenuKeyThatWasTaken) {
   Start();
-  Editor.SetBox(Modifier::Ctrl, true);
-  Editor.SetBox(Modifier::Alt, true);
+  Editor.Work(&HotkeyPanel::SetBox, Modifier::Ctrl, true);
+  Editor.Work(&HotkeyPanel::SetBox, Modifier::Alt, true);
   MessageBoxes.Answers = {BoxAnswer::Yes};
   Assign(Pack, L"F1");
   Editor.FileSave();
@@ -48,7 +48,7 @@ TEST_F(EditorTest, ASaveThatFailsKeepsTheChangesUnsaved) {
   Assign(Pack, L"X");
   Files.ReplaceErrors.assign(100, FileError::AccessDenied);
   Editor.FileSave();
-  EXPECT_TRUE(Editor.Modified());
+  EXPECT_TRUE(Editor.Document().Modified());
   EXPECT_EQ(Ini(), IniContent);
   EXPECT_NE(Files.Contents[IniFile + L".unsaved"].find("X=cm_Pack"), std::string::npos);
 }
@@ -76,7 +76,7 @@ TEST_F(EditorTest, SaveAndRestartClosesWritesAndStarts) {
   EXPECT_EQ(Calls,
             (Log{L"SetForeground 7", L"SendClose 7", L"pause before the write", L"SetForeground 7",
                  L"pause after it", L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\""}));
-  EXPECT_FALSE(Editor.Modified());
+  EXPECT_FALSE(Editor.Document().Modified());
   EXPECT_EQ(Editor.Options().AlwaysRestartTC, 0);
 }
 
@@ -101,59 +101,77 @@ TEST_F(EditorTest, NothingIsDoneTwiceWhileASavePauses) {
   Start();
   Assign(Pack, L"X");
   Clock.OnDoEvents = [this] {
-    EXPECT_TRUE(Editor.Busy());
+    EXPECT_TRUE(Editor.Document().Busy());
     Editor.FileSave();
-    Editor.DeleteKeys();
-    Editor.ToggleSortedList();
+    Editor.Work(&HotkeyPanel::Delete);
+    Editor.Work(&CommandList::ToggleSortedList);
     EXPECT_FALSE(Editor.QueryUnload());
   };
   Editor.FileSaveAndRestart();
   Clock.OnDoEvents = nullptr;
-  EXPECT_FALSE(Editor.Busy());
+  EXPECT_FALSE(Editor.Document().Busy());
   EXPECT_EQ(std::count(Calls.begin(), Calls.end(), L"SendClose 7"), 1);
-  EXPECT_EQ(Editor.Rows().At(Pack).CurrentKeys, L"X");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"X");
 }
 
 TEST_F(EditorTest, SaveAndRestartIsEnabledOnlyWhileTotalCommanderRunsAndChangesWait) {
   Start();
   Assign(Pack, L"X");
   Editor.RefreshRestartItems();
-  EXPECT_FALSE(Editor.SaveAndRestartEnabled());
-  EXPECT_FALSE(Editor.RestartButtonEnabled());
+  EXPECT_FALSE(Editor.Document().SaveAndRestartEnabled());
+  EXPECT_FALSE(Editor.Document().RestartButtonEnabled());
   Programs.Windows[L"TTOTAL_CMD"] = 7;
   Editor.RefreshRestartItems();
-  EXPECT_TRUE(Editor.SaveAndRestartEnabled());
-  EXPECT_TRUE(Editor.RestartButtonEnabled());
+  EXPECT_TRUE(Editor.Document().SaveAndRestartEnabled());
+  EXPECT_TRUE(Editor.Document().RestartButtonEnabled());
   Editor.FileSave();
   Editor.RefreshRestartItems();
-  EXPECT_FALSE(Editor.SaveAndRestartEnabled());
-  EXPECT_TRUE(Editor.RestartButtonEnabled());
+  EXPECT_FALSE(Editor.Document().SaveAndRestartEnabled());
+  EXPECT_TRUE(Editor.Document().RestartButtonEnabled());
 }
 
-TEST_F(EditorTest, ShortcutsOfUnknownCommandsStayWhereTheSettingIsNotZero) {
-  for (const char* value : {"0", "1", "2", "-1"}) {
-    StoredSettings() = std::string("[Tessera]\r\nKeepUnknownShortcuts=") + value + "\r\n";
-    Ini() = "[Shortcuts]\r\nF3=cm_Copy\r\nA+F5=em_own\r\n";
-    tessera::Editor editor(Seams, [](const LoadProgress&) {});
-    editor.Load();
-    editor.Activate();
-    editor.SelectRow(Copy);
-    editor.DeleteKeys();
-    editor.FileSave();
-    ASSERT_FALSE(editor.Modified());
-    EXPECT_EQ(Ini(), *value == '0' ? "" : "[Shortcuts]\r\nA+F5=em_own\r\n") << value;
-  }
-}
+// -- Editing
 
-TEST_F(EditorTest, TotalCommanderIsStartedAgainAfterASaveThatFailed) {
-  Programs.Windows[L"TTOTAL_CMD"] = 7;
+TEST_F(EditorTest, AnEditEnablesSavingAndASaveDisablesIt) {
   Start();
   Assign(Pack, L"X");
-  Files.ReplaceErrors.assign(100, FileError::AccessDenied);
-  Editor.FileSaveAndRestart();
-  EXPECT_TRUE(Editor.Modified());
-  ASSERT_FALSE(Calls.empty());
-  EXPECT_EQ(Calls.back(), L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\"");
+  EXPECT_TRUE(Editor.Document().Modified());
+  EXPECT_TRUE(Editor.Document().SaveAndRestartEnabled());
+  Editor.FileSave();
+  EXPECT_FALSE(Editor.Document().Modified());
+  EXPECT_FALSE(Editor.Document().SaveAndRestartEnabled());
+}
+
+TEST_F(EditorTest, ARefusedEditLeavesTheFileUnmodified) {
+  Start();
+  MessageBoxes.Answers = {BoxAnswer::No};
+  Assign(Pack, L"F5");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"---");
+  EXPECT_FALSE(Editor.Document().Modified());
+}
+
+TEST_F(EditorTest, EditsByKeyboardAreEditsToo) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, View);
+  Editor.Work(&HotkeyPanel::KeyDown, KeyEvent{.Code = KeyCode::Delete});
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"---");
+  EXPECT_TRUE(Editor.Document().Modified());
+}
+
+TEST_F(EditorTest, ShortcutsAreSavedInTheOrderOfTheList) {
+  Start();
+  Editor.Work(&CommandList::ToggleSortedList);
+  Editor.Work(&CommandList::SortByColumn, 2);
+  ASSERT_EQ(Editor.Document().Rows().At(1).CommandName, L"cm_Pack");
+  Assign(1, L"X");
+  Editor.FileSave();
+  EXPECT_NE(Ini().find("[Shortcuts]\r\nF3=cm_Copy\r\nX=cm_Pack\r\nC+F3=cm_View\r\n"),
+            std::string::npos);
+  Editor.Work(&CommandList::SortByColumn, 2);
+  Assign(2, L"Y");
+  Editor.FileSave();
+  EXPECT_NE(Ini().find("[Shortcuts]\r\nC+F3=cm_View\r\nX=cm_Pack\r\nY=cm_Copy\r\n"),
+            std::string::npos);
 }
 
 // -- Closing
@@ -169,7 +187,7 @@ TEST_F(EditorTest, CancelKeepsTheProgramRunningWithItsEdits) {
   Assign(Pack, L"X");
   MessageBoxes.Answers = {BoxAnswer::Cancel};
   EXPECT_FALSE(Editor.QueryUnload());
-  EXPECT_TRUE(Editor.Modified());
+  EXPECT_TRUE(Editor.Document().Modified());
   EXPECT_EQ(Ini(), IniContent);
 }
 
@@ -194,7 +212,7 @@ TEST_F(EditorTest, ASaveThatFailsBeeps) {
   Assign(Pack, L"X");
   Files.ReplaceErrors.assign(100, FileError::AccessDenied);
   Editor.FileSave();
-  EXPECT_TRUE(Editor.Modified());
+  EXPECT_TRUE(Editor.Document().Modified());
   EXPECT_EQ(MessageBoxes.BeepCount, 1);
 }
 
@@ -207,5 +225,31 @@ TEST_F(EditorTest, ItDoesNotCloseOverASaveThatFailed) {
   EXPECT_EQ(MessageBoxes.BeepCount, 1);
 }
 
+TEST_F(EditorTest, ShortcutsOfUnknownCommandsStayWhereTheSettingIsNotZero) {
+  for (const char* value : {"0", "1", "2", "-1"}) {
+    StoredSettings() = std::string("[Tessera]\r\nKeepUnknownShortcuts=") + value + "\r\n";
+    Ini() = "[Shortcuts]\r\nF3=cm_Copy\r\nA+F5=em_own\r\n";
+    tessera::Editor editor(Seams, [](const LoadProgress&) {});
+    editor.Load();
+    editor.Activate();
+    editor.Work(&CommandList::SelectRow, Copy);
+    editor.Work(&HotkeyPanel::Delete);
+    editor.FileSave();
+    ASSERT_FALSE(editor.Document().Modified());
+    EXPECT_EQ(Ini(), *value == '0' ? "" : "[Shortcuts]\r\nA+F5=em_own\r\n") << value;
+  }
+}
+
+TEST_F(EditorTest, TotalCommanderIsStartedAgainAfterASaveThatFailed) {
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Assign(Pack, L"X");
+  Files.ReplaceErrors.assign(100, FileError::AccessDenied);
+  Editor.FileSaveAndRestart();
+  EXPECT_TRUE(Editor.Document().Modified());
+  ASSERT_FALSE(Calls.empty());
+  EXPECT_EQ(Calls.back(), L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\"");
+}
+
 }  // namespace
-}  // namespace tessera::editor_saving_test
+}  // namespace tessera::document_test

@@ -1,0 +1,161 @@
+// Opening and saving "Wincmd.ini", and the question about unsaved changes.
+#include "app/Document.h"
+
+#include <memory>
+
+#include "localisation/TextTable.h"
+#include "settings/commander/RestartTotalCommander.h"
+#include "shortcuts/DefaultHotkeys.h"
+#include "shortcuts/InternalCommands.h"
+#include "shortcuts/SaveShortcuts.h"
+#include "shortcuts/WincmdIni.h"
+#include "text/Trim.h"
+
+namespace tessera {
+
+Document::Document(const System& system, const Texts& texts, const Settings& settings,
+                   InputFiles& inputFiles)
+    : system_(system), texts_(texts), settings_(settings), inputFiles_(inputFiles) {}
+
+const DisplayTable& Document::Rows() const { return catalogue_.ListView1; }
+
+std::wstring Document::Caption() const {
+  const std::wstring title(ProgramTitle);
+  return wincmdPath_.empty() ? title : wincmdPath_ + L" - " + title;
+}
+
+bool Document::Modified() const { return modified_; }
+
+bool Document::SaveAndRestartEnabled() const { return saveAndRestartEnabled_; }
+
+bool Document::RestartButtonEnabled() const { return restartButtonEnabled_; }
+
+bool Document::Busy() const { return busy_; }
+
+Catalogue& Document::Commands() { return catalogue_; }
+
+const HotkeyNotation& Document::Notation() const { return notation_; }
+
+BusyTime Document::BeginBusyTime() { return BusyTime(busy_); }
+
+void Document::ReadNotation() {
+  notation_.MultiHotkeySeparator = settings_.MultiHotkeySeparator;
+  notation_.UndefinedHotkey = settings_.UndefinedHotkey;
+  notation_.ReverseOrderHotkey = settings_.ReverseOrderHotkey != 0;
+  ReadModifierNames();
+}
+
+void Document::ReadModifierNames() {
+  // A blank name would be found in every key, and a save would then give it all modifiers.
+  const auto nameOf = [this](TextId id) {
+    const std::wstring name(TrimSpaces(texts_.GetLangText(id)));
+    return name.empty() ? std::wstring(BuiltInTextOf(id)) : name;
+  };
+  notation_.CtrlName = nameOf(TextId::CtrlName);
+  notation_.AltName = nameOf(TextId::AltName);
+  notation_.ShiftName = nameOf(TextId::ShiftName);
+}
+
+void Document::Open(const std::wstring& path, const ProgressStep& step) {
+  ReadModifierNames();
+  wincmdPath_ = path;
+  LoadCatalogue(step);
+  SetModified(false);
+}
+
+void Document::LoadCatalogue(const ProgressStep& step) {
+  const WincmdIni wincmd(system_.Files, system_.Clock, inputFiles_.CommanderVariables(),
+                         wincmdPath_);
+  unread_ = wincmd.ReadError() != FileError::None;
+  catalogue_.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation_);
+  if (catalogue_.lvwHidden.empty()) {
+    ReadMasterRows(step);
+  }
+  inputFiles_.FindDefaultHotkeys();
+  const ProfileFile defaults(system_.Files, settings_.DefaultHotKeysDataFile);
+  FillDefaultKeys(catalogue_.lvwHidden, defaults, notation_, step);
+  ReadShortcuts(catalogue_.lvwHidden, wincmd.Shortcuts(), notation_, step);
+  BuildDisplayTable(catalogue_, notation_, step);
+  BuildKeyIndexes(catalogue_, notation_);
+  MarkOverriddenDefaults(catalogue_);
+}
+
+void Document::ReadMasterRows(const ProgressStep& step) {
+  std::string bytes;
+  if (system_.Files.Read(inputFiles_.TotalcmdInc(), bytes) == FileError::None) {
+    catalogue_.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(bytes));
+    catalogue_.lvwHidden = ReadInternalCommands(*catalogue_.Text, notation_.UndefinedHotkey, step);
+  }
+}
+
+bool Document::ChangesMayGo() {
+  if (busy_) {
+    return false;
+  }
+  const BoxAnswer answer = AskToSaveChanges();
+  const bool saveFailed = answer == BoxAnswer::Yes && modified_;
+  return answer != BoxAnswer::Cancel && !saveFailed;
+}
+
+/// Yes, No or Cancel; No when there is nothing to save. After Yes the save has been tried.
+BoxAnswer Document::AskToSaveChanges() {
+  if (!modified_) {
+    return BoxAnswer::No;
+  }
+  const BoxAnswer answer = system_.MessageBoxes.Show(
+      texts_.GetLangText(TextId::SaveChangesTo) + L"  " + wincmdPath_ + L"\n",
+      BoxButtons::YesNoCancel, BoxIcon::Exclamation);
+  if (answer == BoxAnswer::Yes) {
+    FileSave();
+  }
+  return answer;
+}
+
+void Document::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
+
+void Document::FileSaveAndRestart() { Save(true); }
+
+void Document::Save(bool restarts) {
+  if (busy_ || !modified_) {
+    return;
+  }
+  if (unread_) {
+    // A save would drop every key that the list does not show.
+    system_.MessageBoxes.Beep();
+    return;
+  }
+  const BusyTime busy(busy_);
+  if (restarts) {
+    Restart(true);
+  }
+  const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0};
+  const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.Files,
+                                        system_.Clock, inputFiles_.CommanderVariables());
+  if (error == FileError::None) {
+    SetModified(false);
+  } else {
+    system_.MessageBoxes.Beep();
+  }
+  if (restarts) {
+    Restart(false);
+  }
+}
+
+/// Closes Total Commander before the save, or starts it after that.
+void Document::Restart(bool closeIt) {
+  RestartTotalCommander(system_.Programs, system_.Clock, system_.Files, system_.Environment,
+                        {.WincmdPath = wincmdPath_, .CloseIt = closeIt});
+}
+
+void Document::SetModified(bool modified) {
+  modified_ = modified;
+  saveAndRestartEnabled_ = modified;
+}
+
+void Document::RefreshRestartItems() {
+  const bool running = FindTotalCommander(system_.Programs) != 0;
+  restartButtonEnabled_ = running;
+  saveAndRestartEnabled_ = running && modified_;
+}
+
+}  // namespace tessera

@@ -1,0 +1,89 @@
+// The open "Wincmd.ini": the commands with their keys, and whether changes to them are saved.
+#pragma once
+
+#include <string>
+
+#include "app/BusyTime.h"
+#include "app/InputFiles.h"
+#include "localisation/Texts.h"
+#include "platform/Pinned.h"
+#include "platform/System.h"
+#include "settings/Settings.h"
+#include "shortcuts/Catalogue.h"
+#include "shortcuts/HotkeyNotation.h"
+
+namespace tessera {
+
+class Document : Pinned {
+ public:
+  Document(const System& system, const Texts& texts, const Settings& settings,
+           InputFiles& inputFiles);
+
+  // -- Queries: what the window shows
+
+  [[nodiscard]] const DisplayTable& Rows() const;
+  [[nodiscard]] std::wstring Caption() const;
+
+  /// There are changes that are not saved: File > Save, and the Save button, are enabled.
+  [[nodiscard]] bool Modified() const;
+
+  /// File > Save and Restart is enabled. Holds as of the last RefreshRestartItems or edit.
+  [[nodiscard]] bool SaveAndRestartEnabled() const;
+
+  /// The same item on the Save button's menu.
+  [[nodiscard]] bool RestartButtonEnabled() const;
+
+  /// True while a load or a save runs, whose pauses let window events through: commands and edits
+  /// do nothing then.
+  [[nodiscard]] bool Busy() const;
+
+  // -- What edits work on
+
+  [[nodiscard]] Catalogue& Commands();
+  [[nodiscard]] const HotkeyNotation& Notation() const;
+
+  // -- Changes
+
+  /// Takes the notation over from settings and texts, at the start of the program.
+  void ReadNotation();
+
+  /// The document is busy as long as the result lives.
+  [[nodiscard]] BusyTime BeginBusyTime();
+
+  /// Asks about unsaved changes; false when they have to stay: the user cancelled, a save failed,
+  /// or the document is busy.
+  [[nodiscard]] bool ChangesMayGo();
+
+  /// Reads the file at `path`, and what is shown beside its keys.
+  void Open(const std::wstring& path, const ProgressStep& step);
+
+  void FileSave();
+  void FileSaveAndRestart();
+  void SetModified(bool modified);
+
+  /// When the File menu or the Save button's menu is about to open.
+  void RefreshRestartItems();
+
+ private:
+  void ReadModifierNames();
+  void LoadCatalogue(const ProgressStep& step);
+  void ReadMasterRows(const ProgressStep& step);
+  [[nodiscard]] BoxAnswer AskToSaveChanges();
+  void Save(bool restarts);
+  void Restart(bool closeIt);
+
+  System system_;
+  const Texts& texts_;
+  const Settings& settings_;
+  InputFiles& inputFiles_;
+  Catalogue catalogue_;
+  HotkeyNotation notation_;
+  std::wstring wincmdPath_;
+  bool modified_ = false;
+  bool unread_ = false;  ///< the file is there, and reading it failed
+  bool saveAndRestartEnabled_ = false;
+  bool restartButtonEnabled_ = false;
+  bool busy_ = false;
+};
+
+}  // namespace tessera

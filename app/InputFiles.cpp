@@ -1,0 +1,76 @@
+// The files of Total Commander, and the file of its default keys.
+#include "app/InputFiles.h"
+
+#include "settings/commander/LocateTotalCommander.h"
+#include "settings/cProfile.h"
+#include "settings/ini/ReplaceContent.h"
+#include "settings/Paths.h"
+
+namespace tessera {
+
+InputFiles::InputFiles(const System& system, const Texts& texts, Settings& settings)
+    : system_(system),
+      texts_(texts),
+      settings_(settings),
+      commonDialog_(system.Dialogs),
+      commanderEnvironment_(system.Environment) {}
+
+const std::wstring& InputFiles::TotalcmdInc() const { return totalcmdIncPath_; }
+
+const Environment& InputFiles::CommanderVariables() const { return commanderEnvironment_; }
+
+void InputFiles::FindTotalcmdInc() {
+  totalcmdIncPath_ =
+      LocateTotalcmdInc({system_.Files, system_.Registry, system_.Environment},
+                        settings_.TCInstallDir, [this](const std::wstring& folder) {
+                          return AskForFile(TextId::NoTotalcmdInc, BoxIcon::Information, folder,
+                                            L"Totalcmd.inc", FileFilter::InternalCommands);
+                        });
+  const std::wstring directory = ExpandPath(system_.Environment, settings_.TCInstallDir);
+  commanderEnvironment_.SetTotalCommanderDirectory(directory);
+  commonDialog_.Setup(directory);
+}
+
+std::wstring InputFiles::FindWincmdIni(const std::wstring& preferred) {
+  if (ExistsOrReturns(system_.Files, preferred)) {
+    return preferred;
+  }
+  const std::wstring stored = settings_.UserDefinedWincmd;
+  std::wstring path = LocateWincmdIni(
+      {system_.Files, system_.Registry, system_.Environment}, settings_.TCInstallDir,
+      settings_.UserDefinedWincmd, [this](const std::wstring& folder) {
+        return AskForFile(TextId::NoWincmdIni, BoxIcon::Exclamation, folder, L"Wincmd.ini",
+                          FileFilter::WincmdIni);
+      });
+  if (settings_.UserDefinedWincmd != stored) {
+    cProfile(system_.Files, system_.Clock)
+        .WriteStringValue(CommonSection, L"UserDefinedWincmd", settings_.UserDefinedWincmd,
+                          SettingsPath(system_.Environment));
+  }
+  return path;
+}
+
+void InputFiles::FindDefaultHotkeys() {
+  if (FileExists(system_.Files, settings_.DefaultHotKeysDataFile, false)) {
+    return;
+  }
+  const std::wstring folder = AddBackslash(system_.Environment.ProgramDirectory()) + L"Data Files";
+  settings_.DefaultHotKeysDataFile =
+      AskForFile(TextId::NoDataFile, BoxIcon::Critical, folder, L"tc default hotkeys.hky",
+                 FileFilter::DefaultHotkeys);
+  cProfile(system_.Files, system_.Clock)
+      .WriteStringValue(ProgramSection, L"DefaultHotKeysDataFile", settings_.DefaultHotKeysDataFile,
+                        SettingsPath(system_.Environment));
+}
+
+std::wstring InputFiles::BrowseForWincmdIni() {
+  return commonDialog_.BrowseForOpen({}, {}, FileFilter::WincmdIni);
+}
+
+std::wstring InputFiles::AskForFile(TextId message, BoxIcon icon, const std::wstring& folder,
+                                    const std::wstring& fileName, FileFilter filter) {
+  system_.MessageBoxes.Show(texts_.GetLangText(message), BoxButtons::Ok, icon);
+  return commonDialog_.BrowseForOpen(folder, fileName, filter);
+}
+
+}  // namespace tessera
