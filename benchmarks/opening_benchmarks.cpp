@@ -130,7 +130,7 @@ std::vector<Ratio> OpeningRatios() {
       {"open at 600 commands, against splitting the files into lines", "Open/600", "SplitLines/600",
        1, 10},
       {"open at 100,000 commands, against splitting the files into lines", "Open/100000",
-       "SplitLines/100000", 1, 10},
+       "SplitLines/100000", 1, 15},
       {"open: a command among 100,000, against one among 600", "Open/100000", "Open/600",
        static_cast<double>(ManyCommands) / FewCommands, 2},
   };

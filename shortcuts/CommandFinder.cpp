@@ -6,13 +6,10 @@
 namespace tessera {
 
 CommandFinder::CommandFinder(std::span<const CommandEntry> rows,
-                             std::span<const std::pair<std::wstring, std::wstring>> lines)
-    : values_(lines.size()) {
+                             std::span<const std::pair<std::wstring, std::wstring>> lines) {
   rowsByValue_.reserve(lines.size());
   for (const auto& [name, value] : lines) {
-    if (value.empty()) continue;
-    rowsByValue_.try_emplace(value);
-    values_.Add(value);
+    if (!value.empty()) rowsByValue_.try_emplace(value);
   }
   for (std::size_t row = 0; row < rows.size(); ++row) {
     const CommandEntry& entry = rows[row];
@@ -44,7 +41,6 @@ void CommandFinder::AddCurrentKeys(std::size_t row, std::wstring_view keys) {
 }
 
 CommandFinder::Rows* CommandFinder::RowsOf(std::wstring_view text) {
-  if (!values_.MayHold(text)) return nullptr;
   const auto found = rowsByValue_.find(text);
   return found == rowsByValue_.end() ? nullptr : &found->second;
 }

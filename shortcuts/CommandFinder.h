@@ -11,7 +11,6 @@
 #include <utility>
 
 #include "shortcuts/CommandEntry.h"
-#include "shortcuts/TextFilter.h"
 #include "text/TextHash.h"
 
 namespace tessera {
@@ -42,7 +41,6 @@ class CommandFinder {
   [[nodiscard]] Rows* RowsOf(std::wstring_view text);
 
   std::unordered_map<std::wstring_view, Rows, HashIgnoringCase, EqualsIgnoringCase> rowsByValue_;
-  TextFilter values_;  ///< nearly every text of a row is none
 };
 
 }  // namespace tessera
