@@ -210,14 +210,6 @@ unsigned IniDocument::NameCodePage() const {
 IniSection* IniDocument::SectionNamed(std::string_view name) const {
   Divide();
   name = TrimSpaces(name);
-  // A single look-up is quicker without the index, which pays from the second one on.
-  if (!std::exchange(wasSearched_, true)) {
-    const IniNameEqual equal{NameCodePage()};
-    const auto found =
-        std::find_if(sections_.begin() + 1, sections_.end(),
-                     [&](const IniSection& section) { return equal(section.Name(), name); });
-    return found == sections_.end() ? nullptr : &*found;
-  }
   if (!sectionsByName_) IndexSections();
   const auto found = sectionsByName_->find(name);
   return found == sectionsByName_->end() ? nullptr : &sections_[found->second];
@@ -263,7 +255,6 @@ std::string IniDocument::Text() const {
 
 void IniDocument::Reset(std::string text) {
   sections_.clear();
-  wasSearched_ = false;
   sectionsByName_.reset();
   written_.clear();
   content_ = std::make_shared<const std::string>(std::move(text));

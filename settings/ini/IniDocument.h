@@ -119,7 +119,6 @@ class IniDocument {
   std::shared_ptr<const std::string> content_;  ///< the text that sections are views of
   std::list<std::string> written_;              ///< every line written since
   mutable std::vector<IniSection> sections_;    ///< the first holds what stands before all headers
-  mutable bool wasSearched_ = false;
   mutable std::optional<SectionIndex> sectionsByName_;
 };
 

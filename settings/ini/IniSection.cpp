@@ -18,11 +18,6 @@ std::optional<std::string_view> IniSection::Find(std::string_view key) const {
 }
 
 std::optional<std::size_t> IniSection::LineOf(std::string_view key) const {
-  // A single look-up is quicker without the index, which pays from the second one on.
-  if (!Opened().WasSearched) {
-    contents_->WasSearched = true;
-    return Search(key, 1);
-  }
   const Index& index = FirstLines();
   const auto found = index.find(key);
   if (found == index.end()) return std::nullopt;

@@ -54,7 +54,6 @@ class IniSection {
   /// What is made only for a section that is looked into.
   struct Contents {
     std::vector<std::string_view> Lines;
-    bool WasSearched = false;
     std::optional<Index> FirstLines;  ///< by key
     bool HasRepeatedKeys = false;     ///< known once there are FirstLines
   };
