@@ -68,7 +68,7 @@ std::vector<KeyIndex::EntryId> KeyIndex::Ids() const {
 }
 
 std::optional<KeyIndex::EntryId> KeyIndex::FindWhole(std::wstring_view text) const {
-  return FirstOfGroup(ByWhole(), HashOf(text),
+  return FirstOfGroup(byWhole_, HashOf(text),
                       [&](EntryId id) { return EqualIgnoringCase(At(id).Text, text); });
 }
 
@@ -115,14 +115,6 @@ void KeyIndex::EditIndexes::AddOwned(EntryId id, RowKey owner) {
   ByOwner[owner].push_back(id);
 }
 
-KeyIndex::Groups& KeyIndex::ByWhole() const {
-  if (!byWhole_) {
-    byWhole_.emplace(count_);
-    for (const EntryId id : Ids()) AddToGroup(*byWhole_, HashOf(At(id).Text), id);
-  }
-  return *byWhole_;
-}
-
 KeyIndex::EditIndexes& KeyIndex::ForEdits() const {
   if (!forEdits_) {
     forEdits_.emplace();
@@ -137,13 +129,13 @@ KeyIndex::EditIndexes& KeyIndex::ForEdits() const {
 }
 
 void KeyIndex::AddToGroups(EntryId id, const Entry& entry) {
-  if (byWhole_) AddToGroup(*byWhole_, HashOf(entry.Text), id);
+  AddToGroup(byWhole_, HashOf(entry.Text), id);
   if (!forEdits_) return;
   ForEachHashOfKey(entry.Text, [&](std::size_t hash) { AddToGroup(forEdits_->ByKey, hash, id); });
 }
 
 void KeyIndex::RemoveFromGroups(EntryId id, const Entry& entry) {
-  if (byWhole_) RemoveFromGroup(*byWhole_, HashOf(entry.Text), id);
+  RemoveFromGroup(byWhole_, HashOf(entry.Text), id);
   if (!forEdits_) return;
   ForEachHashOfKey(entry.Text,
                    [&](std::size_t hash) { RemoveFromGroup(forEdits_->ByKey, hash, id); });

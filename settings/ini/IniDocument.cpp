@@ -74,7 +74,10 @@ IniDocument::IniDocument(std::string_view bytes)
     : IniDocument(std::make_shared<const std::string>(bytes)) {}
 
 IniDocument::IniDocument(std::shared_ptr<const std::string> bytes) : content_(std::move(bytes)) {
-  if (!content_->starts_with(utf16Mark)) return;
+  if (!content_->starts_with(utf16Mark)) {
+    Divide();
+    return;
+  }
   encoding_ = Encoding::Utf16Le;
   oddByte_ = content_->substr(content_->size() - content_->size() % 2);
   // The mark stays in the text, before its first line.
@@ -83,16 +86,19 @@ IniDocument::IniDocument(std::shared_ptr<const std::string> bytes) : content_(st
 
 IniDocument::Encoding IniDocument::FileEncoding() const { return encoding_; }
 
-const IniSection* IniDocument::Section(std::string_view name) const { return SectionNamed(name); }
+const IniSection* IniDocument::Section(std::string_view name) const {
+  const SectionIndex& index = SectionsByName();
+  const auto found = index.find(TrimSpaces(name));
+  return found == index.end() ? nullptr : &sections_[found->second];
+}
 
 std::optional<std::string_view> IniDocument::Find(std::string_view section,
                                                   std::string_view key) const {
-  const IniSection* const found = SectionNamed(section);
+  const IniSection* const found = Section(section);
   return found == nullptr ? std::nullopt : found->Find(key);
 }
 
 std::vector<std::string_view> IniDocument::SectionNames() const {
-  Divide();
   std::vector<std::string_view> names;
   names.reserve(sections_.size());
   for (std::size_t i = 1; i < sections_.size(); ++i) names.push_back(sections_[i].Name());
@@ -101,7 +107,7 @@ std::vector<std::string_view> IniDocument::SectionNames() const {
 
 std::vector<IniDocument::Entry> IniDocument::Entries(std::string_view section) const {
   std::vector<Entry> entries;
-  const IniSection* const found = SectionNamed(section);
+  const IniSection* const found = Section(section);
   if (found == nullptr) return entries;
   for (std::size_t i = 1; i < found->Lines().size(); ++i) {
     if (const auto entry = EntryOf(found->Lines()[i])) entries.push_back(*entry);
@@ -111,7 +117,7 @@ std::vector<IniDocument::Entry> IniDocument::Entries(std::string_view section) c
 
 std::vector<std::string> IniDocument::Lines(std::string_view section) const {
   std::vector<std::string> lines;
-  const IniSection* const found = SectionNamed(section);
+  const IniSection* const found = Section(section);
   if (found == nullptr) return lines;
   for (std::size_t i = 1; i < found->Lines().size(); ++i) {
     const std::string_view line = TrimIniBlanks(found->Lines()[i]);
@@ -156,7 +162,7 @@ void IniDocument::Remove(std::string_view section, std::string_view key) {
 }
 
 void IniDocument::RemoveSection(std::string_view section) {
-  const IniSection* const found = SectionNamed(section);
+  const IniSection* const found = Section(section);
   if (found == nullptr) return;
   LineList lines = found->Lines();
   std::fill_n(lines.begin(), found->AfterLastKey(), std::string_view());
@@ -167,7 +173,7 @@ void IniDocument::ReplaceEntries(std::string_view section,
                                  const std::vector<std::pair<std::string, std::string>>& entries,
                                  const std::function<bool(std::string_view key)>& keep) {
   std::string added = KeyLines(entries, NameCodePage());
-  const IniSection* const found = SectionNamed(section);
+  const IniSection* const found = Section(section);
   if (found == nullptr) {
     if (added.empty()) return;
     AppendSection(HeaderLine(TrimSpaces(section)) + added);
@@ -207,18 +213,15 @@ unsigned IniDocument::NameCodePage() const {
   return encoding_ == Encoding::Ansi ? AnsiCodePage : Utf8CodePage;
 }
 
-IniSection* IniDocument::SectionNamed(std::string_view name) const {
-  Divide();
-  name = TrimSpaces(name);
-  if (!sectionsByName_) IndexSections();
-  const auto found = sectionsByName_->find(name);
-  return found == sectionsByName_->end() ? nullptr : &sections_[found->second];
+IniSection* IniDocument::SectionNamed(std::string_view name) {
+  return const_cast<IniSection*>(Section(name));
 }
 
-void IniDocument::Divide() const {
-  if (!sections_.empty()) return;
+void IniDocument::Divide() {
   const std::string_view text = *content_;
   const std::size_t firstLine = encoding_ == Encoding::Ansi ? 0 : Utf8Mark.size();
+  sections_.clear();
+  sectionsByName_.reset();
   sections_.reserve(32);  // about as many as the files of a file manager have
   std::size_t begin = 0;
   for (std::size_t bracket = text.find('['); bracket != std::string_view::npos;
@@ -231,22 +234,23 @@ void IniDocument::Divide() const {
   AddSection(text.substr(begin));
 }
 
-void IniDocument::AddSection(std::string_view text) const {
+void IniDocument::AddSection(std::string_view text) {
   const IniSection& added = sections_.emplace_back(text, NameCodePage());
   if (sectionsByName_) sectionsByName_->emplace(added.Name(), sections_.size() - 1);
 }
 
-/// Of equal names the first one counts. What stands before the first header has no name.
-void IniDocument::IndexSections() const {
+const IniDocument::SectionIndex& IniDocument::SectionsByName() const {
+  if (sectionsByName_) return *sectionsByName_;
   sectionsByName_.emplace(sections_.size(), IniNameHash{NameCodePage()},
                           IniNameEqual{NameCodePage()});
+  // What stands before the first header has no name.
   for (std::size_t i = 1; i < sections_.size(); ++i) {
     sectionsByName_->emplace(sections_[i].Name(), i);
   }
+  return *sectionsByName_;
 }
 
 std::string IniDocument::Text() const {
-  if (sections_.empty()) return *content_;
   std::string text;
   text.reserve(content_->size());
   for (const IniSection& section : sections_) section.AppendTo(text);
@@ -254,10 +258,9 @@ std::string IniDocument::Text() const {
 }
 
 void IniDocument::Reset(std::string text) {
-  sections_.clear();
-  sectionsByName_.reset();
-  written_.clear();
   content_ = std::make_shared<const std::string>(std::move(text));
+  Divide();
+  written_.clear();
 }
 
 std::string_view IniDocument::Store(std::string text) {
@@ -265,7 +268,6 @@ std::string_view IniDocument::Store(std::string text) {
 }
 
 void IniDocument::AppendSection(std::string text) {
-  Divide();
   IniSection& last = sections_.back();
   std::size_t number = last.Lines().size();
   while (number > 0 && last.Lines()[number - 1].empty()) --number;

@@ -51,22 +51,20 @@ class IniSection {
  private:
   using Index = std::unordered_map<std::string_view, std::size_t, IniNameHash, IniNameEqual>;
 
-  /// What is made only for a section that is looked into.
   struct Contents {
     std::vector<std::string_view> Lines;
-    std::optional<Index> FirstLines;  ///< by key
-    bool HasRepeatedKeys = false;     ///< known once there are FirstLines
+    Index FirstLines;  ///< by key
+    bool HasRepeatedKeys = false;
+
+    /// Puts a line that has a key into the index, unless an earlier one has the same.
+    void AddToIndex(std::size_t number);
   };
 
   Contents& Opened() const;
 
-  /// Puts a line that has a key into the index, unless an earlier one has the same.
-  void AddToIndex(std::size_t number) const;
-  std::optional<std::size_t> Search(std::string_view key, std::size_t from) const;
-  const Index& FirstLines() const;
-
   std::string_view text_;
   unsigned codePage_;
+  // Made when first asked for: made for every section, a load takes over 20 times a copy, not 1.5.
   mutable std::unique_ptr<Contents> contents_;
 };
 
