@@ -8,15 +8,16 @@ namespace tessera {
 
 Editor::Editor(const System& system, std::function<void(const LoadProgress&)> showProgress)
     : system_(system),
+      settingsFile_(system.Files, system.Clock, system.Environment),
       texts_(system.Files),
-      inputFiles_(system, texts_, settings_),
+      inputFiles_(system, texts_, settings_, settingsFile_),
       document_(system, texts_, settings_, inputFiles_),
       list_(document_.Commands(), settings_),
       assignment_(document_.Commands(), document_.Notation(), texts_, system.MessageBoxes),
       panel_(document_.Commands(), list_, assignment_, document_.Notation(), settings_,
              system.MessageBoxes),
       keysList_(panel_),
-      export_(document_.Commands(), document_.Notation(), texts_),
+      export_(document_.Commands(), document_.Notation(), texts_, settingsFile_),
       options_(settings_, system.Dialogs, system.Environment),
       recentFiles_(texts_, system.MessageBoxes),
       progress_(system.Clock, std::move(showProgress)) {}
@@ -50,13 +51,14 @@ Reaction Editor::FollowUp(const Reaction& reaction) {
 
 void Editor::Load(std::wstring fileToOpen) {
   fileToOpen_ = std::move(fileToOpen);
-  settings_ = LoadSettings(system_.Files, system_.Clock, system_.Environment);
+  const ProfileFile stored = settingsFile_.Read();
+  settings_ = LoadSettings(stored, settingsFile_, system_.Environment);
   ApplyLanguage();
   document_.ReadNotation();
   panel_.ResetPanel();
   document_.SetModified(false);
-  export_.Load(system_.Files, SettingsPath(system_.Environment));
-  ReadRecentFiles();
+  export_.Load(stored);
+  ReadRecentFiles(stored);
 }
 
 void Editor::Activate() {
@@ -79,8 +81,7 @@ void Editor::Unload(const WindowPlacement& placement, const ColumnLayout& column
     settings_.MainWindowWidth = RoundTo16Bits(placement.Width);
   }
   settings_.MainWindowMaxmized = placement.Maximised ? 1 : 0;
-  // As with all settings, a folder that cannot be written is not reported.
-  static_cast<void>(SaveSettings(settings_, system_.Files, system_.Clock, system_.Environment));
+  SaveSettings(settings_, settingsFile_);
 }
 
 void Editor::FileOpen() { OpenShortcutFile(true, {}, true); }

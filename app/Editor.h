@@ -22,6 +22,7 @@
 #include "platform/System.h"
 #include "recent/cRecentFiles.h"
 #include "settings/Settings.h"
+#include "settings/SettingsFile.h"
 
 namespace tessera {
 
@@ -116,11 +117,12 @@ class Editor : Pinned {
  private:
   Reaction FollowUp(const Reaction& reaction);
   void OpenPath(const std::wstring& path, bool addToRecent);
-  void ReadRecentFiles();
+  void ReadRecentFiles(const ProfileFile& stored);
   void SaveRecentFiles();
   void ApplyLanguage();
 
   System system_;
+  SettingsFile settingsFile_;
   Settings settings_;
   Texts texts_;
   InputFiles inputFiles_;

@@ -6,12 +6,6 @@
 
 namespace tessera {
 
-namespace {
-
-constexpr std::wstring_view RecentFilesPrefix = L"RecentFiles";
-
-}  // namespace
-
 void Editor::OpenRecentFile(int index) {
   const std::wstring path = recentFiles_.ListItems(index);
   if (document_.Busy() || IsMissing(path)) {
@@ -60,8 +54,7 @@ OptionsSelection& Editor::BeginOptions() {
 
 OptionsOutcome Editor::EndOptions() {
   const Reaction panel = FollowUp(panel_.ResetPanel());
-  // As with all settings, a folder that cannot be written is not reported.
-  static_cast<void>(SaveSettings(settings_, system_.Files, system_.Clock, system_.Environment));
+  SaveSettings(settings_, settingsFile_);
   const bool languageChanged = options_.LanguageChanged();
   if (languageChanged) {
     ApplyLanguage();
@@ -70,16 +63,14 @@ OptionsOutcome Editor::EndOptions() {
   return {panel, languageChanged};
 }
 
-void Editor::ReadRecentFiles() {
+void Editor::ReadRecentFiles(const ProfileFile& stored) {
   recentFiles_.Setup(settings_.NumberOfRecentFiles);
   recentFiles_.ChangeLanguage();
-  recentFiles_.ReadList(system_.Files, SettingsPath(system_.Environment), ProgramSection,
-                        RecentFilesPrefix);
+  recentFiles_.ReadList(stored, ProgramSection, RecentFilesPrefix);
 }
 
 void Editor::SaveRecentFiles() {
-  recentFiles_.SaveList(system_.Files, system_.Clock, SettingsPath(system_.Environment),
-                        ProgramSection, RecentFilesPrefix);
+  recentFiles_.SaveList(settingsFile_, ProgramSection, RecentFilesPrefix);
 }
 
 }  // namespace tessera

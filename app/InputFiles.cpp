@@ -2,16 +2,17 @@
 #include "app/InputFiles.h"
 
 #include "settings/commander/LocateTotalCommander.h"
-#include "settings/cProfile.h"
 #include "settings/ini/ReplaceContent.h"
 #include "settings/Paths.h"
 
 namespace tessera {
 
-InputFiles::InputFiles(const System& system, const Texts& texts, Settings& settings)
+InputFiles::InputFiles(const System& system, const Texts& texts, Settings& settings,
+                       SettingsFile& settingsFile)
     : system_(system),
       texts_(texts),
       settings_(settings),
+      settingsFile_(settingsFile),
       commonDialog_(system.Dialogs),
       commanderEnvironment_(system.Environment) {}
 
@@ -43,9 +44,7 @@ std::wstring InputFiles::FindWincmdIni(const std::wstring& preferred) {
                           FileFilter::WincmdIni);
       });
   if (settings_.UserDefinedWincmd != stored) {
-    cProfile(system_.Files, system_.Clock)
-        .WriteStringValue(CommonSection, L"UserDefinedWincmd", settings_.UserDefinedWincmd,
-                          SettingsPath(system_.Environment));
+    SaveSetting(&Settings::UserDefinedWincmd, settings_, settingsFile_);
   }
   return path;
 }
@@ -58,9 +57,7 @@ void InputFiles::FindDefaultHotkeys() {
   settings_.DefaultHotKeysDataFile =
       AskForFile(TextId::NoDataFile, BoxIcon::Critical, folder, L"tc default hotkeys.hky",
                  FileFilter::DefaultHotkeys);
-  cProfile(system_.Files, system_.Clock)
-      .WriteStringValue(ProgramSection, L"DefaultHotKeysDataFile", settings_.DefaultHotKeysDataFile,
-                        SettingsPath(system_.Environment));
+  SaveSetting(&Settings::DefaultHotKeysDataFile, settings_, settingsFile_);
 }
 
 std::wstring InputFiles::BrowseForWincmdIni() {

@@ -15,8 +15,9 @@ namespace tessera {
 
 class InputFiles : Pinned {
  public:
-  /// What is found goes into `settings`.
-  InputFiles(const System& system, const Texts& texts, Settings& settings);
+  /// What is found goes into `settings`, what the user answers into `settingsFile` too.
+  InputFiles(const System& system, const Texts& texts, Settings& settings,
+             SettingsFile& settingsFile);
 
   // -- Queries
 
@@ -48,6 +49,7 @@ class InputFiles : Pinned {
   System system_;
   const Texts& texts_;
   Settings& settings_;
+  SettingsFile& settingsFile_;
   cCommonDialog commonDialog_;
   CommanderEnvironment commanderEnvironment_;
   std::wstring totalcmdIncPath_;

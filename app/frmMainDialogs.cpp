@@ -5,10 +5,7 @@ namespace tessera {
 
 void frmMain::ShowExport() {
   ClipboardExport& model = editor_.BeginExport();
-  frmExportToClipboard_.Show(window_, model, [this, &model] {
-    const System system = windowsSystem_.Seams();
-    model.Ok(system.Files, system.Clock, SettingsPath(system.Environment));
-  });
+  frmExportToClipboard_.Show(window_, model, [&model] { model.Ok(); });
   editor_.EndExport();
 }
 

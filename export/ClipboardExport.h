@@ -7,8 +7,7 @@
 #include "export/ExportSelection.h"
 #include "localisation/Texts.h"
 #include "platform/Clipboard.h"
-#include "platform/Clock.h"
-#include "platform/Files.h"
+#include "settings/SettingsFile.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
 
@@ -16,7 +15,8 @@ namespace tessera {
 
 class ClipboardExport {
  public:
-  ClipboardExport(const Catalogue& catalogue, const HotkeyNotation& notation, const Texts& texts);
+  ClipboardExport(const Catalogue& catalogue, const HotkeyNotation& notation, const Texts& texts,
+                  SettingsFile& settingsFile);
 
   // -- Queries
 
@@ -29,13 +29,13 @@ class ClipboardExport {
 
   /// Takes the stored selection, before the dialog is first shown. Later showings find the boxes as
   /// they were left.
-  void Load(const Files& files, const std::wstring& settingsFile);
+  void Load(const ProfileFile& stored);
 
   /// As ExportSelection::Click.
   void Click(Column box);
 
   /// Builds the table of the displayed rows and stores the selection.
-  void Ok(Files& files, Clock& clock, const std::wstring& settingsFile);
+  void Ok();
 
   void Cancel();
 
@@ -49,6 +49,7 @@ class ClipboardExport {
   const Catalogue& catalogue_;
   const HotkeyNotation& notation_;
   const Texts& texts_;
+  SettingsFile& settingsFile_;
   ExportSelection selection_;
   std::wstring exportText_;
 };

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "settings/ini/MissingMarker.h"
-#include "settings/ini/ProfileFile.h"
 #include "text/Text.h"
 
 namespace tessera {
@@ -131,14 +130,11 @@ bool cRecentFiles::Clear() {
   return true;
 }
 
-void cRecentFiles::ReadList(const Files& files, const std::wstring& settingsFile,
-                            std::wstring_view section, std::wstring_view prefix) {
-  const ProfileFile settings(files, settingsFile);
-  const FileError error = settings.ReadError();
-  unread_ = error != FileError::None && error != FileError::NotFound;
+void cRecentFiles::ReadList(const ProfileFile& stored, std::wstring_view section,
+                            std::wstring_view prefix) {
   paths_.clear();
   for (int index = 1; index <= max_; ++index) {
-    std::wstring path = settings.ReadString(section, KeyOf(prefix, index), MissingMarker);
+    std::wstring path = stored.ReadString(section, KeyOf(prefix, index), MissingMarker);
     // An empty value is a gap like an absent one.
     if (!IsMissing(path) && !path.empty()) {
       paths_.push_back(std::move(path));
@@ -146,22 +142,17 @@ void cRecentFiles::ReadList(const Files& files, const std::wstring& settingsFile
   }
 }
 
-void cRecentFiles::SaveList(Files& files, Clock& clock, const std::wstring& settingsFile,
-                            std::wstring_view section, std::wstring_view prefix) const {
-  // The stored entries are not known, and would be lost.
-  if (unread_) return;
-  // As with all settings, a folder that cannot be written is not reported.
-  static_cast<void>(SaveFromTheStart([&] {
-    ProfileFile settings(files, clock, settingsFile);
+void cRecentFiles::SaveList(SettingsFile& settingsFile, std::wstring_view section,
+                            std::wstring_view prefix) const {
+  settingsFile.Change([&](ProfileFile& stored) {
     for (int index = 1; index <= max_; ++index) {
       if (Holds(index)) {
-        settings.WriteString(section, KeyOf(prefix, index), ListItems(index));
+        stored.WriteString(section, KeyOf(prefix, index), ListItems(index));
       } else {
-        settings.DeleteValue(section, KeyOf(prefix, index));
+        stored.DeleteValue(section, KeyOf(prefix, index));
       }
     }
-    return settings.Save(files, clock, KeepCopies::No);
-  }));
+  });
 }
 
 /// The index of a path in any letter case; 0 when it is not in the list.

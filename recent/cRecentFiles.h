@@ -6,9 +6,8 @@
 #include <vector>
 
 #include "localisation/Texts.h"
-#include "platform/Clock.h"
-#include "platform/Files.h"
 #include "platform/MessageBoxes.h"
+#include "settings/SettingsFile.h"
 
 namespace tessera {
 
@@ -60,12 +59,11 @@ class cRecentFiles {
   // -- Storage: one key per file, `prefix` and the index, in a section of the settings file
 
   /// Reads as many paths as there are slots; gaps between them are closed.
-  void ReadList(const Files& files, const std::wstring& settingsFile, std::wstring_view section,
-                std::wstring_view prefix);
+  void ReadList(const ProfileFile& stored, std::wstring_view section, std::wstring_view prefix);
 
   /// Writes the paths, and deletes the keys of empty slots.
-  void SaveList(Files& files, Clock& clock, const std::wstring& settingsFile,
-                std::wstring_view section, std::wstring_view prefix) const;
+  void SaveList(SettingsFile& settingsFile, std::wstring_view section,
+                std::wstring_view prefix) const;
 
  private:
   [[nodiscard]] int Find(std::wstring_view path) const;
@@ -74,7 +72,6 @@ class cRecentFiles {
   const Texts& texts_;
   MessageBoxes& messageBoxes_;
   int max_ = 0;
-  bool unread_ = false;              ///< the settings file is there, and reading it failed
   std::vector<std::wstring> paths_;  ///< the occupied slots
   std::wstring noFiles_;
   std::wstring clearList_;

@@ -64,38 +64,47 @@ constexpr std::array Fields{
 };
 
 /// The stored settings, in the order in which they are written.
-constexpr std::array<std::wstring_view, 28> StoredKeys{L"FixedBorders",
-                                                       L"FlatUserInterface",
-                                                       L"ForegroundColor",
-                                                       L"BackgroundColor",
-                                                       L"FontName",
-                                                       L"FontScript",
-                                                       L"FontSize",
-                                                       L"FontStyle",
-                                                       L"UseDefaultLanguage",
-                                                       L"LanguageFile",
-                                                       L"MainWindowLeft",
-                                                       L"MainWindowTop",
-                                                       L"MainWindowWidth",
-                                                       L"MainWindowHeight",
-                                                       L"MainWindowMaxmized",
-                                                       L"ToolbarVisible",
-                                                       L"NumberOfRecentFiles",
-                                                       L"AlwaysRestartTC",
-                                                       L"CommandListShowLines",
-                                                       L"ColumnHeadersPosition",
-                                                       L"ColumnHeadersSize",
-                                                       L"UseContextMenuKey",
-                                                       L"SortedList",
-                                                       L"SortOrder",
-                                                       L"SortedColumn",
-                                                       L"MultiHotkeySeparator",
-                                                       L"UndefinedHotkey",
-                                                       L"ReverseOrderHotkey"};
+constexpr std::array<Member, 28> StoredSettings{&Settings::FixedBorders,
+                                                &Settings::FlatUserInterface,
+                                                &Settings::ForegroundColor,
+                                                &Settings::BackgroundColor,
+                                                &Settings::FontName,
+                                                &Settings::FontScript,
+                                                &Settings::FontSize,
+                                                &Settings::FontStyle,
+                                                &Settings::UseDefaultLanguage,
+                                                &Settings::LanguageFile,
+                                                &Settings::MainWindowLeft,
+                                                &Settings::MainWindowTop,
+                                                &Settings::MainWindowWidth,
+                                                &Settings::MainWindowHeight,
+                                                &Settings::MainWindowMaxmized,
+                                                &Settings::ToolbarVisible,
+                                                &Settings::NumberOfRecentFiles,
+                                                &Settings::AlwaysRestartTC,
+                                                &Settings::CommandListShowLines,
+                                                &Settings::ColumnHeadersPosition,
+                                                &Settings::ColumnHeadersSize,
+                                                &Settings::UseContextMenuKey,
+                                                &Settings::SortedList,
+                                                &Settings::SortOrder,
+                                                &Settings::SortedColumn,
+                                                &Settings::MultiHotkeySeparator,
+                                                &Settings::UndefinedHotkey,
+                                                &Settings::ReverseOrderHotkey};
 
-/// The keys that a maximised window leaves as they are.
-constexpr std::array<std::wstring_view, 4> PlacementKeys{L"MainWindowLeft", L"MainWindowTop",
-                                                         L"MainWindowWidth", L"MainWindowHeight"};
+/// The settings that a maximised window leaves as they are.
+constexpr std::array<Member, 4> PlacementSettings{
+    &Settings::MainWindowLeft, &Settings::MainWindowTop, &Settings::MainWindowWidth,
+    &Settings::MainWindowHeight};
+
+constexpr const Field* FieldOf(const Member& setting) {
+  return std::ranges::find(Fields, setting, &Field::Where);
+}
+
+static_assert(std::ranges::none_of(StoredSettings, [](const Member& setting) {
+  return FieldOf(setting) == Fields.end();
+}));
 
 /// Takes one setting over from the file; one that is absent there stays as it is.
 struct Reader {
@@ -152,12 +161,17 @@ void PlaceFirstWindow(Settings& settings, const Environment& environment) {
   settings.MainWindowTop = RoundTo16Bits((screen.Height - FirstRunHeight) / 2.0);
 }
 
+void Write(const Member& setting, const Settings& settings, ProfileFile& file) {
+  const Field& field = *FieldOf(setting);
+  std::visit(Writer{file, field, settings}, field.Where);
+}
+
 void WriteSettings(const Settings& settings, ProfileFile& file) {
-  for (const std::wstring_view key : StoredKeys) {
-    const bool isPlacement = std::ranges::find(PlacementKeys, key) != PlacementKeys.end();
-    if (isPlacement && settings.MainWindowMaxmized != 0) continue;
-    const Field& field = *std::ranges::find(Fields, key, &Field::Key);
-    std::visit(Writer{file, field, settings}, field.Where);
+  const bool maximised = settings.MainWindowMaxmized != 0;
+  for (const Member& setting : StoredSettings) {
+    const bool isPlacement =
+        std::ranges::find(PlacementSettings, setting) != PlacementSettings.end();
+    if (!isPlacement || !maximised) Write(setting, settings, file);
   }
 }
 
@@ -181,38 +195,25 @@ void ApplyRules(Settings& settings, const Environment& environment) {
 
 }  // namespace
 
-std::wstring SettingsPath(const Environment& environment) {
-  return AddBackslash(environment.ProgramDirectory()) + L"vantor.ini";
-}
-
-Settings LoadSettings(Files& files, Clock& clock, const Environment& environment) {
-  const std::wstring path = SettingsPath(environment);
-  ClearLeftOvers(files, path, KeepCopies::No);
+Settings LoadSettings(const ProfileFile& stored, SettingsFile& file,
+                      const Environment& environment) {
   Settings settings = Defaults(environment);
-  ProfileFile file(files, clock, path);
-  if (file.ReadError() == FileError::NotFound) {
+  if (stored.ReadError() == FileError::NotFound) {
     PlaceFirstWindow(settings, environment);
-    // In a folder that cannot be written the program runs all the same, with these values.
-    (void)SaveSettings(settings, files, clock, environment);
-    file = ProfileFile(files, clock, path);
+    SaveSettings(settings, file);
   }
-  settings.Unread = file.ReadError() != FileError::None && file.ReadError() != FileError::NotFound;
-  for (const Field& field : Fields) std::visit(Reader{file, field, settings}, field.Where);
+  for (const Field& field : Fields) std::visit(Reader{stored, field, settings}, field.Where);
   ApplyRules(settings, environment);
   return settings;
 }
 
-FileError SaveSettings(const Settings& settings, Files& files, Clock& clock,
-                       const Environment& environment) {
-  const std::wstring path = SettingsPath(environment);
-  ClearLeftOvers(files, path, KeepCopies::No);
-  return SaveFromTheStart([&] {
-    ProfileFile file(files, clock, path);
-    // Defaults must not replace what the user once chose.
-    if (settings.Unread && file.ReadError() == FileError::None) return FileError::AccessDenied;
-    WriteSettings(settings, file);
-    return file.Save(files, clock, KeepCopies::No);
-  });
+FileError SaveSettings(const Settings& settings, SettingsFile& file) {
+  return file.Change([&](ProfileFile& stored) { WriteSettings(settings, stored); });
+}
+
+FileError SaveSetting(std::wstring Settings::*setting, const Settings& settings,
+                      SettingsFile& file) {
+  return file.Change([&](ProfileFile& stored) { Write(setting, settings, stored); });
 }
 
 }  // namespace tessera

@@ -3,15 +3,11 @@
 
 #include <string>
 
-#include "platform/Clock.h"
 #include "platform/Environment.h"
-#include "platform/Files.h"
 #include "settings/ini/MissingMarker.h"
+#include "settings/SettingsFile.h"
 
 namespace tessera {
-
-inline constexpr std::wstring_view ProgramSection = L"Tessera";
-inline constexpr std::wstring_view CommonSection = L"Common";
 
 /// The settings in force. Fields are named after their keys in the file.
 struct Settings {
@@ -50,20 +46,19 @@ struct Settings {
   std::wstring MultiHotkeySeparator = L" = ";  ///< with one blank on each side
   std::wstring UndefinedHotkey = L"---";
   short KeepUnknownShortcuts = 0;  ///< only read
-  bool Unread = false;             ///< not stored: the file is there, and reading it failed
 };
 
-/// "vantor.ini" in the program's folder.
-[[nodiscard]] std::wstring SettingsPath(const Environment& environment);
+/// Takes all settings from what was read at the start, each with its default; when there is no
+/// file, writes a first one, whose window is centred on the screen.
+[[nodiscard]] Settings LoadSettings(const ProfileFile& stored, SettingsFile& file,
+                                    const Environment& environment);
 
-/// Reads all settings, each with its default; when there is no file, writes a first one, whose
-/// window is centred on the screen.
-[[nodiscard]] Settings LoadSettings(Files& files, Clock& clock, const Environment& environment);
+/// Writes all settings that this program stores. While MainWindowMaxmized is not 0, the window's
+/// four sizes in the file stay as they are.
+FileError SaveSettings(const Settings& settings, SettingsFile& file);
 
-/// Writes all settings that this program stores, in one write; gives AccessDenied and writes
-/// nothing when they are defaults because the file could not be read at the start. While
-/// MainWindowMaxmized is not 0, the window's four sizes in the file stay as they are.
-[[nodiscard]] FileError SaveSettings(const Settings& settings, Files& files, Clock& clock,
-                                     const Environment& environment);
+/// Writes one setting, which is not stored with the others; the missing marker is not written.
+FileError SaveSetting(std::wstring Settings::*setting, const Settings& settings,
+                      SettingsFile& file);
 
 }  // namespace tessera

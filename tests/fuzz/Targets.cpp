@@ -181,14 +181,15 @@ void RunSettings(std::string_view bytes) {
   FakeClock clock;
   const FakeEnvironment environment;
   files.Contents[SettingsPath(environment)] = bytes;
-  const Settings settings = LoadSettings(files, clock, environment);
+  SettingsFile file(files, clock, environment);
+  const Settings settings = LoadSettings(file.Read(), file, environment);
   Require(settings.NumberOfRecentFiles >= 2 && settings.NumberOfRecentFiles <= 16, "recent files");
   Require(settings.MultiHotkeySeparator.size() >= 3, "the separator is not padded");
   Require(!settings.UndefinedHotkey.empty(), "no marker");
   const ColumnLayout columns = ReadColumnLayout(settings);
   for (const int width : columns.Widths) Require(width >= 0, "a column of less than no width");
-  Require(SaveSettings(settings, files, clock, environment) == FileError::None, "not saved");
-  const Settings again = LoadSettings(files, clock, environment);
+  Require(SaveSettings(settings, file) == FileError::None, "not saved");
+  const Settings again = LoadSettings(file.Read(), file, environment);
   Require(again.FontSize == settings.FontSize &&
               again.ForegroundColor == settings.ForegroundColor &&
               again.MainWindowLeft == settings.MainWindowLeft &&

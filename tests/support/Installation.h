@@ -6,7 +6,7 @@
 
 namespace tessera {
 
-inline const std::wstring SettingsFile = L"C:\\Tessera\\vantor.ini";
+inline const std::wstring VantorFile = L"C:\\Tessera\\vantor.ini";
 inline const std::wstring DataFile = L"C:\\Tessera\\Data Files\\tc default hotkeys.hky";
 inline const std::wstring IncFile = L"C:\\TC\\Totalcmd.inc";
 inline const std::wstring IniFile = L"C:\\TC\\Wincmd.ini";

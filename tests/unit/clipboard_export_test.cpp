@@ -3,50 +3,53 @@
 #include "export/ClipboardExport.h"
 #include "tests/support/FakeClipboard.h"
 #include "tests/support/FakeClock.h"
+#include "tests/support/FakeEnvironment.h"
 #include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera::clipboard_export_test {
 namespace {
 
-const std::wstring SettingsFile = L"C:\\Tessera\\vantor.ini";
+const std::wstring SettingsName = L"C:\\Tessera\\vantor.ini";
 
 class ClipboardExportTest : public testing::Test {
  protected:
-  void Ok() { export_.Ok(files_, clock_, SettingsFile); }
+  void Ok() { export_.Ok(); }
 
   Catalogue catalogue_ = SampleCatalogue();
   HotkeyNotation notation_;
   MemoryFiles files_;
   FakeClock clock_;
+  FakeEnvironment environment_;
   FakeClipboard clipboard_;
+  SettingsFile settingsFile_{files_, clock_, environment_};
   Texts texts_{files_};
-  ClipboardExport export_{catalogue_, notation_, texts_};
+  ClipboardExport export_{catalogue_, notation_, texts_, settingsFile_};
 };
 
 TEST_F(ClipboardExportTest, WithoutAStoredSelectionTheDescriptionIsOff) {
-  export_.Load(files_, SettingsFile);
+  export_.Load(settingsFile_.Read());
   EXPECT_EQ(export_.Selection().ClipOptions(), L"0,1,1,1");
 }
 
 TEST_F(ClipboardExportTest, OkStoresTheSelectionForTheNextRun) {
-  files_.Contents[SettingsFile] = "[Tessera]\r\nClipOptions=1,1,1,1\r\nSortOrder=1\r\n";
-  export_.Load(files_, SettingsFile);
+  files_.Contents[SettingsName] = "[Tessera]\r\nClipOptions=1,1,1,1\r\nSortOrder=1\r\n";
+  export_.Load(settingsFile_.Read());
   export_.Click(Column::Defaults);
   Ok();
-  EXPECT_EQ(files_.Contents[SettingsFile], "[Tessera]\r\nClipOptions=1,1,0,1\r\nSortOrder=1\r\n");
-  ClipboardExport next(catalogue_, notation_, texts_);
-  next.Load(files_, SettingsFile);
+  EXPECT_EQ(files_.Contents[SettingsName], "[Tessera]\r\nClipOptions=1,1,0,1\r\nSortOrder=1\r\n");
+  ClipboardExport next(catalogue_, notation_, texts_, settingsFile_);
+  next.Load(settingsFile_.Read());
   EXPECT_EQ(next.Selection().ClipOptions(), L"1,1,0,1");
 }
 
 TEST_F(ClipboardExportTest, CancelStoresNothingAndLeavesTheClipboardAlone) {
-  export_.Load(files_, SettingsFile);
+  export_.Load(settingsFile_.Read());
   export_.Click(Column::Description);
   export_.Cancel();
   export_.CopyTo(clipboard_, true);
   EXPECT_TRUE(clipboard_.Texts.empty());
-  EXPECT_FALSE(files_.Contents.contains(SettingsFile));
+  EXPECT_FALSE(files_.Contents.contains(SettingsName));
 }
 
 TEST_F(ClipboardExportTest, CancelForgetsTheTableOfTheOkBefore) {
@@ -75,7 +78,7 @@ TEST_F(ClipboardExportTest, TheTableOfTheLastOkIsCopiedAgainWhenTheDialogIsOnlyC
 
 TEST_F(ClipboardExportTest, OkTakesTheChosenColumnsAndTheUndefinedMarkerInForce) {
   notation_.UndefinedHotkey = L"F6";
-  export_.Load(files_, SettingsFile);
+  export_.Load(settingsFile_.Read());
   export_.Click(Column::Defaults);
   Ok();
   EXPECT_EQ(export_.ExportText(),

@@ -3,13 +3,14 @@
 #include "recent/cRecentFiles.h"
 #include "settings/ini/MissingMarker.h"
 #include "tests/support/FakeClock.h"
+#include "tests/support/FakeEnvironment.h"
 #include "tests/support/FakeMessageBoxes.h"
 #include "tests/support/MemoryFiles.h"
 
 namespace tessera::crecent_files_test {
 namespace {
 
-const std::wstring SettingsFile = L"C:\\Tessera\\vantor.ini";
+const std::wstring SettingsName = L"C:\\Tessera\\vantor.ini";
 constexpr std::wstring_view Section = L"Tessera";
 constexpr std::wstring_view Prefix = L"RecentFiles";
 
@@ -24,8 +25,8 @@ class RecentFilesTest : public testing::Test {
     for (const std::wstring& path : paths) recent_.AddFile(path);
   }
 
-  void Read() { recent_.ReadList(files_, SettingsFile, Section, Prefix); }
-  void Save() { recent_.SaveList(files_, clock_, SettingsFile, Section, Prefix); }
+  void Read() { recent_.ReadList(settingsFile_.Read(), Section, Prefix); }
+  void Save() { recent_.SaveList(settingsFile_, Section, Prefix); }
 
   std::vector<std::wstring> Paths() const {
     std::vector<std::wstring> paths;
@@ -38,6 +39,8 @@ class RecentFilesTest : public testing::Test {
 
   MemoryFiles files_;
   FakeClock clock_;
+  FakeEnvironment environment_;
+  SettingsFile settingsFile_{files_, clock_, environment_};
   FakeMessageBoxes messageBoxes_;
   Texts texts_{files_};
   cRecentFiles recent_{texts_, messageBoxes_};
@@ -134,12 +137,12 @@ TEST_F(RecentFilesTest, ClearingAsksFirstWithNoAsDefault) {
 TEST_F(RecentFilesTest, NoLeavesTheListAndTheSettingsFile) {
   Add({L"a", L"b"});
   Save();
-  const std::string before = files_.Contents[SettingsFile];
+  const std::string before = files_.Contents[SettingsName];
   const int writes = files_.Writes;
   messageBoxes_.Answers = {BoxAnswer::No};
   EXPECT_FALSE(recent_.Clear());
   EXPECT_EQ(Paths(), (List{L"b", L"a"}));
-  EXPECT_EQ(files_.Contents[SettingsFile], before);
+  EXPECT_EQ(files_.Contents[SettingsName], before);
   EXPECT_EQ(files_.Writes, writes);
 }
 
@@ -254,7 +257,7 @@ TEST(ShortenPath, ALongPathWithoutABackslashIsShownWhole) {
 TEST_F(RecentFilesTest, ASavedListIsReadBack) {
   Add({L"C:\\a b\\Wincmd.ini", L"C:\\c\\Wincmd.ini"});
   Save();
-  EXPECT_EQ(files_.Contents[SettingsFile],
+  EXPECT_EQ(files_.Contents[SettingsName],
             "[Tessera]\r\nRecentFiles1=C:\\c\\Wincmd.ini\r\nRecentFiles2=C:\\a b\\Wincmd.ini\r\n");
   recent_.Setup(4);
   Read();
@@ -269,57 +272,43 @@ TEST_F(RecentFilesTest, EverySlotOfAFullListIsSaved) {
   EXPECT_EQ(Paths(), (List{L"d", L"c", L"b", L"a"}));
 }
 
-TEST_F(RecentFilesTest, AListThatCouldNotBeReadIsNotSaved) {
-  const std::string stored = "[Tessera]\r\nRecentFiles1=a\r\nRecentFiles2=b\r\n";
-  for (const FileError fault : {FileError::AccessDenied, FileError::SharingViolation,
-                                FileError::LockViolation, FileError::Other}) {
-    files_.Contents[SettingsFile] = stored;
-    files_.ReadErrors = {fault};
-    Read();
-    ASSERT_TRUE(files_.ReadErrors.empty());
-    Add({L"c"});
-    Save();
-    EXPECT_EQ(files_.Contents[SettingsFile], stored);
-  }
-}
-
 TEST_F(RecentFilesTest, AListWithoutAFileToReadIsSaved) {
   Read();
   Add({L"a"});
   Save();
-  EXPECT_EQ(files_.Contents[SettingsFile], "[Tessera]\r\nRecentFiles1=a\r\n");
+  EXPECT_EQ(files_.Contents[SettingsName], "[Tessera]\r\nRecentFiles1=a\r\n");
 }
 
 TEST_F(RecentFilesTest, SavingDeletesTheKeysOfEmptySlotsAndTouchesNoOthers) {
-  files_.Contents[SettingsFile] =
+  files_.Contents[SettingsName] =
       "[Common]\r\nRecentFiles1=c\r\n[Tessera]\r\nRecentFiles1=a\r\nSortOrder=1\r\n"
       "RecentFiles2=b\r\nRecentFiles3=c\r\n";
   Read();
   recent_.RemoveFile(1);
   Save();
-  EXPECT_EQ(files_.Contents[SettingsFile],
+  EXPECT_EQ(files_.Contents[SettingsName],
             "[Common]\r\nRecentFiles1=c\r\n[Tessera]\r\nRecentFiles1=b\r\nSortOrder=1\r\n"
             "RecentFiles2=c\r\n");
 }
 
 TEST_F(RecentFilesTest, SavingAClearedListLeavesNoKey) {
-  files_.Contents[SettingsFile] = "[Tessera]\r\nRecentFiles1=a\r\nRecentFiles2=b\r\n";
+  files_.Contents[SettingsName] = "[Tessera]\r\nRecentFiles1=a\r\nRecentFiles2=b\r\n";
   Read();
   messageBoxes_.Answers = {BoxAnswer::Yes};
   recent_.Clear();
   Save();
-  EXPECT_EQ(files_.Contents[SettingsFile], "[Tessera]\r\n");
+  EXPECT_EQ(files_.Contents[SettingsName], "[Tessera]\r\n");
 }
 
 TEST_F(RecentFilesTest, ReadingClosesGaps) {
-  files_.Contents[SettingsFile] =
+  files_.Contents[SettingsName] =
       "[Tessera]\r\nRecentFiles2=b\r\nRecentFiles3=\r\nRecentFiles4=d\r\n";
   Read();
   EXPECT_EQ(Paths(), (List{L"b", L"d"}));
 }
 
 TEST_F(RecentFilesTest, ReadingStopsAtTheLastSlot) {
-  files_.Contents[SettingsFile] =
+  files_.Contents[SettingsName] =
       "[Tessera]\r\nRecentFiles1=a\r\nRecentFiles2=b\r\nRecentFiles3=c\r\n";
   recent_.Setup(2);
   Read();

@@ -114,7 +114,7 @@ TEST_F(EditorTest, TheHelpFileIsOpened) {
 TEST_F(EditorTest, TheExportFollowsTheListAndWarnsOfUnsavedChanges) {
   Start();
   Assign(Pack, L"X");
-  Editor.BeginExport().Ok(Files, Clock, SettingsFile);
+  Editor.BeginExport().Ok();
   Editor.EndExport();
   ASSERT_EQ(Clipboard.Texts.size(), 1U);
   EXPECT_NE(Clipboard.Texts[0].find(L"cm_Pack\t--- \tX        \t\r\n"), std::wstring::npos)
@@ -122,7 +122,7 @@ TEST_F(EditorTest, TheExportFollowsTheListAndWarnsOfUnsavedChanges) {
   EXPECT_NE(Clipboard.Texts[0].find(L"Paint\tCtrl + Alt + F1"), std::wstring::npos);
   EXPECT_NE(Clipboard.Texts[0].find(L"=   Important   ="), std::wstring::npos);
   Editor.FileSave();
-  Editor.BeginExport().Ok(Files, Clock, SettingsFile);
+  Editor.BeginExport().Ok();
   Editor.EndExport();
   EXPECT_EQ(Clipboard.Texts.back().find(L"Important"), std::wstring::npos);
 }
@@ -197,8 +197,8 @@ TEST_F(EditorTest, TheDefaultLanguageLeavesTheLanguageFileAlone) {
   files.Contents = Files.Contents;
   files.Contents[language] = "[UserLanguage]\r\n104=Speichern\r\nRightToLeftLanguage=1\r\n";
   const auto timesLookedAt = [&](const char* useDefault) {
-    files.Contents[SettingsFile] = std::string("[Tessera]\r\nUseDefaultLanguage=") + useDefault +
-                                   "\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
+    files.Contents[VantorFile] = std::string("[Tessera]\r\nUseDefaultLanguage=") + useDefault +
+                                 "\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
     files.Paths.clear();
     tessera::Editor editor(
         {files, Registry, Environment, MessageBoxes, Dialogs, Programs, Clock, Clipboard},

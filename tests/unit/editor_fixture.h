@@ -20,7 +20,7 @@ class EditorTest : public testing::Test, public SampleProgram<> {
   EditorTest() { Ini() = IniContent; }
 
   std::string& Ini() { return Files.Contents[IniFile]; }
-  std::string& StoredSettings() { return Files.Contents[SettingsFile]; }
+  std::string& StoredSettings() { return Files.Contents[VantorFile]; }
 };
 
 }  // namespace tessera

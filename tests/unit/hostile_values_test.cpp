@@ -52,9 +52,9 @@ TEST(HostileValues, SettingsOutOfRangeAndNoNumbersLeaveAWorkingProgram) {
       content.append(key).append("=").append(value).append("\r\n");
     }
     World world;
-    world.Files.Contents[SettingsFile] = "[Tessera]\r\n" + content +
-                                         "[Common]\r\nNumberOfRecentFiles=" + value +
-                                         "\r\nShowControlsBackColor=" + value + "\r\n";
+    world.Files.Contents[VantorFile] = "[Tessera]\r\n" + content +
+                                       "[Common]\r\nNumberOfRecentFiles=" + value +
+                                       "\r\nShowControlsBackColor=" + value + "\r\n";
     world.Start();
     SCOPED_TRACE(value);
     ExpectWorkingProgram(world);
@@ -104,7 +104,7 @@ TEST(HostileValues, LongPathsAreOpenedAndSaved) {
 
 TEST(HostileValues, ALanguageFileIsShownAsItIs) {
   World world;
-  world.Files.Contents[SettingsFile] =
+  world.Files.Contents[VantorFile] =
       "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\x.lng\r\n";
   world.Files.Contents[L"C:\\x.lng"] =
       "[UserLanguage]\r\n3203=%s%n%d\x01 "
@@ -181,7 +181,7 @@ TEST(HostileValues, FilesThatVanishWhileOpenAreMadeAnewOrAskedFor) {
   world.Files.Contents[IniFile] = "[Shortcuts]\r\nF3=cm_Copy\r\n";
   world.Start();
   world.Assign(Pack, 0, L"X");
-  for (const std::wstring& path : {IniFile, SettingsFile, IncFile, DataFile}) {
+  for (const std::wstring& path : {IniFile, VantorFile, IncFile, DataFile}) {
     world.Files.Contents.erase(path);
   }
   world.Editor.FileSave();
@@ -191,7 +191,7 @@ TEST(HostileValues, FilesThatVanishWhileOpenAreMadeAnewOrAskedFor) {
   EXPECT_EQ(world.Editor.Document().Rows().Count(), 5U) << "the commands are read once";
   EXPECT_EQ(world.MessageBoxes.Shown.size(), 1U) << "about the default keys";
   world.Editor.Unload({}, {});
-  EXPECT_TRUE(world.Files.Contents.contains(SettingsFile));
+  EXPECT_TRUE(world.Files.Contents.contains(VantorFile));
 }
 
 TEST(HostileValues, ARegistryValueOfAnotherTypeOrWithoutItsEndLeadsToTheQuestion) {
@@ -233,19 +233,19 @@ TEST(HostileValues, AProgramFolderThatCannotBeWrittenStopsNothing) {
   EXPECT_FALSE(world.Editor.Document().Modified());
   EXPECT_EQ(world.Files.Contents[IniFile], "[Shortcuts]\r\nX=cm_Pack\r\n");
   world.Editor.Unload({}, {});
-  EXPECT_FALSE(world.Files.Contents.contains(SettingsFile));
+  EXPECT_FALSE(world.Files.Contents.contains(VantorFile));
   EXPECT_EQ(world.Editor.Options().MainWindowWidth, 0) << "as given to Unload";
 }
 
 TEST(HostileValues, ARecentFileOnAMissingDriveIsReportedAndGoes) {
   World world;
-  world.Files.Contents[SettingsFile] =
+  world.Files.Contents[VantorFile] =
       "[Tessera]\r\nRecentFiles1=Q:\\gone\\Wincmd.ini\r\nRecentFiles2=C:\\TC\\Wincmd.ini\r\n";
   world.Start();
   world.Editor.OpenRecentFile(2);
   ASSERT_EQ(world.MessageBoxes.Shown.size(), 1U);
   EXPECT_NE(world.MessageBoxes.Shown[0].Text.find(L"Q:\\gone\\Wincmd.ini"), std::wstring::npos);
-  EXPECT_EQ(world.Files.Contents[SettingsFile].find("gone"), std::string::npos);
+  EXPECT_EQ(world.Files.Contents[VantorFile].find("gone"), std::string::npos);
   ExpectWorkingProgram(world);
 }
 

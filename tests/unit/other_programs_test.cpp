@@ -131,13 +131,13 @@ TEST(OtherPrograms, SettingsHeldForAWhileAreSavedOrLeftAsTheyWere) {
   for (int held = 100; held <= 3000; held += 100) {
     World world;
     world.Files.Clock = &world.Clock;
-    world.Files.Held = SettingsFile;
-    world.Files.Contents[SettingsFile] = stored;
+    world.Files.Held = VantorFile;
+    world.Files.Contents[VantorFile] = stored;
     world.Start();
-    const std::string before = world.Files.Contents[SettingsFile] += "[Meanwhile]\n\xE4 = 1\n";
+    const std::string before = world.Files.Contents[VantorFile] += "[Meanwhile]\n\xE4 = 1\n";
     world.Files.HeldFor = held;
     world.Editor.Unload({.Left = 100}, {});
-    const std::string& after = world.Files.Contents[SettingsFile];
+    const std::string& after = world.Files.Contents[VantorFile];
     ASSERT_EQ(after == before, held > 2000) << held;
     ASSERT_TRUE(after.starts_with("[Other]\nx=1\n[Tessera]\r\n")) << held;
     ASSERT_TRUE(after.ends_with("[Meanwhile]\n\xE4 = 1\n") ||

@@ -72,11 +72,11 @@ std::vector<Scenario> Scenarios() {
        },
        save},
       {"vantor.ini",
-       {SettingsFile},
+       {VantorFile},
        false,
        [](World& world) {
          world.Files.Contents[IniFile] = Content;
-         world.Files.Contents[SettingsFile] =
+         world.Files.Contents[VantorFile] =
              "[Other]\nx=1\n[Tessera]\r\nFontSize=12\r\nMainWindowLeft=7";
          world.Start();
        },
@@ -320,12 +320,12 @@ TEST(SaveFaults, SettingsThatCouldNotBeReadAreNotReplacedByDefaults) {
   World world;
   const std::string stored = "[Tessera]\r\nFontSize=20\r\n";
   for (const FileError fault : Faults) {
-    world.Files.Contents[SettingsFile] = stored;
+    world.Files.Contents[VantorFile] = stored;
     world.Files.ReadErrors.assign(100, fault);
     world.Editor.Load();
     world.Files.ReadErrors.clear();
     world.Editor.Unload({}, {});
-    EXPECT_EQ(world.Files.Contents[SettingsFile], stored);
+    EXPECT_EQ(world.Files.Contents[VantorFile], stored);
   }
 }
 

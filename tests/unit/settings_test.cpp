@@ -19,10 +19,8 @@ const std::wstring Path = L"C:\\Tessera\\vantor.ini";
 
 class SettingsTest : public testing::Test {
  protected:
-  Settings Load() { return LoadSettings(files_, clock_, environment_); }
-  FileError Save(const Settings& settings) {
-    return SaveSettings(settings, files_, clock_, environment_);
-  }
+  Settings Load() { return LoadSettings(file_.Read(), file_, environment_); }
+  FileError Save(const Settings& settings) { return SaveSettings(settings, file_); }
 
   /// Loads a file that holds these lines in section "Tessera".
   Settings LoadLines(const std::string& lines) {
@@ -50,13 +48,8 @@ class SettingsTest : public testing::Test {
   FaultyFiles files_;
   FakeClock clock_;
   FakeEnvironment environment_;
+  SettingsFile file_{files_, clock_, environment_};
 };
-
-TEST_F(SettingsTest, FileLiesInTheProgramsFolder) {
-  EXPECT_EQ(SettingsPath(environment_), Path);
-  environment_.Directory = L"D:\\";
-  EXPECT_EQ(SettingsPath(environment_), L"D:\\vantor.ini");
-}
 
 TEST_F(SettingsTest, MissingFileIsCreatedWithTheDefaults) {
   const Settings settings = Load();
