@@ -48,7 +48,7 @@ void RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
   if (request.CloseIt) return;
   const std::wstring arguments = request.ArgPrefix + L'"' + request.WincmdPath + L'"';
   // The user's keys are saved by now; that Total Commander does not start is plain to see.
-  (void)programs.Start(request.WithIni ? executable + arguments : executable);
+  static_cast<void>(programs.Start(request.WithIni ? executable + arguments : executable));
 }
 
 }  // namespace tessera

@@ -96,7 +96,7 @@ void TidyUp(Files& files, Patience& patience, const Names& names, KeepCopies cop
   }
   // The former content gets its lasting name only now, so that a failed save never costs the
   // backup of the save before it.
-  (void)patience.Try([&] { return files.Move(names.Former(), names.Backup()); });
+  static_cast<void>(patience.Try([&] { return files.Move(names.Former(), names.Backup()); }));
   files.Remove(names.Unsaved());
 }
 
@@ -162,7 +162,7 @@ void ClearLeftOvers(Files& files, const std::wstring& path, KeepCopies copies) {
         copies == KeepCopies::Yes &&
         CompareWith(content, files, names.Former()) == FileError::ChangedMeanwhile;
     if (isBackup)
-      (void)files.Move(names.Former(), names.Backup());
+      static_cast<void>(files.Move(names.Former(), names.Backup()));
     else
       files.Remove(names.Former());
   }

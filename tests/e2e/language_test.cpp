@@ -68,7 +68,7 @@ class LanguageTest : public EndToEndTest {
     for (const wchar_t* caption :
          {L"\u00D6&ffnen...", L"&Speichern", L"In die Z&wischenablage exportieren...",
           L"&Zuletzt ge\u00F6ffnete Dateien", L"&Beenden"})
-      (void)WaitForMenuEntry(menu, caption);
+      static_cast<void>(WaitForMenuEntry(menu, caption));
     window_->CloseMenus();
   }
 

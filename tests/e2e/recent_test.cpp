@@ -165,7 +165,7 @@ TEST_F(RecentTest, ClearedListIsEmptyAndSaysSo) {
   EXPECT_FALSE(WaitForMenuEntry(menu, L"Clear List").Enabled);
   window_->CloseMenus();
   const HWND buttonMenu = window_->OpenButtonMenu(IDC_Toolbar1, IDM_mnuFileOpen);
-  (void)WaitForMenuEntry(buttonMenu, L"No Recent Files");
+  static_cast<void>(WaitForMenuEntry(buttonMenu, L"No Recent Files"));
 }
 
 TEST_F(RecentTest, UnsavedChangesAreAskedForFirst) {

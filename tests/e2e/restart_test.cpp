@@ -47,7 +47,7 @@ class RestartTest : public EndToEndTest {
 
   void StartStandIn() {
     standIn_ = std::make_unique<Program>(StandInPath(), commanderPath_);
-    (void)WaitForStandIn();
+    static_cast<void>(WaitForStandIn());
   }
 
   [[nodiscard]] std::string Log() const { return ReadBytes(folder_.Commander() + L"stand-in.log"); }
@@ -69,7 +69,7 @@ TEST_F(RestartTest, SaveAndRestartClosesItBeforeTheSaveAndStartsItAfterwards) {
   window_->ChooseFromButtonMenu(IDC_Toolbar1, IDM_mnuFileSave, 1);
   WaitFor("the save to end", [&] { return !Modified(); });
   standIn_->WaitForEnd();
-  (void)WaitForStandIn();
+  static_cast<void>(WaitForStandIn());
   const std::string saved = ReadBytes(folder_.WincmdIni());
   EXPECT_EQ(saved, WithShortcuts(original_, ExpectedShortcuts(window_->Rows())));
   EXPECT_EQ(ReadBytes(folder_.Commander() + L"at-close.ini"), original_);
@@ -107,7 +107,7 @@ TEST_F(RestartTest, MenuItemRestartsItToo) {
   Press(VK_DOWN);
   Press(VK_RETURN);
   standIn_->WaitForEnd();
-  (void)WaitForStandIn();
+  static_cast<void>(WaitForStandIn());
   EXPECT_EQ(SectionValue(ReadBytes(folder_.WincmdIni()), "Shortcuts", "CA+K"), "cm_SrcShort");
 }
 
@@ -127,7 +127,7 @@ TEST_F(RestartTest, EverySaveRestartsItWhenTheSettingSaysSo) {
   MakeAChange();
   Save();
   standIn_->WaitForEnd();
-  (void)WaitForStandIn();
+  static_cast<void>(WaitForStandIn());
   EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();
 }
 
@@ -136,7 +136,7 @@ TEST_F(RestartTest, SaveStartsOneThatWasNotRunningWhenTheSettingSaysSo) {
   StartAndLoad();
   MakeAChange();
   Save();
-  (void)WaitForStandIn();
+  static_cast<void>(WaitForStandIn());
   EXPECT_EQ(Log(), "start " + CommandLineAfterRestart() + "\n");
 }
 
@@ -148,7 +148,7 @@ TEST_F(RestartTest, ClosingWithYesRestartsItWhenTheSettingSaysSo) {
   PostMessageW(window_->Handle(), WM_CLOSE, 0, 0);
   Answer(NextBox(), IDYES);
   EXPECT_EQ(program_->WaitForEnd(), 0U);
-  (void)WaitForStandIn();
+  static_cast<void>(WaitForStandIn());
   EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();
 }
 
@@ -164,7 +164,7 @@ TEST_F(RestartOf64BitTest, TheOnlyExecutableThereIsStarted) {
   StartAndLoad();
   MakeAChange();
   Save();
-  (void)WaitForStandIn();
+  static_cast<void>(WaitForStandIn());
   EXPECT_EQ(Log(), "start " + CommandLineAfterRestart() + "\n");
 }
 

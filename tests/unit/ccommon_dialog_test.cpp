@@ -28,7 +28,7 @@ TEST(FilterText, EachIndexHasItsPairs) {
 }
 
 TEST(FilterText, IndexOutsideTheTableIsAProgrammingError) {
-  EXPECT_THROW((void)FilterText(static_cast<FileFilter>(10)), std::out_of_range);
+  EXPECT_THROW(static_cast<void>(FilterText(static_cast<FileFilter>(10))), std::out_of_range);
 }
 
 class cCommonDialogTest : public testing::Test {
