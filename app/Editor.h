@@ -10,6 +10,7 @@
 #include "app/Document.h"
 #include "app/InputFiles.h"
 #include "app/LoadProgress.h"
+#include "app/Placement.h"
 #include "editing/CommandList.h"
 #include "editing/HotkeyAssignment.h"
 #include "editing/HotkeyPanel.h"
@@ -25,16 +26,6 @@
 #include "settings/SettingsFile.h"
 
 namespace tessera {
-
-/// Where the window stands, in twips.
-struct WindowPlacement {
-  bool Minimised = false;
-  bool Maximised = false;
-  int Left = 0;
-  int Top = 0;
-  int Width = 0;
-  int Height = 0;
-};
 
 /// What the window has to do after the options dialog.
 struct OptionsOutcome {

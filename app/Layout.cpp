@@ -7,26 +7,25 @@ namespace tessera {
 
 namespace {
 
-constexpr int TwipsPerInch = 1440;
-
 /// One screen pixel is the unit of the gaps around the list, at any resolution.
 constexpr int Pixel = 1;
 constexpr int SideGap = 5 * Pixel;
 
-bool Overlaps(const Area& first, const Area& second) {
-  return first.Left < second.Left + second.Width && second.Left < first.Left + first.Width &&
-         first.Top < second.Top + second.Height && second.Top < first.Top + first.Height;
+/// Lengths in the panel, for 96 pixels an inch.
+constexpr int BoxMarkWidth = 22;
+constexpr int BoxFocusHeight = 4;
+constexpr int PanelMargin = 10;
+constexpr int ItemGap = 12;
+constexpr int ChooserWidth = 150;
+constexpr int RoomAroundControls = 16;
+
+Area PlaceAllKeysButton(const Area& chooser, int dpi) {
+  const int width = Scaled(15, dpi);
+  return {chooser.Left + chooser.Width - width - Scaled(2, dpi), chooser.Top + Scaled(3, dpi),
+          width, Scaled(16, dpi)};
 }
 
 }  // namespace
-
-int TwipsToPixels(int twips, int dpi) { return Ratio(twips, dpi, TwipsPerInch); }
-
-int PixelsToTwips(int pixels, int dpi) { return Ratio(pixels, TwipsPerInch, dpi); }
-
-int PixelsToTwips(int pixels, int dpi, int storedTwips) {
-  return TwipsToPixels(storedTwips, dpi) == pixels ? storedTwips : PixelsToTwips(pixels, dpi);
-}
 
 MainLayout LayOutMainWindow(int innerWidth, int innerHeight, int toolbarHeight, int frameHeight) {
   const int listTop = toolbarHeight + Pixel;
@@ -37,21 +36,35 @@ MainLayout LayOutMainWindow(int innerWidth, int innerHeight, int toolbarHeight, 
           .Frame1 = {SideGap, listTop + listHeight, listWidth, frameHeight}};
 }
 
-std::vector<Area> LayOutRow(std::span<const RowItem> items, int rowHeight) {
-  std::vector<Area> areas;
-  int left = 0;
-  for (const RowItem& item : items) {
-    left += item.Gap;
-    areas.push_back({left, (rowHeight - item.Height) / 2, item.Width, item.Height});
-    left += item.Width;
-  }
-  return areas;
+PanelLayout LayOutPanel(const PanelSizes& sizes, int dpi) {
+  const auto scaled = [dpi](int pixels) { return Scaled(pixels, dpi); };
+  const int height =
+      std::max(sizes.ChooserHeight, sizes.Toolbar.Height) + scaled(RoomAroundControls);
+  int right = 0;
+  const auto place = [&](int gap, const Size& size) {
+    const Area area{right + scaled(gap), (height - size.Height) / 2, size.Width, size.Height};
+    right = area.Left + area.Width;
+    return area;
+  };
+  PanelLayout layout;
+  layout.Label = place(PanelMargin, sizes.Label);
+  std::ranges::transform(sizes.Boxes, layout.Boxes.begin(), [&](const Size& text) {
+    return place(ItemGap,
+                 {text.Width + scaled(BoxMarkWidth), text.Height + scaled(BoxFocusHeight)});
+  });
+  layout.Chooser = place(ItemGap, {scaled(ChooserWidth), sizes.ChooserHeight});
+  layout.Toolbar = place(ItemGap, sizes.Toolbar);
+  layout.AllKeysButton = PlaceAllKeysButton(layout.Chooser, dpi);
+  layout.Whole = {right + scaled(PanelMargin), height};
+  return layout;
 }
 
-Area PlaceAllKeysButton(const Area& chooser, int dpi) {
-  const int width = Scaled(15, dpi);
-  return {chooser.Left + chooser.Width - width - Scaled(2, dpi), chooser.Top + Scaled(3, dpi),
-          width, Scaled(16, dpi)};
+Size SmallestInside(const Size& panel, int dpi) {
+  return {panel.Width + Scaled(10, dpi), panel.Height + Scaled(160, dpi)};
+}
+
+Area PlaceProgressBar(const Area& list, int dpi) {
+  return Centred(list, Scaled(320, dpi), Scaled(18, dpi));
 }
 
 Area PlaceKeysList(const KeysListRoom& room, int width, int height) {
@@ -65,39 +78,6 @@ Area PlaceKeysList(const KeysListRoom& room, int width, int height) {
   const int rightmost = screen.Left + std::max(0, screen.Width - width);
   return {std::clamp(left, screen.Left, rightmost), std::clamp(top, screen.Top, lowest), width,
           height};
-}
-
-Area MakeReachable(const Area& window, std::span<const Area> screens, int dpi) {
-  // The part of the title bar between the icon and the buttons is what a window is moved by.
-  const int ends = std::min(Scaled(100, dpi), window.Width / 3);
-  const Area grip{window.Left + ends, window.Top, window.Width - 2 * ends, Scaled(24, dpi)};
-  const bool reachable = std::ranges::any_of(screens, [&](const Area& screen) {
-    return Overlaps(grip, screen) && grip.Top >= screen.Top - Scaled(8, dpi);
-  });
-  if (reachable || screens.empty()) {
-    return window;
-  }
-  const Area& screen = screens.front();
-  const int width = std::min(window.Width, screen.Width);
-  const int height = std::min(window.Height, screen.Height);
-  return {std::clamp(window.Left, screen.Left, screen.Left + screen.Width - width),
-          std::clamp(window.Top, screen.Top, screen.Top + screen.Height - height), width, height};
-}
-
-std::array<int, 4> OrderOfPositions(const std::array<int, 4>& positions) {
-  std::array<int, 4> order{};
-  for (std::size_t column = 0; column < positions.size(); ++column) {
-    order.at(static_cast<std::size_t>(positions[column] - 1)) = static_cast<int>(column);
-  }
-  return order;
-}
-
-std::array<int, 4> PositionsOfOrder(const std::array<int, 4>& order) {
-  std::array<int, 4> positions{};
-  for (std::size_t place = 0; place < order.size(); ++place) {
-    positions.at(static_cast<std::size_t>(order[place])) = static_cast<int>(place) + 1;
-  }
-  return positions;
 }
 
 }  // namespace tessera

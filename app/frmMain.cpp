@@ -1,7 +1,6 @@
 // The events of the main window, from its making to its end.
 #include "app/frmMain.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/win32/DroppedFile.h"
@@ -10,10 +9,6 @@
 namespace tessera {
 
 namespace {
-
-constexpr wchar_t WindowClass[] = L"frmMain";
-
-constexpr UINT_PTR Timer1 = 1;
 
 /// Posted at an activation, so that the window stands on the screen before files are loaded.
 constexpr UINT ActivationMessage = WM_APP + 1;
@@ -30,14 +25,10 @@ bool MenuIsOpen() {
 frmMain::frmMain(WindowsSystem& windowsSystem)
     : windowsSystem_(windowsSystem),
       editor_(windowsSystem.Seams(),
-              [this](const LoadProgress& progress) { ShowProgress(progress); }),
+              [this](const LoadProgress& progress) { views_.Show(progress); }),
       frmOptions_(editor_.Language(), editor_.Options()),
       frmExportToClipboard_(editor_.Language(), editor_.Options()),
-      frmKeysList_(
-          {.Select = [this](int index) { React(editor_.Work(&KeysList::Select, index)); },
-           .KeyDown = [this](KeyCode code) { React(editor_.Work(&KeysList::KeyDown, code)); },
-           .ReleaseMouse = [this] { editor_.Work(&KeysList::ReleaseMouse); },
-           .Close = [this] { React(editor_.Work(&KeysList::KeyDown, KeyCode::Escape)); }}) {
+      views_(editor_, ListEvents(), PanelEvents(), KeysListEvents()) {
   windowsSystem_.SetMessageFilter([this](MSG& message) { return FilterMessage(message); });
 }
 
@@ -45,29 +36,20 @@ frmMain::~frmMain() { windowsSystem_.SetMessageFilter(nullptr); }
 
 bool frmMain::Form_Load(std::wstring fileToOpen) {
   editor_.Load(std::move(fileToOpen));
-  RegisterWindowClass(WindowClass, WindowProcedure);
-  const DWORD direction = editor_.Language().RightToLeft() ? WS_EX_LAYOUTRTL : 0;
-  CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES | direction, WindowClass,
-                  editor_.Document().Caption().c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                  CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr),
-                  this);
-  if (window_ == nullptr) {
-    return false;
-  }
+  if (!Create()) return false;
   windowsSystem_.SetMainWindow(window_);
-  dpi_ = static_cast<int>(GetDpiForWindow(window_));
-  CreateControls();
-  ApplyLanguage();
+  views_.Create(window_, dpi_);
+  views_.ApplyLanguage();
   ApplyDpi();
   ApplyPlacement();
-  ApplyDisplaySettings();
+  views_.ApplyDisplaySettings();
   Sync();
   return true;
 }
 
 void frmMain::Show(int showCommand) {
   const bool maximised = editor_.Options().MainWindowMaxmized == 1;
-  lastFocus_ = ListView1_;
+  lastFocus_ = views_.List().Control();
   ShowWindow(window_, maximised ? SW_SHOWMAXIMIZED : showCommand);
 }
 
@@ -85,21 +67,19 @@ LRESULT CALLBACK frmMain::WindowProcedure(HWND window, UINT message, WPARAM wPar
 LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
-      LayOut();
-      MoveKeysList();
+      views_.LayOut();
+      views_.MoveKeysList();
       return 0;
     case WM_COMMAND:
-      if (!OnPanelCommand(LOWORD(wParam), HIWORD(wParam))) {
-        OnCommand(LOWORD(wParam), reinterpret_cast<HWND>(lParam));
-      }
+      OnCommand(LOWORD(wParam), reinterpret_cast<HWND>(lParam));
       return 0;
     case WM_NOTIFY:
-      return OnNotify(*reinterpret_cast<NMHDR*>(lParam), lParam);
+      return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
     case WM_DROPFILES:
       OnDropFile(TakeDroppedFile(reinterpret_cast<HDROP>(wParam)));
       return 0;
     case WM_MOVE:
-      MoveKeysList();
+      views_.MoveKeysList();
       return 0;
     case WM_INITMENUPOPUP:
       OnInitMenu();
@@ -137,7 +117,7 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_GETMINMAXINFO: {
-      const SIZE smallest = SmallestSize();
+      const SIZE smallest = views_.SmallestSize();
       reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest.cx, smallest.cy};
       return 0;
     }
@@ -150,23 +130,17 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_PAINT:
       // Not before, so that it has its rows unless they take long: a scroll bar that came later
       // would have it painted once more.
-      ShowWindow(ListView1_, SW_SHOWNA);
+      views_.ShowList();
       break;
     case WM_DPICHANGED:
       OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
     case WM_SYSCOLORCHANGE:
-      ForwardToControls(message, wParam, lParam);
-      ApplyDisplaySettings();
+      views_.Forward(message, wParam, lParam);
+      views_.ApplyDisplaySettings();
       break;
     case WM_THEMECHANGED:
-      ApplyDisplaySettings();
-      break;
-    case WM_CTLCOLORSTATIC:
-    case WM_CTLCOLORBTN:
-      if (editor_.Options().ShowControlsBackColor != 0 && IsTranslatorsControl(lParam)) {
-        return ColourControl(wParam);
-      }
+      views_.ApplyDisplaySettings();
       break;
     default:
       break;
@@ -174,12 +148,12 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefWindowProcW(window_, message, wParam, lParam);
 }
 
-LRESULT frmMain::OnNotify(NMHDR& header, LPARAM lParam) {
+LRESULT frmMain::OnNotify(NMHDR& header) {
   if (header.code == TBN_DROPDOWN) {
-    OnDropDown(*reinterpret_cast<const NMTOOLBARW*>(lParam));
+    OnDropDown(reinterpret_cast<const NMTOOLBARW&>(header));
     return TBDDRET_DEFAULT;
   }
-  return header.hwndFrom == ListView1_ ? OnListNotify(header) : 0;
+  return header.hwndFrom == views_.List().Control() ? views_.OnListNotify(header) : 0;
 }
 
 void frmMain::OnActivate(WPARAM wParam) {
@@ -203,13 +177,11 @@ void frmMain::OnTimer() {
 }
 
 void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
-  const std::array<int, 4> widths = CurrentColumns().Widths;
   dpi_ = dpi;
   ApplyDpi();
-  SetColumnWidths(widths);
   SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-  LayOut();
+  views_.LayOut();
 }
 
 void frmMain::Form_Activate() {
@@ -234,7 +206,7 @@ bool frmMain::MayClose() {
 }
 
 void frmMain::Form_Unload() {
-  editor_.Unload(CurrentPlacement(), CurrentColumns());
+  editor_.Unload(CurrentPlacement(), views_.List().Columns());
   KillTimer(window_, Timer1);
   windowsSystem_.SetMainWindow(nullptr);
   PostQuitMessage(0);
@@ -245,13 +217,7 @@ void frmMain::OnDropFile(const std::wstring& path) {
     SetForegroundWindow(window_);
     editor_.OpenShortcutFile(false, path, true);
     Sync();
-    ShowSelectedRow();
-  }
-}
-
-void frmMain::ForwardToControls(UINT message, WPARAM wParam, LPARAM lParam) const {
-  for (const HWND control : {Toolbar1_, ListView1_, Toolbar2_, ProgressBar1_}) {
-    SendMessageW(control, message, wParam, lParam);
+    views_.ShowSelectedRow();
   }
 }
 
@@ -259,32 +225,12 @@ bool frmMain::AcceptsInput() const {
   return IsWindowEnabled(window_) != FALSE && !editor_.Document().Busy();
 }
 
-void frmMain::React(const Reaction& reaction) {
-  if (reaction.StartTimer) {
-    SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr);
-  }
-  if (reaction.Changed) {
-    Sync();
-  } else {
-    SyncPanel();
-    SyncCommands();
-    SyncKeysList();
-  }
-  if (!AcceptsInput() || reaction.FocusTo == Reaction::Focus::Unchanged) {
-    return;
-  }
-  SetFocus(reaction.FocusTo == Reaction::Focus::Chooser ? Combo1_ : ListView1_);
-}
-
 void frmMain::Sync() {
   if (GetDlgItem(window_, IDC_ListView1) == nullptr) {
     return;
   }
   SetText(window_, editor_.Document().Caption());
-  SyncList();
-  SyncPanel();
-  SyncCommands();
-  SyncKeysList();
+  views_.Sync();
 }
 
 }  // namespace tessera

@@ -115,7 +115,7 @@ std::optional<INT_PTR> frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lPa
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
     case WM_CTLCOLOREDIT:
-      return ColourControl(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+      return ColorControl(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
     case WM_DPICHANGED:
       ApplyDpi(HIWORD(wParam));
       return TRUE;

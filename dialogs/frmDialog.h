@@ -78,7 +78,7 @@ class frmDialog {
   void DrawTabBackground(SIZE size);
   void DrawBackground(HDC context) const;
   void DrawSwatch(const DRAWITEMSTRUCT& draw) const;
-  [[nodiscard]] std::optional<INT_PTR> ColourControl(HDC context, HWND control);
+  [[nodiscard]] std::optional<INT_PTR> ColorControl(HDC context, HWND control);
   [[nodiscard]] const DialogControl* Find(int id) const;
 
   const DialogPlan& plan_;

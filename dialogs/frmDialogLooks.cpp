@@ -9,8 +9,6 @@ namespace tessera {
 
 namespace {
 
-constexpr COLORREF Aqua = RGB(0, 255, 255);
-
 /// For 96 pixels an inch.
 constexpr int SmallestPageWidth = 210;
 constexpr int TitleRoom = 70;  ///< the close button, and what is around the title
@@ -170,13 +168,13 @@ void frmDialog::DrawBackground(HDC context) const {
   FillRect(context, &page, tabBackground_.get());
 }
 
-std::optional<INT_PTR> frmDialog::ColourControl(HDC context, HWND control) {
+std::optional<INT_PTR> frmDialog::ColorControl(HDC context, HWND control) {
   const DialogControl* const found = Find(GetDlgCtrlID(control));
   if (found == nullptr) {
     return std::nullopt;
   }
   if (settings_.ShowControlsBackColor != 0 && IsTranslatorsControl(found->Kind)) {
-    SetBkColor(context, Aqua);
+    SetBkColor(context, TranslatorsColor);
     return reinterpret_cast<INT_PTR>(translatorsBrush_.get());
   }
   if (tabs_ == nullptr || found->Kind == ControlKind::TextBox) {

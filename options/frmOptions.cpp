@@ -65,7 +65,7 @@ constexpr Box Boxes[] = {
     {IDC_chkReverseOrderHotkey, OptionBox::ReverseOrderHotkey},
 };
 
-OptionColor ColorOf(int swatchId) {
+OptionColor SwatchOf(int swatchId) {
   return swatchId == IDC_lblColorChange0 ? OptionColor::Foreground : OptionColor::Background;
 }
 
@@ -97,7 +97,7 @@ void frmOptions::Sync() {
   InvalidateRect(Control(IDC_lblColorChange1), nullptr, FALSE);
 }
 
-COLORREF frmOptions::SwatchColor(int id) const { return ColourOf(model_->Color(ColorOf(id))); }
+COLORREF frmOptions::SwatchColor(int id) const { return ColorOf(model_->Color(SwatchOf(id))); }
 
 void frmOptions::OnCommand(int id, int notification) {
   if (id == IDC_txtLanguageFilePath) {
@@ -126,7 +126,7 @@ void frmOptions::OnClick(int id) {
   switch (id) {
     case IDC_lblColorChange0:
     case IDC_lblColorChange1:
-      model_->PickColor(ColorOf(id));
+      model_->PickColor(SwatchOf(id));
       break;
     case IDC_cmdChangeFont:
       model_->PickFont();

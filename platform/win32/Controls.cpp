@@ -17,6 +17,17 @@ constexpr GUID AccessibleInterface{
 constexpr GUID AccessibleName{
     0x608d3df8, 0x8128, 0x4aa7, {0xa4, 0x28, 0xf5, 0x5e, 0x49, 0x26, 0x72, 0x91}};
 
+BOOL CALLBACK AddWorkArea(HMONITOR monitor, HDC /*context*/, RECT* /*area*/, LPARAM result) {
+  MONITORINFO information{};
+  information.cbSize = sizeof information;
+  if (GetMonitorInfoW(monitor, &information) != FALSE) {
+    auto& areas = *reinterpret_cast<std::vector<Area>*>(result);
+    const bool primary = (information.dwFlags & MONITORINFOF_PRIMARY) != 0;
+    areas.insert(primary ? areas.begin() : areas.end(), AreaOf(information.rcWork));
+  }
+  return TRUE;
+}
+
 }  // namespace
 
 void RegisterWindowClass(const wchar_t* name, WNDPROC procedure, UINT style, int extraBytes) {
@@ -102,7 +113,7 @@ SIZE TextSize(HWND control, HFONT font, const std::wstring& text) {
   return {room.right, room.bottom};
 }
 
-COLORREF ColourOf(int setting) {
+COLORREF ColorOf(int setting) {
   const auto bits = static_cast<unsigned>(setting);
   return (bits & 0x80000000U) != 0 ? GetSysColor(static_cast<int>(bits & 0xFFU))
                                    : bits & 0x00FFFFFFU;
@@ -124,6 +135,12 @@ Area WorkArea(HWND window) {
   information.cbSize = sizeof information;
   GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &information);
   return AreaOf(information.rcWork);
+}
+
+std::vector<Area> WorkAreas() {
+  std::vector<Area> areas;
+  EnumDisplayMonitors(nullptr, nullptr, AddWorkArea, reinterpret_cast<LPARAM>(&areas));
+  return areas;
 }
 
 void Place(HWND control, const Area& area) {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include "platform/Area.h"
 
@@ -59,13 +60,19 @@ void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
 [[nodiscard]] SIZE TextSize(HWND control, HFONT font, const std::wstring& text);
 
 /// A colour of the settings: 0x00BBGGRR, or a system colour when the highest bit is set.
-[[nodiscard]] COLORREF ColourOf(int setting);
+[[nodiscard]] COLORREF ColorOf(int setting);
+
+/// Behind texts, for translators, who see by it how much room these have.
+inline constexpr COLORREF TranslatorsColor = RGB(0, 255, 255);
 
 [[nodiscard]] Area WindowArea(HWND window);
 [[nodiscard]] Area AreaOf(const RECT& rectangle);
 
 /// The part of the screen that programs may use, on the monitor where most of the window is.
 [[nodiscard]] Area WorkArea(HWND window);
+
+/// The same of all monitors, the primary one first.
+[[nodiscard]] std::vector<Area> WorkAreas();
 
 void Place(HWND control, const Area& area);
 

@@ -117,7 +117,7 @@ TEST_F(KeyEdits, AnOwnerWithADefaultKeyKeepsItsIconUnlessThatIsOverridden) {
   EXPECT_EQ(Row(Refresh).Icon, RowIcon::None);
 }
 
-TEST_F(KeyEdits, ReleasingKeysWithdrawsTheirMarksButNotTheColour) {
+TEST_F(KeyEdits, ReleasingKeysWithdrawsTheirMarksButNotTheColor) {
   ASSERT_EQ(Row(Search).DefaultKeys, L"F9 *");
   ReleaseCurrentKeys(catalogue_, Sync, notation_);
   EXPECT_EQ(Row(Sync).CurrentKeys, L"---");

@@ -7,31 +7,6 @@ namespace tessera::layout_test {
 
 namespace {
 
-TEST(Layout, TwipsArePixelsAtAnyResolution) {
-  struct Case {
-    int Twips;
-    int Dpi;
-    int Pixels;
-  };
-  for (const Case& given : {Case{3000, 96, 200}, Case{3000, 144, 300}, Case{3000, 192, 400},
-                            Case{0, 96, 0}, Case{-150, 96, -10}, Case{7, 96, 0}, Case{8, 96, 1}}) {
-    EXPECT_EQ(TwipsToPixels(given.Twips, given.Dpi), given.Pixels) << given.Twips;
-  }
-}
-
-TEST(Layout, PixelsSurviveTheWayThroughTwips) {
-  for (const int dpi : {96, 120, 144, 168, 192, 288}) {
-    for (int pixels = -2000; pixels <= 2000; ++pixels) {
-      ASSERT_EQ(TwipsToPixels(PixelsToTwips(pixels, dpi), dpi), pixels) << dpi;
-    }
-  }
-}
-
-TEST(Layout, UnchangedLengthKeepsItsTwips) {
-  EXPECT_EQ(PixelsToTwips(133, 96, 2000), 2000);
-  EXPECT_EQ(PixelsToTwips(134, 96, 2000), 2010);
-}
-
 TEST(Layout, ListFillsTheWindowBetweenToolbarAndPanel) {
   const MainLayout layout = LayOutMainWindow(800, 600, 30, 50);
   EXPECT_EQ(layout.Toolbar1, (Area{0, 0, 800, 30}));
@@ -54,40 +29,40 @@ TEST(Layout, TooSmallAWindowGivesNoNegativeSize) {
   EXPECT_EQ(layout.ListView1.Height, 0);
 }
 
-TEST(Layout, RowItemsStandSideBySideInTheMiddleOfTheRow) {
-  const std::vector<RowItem> items{{10, 40, 20}, {6, 50, 30}};
-  EXPECT_EQ(LayOutRow(items, 40), (std::vector<Area>{{10, 10, 40, 20}, {56, 5, 50, 30}}));
+TEST(Layout, PanelControlsStandSideBySideInTheMiddleOfThePanel) {
+  const PanelLayout layout = LayOutPanel({.Label = {40, 16},
+                                          .Boxes = {Size{20, 16}, Size{30, 16}, Size{40, 16}},
+                                          .ChooserHeight = 22,
+                                          .Toolbar = {90, 24}},
+                                         96);
+  EXPECT_EQ(layout.Label, (Area{10, 12, 40, 16}));
+  EXPECT_EQ(layout.Boxes,
+            (std::array{Area{62, 10, 42, 20}, Area{116, 10, 52, 20}, Area{180, 10, 62, 20}}));
+  EXPECT_EQ(layout.Chooser, (Area{254, 9, 150, 22}));
+  EXPECT_EQ(layout.Toolbar, (Area{416, 8, 90, 24}));
+  EXPECT_EQ(layout.Whole.Width, 516);
+  EXPECT_EQ(layout.Whole.Height, 40);
 }
 
 TEST(Layout, AllKeysButtonStandsOverTheRightEndOfTheChooser) {
-  const Area chooser{200, 8, 150, 21};
-  EXPECT_EQ(PlaceAllKeysButton(chooser, 96), (Area{333, 11, 15, 16}));
-  EXPECT_EQ(PlaceAllKeysButton(chooser, 192), (Area{316, 14, 30, 32}));
+  const PanelLayout layout = LayOutPanel({.ChooserHeight = 21}, 96);
+  EXPECT_EQ(layout.Chooser, (Area{124, 8, 150, 21}));
+  EXPECT_EQ(layout.AllKeysButton, (Area{257, 11, 15, 16}));
+  EXPECT_EQ(LayOutPanel({.ChooserHeight = 42}, 192).AllKeysButton, (Area{514, 22, 30, 32}));
+}
+
+TEST(Layout, SmallestWindowHasRoomForThePanelAndSomeRows) {
+  EXPECT_EQ(SmallestInside({500, 40}, 96).Width, 510);
+  EXPECT_EQ(SmallestInside({500, 40}, 192).Height, 360);
+}
+
+TEST(Layout, ProgressBarStandsInTheMiddleOfTheList) {
+  EXPECT_EQ(PlaceProgressBar({5, 31, 790, 520}, 96), (Area{240, 282, 320, 18}));
 }
 
 TEST(Layout, CentredThingIsNoWiderThanItsRoom) {
   EXPECT_EQ(Centred({5, 10, 200, 100}, 100, 20), (Area{55, 50, 100, 20}));
   EXPECT_EQ(Centred({5, 10, 60, 100}, 100, 20), (Area{5, 50, 60, 20}));
-}
-
-TEST(Layout, WindowOnAScreenStaysWhereItIs) {
-  const std::vector<Area> screens{{0, 0, 1920, 1040}, {1920, 0, 1280, 1024}};
-  for (const Area& window : {Area{0, 0, 574, 482}, Area{2000, 100, 600, 400},
-                             Area{-200, 300, 600, 400}, Area{-5, -5, 1930, 1050}}) {
-    EXPECT_EQ(MakeReachable(window, screens, 96), window);
-  }
-}
-
-TEST(Layout, WindowOffEveryScreenMovesIntoTheFirst) {
-  const std::vector<Area> screens{{0, 0, 1920, 1040}, {1920, 0, 1280, 1024}};
-  EXPECT_EQ(MakeReachable({4000, 100, 600, 400}, screens, 96), (Area{1320, 100, 600, 400}));
-  EXPECT_EQ(MakeReachable({100, -400, 600, 400}, screens, 96), (Area{100, 0, 600, 400}));
-  EXPECT_EQ(MakeReachable({-900, 2000, 600, 400}, screens, 96), (Area{0, 640, 600, 400}));
-  EXPECT_EQ(MakeReachable({5000, 0, 3000, 2000}, screens, 96), (Area{0, 0, 1920, 1040}));
-}
-
-TEST(Layout, WindowStaysWhereThereAreNoScreens) {
-  EXPECT_EQ(MakeReachable({4000, 100, 600, 400}, {}, 96), (Area{4000, 100, 600, 400}));
 }
 
 TEST(Layout, KeysListOpensUnderThePanelFlushWithTheButton) {
@@ -116,34 +91,6 @@ TEST(Layout, KeysListStaysOnTheScreen) {
   const Area panel{1200, 200, 600, 40};
   const Area button{1300, 210, 15, 16};
   EXPECT_EQ(PlaceKeysList({panel, button, screen}, 160, 300), (Area{1280, 0, 160, 300}));
-}
-
-TEST(Layout, ColumnPositionsAndOrderAreInverse) {
-  const std::array<int, 4> positions{3, 1, 4, 2};
-  EXPECT_EQ(OrderOfPositions(positions), (std::array<int, 4>{1, 3, 0, 2}));
-  EXPECT_EQ(PositionsOfOrder(OrderOfPositions(positions)), positions);
-}
-
-TEST(Layout, WindowThatOnlyTouchesAScreenIsOffIt) {
-  const std::vector<Area> screens{{0, 0, 1920, 1040}};
-  const auto placed = [&](int left, int top) {
-    return MakeReachable({left, top, 600, 400}, screens, 96);
-  };
-  // What counts is the title bar without its ends, 100 pixels each.
-  EXPECT_EQ(placed(1819, 100).Left, 1819);
-  EXPECT_EQ(placed(1820, 100).Left, 1320);
-  EXPECT_EQ(placed(-499, 100).Left, -499);
-  EXPECT_EQ(placed(-500, 100).Left, 0);
-  EXPECT_EQ(placed(100, 1039).Top, 1039);
-  EXPECT_EQ(placed(100, 1040).Top, 640);
-  EXPECT_EQ(placed(100, -8).Top, -8);
-  EXPECT_EQ(placed(100, -9).Top, 0);
-}
-
-TEST(Layout, NarrowWindowIsMovedByItsMiddleThird) {
-  const std::vector<Area> screens{{0, 0, 1920, 1040}};
-  EXPECT_EQ(MakeReachable({1879, 100, 120, 400}, screens, 96).Left, 1879);
-  EXPECT_EQ(MakeReachable({1880, 100, 120, 400}, screens, 96).Left, 1800);
 }
 
 TEST(Layout, KeysListThatJustFitsOpensUnderThePanel) {

@@ -114,7 +114,7 @@ TEST_F(OptionsSelectionTest, WithoutApplyBoxesAndLanguageStayAsTheyWere) {
 
 // -- Colours and font
 
-TEST_F(OptionsSelectionTest, AColourIsInTheSettingsAtOnceAndStaysAfterCancel) {
+TEST_F(OptionsSelectionTest, AColorIsInTheSettingsAtOnceAndStaysAfterCancel) {
   options_.Load();
   dialogs_.ColorAnswers = {0x00FF8000U, 0x000000FFU};
   options_.PickColor(OptionColor::Foreground);

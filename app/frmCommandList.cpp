@@ -1,30 +1,24 @@
-// The command list control: its rows are those of the editor.
-#include <algorithm>
+// The rows and the columns of the list, and what it draws itself.
+#include "app/frmCommandList.h"
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "app/Columns.h"
 #include "app/FindRow.h"
-#include "app/frmMain.h"
-#include "dialogs/cFontDlg.h"
-#include "platform/win32/Icons.h"
-#include "resources/icons.h"
 #include "resources/resource.h"
 
 namespace tessera {
 
 namespace {
 
-constexpr TextId ListName = TextId::CommandColumn;
 constexpr int DefaultsSubItem = 2;
 
 constexpr COLORREF Red = RGB(255, 0, 0);
 
-constexpr int RowIcons[] = {IDI_COMMENTBLOCK, IDI_HASKEY};
-constexpr int HeaderIcons[] = {IDI_ASCENDING, IDI_DESCENDING};
-
-/// The faces of the bitmap font that is the default have few sizes; the system's font for messages
-/// stands in for it, at every size and resolution.
-constexpr wchar_t BitmapFace[] = L"MS Sans Serif";
-
-int ImageOf(RowIcon icon) {
+/// The place of an icon among the images of rows; nothing for none.
+std::optional<int> ImageOf(RowIcon icon) {
   switch (icon) {
     case RowIcon::CommentBlock:
       return 0;
@@ -33,46 +27,30 @@ int ImageOf(RowIcon icon) {
     case RowIcon::None:
       break;
   }
-  // An image that the list lacks: nothing is drawn, and the text stays in line with the others.
-  return static_cast<int>(std::size(RowIcons));
-}
-
-int ColumnPixels(int twips, int dpi) { return std::max(0, TwipsToPixels(twips, dpi)); }
-
-LOGFONTW FontOf(const Settings& settings, int dpi) {
-  const bool isDefault = lstrcmpiW(settings.FontName.c_str(), BitmapFace) == 0;
-  LOGFONTW font = isDefault ? MessageFont(dpi, settings.FontScript) : LOGFONTW{};
-  if (!isDefault) {
-    const std::size_t length = std::min<std::size_t>(settings.FontName.size(), LF_FACESIZE - 1);
-    std::copy_n(settings.FontName.begin(), length, font.lfFaceName);
-    font.lfCharSet = static_cast<BYTE>(settings.FontScript);
-  }
-  const int style = settings.FontStyle;
-  font.lfHeight = -MulDiv(std::clamp<int>(settings.FontSize, 1, 200), dpi, 72);
-  font.lfWidth = 0;
-  font.lfWeight = (style & cFontDlg::Bold) != 0 ? FW_BOLD : FW_NORMAL;
-  font.lfItalic = (style & cFontDlg::Italic) != 0;
-  font.lfStrikeOut = (style & cFontDlg::StrikeOut) != 0;
-  font.lfUnderline = (style & cFontDlg::Underline) != 0;
-  return font;
+  return std::nullopt;
 }
 
 }  // namespace
 
-void frmMain::CreateCommandList() {
+frmCommandList::frmCommandList(const Editor& editor, Events events)
+    : editor_(editor), events_(std::move(events)) {}
+
+void frmCommandList::Create(HWND window, int dpi) {
+  dpi_ = dpi;
   // For screen readers, which call a control by the label before it, a hidden one too.
-  lblListView1_ = CreateControl(window_, WC_STATICW, 0, 0, IDC_lblListView1);
-  ListView1_ = CreateControl(window_, WC_LISTVIEWW,
+  lblListView1_ = CreateControl(window, WC_STATICW, 0, 0, IDC_lblListView1);
+  ListView1_ = CreateControl(window, WC_LISTVIEWW,
                              WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
                                  LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
                              0, IDC_ListView1);
   SetWindowTheme(ListView1_, L"Explorer", nullptr);
   const ColumnLayout layout = ReadColumnLayout(editor_.Options());
-  for (std::size_t column = 0; column < layout.Widths.size(); ++column) {
+  const std::array<int, 4> widths = WidthsInPixels(layout.Widths, dpi_);
+  for (std::size_t column = 0; column < widths.size(); ++column) {
     LVCOLUMNW added{};
     added.mask = LVCF_SUBITEM | LVCF_FMT | LVCF_WIDTH;
     added.fmt = LVCFMT_LEFT;
-    added.cx = ColumnPixels(layout.Widths[column], dpi_);
+    added.cx = widths[column];
     added.iSubItem = static_cast<int>(column);
     SendMessageW(ListView1_, LVM_INSERTCOLUMNW, column, reinterpret_cast<LPARAM>(&added));
   }
@@ -80,94 +58,51 @@ void frmMain::CreateCommandList() {
   ListView_SetColumnOrderArray(ListView1_, 4, order.data());
 }
 
-void frmMain::LabelColumns() {
-  SetText(lblListView1_, editor_.Language().GetLangText(ListName));
-  for (std::size_t column = 0; column < ColumnHeadings.size(); ++column) {
-    std::wstring text = editor_.Language().GetLangText(ColumnHeadings[column]);
-    LVCOLUMNW label{};
-    label.mask = LVCF_TEXT;
-    label.pszText = text.data();
-    SendMessageW(ListView1_, LVM_SETCOLUMNW, column, reinterpret_cast<LPARAM>(&label));
-  }
-}
+HWND frmCommandList::Control() const { return ListView1_; }
 
-void frmMain::SetColumnWidths(const std::array<int, 4>& twips) {
-  for (std::size_t column = 0; column < twips.size(); ++column) {
-    ListView_SetColumnWidth(ListView1_, static_cast<int>(column),
-                            ColumnPixels(twips[column], dpi_));
-  }
-}
-
-ColumnLayout frmMain::CurrentColumns() const {
-  ColumnLayout layout = ReadColumnLayout(editor_.Options());
+ColumnLayout frmCommandList::Columns() const {
+  const ColumnLayout stored = ReadColumnLayout(editor_.Options());
   std::array<int, 4> order{};
-  if (ListView_GetColumnOrderArray(ListView1_, 4, order.data()) != FALSE) {
-    layout.Positions = PositionsOfOrder(order);
+  if (ListView_GetColumnOrderArray(ListView1_, 4, order.data()) == FALSE) {
+    order = OrderOfPositions(stored.Positions);
   }
-  for (std::size_t column = 0; column < layout.Widths.size(); ++column) {
-    layout.Widths[column] = PixelsToTwips(
-        ListView_GetColumnWidth(ListView1_, static_cast<int>(column)), dpi_, layout.Widths[column]);
+  std::array<int, 4> pixels{};
+  for (std::size_t column = 0; column < pixels.size(); ++column) {
+    pixels[column] = ListView_GetColumnWidth(ListView1_, static_cast<int>(column));
   }
-  return layout;
+  return ColumnsToStore(stored, order, pixels, dpi_);
 }
 
-void frmMain::ApplyListFont() {
-  const LOGFONTW font = FontOf(editor_.Options(), dpi_);
-  Unique<HFONT> listFont(CreateFontIndirectW(&font));
-  // The list passes it on to its header, and places its rows below that: a header with a font of
-  // its own would make them jump.
-  GiveFont(ListView1_, listFont.get());
-  listFont_ = std::move(listFont);
-}
+void frmCommandList::Show() { ShowWindow(ListView1_, SW_SHOWNA); }
 
-void frmMain::LoadListImages() {
-  const int size = Scaled(16, dpi_);
-  Unique<HIMAGELIST> rows = LoadImages(RowIcons, size);
-  Unique<HIMAGELIST> headers = LoadImages(HeaderIcons, size);
-  ListView_SetImageList(ListView1_, rows.get(), LVSIL_SMALL);
-  Header_SetImageList(ListView_GetHeader(ListView1_), headers.get());
-  ilsListView_ = std::move(rows);
-  ilsColumnHeader_ = std::move(headers);
-}
-
-LRESULT frmMain::OnListNotify(NMHDR& header) {
+LRESULT frmCommandList::OnNotify(NMHDR& header) {
   switch (header.code) {
     case LVN_GETDISPINFOW:
-      FillListCell(reinterpret_cast<NMLVDISPINFOW&>(header).item);
+      FillCell(reinterpret_cast<NMLVDISPINFOW&>(header).item);
       return 0;
     case LVN_ITEMCHANGED:
-      OnListItemChanged(reinterpret_cast<const NMLISTVIEW&>(header));
+      OnItemChanged(reinterpret_cast<const NMLISTVIEW&>(header));
       return 0;
     case LVN_COLUMNCLICK:
-      if (AcceptsInput()) {
-        editor_.Work(&CommandList::SortByColumn,
-                     reinterpret_cast<const NMLISTVIEW&>(header).iSubItem + 1);
-        Sync();
-      }
+      events_.ClickColumn(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem + 1);
       return 0;
-    case LVN_ODFINDITEMW: {
-      const auto& search = reinterpret_cast<const NMLVFINDITEMW&>(header);
-      const bool byText = (search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) != 0;
-      const auto found = byText ? FindRow(editor_.Document().Rows(), search.lvfi.psz,
-                                          static_cast<std::size_t>(std::max(0, search.iStart)))
-                                : std::nullopt;
-      return found ? static_cast<LRESULT>(*found) : -1;
-    }
+    case LVN_ODFINDITEMW:
+      return FindItem(reinterpret_cast<const NMLVFINDITEMW&>(header));
     case NM_CLICK:
     case NM_RCLICK:
       // A click counts on the row that is selected already, too.
-      SelectListRow(reinterpret_cast<const NMITEMACTIVATE&>(header).iItem);
+      SelectRow(reinterpret_cast<const NMITEMACTIVATE&>(header).iItem);
       // One beside the rows takes the highlight away, but the editor keeps its selected row.
-      SyncListSelection();
+      SyncSelection();
       return 0;
     case NM_CUSTOMDRAW:
-      return OnListCustomDraw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+      return OnCustomDraw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
     default:
       return 0;
   }
 }
 
-void frmMain::FillListCell(LVITEMW& item) const {
+void frmCommandList::FillCell(LVITEMW& item) const {
   const DisplayTable& rows = editor_.Document().Rows();
   const auto position = static_cast<std::size_t>(item.iItem);
   if (position >= rows.Count() || item.iSubItem < 0 || item.iSubItem >= 4) {
@@ -179,11 +114,12 @@ void frmMain::FillListCell(LVITEMW& item) const {
     lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
   }
   if ((item.mask & LVIF_IMAGE) != 0) {
-    item.iImage = ImageOf(row.Icon);
+    // By an image that the list lacks the text stays in line with the others.
+    item.iImage = ImageOf(row.Icon).value_or(ImageList_GetImageCount(ilsListView_.get()));
   }
 }
 
-void frmMain::OnListItemChanged(const NMLISTVIEW& change) {
+void frmCommandList::OnItemChanged(const NMLISTVIEW& change) {
   const bool selected = (change.uChanged & LVIF_STATE) != 0 &&
                         (change.uNewState & LVIS_SELECTED) != 0 &&
                         (change.uOldState & LVIS_SELECTED) == 0;
@@ -192,20 +128,21 @@ void frmMain::OnListItemChanged(const NMLISTVIEW& change) {
   }
   const int position =
       change.iItem >= 0 ? change.iItem : ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
-  SelectListRow(position);
+  SelectRow(position);
 }
 
-void frmMain::SelectListRow(int position) {
-  if (position < 0 || !AcceptsInput()) {
-    return;
-  }
-  editor_.Work(&CommandList::SelectRow, static_cast<std::size_t>(position));
-  SyncPanel();
-  SyncCommands();
-  SyncKeysList();
+void frmCommandList::SelectRow(int position) const {
+  if (position >= 0) events_.SelectRow(static_cast<std::size_t>(position));
 }
 
-LRESULT frmMain::OnListCustomDraw(NMLVCUSTOMDRAW& draw) {
+LRESULT frmCommandList::FindItem(const NMLVFINDITEMW& search) const {
+  if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0) return -1;
+  const auto start = static_cast<std::size_t>(std::max(0, search.iStart));
+  const auto found = FindRow(editor_.Document().Rows(), search.lvfi.psz, start);
+  return found ? static_cast<LRESULT>(*found) : -1;
+}
+
+LRESULT frmCommandList::OnCustomDraw(NMLVCUSTOMDRAW& draw) {
   const std::size_t position = draw.nmcd.dwItemSpec;
   switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
@@ -217,7 +154,7 @@ LRESULT frmMain::OnListCustomDraw(NMLVCUSTOMDRAW& draw) {
                  : CDRF_DODEFAULT;
     case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
       draw.clrText =
-          draw.iSubItem == DefaultsSubItem ? Red : ColourOf(editor_.Options().ForegroundColor);
+          draw.iSubItem == DefaultsSubItem ? Red : ColorOf(editor_.Options().ForegroundColor);
       return draw.iSubItem == DefaultsSubItem && DrawOverriddenKeys(draw) ? CDRF_SKIPDEFAULT
                                                                           : CDRF_DODEFAULT;
     default:
@@ -227,7 +164,7 @@ LRESULT frmMain::OnListCustomDraw(NMLVCUSTOMDRAW& draw) {
 
 // Red cannot be read on a dark highlight: in the selected row the cell keeps the list's back
 // colour.
-bool frmMain::DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw) {
+bool frmCommandList::DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw) {
   const std::size_t position = draw.nmcd.dwItemSpec;
   if (position >= editor_.Document().Rows().Count() ||
       ListView_GetItemState(ListView1_, static_cast<int>(position), LVIS_SELECTED) == 0) {
@@ -237,11 +174,11 @@ bool frmMain::DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw) {
   ListView_GetSubItemRect(ListView1_, static_cast<int>(position), DefaultsSubItem, LVIR_BOUNDS,
                           &cell);
   const HDC context = draw.nmcd.hdc;
-  const Unique<HBRUSH> back(CreateSolidBrush(ColourOf(editor_.Options().BackgroundColor)));
+  const Unique<HBRUSH> back(CreateSolidBrush(ColorOf(editor_.Options().BackgroundColor)));
   FillRect(context, &cell, back.get());
   SetTextColor(context, Red);
   SetBkMode(context, TRANSPARENT);
-  const HGDIOBJ former = SelectObject(context, listFont_.get());
+  const HGDIOBJ former = SelectObject(context, font_.get());
   cell.left += Scaled(6, dpi_);
   DrawTextW(context, editor_.Document().Rows().At(position).DefaultKeys.c_str(), -1, &cell,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
@@ -249,20 +186,20 @@ bool frmMain::DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw) {
   return true;
 }
 
-void frmMain::SyncList() {
+void frmCommandList::Sync() {
   const auto count = static_cast<int>(editor_.Document().Rows().Count());
   syncing_ = true;
   if (ListView_GetItemCount(ListView1_) != count) {
     ListView_SetItemCountEx(ListView1_, count, LVSICF_NOSCROLL);
   }
   syncing_ = false;
-  SyncListSelection();
+  SyncSelection();
   SyncHeaderIcons();
   // With its background: an icon may have gone.
   InvalidateRect(ListView1_, nullptr, TRUE);
 }
 
-void frmMain::SyncListSelection() {
+void frmCommandList::SyncSelection() {
   const auto position = editor_.Document().Rows().PositionOf(editor_.List().SelectedRow());
   const int shown = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
   const int wanted = position ? static_cast<int>(*position) : -1;
@@ -285,14 +222,14 @@ void frmMain::SyncListSelection() {
   syncing_ = false;
 }
 
-void frmMain::ShowSelectedRow() {
+void frmCommandList::ShowSelectedRow() {
   const int selected = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
   if (selected >= 0) {
     ListView_EnsureVisible(ListView1_, selected, FALSE);
   }
 }
 
-void frmMain::SyncHeaderIcons() {
+void frmCommandList::SyncHeaderIcons() {
   const HWND header = ListView_GetHeader(ListView1_);
   for (std::size_t column = 0; column < AllColumns.size(); ++column) {
     const HeaderIcon icon = editor_.List().IconOf(AllColumns[column]);

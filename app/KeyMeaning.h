@@ -1,0 +1,22 @@
+// Whom a key is for that is pressed in the main window.
+#pragma once
+
+#include "editing/HotkeyPanel.h"
+
+namespace tessera {
+
+enum class KeyMeaning {
+  ForControl,     ///< it is for the control that has the focus
+  OpensKeysList,  ///< or closes it
+  ForPanel,       ///< the editor is told first
+};
+
+/// The key chooser, at the moment of the key.
+struct ChooserState {
+  bool HasFocus = false;
+  bool Open = false;  ///< its own list is open
+};
+
+[[nodiscard]] KeyMeaning MeaningOf(KeyCode code, bool pressed, const ChooserState& chooser);
+
+}  // namespace tessera

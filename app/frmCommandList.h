@@ -1,0 +1,67 @@
+// The command list on the screen: its rows are those of the editor.
+#pragma once
+
+#include <functional>
+
+#include "app/Editor.h"
+#include "platform/Pinned.h"
+#include "platform/win32/Controls.h"
+
+namespace tessera {
+
+class frmCommandList : Pinned {
+ public:
+  /// What the user does in the list.
+  struct Events {
+    std::function<void(std::size_t position)> SelectRow;
+    std::function<void(int column)> ClickColumn;  ///< its 1-based index
+  };
+
+  /// `editor` must outlive it.
+  frmCommandList(const Editor& editor, Events events);
+
+  /// Makes the list, hidden, with the columns of the settings.
+  void Create(HWND window, int dpi);
+  [[nodiscard]] HWND Control() const;
+
+  /// The order and the widths of the columns as they are shown.
+  [[nodiscard]] ColumnLayout Columns() const;
+
+  /// Give it what it takes from the texts, the resolution, and the settings. A new resolution needs
+  /// a new font too.
+  void ApplyLanguage();
+  void ApplyDpi(int dpi);
+  void ApplyFont();
+  void ApplyDisplaySettings();
+
+  /// Answers a notification of the list.
+  LRESULT OnNotify(NMHDR& header);
+
+  void Show();
+  void Sync();
+  void ShowSelectedRow();
+
+ private:
+  void LoadIcons();
+  void ApplyColumnWidths(const std::array<int, 4>& twips);
+  LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw);
+  bool DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw);
+  void OnItemChanged(const NMLISTVIEW& change);
+  void SelectRow(int position) const;
+  [[nodiscard]] LRESULT FindItem(const NMLVFINDITEMW& search) const;
+  void FillCell(LVITEMW& item) const;
+  void SyncSelection();
+  void SyncHeaderIcons();
+
+  const Editor& editor_;
+  Events events_;
+  HWND lblListView1_ = nullptr;
+  HWND ListView1_ = nullptr;
+  int dpi_ = 96;
+  bool syncing_ = false;  ///< notifications are answers to our own changes
+  Unique<HFONT> font_;
+  Unique<HIMAGELIST> ilsListView_;
+  Unique<HIMAGELIST> ilsColumnHeader_;
+};
+
+}  // namespace tessera

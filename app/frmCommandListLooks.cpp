@@ -1,0 +1,101 @@
+// How the command list looks: its texts, icons, font and colours.
+#include <algorithm>
+#include <utility>
+
+#include "app/Columns.h"
+#include "app/frmCommandList.h"
+#include "app/ListFont.h"
+#include "platform/win32/Icons.h"
+#include "resources/icons.h"
+
+namespace tessera {
+
+namespace {
+
+constexpr TextId ListName = TextId::CommandColumn;
+constexpr int RowIcons[] = {IDI_COMMENTBLOCK, IDI_HASKEY};
+constexpr int HeaderIcons[] = {IDI_ASCENDING, IDI_DESCENDING};
+
+LOGFONTW FontOf(const Settings& settings, int dpi) {
+  const ListFont chosen = ReadListFont(settings, dpi);
+  LOGFONTW font = chosen.HasMessageFace ? MessageFont(dpi, chosen.CharacterSet) : LOGFONTW{};
+  if (!chosen.HasMessageFace) {
+    const std::size_t length = std::min<std::size_t>(chosen.FaceName.size(), LF_FACESIZE - 1);
+    std::copy_n(chosen.FaceName.begin(), length, font.lfFaceName);
+    font.lfCharSet = static_cast<BYTE>(chosen.CharacterSet);
+  }
+  font.lfHeight = -chosen.HeightPixels;
+  font.lfWidth = 0;
+  font.lfWeight = chosen.Bold ? FW_BOLD : FW_NORMAL;
+  font.lfItalic = chosen.Italic ? TRUE : FALSE;
+  font.lfStrikeOut = chosen.StrikeOut ? TRUE : FALSE;
+  font.lfUnderline = chosen.Underline ? TRUE : FALSE;
+  return font;
+}
+
+}  // namespace
+
+void frmCommandList::ApplyLanguage() {
+  const Texts& texts = editor_.Language();
+  SetText(lblListView1_, texts.GetLangText(ListName));
+  for (std::size_t column = 0; column < ColumnHeadings.size(); ++column) {
+    std::wstring text = texts.GetLangText(ColumnHeadings[column]);
+    LVCOLUMNW label{};
+    label.mask = LVCF_TEXT;
+    label.pszText = text.data();
+    SendMessageW(ListView1_, LVM_SETCOLUMNW, column, reinterpret_cast<LPARAM>(&label));
+  }
+}
+
+void frmCommandList::ApplyDpi(int dpi) {
+  const std::array<int, 4> widths = Columns().Widths;
+  dpi_ = dpi;
+  LoadIcons();
+  ApplyColumnWidths(widths);
+}
+
+void frmCommandList::LoadIcons() {
+  const int size = Scaled(16, dpi_);
+  Unique<HIMAGELIST> rows = LoadImages(RowIcons, size);
+  Unique<HIMAGELIST> headers = LoadImages(HeaderIcons, size);
+  ListView_SetImageList(ListView1_, rows.get(), LVSIL_SMALL);
+  Header_SetImageList(ListView_GetHeader(ListView1_), headers.get());
+  ilsListView_ = std::move(rows);
+  ilsColumnHeader_ = std::move(headers);
+}
+
+void frmCommandList::ApplyFont() {
+  const LOGFONTW description = FontOf(editor_.Options(), dpi_);
+  Unique<HFONT> font(CreateFontIndirectW(&description));
+  // The list passes it on to its header, and places its rows below that: a header with a font of
+  // its own would make them jump.
+  GiveFont(ListView1_, font.get());
+  font_ = std::move(font);
+}
+
+void frmCommandList::ApplyColumnWidths(const std::array<int, 4>& twips) {
+  const std::array<int, 4> pixels = WidthsInPixels(twips, dpi_);
+  for (std::size_t column = 0; column < pixels.size(); ++column) {
+    ListView_SetColumnWidth(ListView1_, static_cast<int>(column), pixels[column]);
+  }
+}
+
+void frmCommandList::ApplyDisplaySettings() {
+  const Settings& settings = editor_.Options();
+  const bool border = settings.FixedBorders != 0;
+  const bool raised = settings.FlatUserInterface == 0;
+  SetStyleBits(ListView1_, GWL_STYLE, WS_BORDER, border && !raised);
+  SetStyleBits(ListView1_, GWL_EXSTYLE, WS_EX_CLIENTEDGE, border && raised);
+  const DWORD lines = settings.CommandListShowLines != 0 ? LVS_EX_GRIDLINES : 0;
+  // A mirrored list may draw its texts mirrored too while it is buffered.
+  const DWORD buffer = editor_.Language().RightToLeft() ? 0 : LVS_EX_DOUBLEBUFFER;
+  ListView_SetExtendedListViewStyle(ListView1_, LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP |
+                                                    buffer | LVS_EX_INFOTIP | LVS_EX_LABELTIP |
+                                                    lines);
+  ListView_SetTextColor(ListView1_, ColorOf(settings.ForegroundColor));
+  ListView_SetBkColor(ListView1_, ColorOf(settings.BackgroundColor));
+  ListView_SetTextBkColor(ListView1_, ColorOf(settings.BackgroundColor));
+  InvalidateRect(ListView1_, nullptr, TRUE);
+}
+
+}  // namespace tessera

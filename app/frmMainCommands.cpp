@@ -1,0 +1,192 @@
+// What the user does, as calls of the editor, and the dialogs.
+#include "app/frmMain.h"
+
+namespace tessera {
+
+namespace {
+
+bool Held(int key) { return GetKeyState(key) < 0; }
+
+bool IsKeyMessage(UINT message) {
+  return message == WM_KEYDOWN || message == WM_SYSKEYDOWN || message == WM_KEYUP ||
+         message == WM_SYSKEYUP;
+}
+
+}  // namespace
+
+frmCommandList::Events frmMain::ListEvents() {
+  return {.SelectRow =
+              [this](std::size_t position) {
+                if (AcceptsInput()) {
+                  editor_.Work(&CommandList::SelectRow, position);
+                  views_.SyncKeys();
+                }
+              },
+          .ClickColumn =
+              [this](int column) {
+                if (AcceptsInput()) {
+                  editor_.Work(&CommandList::SortByColumn, column);
+                  Sync();
+                }
+              }};
+}
+
+frmPanel::Events frmMain::PanelEvents() {
+  return {.SetBox =
+              [this](Modifier box, bool checked) {
+                if (AcceptsInput()) editor_.Work(&HotkeyPanel::SetBox, box, checked);
+                views_.SyncKeys();
+              },
+          .ChooseKey =
+              [this](int index) {
+                if (AcceptsInput()) editor_.Work(&HotkeyPanel::ChooseKey, index);
+                views_.SyncKeys();
+              },
+          .ChooserDropsDown =
+              [this] {
+                editor_.Work(&KeysList::ChooserDropsDown);
+                views_.SyncKeys();
+              },
+          .ToggleKeysList = [this] { ToggleKeysList(); },
+          .GiveFocusAway = [this] { SetFocus(views_.List().Control()); }};
+}
+
+frmKeysList::Events frmMain::KeysListEvents() {
+  return {.Select = [this](int index) { React(editor_.Work(&KeysList::Select, index)); },
+          .KeyDown = [this](KeyCode code) { React(editor_.Work(&KeysList::KeyDown, code)); },
+          .ReleaseMouse = [this] { editor_.Work(&KeysList::ReleaseMouse); },
+          .Close = [this] { React(editor_.Work(&KeysList::KeyDown, KeyCode::Escape)); }};
+}
+
+void frmMain::OnCommand(int id, HWND control) {
+  if (!IsCommand(id) || !AcceptsInput()) {
+    return;
+  }
+  if (views_.IsMainToolbar(control)) {
+    windowsSystem_.Seams().Clock.DoEvents();
+  }
+  editor_.RefreshRestartItems();
+  // The events before it may have started something else.
+  const WindowTask task = AcceptsInput() ? RunCommand(editor_, id) : WindowTask::None;
+  Sync();
+  Do(task);
+}
+
+void frmMain::Do(WindowTask task) {
+  switch (task) {
+    case WindowTask::LayOut:
+      views_.LayOut();
+      break;
+    case WindowTask::ShowSelectedRow:
+      views_.ShowSelectedRow();
+      break;
+    case WindowTask::ShowExport:
+      ShowExport();
+      break;
+    case WindowTask::ShowOptions:
+      ShowOptions();
+      break;
+    case WindowTask::Close:
+      PostMessageW(window_, WM_CLOSE, 0, 0);
+      break;
+    case WindowTask::None:
+      break;
+  }
+}
+
+void frmMain::ShowExport() {
+  ClipboardExport& model = editor_.BeginExport();
+  frmExportToClipboard_.Show(window_, model, [&model] { model.Ok(); });
+  editor_.EndExport();
+  Sync();
+}
+
+void frmMain::ShowOptions() {
+  frmOptions_.Show(window_, editor_.BeginOptions());
+  views_.ApplyFonts();
+  views_.ApplyDisplaySettings();
+  // May show a box, behind which the window is to have its new looks.
+  const OptionsOutcome outcome = editor_.EndOptions();
+  if (outcome.LanguageChanged) {
+    views_.ApplyLanguage();
+    views_.ApplyFonts();
+    views_.ApplyDisplaySettings();
+  }
+  React(outcome.Panel);
+  Sync();
+}
+
+void frmMain::OnInitMenu() {
+  editor_.RefreshRestartItems();
+  views_.SyncMenus();
+}
+
+void frmMain::OnDropDown(const NMTOOLBARW& notification) {
+  const ToolbarButton* const button = ButtonOf(notification.iItem);
+  if (button == nullptr || !AcceptsInput()) {
+    return;
+  }
+  editor_.RefreshRestartItems();
+  const Unique<HMENU> menu = MenuUnder(*button, editor_);
+  ShowMenuUnderButton(notification, menu.get(), window_, editor_.Language().RightToLeft());
+}
+
+bool frmMain::FilterMessage(MSG& message) {
+  if (window_ == nullptr || (message.hwnd != window_ && IsChild(window_, message.hwnd) == FALSE)) {
+    return false;
+  }
+  if (IsKeyMessage(message.message) && FilterKey(message)) {
+    return true;
+  }
+  if (views_.Panel().ChooserWouldLose(message)) {
+    message.hwnd = window_;
+  }
+  return IsDialogMessageW(window_, &message) != FALSE;
+}
+
+bool frmMain::FilterKey(const MSG& message) {
+  const KeyEvent event{.Code = static_cast<KeyCode>(message.wParam),
+                       .CtrlHeld = Held(VK_CONTROL),
+                       .AltHeld = Held(VK_MENU),
+                       .ShiftHeld = Held(VK_SHIFT)};
+  const bool pressed = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+  const KeyMeaning meaning = MeaningOf(event.Code, pressed, views_.Panel().Chooser());
+  if (!AcceptsInput() || meaning == KeyMeaning::ForControl) {
+    return false;
+  }
+  if (meaning == KeyMeaning::OpensKeysList) {
+    ToggleKeysList();
+    return true;
+  }
+  const Reaction reaction =
+      editor_.Work(pressed ? &HotkeyPanel::KeyDown : &HotkeyPanel::KeyUp, event);
+  React(reaction);
+  return reaction.Handled;
+}
+
+void frmMain::ToggleKeysList() {
+  if (AcceptsInput()) {
+    React(editor_.Work(&KeysList::ToggleKeysList));
+  }
+}
+
+void frmMain::React(const Reaction& reaction) {
+  if (reaction.StartTimer) {
+    SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr);
+  }
+  if (reaction.Changed) {
+    Sync();
+  } else {
+    views_.SyncKeys();
+  }
+  if (!AcceptsInput() || reaction.FocusTo == Reaction::Focus::Unchanged) {
+    return;
+  }
+  if (reaction.FocusTo == Reaction::Focus::Chooser) {
+    views_.Panel().FocusOnChooser();
+  } else {
+    SetFocus(views_.List().Control());
+  }
+}
+
+}  // namespace tessera

@@ -1,0 +1,30 @@
+// The menu bar, and the menus under the toolbars' buttons.
+#pragma once
+
+#include "app/Commands.h"
+#include "app/ToolbarButtons.h"
+#include "platform/win32/Controls.h"
+
+namespace tessera {
+
+/// The menu under a drop-down button.
+[[nodiscard]] Unique<HMENU> MenuUnder(const ToolbarButton& button, const Editor& editor);
+
+class frmMenus {
+ public:
+  /// `editor` must outlive it.
+  explicit frmMenus(const Editor& editor);
+
+  /// Makes the menu bar of a window anew, in the language in use.
+  void Build(HWND window);
+
+  void FillRecentFiles() const;
+  void ShowState(const CommandState& state) const;
+
+ private:
+  const Editor& editor_;
+  HWND window_ = nullptr;
+  HMENU mnuRecent_ = nullptr;  ///< part of the menu bar
+};
+
+}  // namespace tessera

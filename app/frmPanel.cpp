@@ -1,0 +1,199 @@
+// The hotkey panel's controls, in a window of their own.
+#include "app/frmPanel.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "localisation/Mnemonic.h"
+#include "platform/win32/Icons.h"
+#include "resources/icons.h"
+#include "resources/resource.h"
+
+namespace tessera {
+
+namespace {
+
+constexpr wchar_t FrameClass[] = L"frmMain.Frame1";
+constexpr int BoxIds[] = {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2};
+constexpr TextId BoxCaptions[] = {TextId::ControlBox, TextId::AltBox, TextId::ShiftBox};
+
+/// For 96 pixels an inch.
+constexpr int AllKeysIconSize = 16;
+
+constexpr int ShownRows = 16;
+
+}  // namespace
+
+frmPanel::frmPanel(const Editor& editor, Events events)
+    : editor_(editor), events_(std::move(events)), Toolbar2_(PanelToolbar()) {}
+
+void frmPanel::Create(HWND window) {
+  translatorsBrush_.reset(CreateSolidBrush(TranslatorsColor));
+  RegisterWindowClass(FrameClass, FrameProcedure);
+  Frame1_ = CreateControl(window, FrameClass, WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
+                          IDC_Frame1);
+  SetWindowLongPtrW(Frame1_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
+    // Arrow keys stay within a group.
+    const DWORD group = box == 0 ? WS_GROUP : 0;
+    chkCtrlAlt_[box] = CreateControl(
+        Frame1_, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX | group, 0, BoxIds[box]);
+  }
+  // Screen readers call a control without a text of its own by the label before it.
+  lblHotkey_ = CreateControl(Frame1_, WC_STATICW, WS_VISIBLE | WS_GROUP, 0, IDC_lblHotkey);
+  Combo1_ = CreateControl(Frame1_, WC_COMBOBOXW,
+                          WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, 0, IDC_Combo1);
+  for (const std::wstring_view key : KeyVocabulary()) {
+    SendMessageW(Combo1_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
+  }
+  SendMessageW(Combo1_, CB_SETMINVISIBLE, ShownRows, 0);
+  cmdAllList_ =
+      CreateControl(Frame1_, WC_BUTTONW, WS_VISIBLE | BS_PUSHBUTTON | BS_ICON, 0, IDC_cmdAllList);
+  Toolbar2_.Create(Frame1_, IDC_Toolbar2);
+}
+
+HWND frmPanel::Control() const { return Frame1_; }
+
+const frmToolbar& frmPanel::Toolbar() const { return Toolbar2_; }
+
+Size frmPanel::WholeSize() const { return wholeSize_; }
+
+Area frmPanel::AllKeysButton() const { return WindowArea(cmdAllList_); }
+
+ChooserState frmPanel::Chooser() const {
+  return {.HasFocus = GetFocus() == Combo1_, .Open = ComboBox_GetDroppedState(Combo1_) != FALSE};
+}
+
+void frmPanel::FocusOnChooser() const { SetFocus(Combo1_); }
+
+bool frmPanel::ChooserWouldLose(const MSG& message) const {
+  const bool isSystemKey = message.message == WM_SYSKEYDOWN || message.message == WM_SYSKEYUP;
+  return isSystemKey && message.hwnd == Combo1_ && message.wParam != VK_UP &&
+         message.wParam != VK_DOWN;
+}
+
+void frmPanel::ApplyLanguage() {
+  const Texts& texts = editor_.Language();
+  Toolbar2_.ApplyLanguage(texts);
+  SetText(lblHotkey_, texts.GetLangText(TextId::Hotkey));
+  for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
+    SetText(chkCtrlAlt_[box], texts.GetLangText(BoxCaptions[box]));
+  }
+  SetText(cmdAllList_, WithoutMnemonic(texts.GetLangText(TextId::Hotkey)));
+}
+
+void frmPanel::ApplyDpi(int dpi) {
+  Unique<HICON> icon = LoadIconOfSize(IDI_ALLKEYS, Scaled(AllKeysIconSize, dpi));
+  SendMessageW(cmdAllList_, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.get()));
+  allKeysIcon_ = std::move(icon);
+  Toolbar2_.ApplyDpi(dpi);
+}
+
+void frmPanel::ApplyFont(HFONT font, int dpi) {
+  GiveFont(lblHotkey_, font);
+  for (const HWND box : chkCtrlAlt_) GiveFont(box, font);
+  GiveFont(Combo1_, font);
+  GiveFont(Toolbar2_.Control(), font);
+  LayOut(font, dpi);
+}
+
+void frmPanel::LayOut(HFONT font, int dpi) {
+  const auto textSize = [&](TextId id) -> Size {
+    const SIZE size = TextSize(Frame1_, font, editor_.Language().GetLangText(id));
+    return {size.cx, size.cy};
+  };
+  PanelSizes sizes{.Label = textSize(TextId::Hotkey),
+                   .Boxes = {},
+                   .ChooserHeight = WindowArea(Combo1_).Height,
+                   .Toolbar = Toolbar2_.ButtonsSize()};
+  std::ranges::transform(BoxCaptions, sizes.Boxes.begin(), textSize);
+  const PanelLayout layout = LayOutPanel(sizes, dpi);
+  Place(lblHotkey_, layout.Label);
+  for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
+    Place(chkCtrlAlt_[box], layout.Boxes[box]);
+  }
+  Place(Combo1_, layout.Chooser);
+  Place(Toolbar2_.Control(), layout.Toolbar);
+  const Area& button = layout.AllKeysButton;
+  SetWindowPos(cmdAllList_, HWND_TOP, button.Left, button.Top, button.Width, button.Height,
+               SWP_NOACTIVATE);
+  wholeSize_ = layout.Whole;
+}
+
+void frmPanel::Sync() {
+  const HotkeyPanel& panel = editor_.Panel();
+  const bool enabled = panel.InputsEnabled();
+  const HWND focus = GetFocus();
+  if (!enabled && focus != nullptr && IsChild(Frame1_, focus) != FALSE) {
+    events_.GiveFocusAway();
+  }
+  for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
+    const bool checked = panel.BoxChecked(AllModifiers[box]);
+    if ((Button_GetCheck(chkCtrlAlt_[box]) == BST_CHECKED) != checked) {
+      Button_SetCheck(chkCtrlAlt_[box], checked ? BST_CHECKED : BST_UNCHECKED);
+    }
+    SetEnabled(chkCtrlAlt_[box], enabled);
+  }
+  if (ComboBox_GetCurSel(Combo1_) != panel.ChosenKey()) {
+    ComboBox_SetCurSel(Combo1_, panel.ChosenKey());
+  }
+  SetEnabled(Combo1_, enabled);
+  SetEnabled(cmdAllList_, enabled);
+  SetEnabled(Toolbar2_.Control(), editor_.AllKeys().PanelToolbarEnabled());
+}
+
+void frmPanel::ShowState(const CommandState& state) const {
+  Toolbar2_.ShowState(state.Id, state.EnabledOnPanel, state.Checked);
+}
+
+LRESULT CALLBACK frmPanel::FrameProcedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* const self = reinterpret_cast<frmPanel*>(GetWindowLongPtrW(frame, GWLP_USERDATA));
+  return self != nullptr ? self->Handle(message, wParam, lParam)
+                         : DefWindowProcW(frame, message, wParam, lParam);
+}
+
+LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      return OnCommand(LOWORD(wParam), HIWORD(wParam))
+                 ? 0
+                 : SendMessageW(GetParent(Frame1_), message, wParam, lParam);
+    case WM_NOTIFY:
+      return SendMessageW(GetParent(Frame1_), message, wParam, lParam);
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+      if (editor_.Options().ShowControlsBackColor != 0 &&
+          IsTranslatorsControl(reinterpret_cast<HWND>(lParam))) {
+        SetBkColor(reinterpret_cast<HDC>(wParam), TranslatorsColor);
+        return reinterpret_cast<LRESULT>(translatorsBrush_.get());
+      }
+      break;
+    default:
+      break;
+  }
+  return DefWindowProcW(Frame1_, message, wParam, lParam);
+}
+
+bool frmPanel::OnCommand(int id, int notification) {
+  const auto* const box = std::ranges::find(BoxIds, id);
+  if (box != std::end(BoxIds) && notification == BN_CLICKED) {
+    const auto index = static_cast<std::size_t>(box - BoxIds);
+    events_.SetBox(AllModifiers[index], Button_GetCheck(chkCtrlAlt_[index]) == BST_CHECKED);
+  } else if (id == IDC_Combo1 && notification == CBN_SELCHANGE) {
+    events_.ChooseKey(ComboBox_GetCurSel(Combo1_));
+  } else if (id == IDC_Combo1 && notification == CBN_DROPDOWN) {
+    events_.ChooserDropsDown();
+  } else if (id == IDC_cmdAllList && notification == BN_CLICKED) {
+    events_.ToggleKeysList();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool frmPanel::IsTranslatorsControl(HWND control) const {
+  return control == lblHotkey_ || std::ranges::find(chkCtrlAlt_, control) != chkCtrlAlt_.end();
+}
+
+}  // namespace tessera

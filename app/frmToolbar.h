@@ -1,0 +1,42 @@
+// A toolbar with its images, and the menus under its buttons.
+#pragma once
+
+#include <span>
+
+#include "app/Layout.h"
+#include "app/ToolbarButtons.h"
+#include "localisation/Texts.h"
+#include "platform/win32/Controls.h"
+
+namespace tessera {
+
+/// Shows a menu under the button that a notification names; its commands go to `owner`.
+void ShowMenuUnderButton(const NMTOOLBARW& button, HMENU menu, HWND owner, bool rightToLeft);
+
+class frmToolbar {
+ public:
+  explicit frmToolbar(std::span<const ToolbarButton> buttons);
+
+  void Create(HWND parent, int id);
+  [[nodiscard]] HWND Control() const;
+
+  /// What its buttons take.
+  [[nodiscard]] Size ButtonsSize() const;
+
+  /// What a button takes, and the border.
+  [[nodiscard]] int Height(int dpi) const;
+
+  void ApplyLanguage(const Texts& texts) const;
+  void ApplyDpi(int dpi);
+
+  /// Does nothing where the toolbar lacks the command, or shows it so already.
+  void ShowState(int command, bool enabled, bool checked) const;
+
+ private:
+  std::span<const ToolbarButton> buttons_;
+  HWND toolbar_ = nullptr;
+  Unique<HIMAGELIST> images_;
+  Unique<HIMAGELIST> disabledImages_;
+};
+
+}  // namespace tessera

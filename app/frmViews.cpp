@@ -1,0 +1,171 @@
+// The views of the main window, together.
+#include "app/frmViews.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "localisation/Mnemonic.h"
+#include "resources/resource.h"
+
+namespace tessera {
+
+namespace {
+
+void PlaceLater(HDWP& places, HWND control, const Area& area) {
+  places = DeferWindowPos(places, control, nullptr, area.Left, area.Top, area.Width, area.Height,
+                          SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+frmViews::frmViews(const Editor& editor, frmCommandList::Events listEvents,
+                   frmPanel::Events panelEvents, frmKeysList::Events keysListEvents)
+    : editor_(editor),
+      menus_(editor),
+      Toolbar1_(MainToolbar()),
+      list_(editor, std::move(listEvents)),
+      panel_(editor, std::move(panelEvents)),
+      keysList_(std::move(keysListEvents)) {}
+
+void frmViews::Create(HWND window, int dpi) {
+  window_ = window;
+  dpi_ = dpi;
+  // Tab goes through them in the order in which they are made.
+  list_.Create(window, dpi);
+  panel_.Create(window);
+  Toolbar1_.Create(window, IDC_Toolbar1);
+  progressBar_.Create(window);
+}
+
+SIZE frmViews::SmallestSize() const {
+  const Size inside = SmallestInside(panel_.WholeSize(), dpi_);
+  RECT frame{0, 0, inside.Width, inside.Height};
+  AdjustWindowRectExForDpi(&frame, WS_OVERLAPPEDWINDOW, TRUE, 0, static_cast<UINT>(dpi_));
+  // Texts of any length must not make the window larger than its screen.
+  const Area screen = WorkArea(window_);
+  return {std::min<LONG>(frame.right - frame.left, screen.Width),
+          std::min<LONG>(frame.bottom - frame.top, screen.Height)};
+}
+
+void frmViews::ApplyLanguage() {
+  SetRightToLeft(window_, editor_.Language().RightToLeft());
+  menus_.Build(window_);
+  Toolbar1_.ApplyLanguage(editor_.Language());
+  list_.ApplyLanguage();
+  panel_.ApplyLanguage();
+  keysList_.SetName(WithoutMnemonic(editor_.Language().GetLangText(TextId::Hotkey)));
+}
+
+void frmViews::ApplyDpi(int dpi) {
+  dpi_ = dpi;
+  Toolbar1_.ApplyDpi(dpi);
+  panel_.ApplyDpi(dpi);
+  list_.ApplyDpi(dpi);
+  ApplyFonts();
+}
+
+void frmViews::ApplyFonts() {
+  const LOGFONTW messageFont = MessageFont(dpi_, editor_.Options().FontScript);
+  Unique<HFONT> font(CreateFontIndirectW(&messageFont));
+  panel_.ApplyFont(font.get(), dpi_);
+  GiveFont(Toolbar1_.Control(), font.get());
+  keysList_.ApplyFont(font.get(), dpi_);
+  font_ = std::move(font);
+  list_.ApplyFont();
+}
+
+void frmViews::ApplyDisplaySettings() {
+  const Settings& settings = editor_.Options();
+  const bool border = settings.FixedBorders != 0;
+  const bool raised = settings.FlatUserInterface == 0;
+  list_.ApplyDisplaySettings();
+  // The two settings reach the toolbar crosswise, deliberately.
+  SetStyleBits(Toolbar1_.Control(), GWL_STYLE, WS_BORDER, raised && !border);
+  SetStyleBits(Toolbar1_.Control(), GWL_EXSTYLE, WS_EX_STATICEDGE, raised && border);
+  LayOut();
+}
+
+void frmViews::LayOut() {
+  if (progressBar_.Control() == nullptr || IsIconic(window_) != FALSE) {
+    return;
+  }
+  const HWND toolbar = Toolbar1_.Control();
+  const int toolbarHeight = editor_.Options().ToolbarVisible != 0 ? Toolbar1_.Height(dpi_) : 0;
+  RECT inside{};
+  GetClientRect(window_, &inside);
+  const MainLayout layout =
+      LayOutMainWindow(inside.right, inside.bottom, toolbarHeight, panel_.WholeSize().Height);
+  ShowWindow(toolbar, toolbarHeight > 0 ? SW_SHOWNA : SW_HIDE);
+  HDWP places = BeginDeferWindowPos(4);
+  PlaceLater(places, toolbar, layout.Toolbar1);
+  PlaceLater(places, list_.Control(), layout.ListView1);
+  PlaceLater(places, panel_.Control(), layout.Frame1);
+  PlaceLater(places, progressBar_.Control(), PlaceProgressBar(layout.ListView1, dpi_));
+  EndDeferWindowPos(places);
+}
+
+void frmViews::MoveKeysList() {
+  const Area size = keysList_.Size();
+  keysList_.MoveTo(PlaceKeysList({.Panel = WindowArea(panel_.Control()),
+                                  .Button = panel_.AllKeysButton(),
+                                  .Screen = WorkArea(window_),
+                                  .RightToLeft = editor_.Language().RightToLeft()},
+                                 size.Width, size.Height));
+}
+
+void frmViews::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
+  for (const HWND control :
+       {Toolbar1_.Control(), list_.Control(), panel_.Toolbar().Control(), progressBar_.Control()}) {
+    SendMessageW(control, message, wParam, lParam);
+  }
+}
+
+void frmViews::Sync() {
+  list_.Sync();
+  SyncKeys();
+}
+
+void frmViews::SyncKeys() {
+  panel_.Sync();
+  SyncCommands();
+  SyncKeysList();
+}
+
+void frmViews::SyncMenus() const {
+  menus_.FillRecentFiles();
+  SyncCommands();
+}
+
+void frmViews::SyncCommands() const {
+  for (const CommandState& state : CommandStates(editor_)) {
+    Toolbar1_.ShowState(state.Id, state.Enabled, state.Checked);
+    panel_.ShowState(state);
+    menus_.ShowState(state);
+  }
+}
+
+// Few users open the list, so it is made when it first opens.
+void frmViews::CreateKeysList() {
+  keysList_.Create(window_);
+  keysList_.ApplyFont(font_.get(), dpi_);
+  keysList_.SetName(WithoutMnemonic(editor_.Language().GetLangText(TextId::Hotkey)));
+}
+
+void frmViews::SyncKeysList() {
+  const KeysList& list = editor_.AllKeys();
+  if (list.Visible() && !keysList_.Created()) CreateKeysList();
+  keysList_.Select(list.Selection());
+  // While the window is minimised the system hides the list with it.
+  if (list.Visible() == keysList_.Visible() || IsIconic(window_) != FALSE) {
+    return;
+  }
+  if (list.Visible()) {
+    MoveKeysList();
+    keysList_.Show();
+  } else {
+    keysList_.Hide();
+  }
+}
+
+}  // namespace tessera

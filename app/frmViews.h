@@ -1,0 +1,80 @@
+// All that the main window shows: its views side by side, in one language, font and resolution.
+#pragma once
+
+#include "app/frmCommandList.h"
+#include "app/frmMenus.h"
+#include "app/frmPanel.h"
+#include "app/frmProgressBar.h"
+#include "app/frmToolbar.h"
+#include "editing/frmKeysList.h"
+
+namespace tessera {
+
+/// No view knows another one: what concerns two of them is done here.
+class frmViews {
+ public:
+  /// `editor` must outlive the views.
+  frmViews(const Editor& editor, frmCommandList::Events listEvents, frmPanel::Events panelEvents,
+           frmKeysList::Events keysListEvents);
+
+  /// Makes them in the main window, without texts, fonts and places.
+  void Create(HWND window, int dpi);
+
+  // -- Queries
+
+  [[nodiscard]] const frmCommandList& List() const { return list_; }
+  [[nodiscard]] const frmPanel& Panel() const { return panel_; }
+  [[nodiscard]] bool IsMainToolbar(HWND control) const { return control == Toolbar1_.Control(); }
+
+  /// The smallest size of the main window that leaves room for everything.
+  [[nodiscard]] SIZE SmallestSize() const;
+
+  // -- What all views take
+
+  void ApplyLanguage();
+  void ApplyDpi(int dpi);
+  void ApplyFonts();
+  void ApplyDisplaySettings();
+
+  /// Does nothing while the window is minimised, or has no views yet.
+  void LayOut();
+
+  /// The keys list stands on the screen by itself: when the window moves, it is to follow.
+  void MoveKeysList();
+
+  /// Tells the controls of the system about a change of its settings.
+  void Forward(UINT message, WPARAM wParam, LPARAM lParam) const;
+
+  // -- What they show
+
+  void Sync();
+
+  /// As Sync, where the rows of the list did not change.
+  void SyncKeys();
+
+  /// Before a menu opens.
+  void SyncMenus() const;
+
+  void Show(const LoadProgress& progress) const { progressBar_.Show(progress); }
+  void ShowList() { list_.Show(); }
+  void ShowSelectedRow() { list_.ShowSelectedRow(); }
+  LRESULT OnListNotify(NMHDR& header) { return list_.OnNotify(header); }
+
+ private:
+  void SyncCommands() const;
+  void SyncKeysList();
+  void CreateKeysList();
+
+  const Editor& editor_;
+  frmMenus menus_;
+  frmToolbar Toolbar1_;
+  frmCommandList list_;
+  frmPanel panel_;
+  frmKeysList keysList_;
+  frmProgressBar progressBar_;
+  HWND window_ = nullptr;
+  int dpi_ = 96;
+  Unique<HFONT> font_;
+};
+
+}  // namespace tessera
