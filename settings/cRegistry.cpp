@@ -44,12 +44,12 @@ std::optional<KeyAddress> AddressOf(std::wstring_view keyPath) {
 }
 
 std::wstring HexadecimalDigits(std::string_view bytes) {
-  constexpr std::wstring_view digits = L"0123456789ABCDEF";
+  constexpr std::wstring_view Digits = L"0123456789ABCDEF";
   std::wstring result;
   for (const char byte : bytes) {
     const auto value = static_cast<unsigned char>(byte);
-    result += digits[value >> 4U];
-    result += digits[value & 15U];
+    result += Digits[value >> 4U];
+    result += Digits[value & 15U];
   }
   return result;
 }

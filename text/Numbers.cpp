@@ -43,9 +43,9 @@ std::size_t NumberLength(std::wstring_view text) {
 template <typename Integer>
 Integer Rounded(double number) {
   if (std::isnan(number)) return 0;
-  constexpr double smallest = std::numeric_limits<Integer>::min();
-  constexpr double largest = std::numeric_limits<Integer>::max();
-  return static_cast<Integer>(std::nearbyint(std::clamp(number, smallest, largest)));
+  constexpr double Smallest = std::numeric_limits<Integer>::min();
+  constexpr double Largest = std::numeric_limits<Integer>::max();
+  return static_cast<Integer>(std::nearbyint(std::clamp(number, Smallest, Largest)));
 }
 
 }  // namespace

@@ -57,8 +57,8 @@ std::wstring WithoutLongPrefix(const std::wstring& path) {
 }
 
 UniqueHandle OpenExisting(const std::wstring& path, DWORD access) {
-  constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  return Own(CreateFileW(SystemPath(path).c_str(), access, shareAll, nullptr, OPEN_EXISTING,
+  constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  return Own(CreateFileW(SystemPath(path).c_str(), access, ShareAll, nullptr, OPEN_EXISTING,
                          FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 

@@ -11,7 +11,7 @@
 namespace tessera {
 namespace {
 
-constexpr std::string_view utf16Mark = "\xFF\xFE";
+constexpr std::string_view Utf16Mark = "\xFF\xFE";
 
 bool HasLineEnd(std::string_view text) { return text.ends_with('\n') || text.ends_with('\r'); }
 
@@ -74,7 +74,7 @@ IniDocument::IniDocument(std::string_view bytes)
     : IniDocument(std::make_shared<const std::string>(bytes)) {}
 
 IniDocument::IniDocument(std::shared_ptr<const std::string> bytes) : content_(std::move(bytes)) {
-  if (!content_->starts_with(utf16Mark)) {
+  if (!content_->starts_with(Utf16Mark)) {
     Divide();
     return;
   }
