@@ -35,7 +35,7 @@ int RunMessageLoop(tessera::frmMain& window) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, wchar_t* /*commandLine*/,
-                    int showCommand) {
+                    int nShowCmd) {
   const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES |
                                                            ICC_PROGRESS_CLASS | ICC_TAB_CLASSES |
                                                            ICC_STANDARD_CLASSES};
@@ -45,6 +45,6 @@ int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, wchar_t* /*c
   if (!window.Form_Load(FileToOpen())) {
     return 1;
   }
-  window.Show(showCommand);
+  window.Show(nShowCmd);
   return RunMessageLoop(window);
 }

@@ -12,9 +12,9 @@ namespace tessera {
 namespace {
 
 struct ControlClass {
-  ControlKind Kind;
-  const wchar_t* Name;
-  DWORD Style;
+  ControlKind Kind{};
+  const wchar_t* Name = nullptr;
+  DWORD Style = 0;
   DWORD ExtendedStyle = 0;
 };
 

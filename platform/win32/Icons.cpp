@@ -3,13 +3,14 @@
 #include "platform/win32/Icons.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace tessera {
 
 namespace {
 
 /// Null when there is no such resource.
-const void* Resource(int id, const wchar_t* type) {
+void* Resource(int id, const wchar_t* type) {
   const HMODULE module = GetModuleHandleW(nullptr);
   const HRSRC place = FindResourceW(module, MAKEINTRESOURCEW(id), type);
   return place == nullptr ? nullptr : LockResource(LoadResource(module, place));
@@ -18,12 +19,12 @@ const void* Resource(int id, const wchar_t* type) {
 /// The pixels of the picture of exactly that size, line by line from the bottom; null when an icon
 /// has none, or has it compressed.
 const DWORD* PixelsOf(int iconId, int size) {
-  const void* const directory = Resource(iconId, RT_GROUP_ICON);
+  void* const directory = Resource(iconId, RT_GROUP_ICON);
   if (directory == nullptr) {
     return nullptr;
   }
-  const int picture = LookupIconIdFromDirectoryEx(static_cast<BYTE*>(const_cast<void*>(directory)),
-                                                  TRUE, size, size, LR_DEFAULTCOLOR);
+  const int picture =
+      LookupIconIdFromDirectoryEx(static_cast<BYTE*>(directory), TRUE, size, size, LR_DEFAULTCOLOR);
   const auto* const header = static_cast<const BITMAPINFOHEADER*>(Resource(picture, RT_ICON));
   const bool suits = header != nullptr && header->biSize == sizeof *header &&
                      header->biWidth == size && header->biBitCount == 32;
@@ -49,7 +50,7 @@ Unique<HBITMAP> StripOf(std::span<const int> iconIds, int size) {
     if (picture == nullptr) {
       return nullptr;
     }
-    for (int line = 0; line < size; ++line) {
+    for (std::ptrdiff_t line = 0; line < size; ++line) {
       std::copy_n(picture + line * size, size, place + line * width);
     }
     place += size;

@@ -50,7 +50,8 @@ std::optional<std::wstring> ChooseFile(const char* function, DWORD flags, HWND o
   dialog.lpstrTitle = TextOrNull(request.Title);
   dialog.Flags = flags;
   if (!Show(function, dialog)) return std::nullopt;
-  return std::wstring(file.c_str());
+  // The system ends the path within the buffer.
+  return file.substr(0, file.find(L'\0'));
 }
 
 struct DeviceContextDeleter {

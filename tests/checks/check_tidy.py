@@ -1,14 +1,16 @@
-"""Runs clang-tidy, with the checks of .clang-tidy, over the program's portable sources.
+"""Runs clang-tidy, with the checks of .clang-tidy, over the program's sources.
 
-Usage: check_tidy.py BUILD_FOLDER [--each], a native one with compile commands. The tests are left
-out: the macros of their library cost minutes and tell nothing. Most of the time goes into the
-library's headers, so several sources are read as one; those of a batch with findings, and all with
---each, are read one by one. Prints one line "ok ..." or "not ok ..." per source file, and one more
-for each sample of code that shows that the check can fail.
+Usage: check_tidy.py [--each] BUILD_FOLDER..., native or for Windows, with compile commands. A source
+file of several is read as the first of them compiles it. The tests are left out: the macros of their
+library cost minutes and tell nothing. Most of the time goes into the library's headers, so several
+sources are read as one; those of a batch with findings, and all with --each, are read one by one.
+Prints one line "ok ..." or "not ok ..." per source file, and one more for each sample of code that
+shows that the check can fail.
 """
 
 import json
 import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -22,12 +24,25 @@ GOOD = "#include <string>\nint Length(const std::string& text) { return static_c
 
 
 def program_sources(build):
-    """The compile commands of the portable sources, by their paths from the root."""
+    """The compile commands of the program's sources in a build, by their paths from the root."""
     root = Path.cwd()
     commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
     inside = {Path(command["file"]).relative_to(root): command for command in commands
-              if Path(command["file"]).is_relative_to(root)}
+              if command["file"].endswith(".cpp") and Path(command["file"]).is_relative_to(root)}
     return {file: inside[file] for file in sorted(inside) if file.parts[0] not in OUTSIDE}
+
+
+def cross_options(command):
+    """What clang is to know about the compiler of a cross build: its target and its C++ headers."""
+    compiler = next(word for word in command.split() if "++" in word)
+    target = subprocess.run([compiler, "-dumpmachine"], capture_output=True, text=True, check=True)
+    if "mingw" not in target.stdout:
+        return []
+    search = subprocess.run([compiler, "-E", "-v", "-x", "c++", os.devnull],
+                            capture_output=True, text=True, check=True).stderr
+    headers = [line.strip() for line in search.splitlines() if re.match(r" /.*/c\+\+(/|$)", line)]
+    return [f"--extra-arg-before=--target={target.stdout.strip()}", "--extra-arg=-nostdinc++",
+            *(f"--extra-arg=-isystem{folder}" for folder in headers)]
 
 
 def findings(file, *options, inside=""):
@@ -39,7 +54,7 @@ def findings(file, *options, inside=""):
     return (output.stdout or output.stderr) if output.returncode else ""
 
 
-def batch_findings(files, command, inside):
+def batch_findings(files, command, *options, inside):
     """Of files that are read as one, by the compile command of the first."""
     with tempfile.TemporaryDirectory() as folder:
         batch = Path(folder, "batch.cpp")
@@ -48,7 +63,7 @@ def batch_findings(files, command, inside):
         command = command | {"file": str(batch),
                              "command": command["command"].replace(command["file"], str(batch))}
         Path(folder, "compile_commands.json").write_text(json.dumps([command]), encoding="utf-8")
-        return findings(batch, "-p", folder, inside=inside)
+        return findings(batch, "-p", folder, *options, inside=inside)
 
 
 def sample_findings(code):
@@ -57,7 +72,7 @@ def sample_findings(code):
         sample = Path(folder, "sample.cpp")
         sample.write_text(code, encoding="utf-8")
         command = {"directory": folder, "file": str(sample), "command": f"c++ -std=c++20 -c {sample}"}
-        return findings(sample, "--", "-std=c++20"), batch_findings([sample], command, folder)
+        return findings(sample, "--", "-std=c++20"), batch_findings([sample], command, inside=folder)
 
 
 def report(title, problems):
@@ -67,27 +82,47 @@ def report(title, problems):
     return not problems
 
 
-def main(build, each=False):
-    sources = program_sources(build)
-    files = list(sources)
-    inside = "|".join(sorted({f"{Path.cwd()}/{file.parts[0]}" for file in files}))
-    # Neighbours are likeliest to have names in common, so a batch takes every so many-th.
-    count = len(files) if each else -(-len(files) // BATCH_SIZE)
-    batches = [files[start::count] for start in range(count)]
+def read_one_by_one(batch, build, options, inside):
+    return [(file, findings(file, "-p", str(build), *options, inside=inside)) for file in batch]
 
-    def read(batch):
-        if not each and not batch_findings(batch, sources[batch[0]], inside):
-            return [(file, "") for file in batch]
-        return [(file, findings(file, "-p", str(build), inside=inside)) for file in batch]
 
-    good = report("clang-tidy has sources to read", "" if files else "no compile commands")
+def tasks(builds, each, inside_of):
+    """Functions that each read some files, and give them with what was found in them."""
+    seen = set()
+    for build in builds:
+        sources = {file: command for file, command in program_sources(build).items() if file not in seen}
+        seen |= sources.keys()
+        files = list(sources)
+        if not files:
+            continue
+        options = cross_options(sources[files[0]]["command"])
+        inside = inside_of(files)
+        # Neighbours are likeliest to have names in common, so a batch takes every so many-th.
+        count = len(files) if each else -(-len(files) // BATCH_SIZE)
+
+        def read(batch, build=build, sources=sources, options=options, inside=inside):
+            if not each and not batch_findings(batch, sources[batch[0]], *options, inside=inside):
+                return [(file, "") for file in batch]
+            return read_one_by_one(batch, build, options, inside)
+
+        yield from ((read, files[start::count]) for start in range(count))
+
+
+def main(builds, each=False):
+    def inside_of(files):
+        return "|".join(sorted({f"{Path.cwd()}/{file.parts[0]}" for file in files}))
+
+    todo = list(tasks(builds, each, inside_of))
+    good = report("clang-tidy has sources to read", "" if todo else "no compile commands")
     good &= report("clang-tidy accepts right code", "".join(sample_findings(GOOD)))
     good &= report("clang-tidy rejects wrong code", "" if all(sample_findings(BAD)) else "nothing found")
     with ThreadPoolExecutor(os.cpu_count()) as threads:
-        for file, problems in (result for results in threads.map(read, batches) for result in results):
-            good &= report(f"clang-tidy on {file}", problems)
+        for results in threads.map(lambda task: task[0](task[1]), todo):
+            for file, problems in results:
+                good &= report(f"clang-tidy on {file}", problems)
     return 0 if good else 1
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1]), "--each" in sys.argv[2:]))
+    ARGUMENTS = sys.argv[1:]
+    sys.exit(main([Path(folder) for folder in ARGUMENTS if folder != "--each"], "--each" in ARGUMENTS))

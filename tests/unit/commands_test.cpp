@@ -10,62 +10,64 @@ namespace tessera::commands_test {
 
 namespace {
 
+using namespace installation;
+
 class CommandsTest : public EditorTest {
  protected:
   [[nodiscard]] CommandState StateOf(int id) const {
-    const std::vector<CommandState> states = CommandStates(editor_);
+    const std::vector<CommandState> states = CommandStates(Editor);
     return *std::ranges::find(states, id, &CommandState::Id);
   }
 };
 
 TEST_F(CommandsTest, DisabledCommandDoesNothing) {
   Start();
-  EXPECT_FALSE(CommandEnabled(editor_, IDM_mnuFileSave));
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuFileSave), WindowTask::None);
-  EXPECT_EQ(Ini(), iniContent);
+  EXPECT_FALSE(CommandEnabled(Editor, IDM_mnuFileSave));
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuFileSave), WindowTask::None);
+  EXPECT_EQ(Ini(), IniContent);
 }
 
 TEST_F(CommandsTest, SaveIsEnabledByAnEditAndSaves) {
   Start();
   Assign(Pack, L"F9");
   EXPECT_TRUE(StateOf(IDM_mnuFileSave).Enabled);
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuFileSave), WindowTask::None);
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuFileSave), WindowTask::None);
   EXPECT_FALSE(StateOf(IDM_mnuFileSave).Enabled);
-  EXPECT_NE(Ini(), iniContent);
+  EXPECT_NE(Ini(), IniContent);
 }
 
 TEST_F(CommandsTest, ChecksFollowTheSettings) {
   Start();
   EXPECT_TRUE(StateOf(IDM_mnuViewToolbar).Checked);
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuViewToolbar), WindowTask::LayOut);
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuViewToolbar), WindowTask::LayOut);
   EXPECT_FALSE(StateOf(IDM_mnuViewToolbar).Checked);
   EXPECT_FALSE(StateOf(IDM_mnuViewSortList).Checked);
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuViewSortList), WindowTask::ShowSelectedRow);
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuViewSortList), WindowTask::ShowSelectedRow);
   EXPECT_TRUE(StateOf(IDM_mnuViewSortList).Checked);
 }
 
 TEST_F(CommandsTest, OpenAndRecentFilesLeaveTheSelectedRowToBeShown) {
   Start();
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuFileOpen), WindowTask::ShowSelectedRow);
-  EXPECT_EQ(dialogs_.OpenRequests.size(), 1U);
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuFileOpen), WindowTask::ShowSelectedRow);
+  EXPECT_EQ(Dialogs.OpenRequests.size(), 1U);
   Assign(Pack, L"F9");
-  messageBoxes_.Answers = {BoxAnswer::No};
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuFileRecentFiles1), WindowTask::ShowSelectedRow);
-  EXPECT_FALSE(editor_.Document().Modified());
+  MessageBoxes.Answers = {BoxAnswer::No};
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuFileRecentFiles1), WindowTask::ShowSelectedRow);
+  EXPECT_FALSE(Editor.Document().Modified());
 }
 
 TEST_F(CommandsTest, WindowDoesItsOwnCommands) {
   Start();
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuFileExportToClipboard), WindowTask::ShowExport);
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuViewOptions), WindowTask::ShowOptions);
-  EXPECT_EQ(RunCommand(editor_, IDM_mnuFileExit), WindowTask::Close);
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuFileExportToClipboard), WindowTask::ShowExport);
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuViewOptions), WindowTask::ShowOptions);
+  EXPECT_EQ(RunCommand(Editor, IDM_mnuFileExit), WindowTask::Close);
 }
 
 TEST_F(CommandsTest, OpenKeysListDisablesThePanelToolbarAlone) {
   Start();
-  editor_.Work(&CommandList::SelectRow, Copy);
+  Editor.Work(&CommandList::SelectRow, Copy);
   EXPECT_TRUE(StateOf(IDM_delete).EnabledOnPanel);
-  editor_.Work(&KeysList::ToggleKeysList);
+  Editor.Work(&KeysList::ToggleKeysList);
   EXPECT_FALSE(StateOf(IDM_delete).EnabledOnPanel);
   EXPECT_TRUE(StateOf(IDM_delete).Enabled);
 }
@@ -74,8 +76,8 @@ TEST_F(CommandsTest, OtherNumbersAreNoCommands) {
   EXPECT_TRUE(IsCommand(IDM_mnuFileRecentFiles16));
   for (const int id : {0, IDC_Combo1, IDM_mnuFileRecentFiles16 + 1}) {
     EXPECT_FALSE(IsCommand(id)) << id;
-    EXPECT_FALSE(CommandEnabled(editor_, id)) << id;
-    EXPECT_EQ(RunCommand(editor_, id), WindowTask::None) << id;
+    EXPECT_FALSE(CommandEnabled(Editor, id)) << id;
+    EXPECT_EQ(RunCommand(Editor, id), WindowTask::None) << id;
   }
 }
 
