@@ -11,8 +11,7 @@ if(WIN32)
   # Windows 10 and later; wide functions unless a name says otherwise.
   target_compile_definitions(tessera_options INTERFACE
     UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00)
-  # Sections begin at whole pages of the file: a loader can map them, and needs to copy none.
-  target_link_options(tessera_options INTERFACE -static -Wl,--file-alignment=4096)
+  target_link_options(tessera_options INTERFACE -static)
   target_link_libraries(tessera_options INTERFACE comctl32 advapi32 uxtheme)
 endif()
 

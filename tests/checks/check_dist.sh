@@ -52,7 +52,6 @@ found=$(missing_pages "$pages")
 [[ -n $pages && -z $found ]]; says $? "Readme.chm holds all of the help${found:+, but for $found}"
 stands_alone "$imports"; says $? "tessera.exe needs no library beyond Windows"
 imports_nothing_early "$imports"; says $? "tessera.exe imports no library for its first use only"
-grep -q 'FileAlignment.*00001000' <<<"$imports"; says $? "tessera.exe can be mapped as it is"
 
 sample=$(mktemp -d)
 trap 'rm -rf "$sample"' EXIT
