@@ -6,7 +6,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 bool Always(const Editor& /*editor*/) { return true; }
@@ -102,12 +101,8 @@ WindowTask RunCommand(Editor& editor, int id) {
     return WindowTask::ShowSelectedRow;
   }
   const Command* const command = CommandOf(id);
-  if (command == nullptr || !command->Enabled(editor)) {
-    return WindowTask::None;
-  }
-  if (command->Run != nullptr) {
-    command->Run(editor);
-  }
+  if (command == nullptr || !command->Enabled(editor)) return WindowTask::None;
+  if (command->Run != nullptr) command->Run(editor);
   return command->Task;
 }
 

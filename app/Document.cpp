@@ -68,9 +68,7 @@ void Document::LoadCatalogue(const ProgressStep& step) {
                          wincmdPath_);
   unread_ = wincmd.ReadError() != FileError::None;
   catalogue_.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation_);
-  if (catalogue_.lvwHidden.empty()) {
-    ReadMasterRows(step);
-  }
+  if (catalogue_.lvwHidden.empty()) ReadMasterRows(step);
   inputFiles_.FindDefaultHotkeys();
   const ProfileFile defaults(system_.Files, settings_.DefaultHotKeysDataFile);
   FillDefaultKeys(catalogue_.lvwHidden, defaults, notation_, step);
@@ -89,9 +87,7 @@ void Document::ReadMasterRows(const ProgressStep& step) {
 }
 
 bool Document::ChangesMayGo() {
-  if (busy_) {
-    return false;
-  }
+  if (busy_) return false;
   const BoxAnswer answer = AskToSaveChanges();
   const bool saveFailed = answer == BoxAnswer::Yes && modified_;
   return answer != BoxAnswer::Cancel && !saveFailed;
@@ -99,15 +95,11 @@ bool Document::ChangesMayGo() {
 
 /// Yes, No or Cancel; No when there is nothing to save. After Yes the save has been tried.
 BoxAnswer Document::AskToSaveChanges() {
-  if (!modified_) {
-    return BoxAnswer::No;
-  }
+  if (!modified_) return BoxAnswer::No;
   const BoxAnswer answer = system_.MessageBoxes.Show(
       texts_.GetLangText(TextId::SaveChangesTo) + L"  " + wincmdPath_ + L"\n",
       BoxButtons::YesNoCancel, BoxIcon::Exclamation);
-  if (answer == BoxAnswer::Yes) {
-    FileSave();
-  }
+  if (answer == BoxAnswer::Yes) FileSave();
   return answer;
 }
 
@@ -116,18 +108,14 @@ void Document::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
 void Document::FileSaveAndRestart() { Save(true); }
 
 void Document::Save(bool restarts) {
-  if (busy_ || !modified_) {
-    return;
-  }
+  if (busy_ || !modified_) return;
   if (unread_) {
     // A save would drop every key that the list does not show.
     system_.MessageBoxes.Beep();
     return;
   }
   const BusyTime busy(busy_);
-  if (restarts) {
-    Restart(true);
-  }
+  if (restarts) Restart(true);
   const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0};
   const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.Files,
                                         system_.Clock, inputFiles_.CommanderVariables());
@@ -136,9 +124,7 @@ void Document::Save(bool restarts) {
   } else {
     system_.MessageBoxes.Beep();
   }
-  if (restarts) {
-    Restart(false);
-  }
+  if (restarts) Restart(false);
 }
 
 /// Closes Total Commander before the save, or starts it after that.

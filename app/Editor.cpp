@@ -37,15 +37,9 @@ const Settings& Editor::Options() const { return settings_; }
 const Texts& Editor::Language() const { return texts_; }
 
 Reaction Editor::FollowUp(const Reaction& reaction) {
-  if (reaction.Changed) {
-    document_.SetModified(true);
-  }
-  if (reaction.FollowChooser) {
-    keysList_.FollowChooser();
-  }
-  if (reaction.HideKeysList) {
-    keysList_.Hide();
-  }
+  if (reaction.Changed) document_.SetModified(true);
+  if (reaction.FollowChooser) keysList_.FollowChooser();
+  if (reaction.HideKeysList) keysList_.Hide();
   return reaction;
 }
 
@@ -62,9 +56,7 @@ void Editor::Load(std::wstring fileToOpen) {
 }
 
 void Editor::Activate() {
-  if (std::exchange(activated_, true)) {
-    return;
-  }
+  if (std::exchange(activated_, true)) return;
   inputFiles_.FindTotalcmdInc();
   OpenShortcutFile(false, inputFiles_.FindWincmdIni(fileToOpen_), true);
   list_.RestoreStoredSort();
@@ -95,13 +87,9 @@ void Editor::ToggleToolbar() { settings_.ToolbarVisible = settings_.ToolbarVisib
 void Editor::RefreshRestartItems() { document_.RefreshRestartItems(); }
 
 void Editor::OpenShortcutFile(bool browse, const std::wstring& path, bool addToRecent) {
-  if (!document_.ChangesMayGo()) {
-    return;
-  }
+  if (!document_.ChangesMayGo()) return;
   const std::wstring opened = browse ? inputFiles_.BrowseForWincmdIni() : path;
-  if (!IsMissing(opened)) {
-    OpenPath(opened, addToRecent);
-  }
+  if (!IsMissing(opened)) OpenPath(opened, addToRecent);
 }
 
 void Editor::OpenPath(const std::wstring& path, bool addToRecent) {
@@ -114,9 +102,7 @@ void Editor::OpenPath(const std::wstring& path, bool addToRecent) {
     recentFiles_.AddFile(path);
     SaveRecentFiles();
   }
-  if (settings_.SortedList != 0) {
-    list_.SortCommandList();
-  }
+  if (settings_.SortedList != 0) list_.SortCommandList();
   progress_.Finish();
 }
 

@@ -54,9 +54,7 @@ class Editor : Pinned {
   /// it. While the document is busy, nothing.
   template <typename Part, typename... Parameters, typename... Arguments>
   Reaction Work(Reaction (Part::*operation)(Parameters...), Arguments&&... arguments) {
-    if (document_.Busy()) {
-      return {};
-    }
+    if (document_.Busy()) return {};
     Part& part = std::get<Part&>(workplace_);
     return FollowUp((part.*operation)(std::forward<Arguments>(arguments)...));
   }

@@ -8,9 +8,7 @@ namespace tessera {
 
 void Editor::OpenRecentFile(int index) {
   const std::wstring path = recentFiles_.ListItems(index);
-  if (document_.Busy() || IsMissing(path)) {
-    return;
-  }
+  if (document_.Busy() || IsMissing(path)) return;
   if (ExistsOrReturns(system_.Files, path)) {
     OpenShortcutFile(false, path, true);
     return;
@@ -23,9 +21,7 @@ void Editor::OpenRecentFile(int index) {
 }
 
 void Editor::ClearRecentFiles() {
-  if (!document_.Busy() && recentFiles_.Clear()) {
-    SaveRecentFiles();
-  }
+  if (!document_.Busy() && recentFiles_.Clear()) SaveRecentFiles();
 }
 
 void Editor::ShowHelpTopics() {

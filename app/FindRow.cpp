@@ -12,9 +12,7 @@ std::optional<std::size_t> FindRow(const DisplayTable& rows, std::wstring_view t
   for (std::size_t offset = 0; offset < count; ++offset) {
     const std::size_t position = (first + offset) % count;
     const std::wstring_view description = rows.At(position).Description;
-    if (EqualIgnoringCase(description.substr(0, text.size()), text)) {
-      return position;
-    }
+    if (EqualIgnoringCase(description.substr(0, text.size()), text)) return position;
   }
   return std::nullopt;
 }

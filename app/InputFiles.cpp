@@ -33,9 +33,7 @@ void InputFiles::FindTotalcmdInc() {
 }
 
 std::wstring InputFiles::FindWincmdIni(const std::wstring& preferred) {
-  if (ExistsOrReturns(system_.Files, preferred)) {
-    return preferred;
-  }
+  if (ExistsOrReturns(system_.Files, preferred)) return preferred;
   const std::wstring stored = settings_.UserDefinedWincmd;
   std::wstring path = LocateWincmdIni(
       {system_.Files, system_.Registry, system_.Environment}, settings_.TCInstallDir,
@@ -50,9 +48,7 @@ std::wstring InputFiles::FindWincmdIni(const std::wstring& preferred) {
 }
 
 void InputFiles::FindDefaultHotkeys() {
-  if (FileExists(system_.Files, settings_.DefaultHotKeysDataFile, false)) {
-    return;
-  }
+  if (FileExists(system_.Files, settings_.DefaultHotKeysDataFile, false)) return;
   const std::wstring folder = AddBackslash(system_.Environment.ProgramDirectory()) + L"Data Files";
   settings_.DefaultHotKeysDataFile =
       AskForFile(TextId::NoDataFile, BoxIcon::Critical, folder, L"tc default hotkeys.hky",

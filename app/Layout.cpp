@@ -4,7 +4,6 @@
 #include <algorithm>
 
 namespace tessera {
-
 namespace {
 
 /// One screen pixel is the unit of the gaps around the list, at any resolution.

@@ -8,7 +8,6 @@
 #include "text/Text.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr std::wstring_view BitmapFace = L"MS Sans Serif";

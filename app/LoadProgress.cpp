@@ -4,7 +4,6 @@
 #include <utility>
 
 namespace tessera {
-
 namespace {
 
 constexpr int FirstMaximum = 1500;
@@ -39,16 +38,10 @@ void LoadProgress::Start() {
 }
 
 void LoadProgress::Step() {
-  if (++steps_ % StepsBetweenLooks == 0) {
-    ShowWhenDue();
-  }
-  if (maximum_ >= LastMaximum) {
-    return;
-  }
+  if (++steps_ % StepsBetweenLooks == 0) ShowWhenDue();
+  if (maximum_ >= LastMaximum) return;
   ++value_;
-  if (value_ > FirstMaximum) {
-    maximum_ += MoreRoom;
-  }
+  if (value_ > FirstMaximum) maximum_ += MoreRoom;
 }
 
 void LoadProgress::Finish() {
@@ -59,9 +52,7 @@ void LoadProgress::Finish() {
 void LoadProgress::ShowWhenDue() {
   const float elapsed = clock_.SecondsSinceMidnight() - handledAt_;
   // Less than none: midnight has passed.
-  if (elapsed < SecondsBetweenEvents && elapsed >= 0) {
-    return;
-  }
+  if (elapsed < SecondsBetweenEvents && elapsed >= 0) return;
   show_(*this);
   clock_.DoEvents();
   handledAt_ = clock_.SecondsSinceMidnight();

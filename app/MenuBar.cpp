@@ -4,7 +4,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 using enum MenuEntryKind;

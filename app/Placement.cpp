@@ -6,7 +6,6 @@
 #include "app/Twips.h"
 
 namespace tessera {
-
 namespace {
 
 /// First-run size of the settings file.
@@ -27,9 +26,7 @@ Area MakeReachable(const Area& window, std::span<const Area> screens, int dpi) {
   const bool reachable = std::ranges::any_of(screens, [&](const Area& screen) {
     return Overlaps(grip, screen) && grip.Top >= screen.Top - Scaled(8, dpi);
   });
-  if (reachable || screens.empty()) {
-    return window;
-  }
+  if (reachable || screens.empty()) return window;
   const Area& screen = screens.front();
   const int width = std::min(window.Width, screen.Width);
   const int height = std::min(window.Height, screen.Height);

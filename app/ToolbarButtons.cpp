@@ -7,7 +7,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 using enum ToolbarStyle;

@@ -4,7 +4,6 @@
 #include "platform/Area.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr int TwipsPerInch = 1440;

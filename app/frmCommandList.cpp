@@ -10,7 +10,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr int DefaultsSubItem = 2;
@@ -105,9 +104,7 @@ LRESULT frmCommandList::OnNotify(NMHDR& header) {
 void frmCommandList::FillCell(LVITEMW& item) const {
   const DisplayTable& rows = editor_.Document().Rows();
   const auto position = static_cast<std::size_t>(item.iItem);
-  if (position >= rows.Count() || item.iSubItem < 0 || item.iSubItem >= 4) {
-    return;
-  }
+  if (position >= rows.Count() || item.iSubItem < 0 || item.iSubItem >= 4) return;
   const CommandEntry& row = rows.At(position);
   if ((item.mask & LVIF_TEXT) != 0) {
     const std::wstring text(CellText(row, AllColumns[static_cast<std::size_t>(item.iSubItem)]));
@@ -123,9 +120,7 @@ void frmCommandList::OnItemChanged(const NMLISTVIEW& change) {
   const bool selected = (change.uChanged & LVIF_STATE) != 0 &&
                         (change.uNewState & LVIS_SELECTED) != 0 &&
                         (change.uOldState & LVIS_SELECTED) == 0;
-  if (syncing_ || !selected) {
-    return;
-  }
+  if (syncing_ || !selected) return;
   const int position =
       change.iItem >= 0 ? change.iItem : ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
   SelectRow(position);
@@ -203,16 +198,12 @@ void frmCommandList::SyncSelection() {
   const auto position = editor_.Document().Rows().PositionOf(editor_.List().SelectedRow());
   const int shown = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
   const int wanted = position ? static_cast<int>(*position) : -1;
-  if (shown == wanted || editor_.Document().Busy()) {
-    return;
-  }
+  if (shown == wanted || editor_.Document().Busy()) return;
   syncing_ = true;
   const int top = ListView_GetTopIndex(ListView1_);
   constexpr UINT Both = LVIS_SELECTED | LVIS_FOCUSED;
   ListView_SetItemState(ListView1_, -1, 0, LVIS_SELECTED);
-  if (wanted >= 0) {
-    ListView_SetItemState(ListView1_, wanted, Both, Both);
-  }
+  if (wanted >= 0) ListView_SetItemState(ListView1_, wanted, Both, Both);
   // Some lists scroll to the row that gets the focus; the user's view of the list is to stay.
   RECT row{};
   const int moved = top - ListView_GetTopIndex(ListView1_);
@@ -224,9 +215,7 @@ void frmCommandList::SyncSelection() {
 
 void frmCommandList::ShowSelectedRow() {
   const int selected = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
-  if (selected >= 0) {
-    ListView_EnsureVisible(ListView1_, selected, FALSE);
-  }
+  if (selected >= 0) ListView_EnsureVisible(ListView1_, selected, FALSE);
 }
 
 void frmCommandList::SyncHeaderIcons() {

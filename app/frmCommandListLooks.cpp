@@ -9,7 +9,6 @@
 #include "resources/icons.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr TextId ListName = TextId::CommandColumn;

@@ -7,7 +7,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 /// Posted at an activation, so that the window stands on the screen before files are loaded.
@@ -102,9 +101,7 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_QUERYENDSESSION:
       return MayClose() ? TRUE : FALSE;
     case WM_ENDSESSION:
-      if (wParam != FALSE) {
-        DestroyWindow(window_);
-      }
+      if (wParam != FALSE) DestroyWindow(window_);
       return 0;
     case WM_DESTROY:
       Form_Unload();
@@ -170,9 +167,7 @@ void frmMain::OnActivate(WPARAM wParam) {
 void frmMain::OnTimer() {
   KillTimer(window_, Timer1);
   // The released Alt key has put the menu bar into its keyboard mode, where it would take the keys.
-  if (MenuIsOpen()) {
-    EndMenu();
-  }
+  if (MenuIsOpen()) EndMenu();
   React(editor_.Work(&HotkeyPanel::TimerTick));
 }
 
@@ -185,17 +180,13 @@ void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
 }
 
 void frmMain::Form_Activate() {
-  if (editor_.Document().Busy()) {
-    return;
-  }
+  if (editor_.Document().Busy()) return;
   editor_.Activate();
   Sync();
 }
 
 void frmMain::Form_QueryUnload() {
-  if (MayClose()) {
-    DestroyWindow(window_);
-  }
+  if (MayClose()) DestroyWindow(window_);
 }
 
 bool frmMain::MayClose() {
@@ -226,9 +217,7 @@ bool frmMain::AcceptsInput() const {
 }
 
 void frmMain::Sync() {
-  if (GetDlgItem(window_, IDC_ListView1) == nullptr) {
-    return;
-  }
+  if (GetDlgItem(window_, IDC_ListView1) == nullptr) return;
   SetText(window_, editor_.Document().Caption());
   views_.Sync();
 }

@@ -7,7 +7,6 @@
 #include "resources/icons.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr wchar_t WindowClass[] = L"frmMain";

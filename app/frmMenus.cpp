@@ -7,7 +7,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 void Append(HMENU menu, int id, const std::wstring& caption, bool enabled) {

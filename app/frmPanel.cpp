@@ -11,7 +11,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr wchar_t FrameClass[] = L"frmMain.Frame1";
@@ -125,9 +124,7 @@ void frmPanel::Sync() {
   const HotkeyPanel& panel = editor_.Panel();
   const bool enabled = panel.InputsEnabled();
   const HWND focus = GetFocus();
-  if (!enabled && focus != nullptr && IsChild(Frame1_, focus) != FALSE) {
-    events_.GiveFocusAway();
-  }
+  if (!enabled && focus != nullptr && IsChild(Frame1_, focus) != FALSE) events_.GiveFocusAway();
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
     const bool checked = panel.BoxChecked(AllModifiers[box]);
     if ((Button_GetCheck(chkCtrlAlt_[box]) == BST_CHECKED) != checked) {

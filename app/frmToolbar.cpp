@@ -9,7 +9,6 @@
 #include "platform/win32/Icons.h"
 
 namespace tessera {
-
 namespace {
 
 BYTE StyleOf(ToolbarStyle style) {
@@ -119,9 +118,7 @@ void frmToolbar::ShowState(int command, bool enabled, bool checked) const {
   if (state == -1) return;
   const LRESULT shown = (state & ~(TBSTATE_ENABLED | TBSTATE_CHECKED)) |
                         (enabled ? TBSTATE_ENABLED : 0) | (checked ? TBSTATE_CHECKED : 0);
-  if (shown != state) {
-    SendMessageW(toolbar_, TB_SETSTATE, static_cast<WPARAM>(command), shown);
-  }
+  if (shown != state) SendMessageW(toolbar_, TB_SETSTATE, static_cast<WPARAM>(command), shown);
 }
 
 }  // namespace tessera

@@ -9,7 +9,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 void PlaceLater(HDWP& places, HWND control, const Area& area) {
@@ -87,9 +86,7 @@ void frmViews::ApplyDisplaySettings() {
 }
 
 void frmViews::LayOut() {
-  if (progressBar_.Control() == nullptr || IsIconic(window_) != FALSE) {
-    return;
-  }
+  if (progressBar_.Control() == nullptr || IsIconic(window_) != FALSE) return;
   const HWND toolbar = Toolbar1_.Control();
   const int toolbarHeight = editor_.Options().ToolbarVisible != 0 ? Toolbar1_.Height(dpi_) : 0;
   RECT inside{};
@@ -157,9 +154,7 @@ void frmViews::SyncKeysList() {
   if (list.Visible() && !keysList_.Created()) CreateKeysList();
   keysList_.Select(list.Selection());
   // While the window is minimised the system hides the list with it.
-  if (list.Visible() == keysList_.Visible() || IsIconic(window_) != FALSE) {
-    return;
-  }
+  if (list.Visible() == keysList_.Visible() || IsIconic(window_) != FALSE) return;
   if (list.Visible()) {
     MoveKeysList();
     keysList_.Show();

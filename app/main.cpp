@@ -12,9 +12,7 @@ namespace {
 /// The first argument of the command line as a full path; empty without one. The run-time library
 /// has split the line: the system's function for that is in shell32, which the start does without.
 std::wstring FileToOpen() {
-  if (__argc < 2 || *__wargv[1] == L'\0') {
-    return {};
-  }
+  if (__argc < 2 || *__wargv[1] == L'\0') return {};
   const wchar_t* const argument = __wargv[1];
   std::wstring path(GetFullPathNameW(argument, 0, nullptr, nullptr), L'\0');
   path.resize(GetFullPathNameW(argument, static_cast<DWORD>(path.size()), path.data(), nullptr));
@@ -42,9 +40,7 @@ int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, wchar_t* /*c
   InitCommonControlsEx(&controls);
   tessera::WindowsSystem windowsSystem;
   tessera::frmMain window(windowsSystem);
-  if (!window.Form_Load(FileToOpen())) {
-    return 1;
-  }
+  if (!window.Form_Load(FileToOpen())) return 1;
   window.Show(nShowCmd);
   return RunMessageLoop(window);
 }

@@ -5,7 +5,6 @@
 #include <optional>
 
 namespace tessera {
-
 namespace {
 
 constexpr int Margin = 11;
@@ -33,9 +32,7 @@ class PageStack {
     } else {
       const bool beside =
           control.Kind == ControlKind::Swatch || control.Kind == ControlKind::SideButton;
-      if (!beside) {
-        StartRow(control.Kind);
-      }
+      if (!beside) StartRow(control.Kind);
       area = InRow(control);
     }
   }
@@ -109,9 +106,7 @@ class PageStack {
 int WidestLabel(std::span<const MeasuredControl> controls) {
   int widest = 0;
   for (const MeasuredControl& control : controls) {
-    if (control.Kind == ControlKind::Label) {
-      widest = std::max(widest, control.TextWidth);
-    }
+    if (control.Kind == ControlKind::Label) widest = std::max(widest, control.TextWidth);
   }
   return widest;
 }

@@ -8,7 +8,6 @@
 #include "localisation/Mnemonic.h"
 
 namespace tessera {
-
 namespace {
 
 struct ControlClass {
@@ -147,9 +146,7 @@ void frmDialog::OnInit() {
 void frmDialog::OnCommandMessage(int id, int notification) {
   if (id == IDOK || id == IDCANCEL) {
     const HWND button = Control(plan_.Buttons[id == IDOK ? 0 : 1].Id);
-    if (IsWindowEnabled(button) != FALSE) {
-      OnCommand(GetDlgCtrlID(button), BN_CLICKED);
-    }
+    if (IsWindowEnabled(button) != FALSE) OnCommand(GetDlgCtrlID(button), BN_CLICKED);
     return;
   }
   OnCommand(id, notification);
@@ -176,9 +173,7 @@ void frmDialog::CreateControls() {
     Create(control, !(option && optionBefore));
     optionBefore = option;
   }
-  for (const DialogControl& button : plan_.Buttons) {
-    ShowWindow(Create(button, true), SW_SHOWNA);
-  }
+  for (const DialogControl& button : plan_.Buttons) ShowWindow(Create(button, true), SW_SHOWNA);
   SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(plan_.Buttons.front().Id), 0);
   Button_SetStyle(Control(plan_.Buttons.front().Id), BS_DEFPUSHBUTTON, FALSE);
   if (plan_.TabsId != 0) {
@@ -193,9 +188,7 @@ void frmDialog::ApplyLanguage() {
   for (const auto& controls : {plan_.Controls, plan_.Buttons}) {
     for (const DialogControl& control : controls) {
       const std::wstring text = texts_.GetLangText(control.Caption);
-      if (control.Kind == ControlKind::SideButton) {
-        SetText(Control(control.Id), L"...");
-      }
+      if (control.Kind == ControlKind::SideButton) SetText(Control(control.Id), L"...");
       if (control.Kind == ControlKind::SideButton || control.Kind == ControlKind::TextBox) {
         SetAccessibleName(Control(control.Id), WithoutMnemonic(text));
       } else {
@@ -215,9 +208,7 @@ void frmDialog::ApplyLanguage() {
 
 void frmDialog::ShowPage(int page) {
   page_ = page;
-  if (tabs_ != nullptr) {
-    TabCtrl_SetCurSel(tabs_, page);
-  }
+  if (tabs_ != nullptr) TabCtrl_SetCurSel(tabs_, page);
   for (const DialogControl& control : plan_.Controls) {
     ShowWindow(Control(control.Id), control.Page == page ? SW_SHOWNA : SW_HIDE);
   }
@@ -230,9 +221,7 @@ void frmDialog::FocusFirst() {
   HWND control = Control(first->Id);
   const bool optionChosenLater =
       first->Kind == ControlKind::OptionButton && Button_GetCheck(control) != BST_CHECKED;
-  if (optionChosenLater) {
-    control = Control((first + 1)->Id);
-  }
+  if (optionChosenLater) control = Control((first + 1)->Id);
   SetFocus(control);
 }
 

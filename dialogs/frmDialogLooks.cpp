@@ -6,7 +6,6 @@
 #include "localisation/Mnemonic.h"
 
 namespace tessera {
-
 namespace {
 
 /// For 96 pixels an inch.
@@ -62,9 +61,7 @@ void frmDialog::ApplyDpi(int dpi) {
   }
   font_ = std::move(font);
   metrics_ = {.Dpi = dpi, .TextHeight = static_cast<int>(TextSize(window_, font_.get(), L"Xg").cy)};
-  if (tabs_ != nullptr) {
-    TabCtrl_SetPadding(tabs_, Scaled(TabPadding, dpi), Scaled(4, dpi));
-  }
+  if (tabs_ != nullptr) TabCtrl_SetPadding(tabs_, Scaled(TabPadding, dpi), Scaled(4, dpi));
   LayOut();
 }
 
@@ -156,9 +153,7 @@ void frmDialog::DrawBackground(HDC context) const {
   RECT inside{};
   GetClientRect(window_, &inside);
   FillRect(context, &inside, GetSysColorBrush(COLOR_BTNFACE));
-  if (tabs_ == nullptr) {
-    return;
-  }
+  if (tabs_ == nullptr) return;
   RECT page{};
   GetWindowRect(tabs_, &page);
   MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&page), 2);
@@ -170,16 +165,12 @@ void frmDialog::DrawBackground(HDC context) const {
 
 std::optional<INT_PTR> frmDialog::ColorControl(HDC context, HWND control) {
   const DialogControl* const found = Find(GetDlgCtrlID(control));
-  if (found == nullptr) {
-    return std::nullopt;
-  }
+  if (found == nullptr) return std::nullopt;
   if (settings_.ShowControlsBackColor != 0 && IsTranslatorsControl(found->Kind)) {
     SetBkColor(context, TranslatorsColor);
     return reinterpret_cast<INT_PTR>(translatorsBrush_.get());
   }
-  if (tabs_ == nullptr || found->Kind == ControlKind::TextBox) {
-    return std::nullopt;
-  }
+  if (tabs_ == nullptr || found->Kind == ControlKind::TextBox) return std::nullopt;
   POINT corner{};
   MapWindowPoints(control, tabs_, &corner, 1);
   SetBrushOrgEx(context, -corner.x, -corner.y, nullptr);

@@ -7,7 +7,6 @@
 #include "text/Numbers.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr int FirstColumn = 1;
@@ -26,9 +25,7 @@ SortDirection OppositeOf(short sortOrder) {
 }
 
 void RepairSortedColumn(Settings& settings) {
-  if (!IsColumn(settings.SortedColumn)) {
-    settings.SortedColumn = DefaultSortedColumn;
-  }
+  if (!IsColumn(settings.SortedColumn)) settings.SortedColumn = DefaultSortedColumn;
 }
 
 /// Four numbers, -1 for what is missing or no number.
@@ -57,9 +54,7 @@ ColumnLayout ReadColumnLayout(const Settings& settings) {
   ColumnLayout layout;
   const std::array<int, 4> widths = ReadNumbers(settings.ColumnHeadersSize);
   for (std::size_t i = 0; i < widths.size(); ++i) {
-    if (widths[i] >= 0 && widths[i] <= MaximumWidth) {
-      layout.Widths[i] = widths[i];
-    }
+    if (widths[i] >= 0 && widths[i] <= MaximumWidth) layout.Widths[i] = widths[i];
   }
   const std::array<int, 4> positions = ReadNumbers(settings.ColumnHeadersPosition);
   if (std::is_permutation(positions.begin(), positions.end(), layout.Positions.begin())) {
@@ -87,9 +82,7 @@ HeaderIcon CommandList::IconOf(Column column) const { return icons_.at(IndexOf(c
 void CommandList::ShowRowDetails(RowKey row) { selectedRow_ = row; }
 
 Reaction CommandList::SelectRow(std::size_t position) {
-  if (position >= catalogue_.ListView1.Count()) {
-    return {};
-  }
+  if (position >= catalogue_.ListView1.Count()) return {};
   ShowRowDetails(catalogue_.ListView1.At(position).Key);
   return {.HideKeysList = true};
 }
@@ -106,9 +99,7 @@ Reaction CommandList::SortByColumn(int column) {
     settings_.SortedColumn = DefaultSortedColumn;
     return {};
   }
-  if (column != NoColumn) {
-    sortKey_ = static_cast<Column>(column);
-  }
+  if (column != NoColumn) sortKey_ = static_cast<Column>(column);
   if (column != settings_.SortedColumn) {
     direction_ = static_cast<SortDirection>(settings_.SortOrder);
   } else {
@@ -152,9 +143,7 @@ Reaction CommandList::ToggleSortedList() {
 }
 
 void CommandList::RestoreStoredSort() {
-  if (settings_.SortedList != 1) {
-    return;
-  }
+  if (settings_.SortedList != 1) return;
   RepairSortedColumn(settings_);
   // A stored 4 becomes 0, which names no column. Kept so.
   settings_.SortedColumn = static_cast<short>(settings_.SortedColumn % LastColumn);

@@ -4,7 +4,6 @@
 #include <optional>
 
 namespace tessera {
-
 namespace {
 
 constexpr std::size_t IndexOf(Modifier modifier) { return static_cast<std::size_t>(modifier); }
@@ -99,9 +98,7 @@ Reaction HotkeyPanel::Delete() {
 Reaction HotkeyPanel::DeleteAll() { return {.Changed = assignment_.DeleteAll()}; }
 
 Reaction HotkeyPanel::KeyDown(const KeyEvent& event) {
-  if (!list_.CommandSelected()) {
-    return {};
-  }
+  if (!list_.CommandSelected()) return {};
   Reaction reaction{.FollowChooser = true};
   const auto press = [&](Modifier box) {
     boxesChecked_[IndexOf(box)] = modifierToggle_[IndexOf(box)];
@@ -111,33 +108,25 @@ Reaction HotkeyPanel::KeyDown(const KeyEvent& event) {
     reaction.Changed = Delete().Changed;
     reaction.Handled = true;
   }
-  if (event.CtrlHeld) {
-    press(Modifier::Ctrl);
-  }
+  if (event.CtrlHeld) press(Modifier::Ctrl);
   const bool altPressed =
       settings_.UseContextMenuKey != 0 ? event.Code == KeyCode::ContextMenu : event.AltHeld;
   if (altPressed) {
     press(Modifier::Alt);
     reaction.Handled |= event.Code == KeyCode::ContextMenu;
   }
-  if (event.ShiftHeld) {
-    press(Modifier::Shift);
-  }
+  if (event.ShiftHeld) press(Modifier::Shift);
   if (event.Code == KeyCode::Enter && chosenKey_ != NoKeyChosen) {
     const bool changed = Assign().Changed;
     reaction = ResetPanel();
     reaction.Changed = changed;
   }
-  if (event.Code == KeyCode::Backspace || event.Code == KeyCode::Escape) {
-    reaction = ResetPanel();
-  }
+  if (event.Code == KeyCode::Backspace || event.Code == KeyCode::Escape) reaction = ResetPanel();
   return reaction;
 }
 
 Reaction HotkeyPanel::KeyUp(const KeyEvent& event) {
-  if (!list_.CommandSelected()) {
-    return {};
-  }
+  if (!list_.CommandSelected()) return {};
   const auto flip = [this](Modifier box) {
     bool& toggle = modifierToggle_[IndexOf(box)];
     toggle = !toggle;

@@ -2,7 +2,6 @@
 #include "editing/KeyConflicts.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr const wchar_t* LineBreaks = L"\n\n";
@@ -14,9 +13,7 @@ std::wstring AssignItToQuestion(const Texts& texts, const CommandEntry& row) {
 }  // namespace
 
 KeyConflict FindConflict(const Catalogue& catalogue, RowKey row, std::wstring_view key) {
-  if (catalogue.ListView1.Row(row).CurrentKeys == key) {
-    return {ConflictKind::SameKey};
-  }
+  if (catalogue.ListView1.Row(row).CurrentKeys == key) return {ConflictKind::SameKey};
   if (const auto entry = catalogue.lvwDefKeys.FindKey(key)) {
     return {ConflictKind::DefaultKey, *entry, catalogue.lvwDefKeys.At(*entry).Owner};
   }

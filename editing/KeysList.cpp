@@ -12,12 +12,8 @@ int KeysList::Selection() const { return moved_.value_or(panel_.ChosenKey()); }
 bool KeysList::PanelToolbarEnabled() const { return panelToolbarEnabled_; }
 
 Reaction KeysList::ToggleKeysList() {
-  if (!panel_.InputsEnabled()) {
-    return {};
-  }
-  if (visible_) {
-    return CloseKeysList();
-  }
+  if (!panel_.InputsEnabled()) return {};
+  if (visible_) return CloseKeysList();
   FollowChooser();
   visible_ = true;
   panelToolbarEnabled_ = false;
@@ -57,9 +53,7 @@ Reaction KeysList::ReleaseMouse() {
 }
 
 Reaction KeysList::KeyDown(KeyCode code) {
-  if (code == KeyCode::Escape) {
-    return CloseKeysList();
-  }
+  if (code == KeyCode::Escape) return CloseKeysList();
   acceptClick_ = code == KeyCode::Enter || code == KeyCode::Space;
   return acceptClick_ ? Select(Selection()) : Reaction{};
 }

@@ -7,7 +7,6 @@
 #include "shortcuts/HotkeyNotation.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr wchar_t WindowClass[] = L"frmKeysList";
@@ -46,9 +45,7 @@ void frmKeysList::Create(HWND owner) {
 bool frmKeysList::Created() const { return window_ != nullptr; }
 
 void frmKeysList::ApplyFont(HFONT font, int dpi) {
-  if (window_ == nullptr) {
-    return;
-  }
+  if (window_ == nullptr) return;
   GiveFont(List1_, font);
   const int rowHeight = static_cast<int>(TextSize(List1_, font, L"Xg").cy) + Scaled(1, dpi);
   SendMessageW(List1_, LB_SETITEMHEIGHT, 0, rowHeight);
@@ -62,9 +59,7 @@ void frmKeysList::ApplyFont(HFONT font, int dpi) {
 }
 
 void frmKeysList::SetName(const std::wstring& name) {
-  if (window_ == nullptr) {
-    return;
-  }
+  if (window_ == nullptr) return;
   SetText(window_, name);
   SetAccessibleName(List1_, name);
 }
@@ -74,9 +69,7 @@ Area frmKeysList::Size() const { return WindowArea(window_); }
 bool frmKeysList::Visible() const { return IsWindowVisible(window_) != FALSE; }
 
 void frmKeysList::Select(int index) {
-  if (ListBox_GetCurSel(List1_) != index) {
-    ListBox_SetCurSel(List1_, index);
-  }
+  if (ListBox_GetCurSel(List1_) != index) ListBox_SetCurSel(List1_, index);
 }
 
 void frmKeysList::MoveTo(const Area& area) { Place(window_, area); }
@@ -99,9 +92,7 @@ LRESULT CALLBACK frmKeysList::WindowProcedure(HWND window, UINT message, WPARAM 
 LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
-      if (HIWORD(wParam) == LBN_SELCHANGE) {
-        events_.Select(ListBox_GetCurSel(List1_));
-      }
+      if (HIWORD(wParam) == LBN_SELCHANGE) events_.Select(ListBox_GetCurSel(List1_));
       return 0;
     case WM_ACTIVATE: {
       // It takes the focus, but is part of its owner, whose title is to stay an active one.

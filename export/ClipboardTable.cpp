@@ -4,7 +4,6 @@
 #include <algorithm>
 
 namespace tessera {
-
 namespace {
 
 constexpr const wchar_t* LineEnd = L"\r\n";
@@ -41,9 +40,7 @@ std::size_t ColumnMaxLength(const DisplayTable& rows, Column column) {
   std::size_t longest = 0;
   for (std::size_t position = 0; position < rows.Count(); ++position) {
     const CommandEntry& row = rows.At(position);
-    if (!row.IsHeading()) {
-      longest = std::max(longest, CellText(row, column).size());
-    }
+    if (!row.IsHeading()) longest = std::max(longest, CellText(row, column).size());
   }
   return longest;
 }
@@ -51,19 +48,15 @@ std::size_t ColumnMaxLength(const DisplayTable& rows, Column column) {
 std::wstring BuildExportText(const DisplayTable& rows, const ExportColumns& columns,
                              const Texts& texts, const std::wstring& undefinedHotkey) {
   std::array<std::size_t, 4> widths{};
-  std::transform(AllColumns.begin(), AllColumns.end(), widths.begin(),
-                 [&](Column column) { return ColumnMaxLength(rows, column); });
+  std::ranges::transform(AllColumns, widths.begin(),
+                         [&](Column column) { return ColumnMaxLength(rows, column); });
   std::wstring text = HeadingLine(columns, widths, texts) + LineEnd;
   text.append(text.size() + 2, L'=').append(LineEnd);
   for (std::size_t position = 0; position < rows.Count(); ++position) {
     const CommandEntry& row = rows.At(position);
-    if (row.IsHeading() || !HasKey(row, columns, undefinedHotkey)) {
-      continue;
-    }
+    if (row.IsHeading() || !HasKey(row, columns, undefinedHotkey)) continue;
     for (std::size_t i = 0; i < AllColumns.size(); ++i) {
-      if (columns[i]) {
-        AppendCell(text, CellText(row, AllColumns[i]), widths[i]);
-      }
+      if (columns[i]) AppendCell(text, CellText(row, AllColumns[i]), widths[i]);
     }
     text.append(LineEnd);
   }
@@ -74,9 +67,7 @@ std::wstring BuildExportEnding(const StartMenuKeyTable& startMenuKeys, bool modi
                                const Texts& texts) {
   std::wstring text;
   for (const StartMenuSlot& slot : startMenuKeys) {
-    if (slot.Key.empty()) {
-      continue;
-    }
+    if (slot.Key.empty()) continue;
     if (text.empty()) {
       const std::wstring title = StartMenuTitle;
       text = std::wstring(LineEnd) + LineEnd + title + LineEnd + std::wstring(title.size(), L'=');
@@ -87,9 +78,7 @@ std::wstring BuildExportEnding(const StartMenuKeyTable& startMenuKeys, bool modi
   if (modified) {
     const std::wstring heading = L"=   " + texts.GetLangText(TextId::Important) + L"   =";
     const std::wstring rule(heading.size(), L'=');
-    for (int i = 0; i < 4; ++i) {
-      text.append(LineEnd);
-    }
+    for (int i = 0; i < 4; ++i) text.append(LineEnd);
     text.append(rule).append(LineEnd).append(heading).append(LineEnd);
     text.append(rule)
         .append(LineEnd)

@@ -41,12 +41,8 @@ std::wstring ExportSelection::ClipOptions() const {
 void ExportSelection::Load(std::wstring_view clipOptions) {
   const std::vector<std::wstring> values = SplitText(clipOptions, L",");
   columns_ = {false, true, true, true};
-  if (values.size() < columns_.size()) {
-    return;
-  }
-  for (std::size_t i = 0; i < columns_.size(); ++i) {
-    columns_[i] = LeadingNumber(values[i]) != 0;
-  }
+  if (values.size() < columns_.size()) return;
+  for (std::size_t i = 0; i < columns_.size(); ++i) columns_[i] = LeadingNumber(values[i]) != 0;
 }
 
 void ExportSelection::Click(Column box) {

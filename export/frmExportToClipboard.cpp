@@ -6,7 +6,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr DialogControl Controls[] = {
@@ -54,15 +53,11 @@ void frmExportToClipboard::Show(HWND owner, ClipboardExport& model,
 }
 
 void frmExportToClipboard::Sync() {
-  for (const ColumnBox& box : Boxes) {
-    SetChecked(box.Id, model_->Selection().Checked(box.Exported));
-  }
+  for (const ColumnBox& box : Boxes) SetChecked(box.Id, model_->Selection().Checked(box.Exported));
 }
 
 void frmExportToClipboard::OnCommand(int id, int notification) {
-  if (notification != BN_CLICKED) {
-    return;
-  }
+  if (notification != BN_CLICKED) return;
   const auto* const box = std::ranges::find(Boxes, id, &ColumnBox::Id);
   if (box != std::end(Boxes)) {
     model_->Click(box->Exported);

@@ -2,7 +2,6 @@
 #include "localisation/Mnemonic.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr std::size_t AddedLength = 4;
@@ -20,15 +19,11 @@ std::wstring WithoutMnemonic(std::wstring_view caption) {
   std::wstring plain;
   for (std::size_t place = 0; place < caption.size(); ++place) {
     if (IsAddedMnemonic(caption, place)) {
-      if (plain.ends_with(L' ')) {
-        plain.pop_back();
-      }
+      if (plain.ends_with(L' ')) plain.pop_back();
       place += AddedLength - 1;
       continue;
     }
-    if (caption[place] == L'&' && ++place == caption.size()) {
-      break;
-    }
+    if (caption[place] == L'&' && ++place == caption.size()) break;
     plain += caption[place];
   }
   return plain;

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 namespace tessera {
-
 namespace {
 
 constexpr BuiltInText Table[] = {

@@ -10,7 +10,6 @@
 #include "text/Text.h"
 
 namespace tessera {
-
 namespace {
 
 /// The settings behind the boxes, in the order of OptionBox.

@@ -6,7 +6,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-
 namespace {
 
 enum Page { Layout, ColorAndFont, Operation, Language };
@@ -80,18 +79,14 @@ void frmOptions::Show(HWND owner, OptionsSelection& model) {
 }
 
 void frmOptions::Sync() {
-  for (const Box& box : Boxes) {
-    SetChecked(box.Id, model_->Checked(box.Option));
-  }
+  for (const Box& box : Boxes) SetChecked(box.Id, model_->Checked(box.Option));
   SetChecked(IDC_optUseDefaultLanguage, model_->UsesDefaultLanguage());
   SetChecked(IDC_optUseOtheLanguage, !model_->UsesDefaultLanguage());
   SetText(Control(IDC_txtLanguageFilePath), model_->LanguageFilePath());
   SetEnabled(Control(IDC_txtLanguageFilePath), model_->LanguageFileEnabled());
   SetEnabled(Control(IDC_cmdBrowseForLangFile), model_->LanguageFileEnabled());
   const HWND apply = Control(IDC_cmdApply);
-  if (!model_->ApplyEnabled() && GetFocus() == apply) {
-    FocusOn(IDC_cmdOK);
-  }
+  if (!model_->ApplyEnabled() && GetFocus() == apply) FocusOn(IDC_cmdOK);
   SetEnabled(apply, model_->ApplyEnabled());
   InvalidateRect(Control(IDC_lblColorChange0), nullptr, FALSE);
   InvalidateRect(Control(IDC_lblColorChange1), nullptr, FALSE);
@@ -120,9 +115,7 @@ void frmOptions::OnTextBox(int notification) {
 
 void frmOptions::OnClick(int id) {
   const auto* const box = std::ranges::find(Boxes, id, &Box::Id);
-  if (box != std::end(Boxes)) {
-    model_->Click(box->Option);
-  }
+  if (box != std::end(Boxes)) model_->Click(box->Option);
   switch (id) {
     case IDC_lblColorChange0:
     case IDC_lblColorChange1:
@@ -146,16 +139,12 @@ void frmOptions::OnClick(int id) {
       break;
   }
   Sync();
-  if (id == IDC_cmdOK || id == IDC_cmdCancel) {
-    Close();
-  }
+  if (id == IDC_cmdOK || id == IDC_cmdCancel) Close();
 }
 
 // An option button that gets the focus sends a click too, though nothing is chosen anew.
 void frmOptions::ChooseLanguage(bool useDefault) {
-  if (useDefault != model_->UsesDefaultLanguage()) {
-    model_->UseDefaultLanguage(useDefault);
-  }
+  if (useDefault != model_->UsesDefaultLanguage()) model_->UseDefaultLanguage(useDefault);
 }
 
 void frmOptions::OnCloseButton() { Close(); }

@@ -7,7 +7,6 @@
 #include "text/Text.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr std::size_t LongestWholePath = 48;
@@ -26,9 +25,7 @@ std::wstring LastHalf(const std::wstring& name) {
 /// A caption's "&" marks a mnemonic; a doubled one is shown as itself.
 std::wstring DoubleAmpersands(std::wstring_view text) {
   std::wstring doubled;
-  for (const wchar_t character : text) {
-    doubled.append(character == L'&' ? 2 : 1, character);
-  }
+  for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
   return doubled;
 }
 
@@ -49,9 +46,7 @@ std::vector<std::wstring> PartsOf(std::wstring_view path) {
 std::wstring ShortenPath(std::wstring_view path) {
   const std::vector<std::wstring> parts = PartsOf(path);
   const std::size_t last = parts.size() - 1;
-  if (path.size() <= LongestWholePath || last == 0) {
-    return std::wstring(path);
-  }
+  if (path.size() <= LongestWholePath || last == 0) return std::wstring(path);
   const std::wstring drive = parts[0] + L"\\";
   switch (last) {
     case 1:
@@ -76,9 +71,7 @@ std::wstring cRecentFiles::ListItems(int index) const {
 }
 
 std::vector<RecentEntry> cRecentFiles::MenuEntries() const {
-  if (paths_.empty()) {
-    return {{noFiles_, false}};
-  }
+  if (paths_.empty()) return {{noFiles_, false}};
   std::vector<RecentEntry> entries;
   for (const std::wstring& path : paths_) {
     const std::wstring number = std::to_wstring(entries.size() + 1);
@@ -101,24 +94,18 @@ void cRecentFiles::ChangeLanguage() {
 }
 
 void cRecentFiles::AddFile(const std::wstring& path) {
-  if (path.empty() || IsMissing(path)) {
-    return;
-  }
+  if (path.empty() || IsMissing(path)) return;
   RemoveFile(Find(path));
   paths_.insert(paths_.begin(), path);
   paths_.resize(std::min(paths_.size(), static_cast<std::size_t>(max_)));
 }
 
 void cRecentFiles::PutAsFirstItem(int index) {
-  if (Holds(index)) {
-    AddFile(ListItems(index));
-  }
+  if (Holds(index)) AddFile(ListItems(index));
 }
 
 void cRecentFiles::RemoveFile(int index) {
-  if (Holds(index)) {
-    paths_.erase(paths_.begin() + (index - 1));
-  }
+  if (Holds(index)) paths_.erase(paths_.begin() + (index - 1));
 }
 
 bool cRecentFiles::Clear() {
@@ -136,9 +123,7 @@ void cRecentFiles::ReadList(const ProfileFile& stored, std::wstring_view section
   for (int index = 1; index <= max_; ++index) {
     std::wstring path = stored.ReadString(section, KeyOf(prefix, index), MissingMarker);
     // An empty value is a gap like an absent one.
-    if (!IsMissing(path) && !path.empty()) {
-      paths_.push_back(std::move(path));
-    }
+    if (!IsMissing(path) && !path.empty()) paths_.push_back(std::move(path));
   }
 }
 
@@ -157,9 +142,8 @@ void cRecentFiles::SaveList(SettingsFile& settingsFile, std::wstring_view sectio
 
 /// The index of a path in any letter case; 0 when it is not in the list.
 int cRecentFiles::Find(std::wstring_view path) const {
-  const auto found = std::find_if(paths_.begin(), paths_.end(), [&](const std::wstring& stored) {
-    return EqualIgnoringCase(stored, path);
-  });
+  const auto found = std::ranges::find_if(
+      paths_, [&](const std::wstring& stored) { return EqualIgnoringCase(stored, path); });
   return found == paths_.end() ? 0 : static_cast<int>(found - paths_.begin()) + 1;
 }
 

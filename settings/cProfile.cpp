@@ -31,8 +31,8 @@ std::vector<std::wstring> SplitAtNuls(std::wstring_view buffer) {
 }
 
 int UpperIndex(const std::vector<std::wstring>& texts) {
-  const auto filled = std::count_if(texts.begin(), texts.end(),
-                                    [](const std::wstring& text) { return !text.empty(); });
+  const auto filled =
+      std::ranges::count_if(texts, [](const std::wstring& text) { return !text.empty(); });
   return static_cast<int>(filled) - 1;
 }
 

@@ -84,18 +84,20 @@ void cRegistry::WriteValue(std::wstring_view keyPath, std::wstring_view valueNam
   if (!address) return;
   RegistryValue stored;
   stored.Type = static_cast<std::uint32_t>(type);
-  if (stored.Type == TypeText)
+  if (stored.Type == TypeText) {
     stored.Bytes = Encode(value) + '\0';
-  else if (stored.Type == TypeNumber)
+  } else if (stored.Type == TypeNumber) {
     stored.Bytes = NumberBytes(value);
-  else
+  } else {
     return;
+  }
   registry_.Set(address->Root, address->Subkey, std::wstring(valueName), stored);
 }
 
 void cRegistry::Deletekey(std::wstring_view keyPath, std::wstring_view name) {
-  if (const auto address = AddressOf(keyPath))
+  if (const auto address = AddressOf(keyPath)) {
     registry_.DeleteKey(address->Root, address->Subkey, std::wstring(name));
+  }
 }
 
 }  // namespace tessera

@@ -4,7 +4,6 @@
 #include <utility>
 
 namespace tessera {
-
 namespace {
 
 RowIcon IconOf(const CommandEntry& row, const std::wstring& undefinedHotkey) {

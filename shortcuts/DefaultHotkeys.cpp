@@ -2,7 +2,6 @@
 #include "shortcuts/DefaultHotkeys.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr std::wstring_view Section = L"TC Default Hotkeys";

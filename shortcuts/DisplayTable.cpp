@@ -62,7 +62,7 @@ void DisplayTable::Sort(Column column, SortDirection direction) {
   for (const RowKey key : order_) cells.emplace_back(CellText(Row(key), column), key);
 
   const auto sort = [&cells](auto precedes) {
-    std::stable_sort(cells.begin(), cells.end(), [&](const Cell& left, const Cell& right) {
+    std::ranges::stable_sort(cells, [&](const Cell& left, const Cell& right) {
       return precedes(CompareTexts(left.first, right.first));
     });
   };
@@ -72,8 +72,7 @@ void DisplayTable::Sort(Column column, SortDirection direction) {
     sort([](int comparison) { return comparison > 0; });
   }
 
-  std::transform(cells.begin(), cells.end(), order_.begin(),
-                 [](const Cell& cell) { return cell.second; });
+  std::ranges::transform(cells, order_.begin(), [](const Cell& cell) { return cell.second; });
   NumberPositions();
 }
 

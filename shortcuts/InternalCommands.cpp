@@ -10,7 +10,6 @@
 #include "text/Utf8.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr std::wstring_view CommandPrefix = L"cm_";

@@ -7,7 +7,6 @@
 #include "text/TextHash.h"
 
 namespace tessera {
-
 namespace {
 
 std::size_t HashOf(std::wstring_view text) { return HashIgnoringCase()(text); }

@@ -8,7 +8,6 @@
 #include "text/Trim.h"
 
 namespace tessera {
-
 namespace {
 
 bool HasDrive(std::wstring_view path) { return path.size() > 1 && path[1] == L':'; }

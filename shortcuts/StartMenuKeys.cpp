@@ -7,7 +7,6 @@
 #include "text/Numbers.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr int KeysWithoutShift = 12;

@@ -26,7 +26,7 @@ ProfileFile& WincmdIni::Shortcuts() { return files_[shortcuts_]; }
 ProfileFile& WincmdIni::StartMenu() { return files_[startMenu_]; }
 
 FileError WincmdIni::ReadError() const {
-  const auto unread = std::find_if(files_.begin(), files_.end(), [](const ProfileFile& file) {
+  const auto unread = std::ranges::find_if(files_, [](const ProfileFile& file) {
     return file.ReadError() != FileError::None && file.ReadError() != FileError::NotFound;
   });
   return unread == files_.end() ? FileError::None : unread->ReadError();
@@ -45,7 +45,7 @@ std::size_t WincmdIni::FileOfSection(std::wstring_view section, Files& files, Cl
   const std::wstring path = PathOfSection(files_.front(), section, environment);
   const std::wstring target = files.Resolve(path);
   // Two copies of one file in memory would undo each other's changes.
-  const auto known = std::find_if(files_.begin(), files_.end(), [&](const ProfileFile& file) {
+  const auto known = std::ranges::find_if(files_, [&](const ProfileFile& file) {
     return EqualIgnoringCase(files.Resolve(file.Path()), target);
   });
   const auto index = static_cast<std::size_t>(known - files_.begin());

@@ -56,8 +56,8 @@ double LeadingNumber(std::wstring_view text) {
   text.remove_prefix(SkipSign(text, 0));
   const std::wstring_view wide = text.substr(0, NumberLength(text));
   std::string digits(wide.size(), '\0');
-  std::transform(wide.begin(), wide.end(), digits.begin(),
-                 [](wchar_t digit) { return static_cast<char>(digit); });
+  std::ranges::transform(wide, digits.begin(),
+                         [](wchar_t digit) { return static_cast<char>(digit); });
   double number = 0;
   const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
   if (result.ec == std::errc::result_out_of_range && digits.find('-') == std::string::npos) {

@@ -14,9 +14,7 @@ constexpr int PanelHeight = 40;
 constexpr int MostButtons = 4;
 
 LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM first, LPARAM second) {
-  if (message == WM_DESTROY) {
-    PostQuitMessage(0);
-  }
+  if (message == WM_DESTROY) PostQuitMessage(0);
   return DefWindowProcW(window, message, first, second);
 }
 

@@ -49,8 +49,9 @@ Start StartOnce(const std::wstring& executable, const std::wstring& commander, i
   const e2e::Program program(executable, commander, L'"' + commander + L"\\Wincmd.ini\"");
   // Once nothing is left to be painted, the rows are on the screen. To look for them before that
   // would take the processor away from the start.
-  if (WaitForInputIdle(program.Process(), Limit * 1000) != 0)
+  if (WaitForInputIdle(program.Process(), Limit * 1000) != 0) {
     throw std::runtime_error("the program did not come to rest");
+  }
   while (RowsOf(program) < rows) {
     if (!program.Running() || elapsed() > Limit) throw std::runtime_error("no list was filled");
     Sleep(1);

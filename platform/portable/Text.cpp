@@ -27,9 +27,10 @@ wchar_t FromWindows1252(char byte) {
 
 char ToWindows1252(wchar_t character) {
   if (IsAscii(character)) return static_cast<char>(character);
-  const auto* const found = std::find(upperControls.begin(), upperControls.end(), character);
-  if (found != upperControls.end())
+  const auto* const found = std::ranges::find(upperControls, character);
+  if (found != upperControls.end()) {
     return static_cast<char>(0x80 + (found - upperControls.begin()));
+  }
   const bool sameCode = character >= 0xA0 && character < 0x100;
   return sameCode ? static_cast<char>(character) : '?';
 }
@@ -37,7 +38,7 @@ char ToWindows1252(wchar_t character) {
 std::string Windows1252Of(std::wstring_view text) {
   if (IsAscii(text)) return {text.begin(), text.end()};
   std::string bytes(text.size(), '\0');
-  std::transform(text.begin(), text.end(), bytes.begin(), ToWindows1252);
+  std::ranges::transform(text, bytes.begin(), ToWindows1252);
   return bytes;
 }
 
@@ -63,7 +64,7 @@ std::wstring Decode(std::string_view bytes, unsigned codePage) {
   if (codePage == Utf8CodePage) return WideFromUtf8(bytes);
   if (IsAscii(bytes)) return FromAscii(bytes);
   std::wstring text(bytes.size(), L'\0');
-  std::transform(bytes.begin(), bytes.end(), text.begin(), FromWindows1252);
+  std::ranges::transform(bytes, text.begin(), FromWindows1252);
   return text;
 }
 
@@ -73,13 +74,13 @@ std::string Encode(std::wstring_view text, unsigned codePage) {
 
 std::wstring ToLower(std::wstring_view text) {
   std::wstring lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(), LowerOf);
+  std::ranges::transform(lower, lower.begin(), LowerOf);
   return lower;
 }
 
 std::wstring ToUpper(std::wstring_view text) {
   std::wstring upper(text);
-  std::transform(upper.begin(), upper.end(), upper.begin(), UpperOf);
+  std::ranges::transform(upper, upper.begin(), UpperOf);
   return upper;
 }
 

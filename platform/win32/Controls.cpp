@@ -6,7 +6,6 @@
 #include "platform/win32/Components.h"
 
 namespace tessera {
-
 namespace {
 
 // No library of the toolchain has these.
@@ -71,32 +70,24 @@ std::wstring TextOf(HWND window) {
 }
 
 void SetText(HWND window, const std::wstring& text) {
-  if (TextOf(window) != text) {
-    SetWindowTextW(window, text.c_str());
-  }
+  if (TextOf(window) != text) SetWindowTextW(window, text.c_str());
 }
 
 void SetAccessibleName(HWND control, const std::wstring& name) {
   const UniqueComponent services = CreateComponent(AccessibleProperties, AccessibleInterface);
-  if (services == nullptr) {
-    return;
-  }
+  if (services == nullptr) return;
   static_cast<IAccPropServices&>(*services).SetHwndPropStr(
       control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, AccessibleName, name.c_str());
 }
 
 void SetEnabled(HWND control, bool enabled) {
-  if ((IsWindowEnabled(control) != FALSE) != enabled) {
-    EnableWindow(control, enabled ? TRUE : FALSE);
-  }
+  if ((IsWindowEnabled(control) != FALSE) != enabled) EnableWindow(control, enabled ? TRUE : FALSE);
 }
 
 void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on) {
   const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, styleIndex));
   const DWORD wanted = on ? style | bits : style & ~bits;
-  if (wanted == style) {
-    return;
-  }
+  if (wanted == style) return;
   SetWindowLongPtrW(control, styleIndex, static_cast<LONG_PTR>(wanted));
   SetWindowPos(control, nullptr, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
@@ -149,9 +140,7 @@ void Place(HWND control, const Area& area) {
 }
 
 void SetRightToLeft(HWND window, bool rightToLeft) {
-  if (((GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0) == rightToLeft) {
-    return;
-  }
+  if (((GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0) == rightToLeft) return;
   SetStyleBits(window, GWL_EXSTYLE, WS_EX_LAYOUTRTL, rightToLeft);
   InvalidateRect(window, nullptr, TRUE);
   for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;

@@ -6,7 +6,6 @@
 #include <cstddef>
 
 namespace tessera {
-
 namespace {
 
 /// Null when there is no such resource.
@@ -20,9 +19,7 @@ void* Resource(int id, const wchar_t* type) {
 /// has none, or has it compressed.
 const DWORD* PixelsOf(int iconId, int size) {
   void* const directory = Resource(iconId, RT_GROUP_ICON);
-  if (directory == nullptr) {
-    return nullptr;
-  }
+  if (directory == nullptr) return nullptr;
   const int picture =
       LookupIconIdFromDirectoryEx(static_cast<BYTE*>(directory), TRUE, size, size, LR_DEFAULTCOLOR);
   const auto* const header = static_cast<const BITMAPINFOHEADER*>(Resource(picture, RT_ICON));
@@ -42,14 +39,10 @@ Unique<HBITMAP> StripOf(std::span<const int> iconIds, int size) {
   format.bmiHeader.biBitCount = 32;
   void* pixels = nullptr;
   Unique<HBITMAP> strip(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &pixels, nullptr, 0));
-  if (strip == nullptr) {
-    return nullptr;
-  }
+  if (strip == nullptr) return nullptr;
   for (auto* place = static_cast<DWORD*>(pixels); const int id : iconIds) {
     const DWORD* const picture = PixelsOf(id, size);
-    if (picture == nullptr) {
-      return nullptr;
-    }
+    if (picture == nullptr) return nullptr;
     for (std::ptrdiff_t line = 0; line < size; ++line) {
       std::copy_n(picture + line * size, size, place + line * width);
     }
@@ -72,9 +65,7 @@ Unique<HIMAGELIST> LoadImages(std::span<const int> iconIds, int size) {
     ImageList_Add(images.get(), strip.get(), nullptr);
     return images;
   }
-  for (const int id : iconIds) {
-    ImageList_AddIcon(images.get(), LoadIconOfSize(id, size).get());
-  }
+  for (const int id : iconIds) ImageList_AddIcon(images.get(), LoadIconOfSize(id, size).get());
   return images;
 }
 

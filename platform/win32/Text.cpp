@@ -29,15 +29,15 @@ std::string EncodePlainly(std::wstring_view text, unsigned codePage) {
 
 std::string AsciiBytes(std::wstring_view text) {
   std::string bytes(text.size(), '\0');
-  std::transform(text.begin(), text.end(), bytes.begin(),
-                 [](wchar_t character) { return static_cast<char>(character); });
+  std::ranges::transform(text, bytes.begin(),
+                         [](wchar_t character) { return static_cast<char>(character); });
   return bytes;
 }
 
 std::wstring Mapped(std::wstring_view text, wchar_t (*mapAscii)(wchar_t), DWORD mapping) {
   std::wstring result(text);
   if (IsAscii(text)) {
-    std::transform(text.begin(), text.end(), result.begin(), mapAscii);
+    std::ranges::transform(text, result.begin(), mapAscii);
     return result;
   }
   const int length = static_cast<int>(text.size());

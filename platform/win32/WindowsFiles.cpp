@@ -103,8 +103,9 @@ FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const
 
 FileStamp WindowsFiles::Stamp(const std::wstring& path) const {
   WIN32_FILE_ATTRIBUTE_DATA data{};
-  if (GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) == FALSE)
+  if (GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) == FALSE) {
     return {};
+  }
   return {Joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime),
           Joined(data.nFileSizeHigh, data.nFileSizeLow)};
 }
@@ -131,8 +132,9 @@ FileError WindowsFiles::Write(const std::wstring& path, std::string_view bytes) 
   if (!file) return LastError();
   while (!bytes.empty()) {
     DWORD count = 0;
-    if (WriteFile(file.get(), bytes.data(), NextStep(bytes.size()), &count, nullptr) == FALSE)
+    if (WriteFile(file.get(), bytes.data(), NextStep(bytes.size()), &count, nullptr) == FALSE) {
       return LastError();
+    }
     if (count == 0) return FileError::Other;
     bytes.remove_prefix(count);
   }

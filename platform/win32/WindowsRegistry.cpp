@@ -33,8 +33,9 @@ bool IsText(DWORD type) { return type == REG_SZ || type == REG_EXPAND_SZ || type
 std::optional<RegistryValue> QueryIn(HKEY key, const std::wstring& name) {
   DWORD type = 0;
   DWORD size = 0;
-  if (RegQueryValueExW(key, name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS)
+  if (RegQueryValueExW(key, name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS) {
     return std::nullopt;
+  }
   std::string bytes(size, '\0');
   if (RegQueryValueExW(key, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()),
                        &size) != ERROR_SUCCESS)

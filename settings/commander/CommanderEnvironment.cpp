@@ -23,9 +23,7 @@ TwipsSize CommanderEnvironment::ScreenSize() const { return environment_.ScreenS
 
 void CommanderEnvironment::SetTotalCommanderDirectory(std::wstring directory) {
   directory_ = std::move(directory);
-  if (directory_.ends_with(L'\\')) {
-    directory_.pop_back();
-  }
+  if (directory_.ends_with(L'\\')) directory_.pop_back();
 }
 
 }  // namespace tessera

@@ -17,8 +17,9 @@ constexpr std::wstring_view MachineKey = L"HKEY_LOCAL_MACHINE\\Software\\Ghisler
 std::wstring ResolveRegisteredIni(const Environment& environment, std::wstring_view registered,
                                   std::wstring_view totalCommanderDirectory) {
   std::wstring path = ExpandPath(environment, registered);
-  if (path.starts_with(L".\\"))
+  if (path.starts_with(L".\\")) {
     return ExpandPath(environment, totalCommanderDirectory) + path.substr(2);
+  }
   if (path.size() >= 3 && path.compare(1, 2, L":\\") == 0) return path;
   return AddBackslash(environment.Variable(L"windir")) + path;
 }
@@ -34,15 +35,16 @@ std::wstring LocateTotalcmdInc(const LocateSources& sources, std::wstring& total
     totalCommanderDirectory = candidate;
     return true;
   };
-  if (isIn(sources.Environment.Variable(L"Commander_Path")))
+  if (isIn(sources.Environment.Variable(L"Commander_Path"))) {
     return totalCommanderDirectory + std::wstring(CommandListName);
-
+  }
   const cRegistry registry(sources.Registry);
   for (const std::wstring_view key : {UserKey, MachineKey}) {
     const std::wstring directory =
         ExpandPath(sources.Environment, registry.ReadValue(key, L"InstallDir"));
-    if (!IsMissing(directory) && isIn(directory))
+    if (!IsMissing(directory) && isIn(directory)) {
       return totalCommanderDirectory + std::wstring(CommandListName);
+    }
   }
 
   const std::wstring candidate =

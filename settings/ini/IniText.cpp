@@ -11,7 +11,7 @@ namespace {
 constexpr bool EndsLine(char byte) { return byte == '\r' || byte == '\n'; }
 
 bool BeginsWith(std::string_view line, char first) {
-  const auto* const found = std::find_if_not(line.begin(), line.end(), IsIniBlank);
+  const auto* const found = std::ranges::find_if_not(line, IsIniBlank);
   return found != line.end() && *found == first;
 }
 
@@ -19,7 +19,7 @@ bool BeginsWith(std::string_view line, char first) {
 
 std::string_view TrimIniBlanks(std::string_view text) { return Trim(text, IsIniBlank); }
 
-bool HasLineBreak(std::string_view text) { return std::any_of(text.begin(), text.end(), EndsLine); }
+bool HasLineBreak(std::string_view text) { return std::ranges::any_of(text, EndsLine); }
 
 std::optional<IniEntry> EntryOf(std::string_view line) {
   const std::size_t equals = line.find('=');
@@ -32,7 +32,7 @@ bool IsComment(std::string_view line) { return BeginsWith(line, ';'); }
 bool IsHeader(std::string_view line) { return BeginsWith(line, '['); }
 
 std::string_view HeaderName(std::string_view text) {
-  const auto* const bracket = std::find_if_not(text.begin(), text.end(), IsIniBlank);
+  const auto* const bracket = std::ranges::find_if_not(text, IsIniBlank);
   const auto* const begin = bracket == text.end() ? bracket : bracket + 1;
   const auto* const end =
       std::find_if(begin, text.end(), [](char byte) { return byte == ']' || EndsLine(byte); });

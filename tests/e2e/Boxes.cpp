@@ -41,10 +41,11 @@ std::optional<Box> ReadBox(HWND window) {
   const HWND text = GetDlgItem(window, MessageTextId);
   if (text == nullptr || IsFileDialog(window)) return std::nullopt;
   Box box{window, TextOf(window), TextOf(text), {}, FocusedControl(window)};
-  for (const int button : AnswerButtons)
+  for (const int button : AnswerButtons) {
     if (const HWND control = GetDlgItem(window, button);
         control != nullptr && IsWindowVisible(control) != FALSE)
       box.Buttons.push_back(button);
+  }
   std::ranges::sort(box.Buttons, [&](int left, int right) {
     return LeftOf(GetDlgItem(window, left)) < LeftOf(GetDlgItem(window, right));
   });
@@ -61,8 +62,9 @@ void WaitUntilGone(HWND window) {
 
 Box WaitForBox(DWORD process, unsigned limit) {
   const auto find = [process]() -> std::optional<Box> {
-    for (const HWND window : VisibleWindows(process, DialogClass))
+    for (const HWND window : VisibleWindows(process, DialogClass)) {
       if (const std::optional<Box> box = ReadBox(window)) return box;
+    }
     return std::nullopt;
   };
   return *WaitFor("a message box", find, std::chrono::milliseconds(limit));
@@ -70,8 +72,9 @@ Box WaitForBox(DWORD process, unsigned limit) {
 
 HWND WaitForFileDialog(DWORD process) {
   return WaitFor("the open-file dialog", [process]() -> HWND {
-    for (const HWND window : VisibleWindows(process, DialogClass))
+    for (const HWND window : VisibleWindows(process, DialogClass)) {
       if (IsFileDialog(window)) return window;
+    }
     return nullptr;
   });
 }

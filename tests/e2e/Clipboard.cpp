@@ -42,8 +42,9 @@ void SetClipboardText(const std::wstring& text) {
   if (target == nullptr) throw std::runtime_error("No memory for the clipboard");
   *std::ranges::copy(text, target).out = L'\0';
   GlobalUnlock(memory);
-  if (SetClipboardData(CF_UNICODETEXT, memory) == nullptr)
+  if (SetClipboardData(CF_UNICODETEXT, memory) == nullptr) {
     throw std::runtime_error("The clipboard takes no text");
+  }
 }
 
 }  // namespace tessera::e2e

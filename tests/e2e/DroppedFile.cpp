@@ -49,8 +49,9 @@ HGLOBAL AllocateIn(HANDLE process, std::size_t bytes) {
   const UniqueHandle thread =
       Own(CreateRemoteThread(process, nullptr, 0, start, memory.At(CallAt), 0, nullptr));
   constexpr DWORD Limit = 10000;  // milliseconds
-  if (!thread || WaitForSingleObject(thread.get(), Limit) != WAIT_OBJECT_0)
+  if (!thread || WaitForSingleObject(thread.get(), Limit) != WAIT_OBJECT_0) {
     throw std::runtime_error("The program could not be made to allocate memory");
+  }
   const auto address = memory.Get<Call>(CallAt).Result;
   if (address == 0) throw std::runtime_error("The program has no memory for a dropped file");
   return reinterpret_cast<HGLOBAL>(address);
@@ -67,8 +68,9 @@ void DropFile(HWND window, HANDLE process, const std::wstring& path) {
   std::memcpy(content.data() + sizeof head, path.data(), path.size() * sizeof(wchar_t));
 
   const HGLOBAL dropped = AllocateIn(process, content.size());
-  if (WriteProcessMemory(process, dropped, content.data(), content.size(), nullptr) == FALSE)
+  if (WriteProcessMemory(process, dropped, content.data(), content.size(), nullptr) == FALSE) {
     throw std::runtime_error("The program's memory could not be written");
+  }
   PostMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(dropped), 0);
 }
 

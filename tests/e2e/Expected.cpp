@@ -83,25 +83,29 @@ std::vector<std::wstring> KeysOf(const std::wstring& cell) {
 void MarkOverriddenDefaults(std::vector<RowTexts>& rows) {
   const std::vector<RowTexts> unmarked = rows;
   std::map<std::wstring, std::size_t> owners;
-  for (std::size_t row = 0; row < rows.size(); ++row)
+  for (std::size_t row = 0; row < rows.size(); ++row) {
     for (const std::wstring& key : KeysOf(unmarked[row][2])) owners.emplace(key, row);
-  for (const RowTexts& row : unmarked)
-    for (const std::wstring& key : KeysOf(row[3]))
+  }
+  for (const RowTexts& row : unmarked) {
+    for (const std::wstring& key : KeysOf(row[3])) {
       if (const auto owner = owners.find(key); owner != owners.end()) {
         rows[owner->second][2] += L" *";
         owners.erase(owner);
       }
+    }
+  }
 }
 
 /// "Ctrl + Num +" as Total Commander writes it.
 std::string NativeKey(const std::wstring& shown) {
   std::string text = Utf8(shown);
   std::string letters;
-  for (const std::string word : {"Ctrl", "Alt", "Shift"})
+  for (const std::string word : {"Ctrl", "Alt", "Shift"}) {
     if (text.starts_with(word + " + ")) {
       letters += word[0];
       text.erase(0, word.size() + 3);
     }
+  }
   if (text.starts_with("Num ")) text.erase(0, 4);
   return letters.empty() ? text : letters + "+" + text;
 }
@@ -115,8 +119,9 @@ std::vector<std::pair<std::string, std::string>> SectionLines(const std::string&
   for (const std::string& line : Split(file, '\n')) {
     if (line.starts_with('[')) inside = line == "[" + section + "]";
     const std::size_t equals = line.find('=');
-    if (!inside || line.starts_with('[') || line.starts_with(';') || equals == std::string::npos)
+    if (!inside || line.starts_with('[') || line.starts_with(';') || equals == std::string::npos) {
       continue;
+    }
     lines.emplace_back(Trimmed(line.substr(0, equals)), Trimmed(line.substr(equals + 1)));
   }
   return lines;
@@ -124,16 +129,18 @@ std::vector<std::pair<std::string, std::string>> SectionLines(const std::string&
 
 std::string SectionValue(const std::string& file, const std::string& section,
                          const std::string& name) {
-  for (const auto& [key, value] : SectionLines(file, section))
+  for (const auto& [key, value] : SectionLines(file, section)) {
     if (key == name) return value;
+  }
   return {};
 }
 
 std::vector<RowTexts> ExpectedRows(const Folder& folder) {
   std::map<std::string, std::string> defaults;
   const auto& dataFile = ReadBytes(folder.DefaultKeysFile());
-  for (const auto& [code, keys] : SectionLines(dataFile, "TC Default Hotkeys"))
+  for (const auto& [code, keys] : SectionLines(dataFile, "TC Default Hotkeys")) {
     defaults.emplace(code, ShownFromDataFile(keys));
+  }
   std::map<std::string, std::string> currents;  // by command or code
   for (const auto& [name, command] : SectionLines(ReadBytes(folder.WincmdIni()), "Shortcuts")) {
     std::string& keys = currents[command];
@@ -168,10 +175,12 @@ testing::AssertionResult SameRows(const std::vector<RowTexts>& shown,
   if (shown == expected) return testing::AssertionSuccess();
   testing::AssertionResult failure = testing::AssertionFailure();
   failure << shown.size() << " rows shown, " << expected.size() << " expected";
-  for (std::size_t row = 0; row < std::min(shown.size(), expected.size()); ++row)
-    if (shown[row] != expected[row])
+  for (std::size_t row = 0; row < std::min(shown.size(), expected.size()); ++row) {
+    if (shown[row] != expected[row]) {
       failure << "\nrow " << row << " shows " << testing::PrintToString(shown[row])
               << " instead of " << testing::PrintToString(expected[row]);
+    }
+  }
   return failure;
 }
 
@@ -184,9 +193,11 @@ std::vector<RowTexts> WithoutHeadings(const std::vector<RowTexts>& rows) {
 
 std::string ExpectedShortcuts(const std::vector<RowTexts>& rows) {
   std::string lines;
-  for (const RowTexts& row : rows)
-    for (const std::wstring& key : KeysOf(row[3]))
+  for (const RowTexts& row : rows) {
+    for (const std::wstring& key : KeysOf(row[3])) {
       lines += NativeKey(key) + "=" + Utf8(row[1]) + "\r\n";
+    }
+  }
   return lines;
 }
 

@@ -18,8 +18,9 @@ constexpr wchar_t TotalCommanderKey[] = L"Software\\Ghisler\\Total Commander";
 std::wstring Variable(const wchar_t* name) {
   std::array<wchar_t, MAX_PATH> text{};
   const DWORD length = GetEnvironmentVariableW(name, text.data(), text.size());
-  if (length == 0 || length >= text.size())
+  if (length == 0 || length >= text.size()) {
     throw std::runtime_error("The environment variable " + Utf8(name) + " names no folder");
+  }
   return text.data();
 }
 
@@ -36,10 +37,11 @@ void CopyFolder(const std::wstring& from, const std::wstring& to) {
   std::filesystem::create_directories(to);
   for (const auto& entry : std::filesystem::directory_iterator(from)) {
     const std::wstring name = entry.path().filename().wstring();
-    if (entry.is_directory())
+    if (entry.is_directory()) {
       CopyFolder(entry.path().wstring(), to + name + L"\\");
-    else
+    } else {
       std::filesystem::copy_file(entry.path(), to + name);
+    }
   }
 }
 

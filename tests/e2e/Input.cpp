@@ -82,7 +82,7 @@ void KeyDown(WORD key) { SendKey(key, 0); }
 void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
 
 void Type(std::wstring_view text) {
-  for (const wchar_t character : text)
+  for (const wchar_t character : text) {
     for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
       INPUT input{};
       input.type = INPUT_KEYBOARD;
@@ -90,6 +90,7 @@ void Type(std::wstring_view text) {
       input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
       SendInput(1, &input, sizeof input);
     }
+  }
 }
 
 HeldKey::HeldKey(WORD key) : key_(key) { KeyDown(key_); }

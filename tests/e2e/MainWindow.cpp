@@ -145,8 +145,9 @@ int MainWindow::ButtonState(int toolbar, int command) const {
 
 RECT MainWindow::RectangleBy(HWND control, UINT message, WPARAM item, const RECT& asked) const {
   memory_.Put(asked);
-  if (Send(control, message, item, memory_.At()) == 0)
+  if (Send(control, message, item, memory_.At()) == 0) {
     throw std::runtime_error("The control tells no rectangle of " + std::to_string(item));
+  }
   return OnScreen(control, memory_.Get<RECT>());
 }
 

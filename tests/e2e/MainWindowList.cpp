@@ -39,16 +39,17 @@ RowTexts MainWindow::Row(int position) const { return ReadRows(position, 1).fron
 std::vector<RowTexts> MainWindow::Rows() const {
   std::vector<RowTexts> rows;
   const int count = RowCount();
-  for (int first = 0; first < count; first += RowsAtOnce)
+  for (int first = 0; first < count; first += RowsAtOnce) {
     std::ranges::move(ReadRows(first, std::min(RowsAtOnce, count - first)),
                       std::back_inserter(rows));
+  }
   return rows;
 }
 
 std::vector<RowTexts> MainWindow::ReadRows(int first, int count) const {
   const auto rows = static_cast<std::size_t>(count);
   auto requests = std::make_unique<Requests>();
-  for (std::size_t row = 0; row < rows; ++row)
+  for (std::size_t row = 0; row < rows; ++row) {
     for (std::size_t column = 0; column < Columns; ++column) {
       LVITEMW& item = (*requests)[row][column];
       item.iSubItem = static_cast<int>(column);
@@ -56,14 +57,16 @@ std::vector<RowTexts> MainWindow::ReadRows(int first, int count) const {
       item.pszText =
           static_cast<wchar_t*>(memory_.At(TextsAt + (row * Columns + column) * sizeof(Text)));
     }
+  }
   memory_.Write(requests.get(), rows * sizeof requests->front());
 
   const HWND list = Control(IDC_ListView1);
-  for (std::size_t row = 0; row < rows; ++row)
-    for (std::size_t column = 0; column < Columns; ++column)
+  for (std::size_t row = 0; row < rows; ++row) {
+    for (std::size_t column = 0; column < Columns; ++column) {
       Send(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(first) + row,
            memory_.At((row * Columns + column) * sizeof(LVITEMW)));
-
+    }
+  }
   auto answers = std::make_unique<Answers>();
   memory_.Read(answers.get(), rows * sizeof answers->front(), TextsAt);
   std::vector<RowTexts> texts;
@@ -78,12 +81,14 @@ int MainWindow::FindCommand(const std::wstring& command) const {
   // Reading every row takes a second: a row mostly is where it was seen last.
   const auto isAt = [&](int position) { return Row(position)[1] == command; };
   const auto seen = positions_.find(command);
-  if (seen != positions_.end() && seen->second < RowCount() && isAt(seen->second))
+  if (seen != positions_.end() && seen->second < RowCount() && isAt(seen->second)) {
     return seen->second;
+  }
   positions_.clear();
   const std::vector<RowTexts> rows = Rows();
-  for (std::size_t row = 0; row < rows.size(); ++row)
+  for (std::size_t row = 0; row < rows.size(); ++row) {
     positions_.emplace(rows[row][1], static_cast<int>(row));
+  }
   const auto found = positions_.find(command);
   return found == positions_.end() ? -1 : found->second;
 }
@@ -109,8 +114,9 @@ HeaderShows MainWindow::Header(int column) const {
 
 std::array<int, 4> MainWindow::ColumnWidths() const {
   std::array<int, Columns> widths{};
-  for (std::size_t column = 0; column < widths.size(); ++column)
+  for (std::size_t column = 0; column < widths.size(); ++column) {
     widths.at(column) = static_cast<int>(Send(Control(IDC_ListView1), LVM_GETCOLUMNWIDTH, column));
+  }
   return widths;
 }
 

@@ -45,13 +45,14 @@ Picture Draw(const std::wstring& caption, const Looks& looks) {
 bool StandsAlone(const Picture& screen, const Picture& text, int left, int top) {
   constexpr int Blank = 4;  // pixels: no two letters of a text are so far apart
   const DWORD back = text.At(0, 0);
-  for (int y = 0; y < text.Height; ++y)
+  for (int y = 0; y < text.Height; ++y) {
     for (int x = 1; x <= Blank; ++x) {
       if (left + text.Width + x <= screen.Width &&
           screen.At(left + text.Width + x - 1, top + y) != back)
         return false;
       if (left - x >= 0 && x < 2 && screen.At(left - x, top + y) != back) return false;
     }
+  }
   return true;
 }
 
@@ -62,10 +63,13 @@ std::optional<MenuEntry> FindMenuEntry(HWND menu, const std::wstring& caption) {
   const Picture screen = TakePicture(place);
   for (const Looks& looks : PossibleLooks()) {
     const Picture text = Draw(caption, looks);
-    for (int top = 0; top + text.Height <= screen.Height; ++top)
-      for (int left = 0; left + text.Width <= screen.Width; ++left)
-        if (screen.Holds(text, left, top) && StandsAlone(screen, text, left, top))
+    for (int top = 0; top + text.Height <= screen.Height; ++top) {
+      for (int left = 0; left + text.Width <= screen.Width; ++left) {
+        if (screen.Holds(text, left, top) && StandsAlone(screen, text, left, top)) {
           return MenuEntry{place.top + top, looks.Enabled};
+        }
+      }
+    }
   }
   return std::nullopt;
 }

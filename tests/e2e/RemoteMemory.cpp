@@ -22,13 +22,15 @@ RemoteMemory::~RemoteMemory() { VirtualFreeEx(process_, address_, 0, MEM_RELEASE
 void* RemoteMemory::At(std::size_t offset) const { return address_ + offset; }
 
 void RemoteMemory::Write(const void* data, std::size_t bytes, std::size_t offset) {
-  if (WriteProcessMemory(process_, At(offset), data, bytes, nullptr) == FALSE)
+  if (WriteProcessMemory(process_, At(offset), data, bytes, nullptr) == FALSE) {
     throw std::runtime_error("The program's memory could not be written");
+  }
 }
 
 void RemoteMemory::Read(void* data, std::size_t bytes, std::size_t offset) const {
-  if (ReadProcessMemory(process_, At(offset), data, bytes, nullptr) == FALSE)
+  if (ReadProcessMemory(process_, At(offset), data, bytes, nullptr) == FALSE) {
     throw std::runtime_error("The program's memory could not be read");
+  }
 }
 
 LRESULT Send(HWND window, UINT message, WPARAM first, LPARAM second) {

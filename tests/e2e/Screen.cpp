@@ -91,9 +91,11 @@ DWORD Picture::At(int x, int y) const {
 }
 
 bool Picture::Holds(const Picture& part, int left, int top) const {
-  for (int y = 0; y < part.Height; ++y)
-    for (int x = 0; x < part.Width; ++x)
+  for (int y = 0; y < part.Height; ++y) {
+    for (int x = 0; x < part.Width; ++x) {
       if (At(left + x, top + y) != part.At(x, y)) return false;
+    }
+  }
   return true;
 }
 
@@ -147,9 +149,11 @@ std::wstring SaveScreenshot(const std::wstring& name) {
 int CountPixels(const RECT& rectangle, COLORREF color) {
   const Unique<HDC, ScreenReleaser> screen(GetDC(nullptr));
   int count = 0;
-  for (LONG y = rectangle.top; y < rectangle.bottom; ++y)
-    for (LONG x = rectangle.left; x < rectangle.right; ++x)
+  for (LONG y = rectangle.top; y < rectangle.bottom; ++y) {
+    for (LONG x = rectangle.left; x < rectangle.right; ++x) {
       count += GetPixel(screen.get(), x, y) == color ? 1 : 0;
+    }
+  }
   return count;
 }
 

@@ -26,8 +26,9 @@ constexpr std::size_t TableInProcessBlock = 0xF8;
 
 template <typename Value>
 void ReadFrom(HANDLE process, const void* address, Value* values, std::size_t count) {
-  if (ReadProcessMemory(process, address, values, count * sizeof(Value), nullptr) == FALSE)
+  if (ReadProcessMemory(process, address, values, count * sizeof(Value), nullptr) == FALSE) {
     throw std::runtime_error("The program's memory could not be read");
+  }
 }
 
 int CountInTable(HANDLE process) {
@@ -59,11 +60,12 @@ int CountByHandles() {
     return !numbers.empty() && std::is_sorted(numbers.end() - Rising, numbers.end()) &&
            std::ranges::max(numbers) == numbers.back();
   };
-  while (!reachedNewOnes() && menus.size() < Limit)
+  while (!reachedNewOnes() && menus.size() < Limit) {
     for (int count = 0; count < AtOnce; ++count) {
       menus.push_back(CreateMenu());
       numbers.push_back(LOWORD(reinterpret_cast<ULONG_PTR>(menus.back())) / 2);
     }
+  }
   const bool counted = reachedNewOnes();
   // From the last to the first, so that the next count gets them in the same order.
   for (const HMENU menu : menus | std::views::reverse) DestroyMenu(menu);

@@ -53,8 +53,9 @@ std::wstring Window::Caption() const { return TextOf(window_); }
 HWND Window::Control(int id) const {
   ControlSearch search{id};
   EnumChildWindows(window_, FindControl, reinterpret_cast<LPARAM>(&search));
-  if (search.Found == nullptr)
+  if (search.Found == nullptr) {
     throw std::runtime_error("The window has no control " + std::to_string(id));
+  }
   return search.Found;
 }
 

@@ -41,19 +41,23 @@ std::wstring Padded(std::wstring text, std::size_t width) {
 std::wstring Table(const std::vector<RowTexts>& allRows, const Columns& columns) {
   const std::vector<RowTexts> rows = WithoutHeadings(allRows);
   std::array<std::size_t, 4> widths{};
-  for (const RowTexts& row : rows)
-    for (std::size_t column = 0; column < 4; ++column)
+  for (const RowTexts& row : rows) {
+    for (std::size_t column = 0; column < 4; ++column) {
       widths.at(column) = std::max(widths.at(column), row.at(column).size());
-
+    }
+  }
   std::wstring text;
-  for (std::size_t column = 0; column < 4; ++column)
-    if (columns.at(column))
+  for (std::size_t column = 0; column < 4; ++column) {
+    if (columns.at(column)) {
       text += column == 3 ? Headings[3] + L'\t' : Padded(Headings.at(column), widths.at(column));
+    }
+  }
   text += L"\r\n" + std::wstring(text.size() + 4, L'=') + L"\r\n";
   for (const RowTexts& row : rows) {
     if (!(columns[2] && row[2] != L"---") && !(columns[3] && row[3] != L"---")) continue;
-    for (std::size_t column = 0; column < 4; ++column)
+    for (std::size_t column = 0; column < 4; ++column) {
       if (columns.at(column)) text += Padded(row.at(column), widths.at(column));
+    }
     text += L"\r\n";
   }
   return text;
@@ -100,8 +104,9 @@ TEST_F(ExportTest, OkCopiesTheTableAndStoresTheColumns) {
   Dialog dialog = OpenDialog();
   EXPECT_EQ(dialog.Caption(), L"Select Columns to Export");
   EXPECT_EQ(Checked(dialog), StartColumns);
-  for (std::size_t box = 0; box < Boxes.size(); ++box)
+  for (std::size_t box = 0; box < Boxes.size(); ++box) {
     EXPECT_EQ(dialog.ControlText(Boxes.at(box)), Headings.at(box));
+  }
   dialog.CloseBy(IDC_cmdOK);
   CheckClipboard(Table(ExpectedRows(folder_), StartColumns) + StartMenu + L"\r\n");
   EXPECT_EQ(Setting("ClipOptions"), "0,1,1,1");

@@ -53,8 +53,9 @@ TEST_F(HostileTest, EveryWindowIsShownAndTheFileIsSaved) {
   WriteLanguageFile(languageFile);
   WriteSettings(languageFile);
   std::string manyKeys;
-  for (int key = 0; key < 1000; ++key)
+  for (int key = 0; key < 1000; ++key) {
     manyKeys.append("K").append(std::to_string(key)).append("=cm_SrcShort\r\n");
+  }
   WriteBytes(folder_.WincmdIni(), "[Shortcuts]\r\n" + manyKeys + "A+1=cm_SrcTree\r\n\r\n[a]\r\nb");
   StartAndLoad();
   const RECT window = RectangleOf(window_->Handle());

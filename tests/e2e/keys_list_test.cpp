@@ -75,8 +75,9 @@ TEST_F(KeysListTest, HasTheEntriesOfTheChooser) {
   const auto count = static_cast<int>(Send(entries, LB_GETCOUNT));
   ASSERT_GT(count, 50);
   ASSERT_EQ(count, Send(chooser, CB_GETCOUNT));
-  for (int index = 0; index < count; ++index)
+  for (int index = 0; index < count; ++index) {
     EXPECT_EQ(Entry(entries, LB_GETTEXT, index), Entry(chooser, CB_GETLBTEXT, index)) << index;
+  }
 }
 
 TEST_F(KeysListTest, OpensUnderThePanelFlushWithTheButton) {

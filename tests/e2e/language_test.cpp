@@ -113,8 +113,9 @@ class LanguageTest : public EndToEndTest {
     options.WaitUntilClosed();
     window_->Command(IDM_mnuFileExportToClipboard);
     const Dialog exportDialog = NextDialog(L"frmExportToClipboard");
-    for (const int id : {IDC_Frame1, IDC_chkColumn0, IDC_chkColumn3, IDC_cmdOK, IDC_cmdCancel})
+    for (const int id : {IDC_Frame1, IDC_chkColumn0, IDC_chkColumn3, IDC_cmdOK, IDC_cmdCancel}) {
       EXPECT_EQ(Mirrored(exportDialog, id), fromTheRight) << id;
+    }
     PostMessageW(exportDialog.Handle(), WM_CLOSE, 0, 0);
     exportDialog.WaitUntilClosed();
   }
@@ -263,9 +264,10 @@ TEST_F(LanguageTest, TranslatorsSeeTheRoomOfTextsInAqua) {
   StartAndLoad();
   Select(L"cm_SrcTree");
   constexpr COLORREF Aqua = RGB(0, 255, 255);
-  for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0})
+  for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0}) {
     WaitFor("control " + std::to_string(id) + " to be aqua",
             [&] { return CountPixels(RectangleOf(window_->Control(id)), Aqua) > 100; });
+  }
 }
 
 }  // namespace

@@ -141,8 +141,9 @@ TEST_F(MissingFilesTest, SettingsHeldByAnotherProgramGiveNoCurrentKeysAndAreNotO
   ASSERT_TRUE(held);
   Start();
   WaitFor("the rows", [&] { return window_->RowCount() == static_cast<int>(rows_.size()); });
-  for (const RowTexts& row : WithoutHeadings(window_->Rows()))
+  for (const RowTexts& row : WithoutHeadings(window_->Rows())) {
     EXPECT_EQ(row[3], L"---") << Utf8(row[1]);
+  }
   MakeAChange();
   window_->ClickButton(IDC_Toolbar1, IDM_mnuFileSave);
   Select(L"cm_SrcTree");  // answered after the click on the button

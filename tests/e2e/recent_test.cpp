@@ -31,8 +31,9 @@ class RecentTest : public EndToEndTest {
     const HWND fileMenu = window_->OpenMenu('F');
     Press('R');
     WaitFor("the recent files", [&] { return window_->OpenMenus().size() == 2; });
-    for (const HWND menu : window_->OpenMenus())
+    for (const HWND menu : window_->OpenMenus()) {
       if (menu != fileMenu) return menu;
+    }
     return nullptr;
   }
 
@@ -50,11 +51,12 @@ class RecentTest : public EndToEndTest {
   /// Of the settings file, from the first entry to the first that is not there.
   [[nodiscard]] std::vector<std::string> Stored() const {
     std::vector<std::string> paths;
-    for (const auto& [name, value] : SectionLines(SettingsText(), "Tessera"))
+    for (const auto& [name, value] : SectionLines(SettingsText(), "Tessera")) {
       if (name.starts_with("RecentFiles")) {
         EXPECT_EQ(name, "RecentFiles" + std::to_string(paths.size() + 1));
         paths.push_back(value);
       }
+    }
     return paths;
   }
 
@@ -69,11 +71,13 @@ class RecentTest : public EndToEndTest {
     constexpr std::size_t LongestWhole = 48;
     if (path.size() <= LongestWhole) return path;
     std::vector<std::wstring> parts{L""};
-    for (const wchar_t letter : path)
-      if (letter == L'\\')
+    for (const wchar_t letter : path) {
+      if (letter == L'\\') {
         parts.emplace_back();
-      else
+      } else {
         parts.back() += letter;
+      }
+    }
     const std::size_t separators = parts.size() - 1;
     if (separators < 3) throw std::runtime_error("Not needed by these tests: " + Utf8(path));
     return parts[0] + L"\\" + parts[1] + L"\\...\\" +

@@ -87,9 +87,10 @@ class ResolutionTest : public EndToEndTest {
   /// The name of a shipped language file; empty for the built-in texts.
   void StartWith(const std::wstring& language) {
     std::string settings = "[Tessera]\r\n";
-    if (!language.empty())
+    if (!language.empty()) {
       settings += "UseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
                   Utf8(folder_.Program() + L"Languages\\" + language) + "\r\n";
+    }
     WriteBytes(folder_.SettingsFile(), settings);
     Start();
     memory_ = std::make_unique<RemoteMemory>(program_->Process(), sizeof(RECT));
@@ -188,8 +189,9 @@ class ResolutionTest : public EndToEndTest {
   /// The files that are shipped; the template among them has the English texts.
   [[nodiscard]] std::vector<std::wstring> Languages() const {
     std::vector<std::wstring> names;
-    for (const auto& file : std::filesystem::directory_iterator(folder_.Program() + L"Languages"))
+    for (const auto& file : std::filesystem::directory_iterator(folder_.Program() + L"Languages")) {
       names.push_back(file.path().filename().wstring());
+    }
     return names;
   }
 
@@ -256,8 +258,9 @@ TEST_F(ResolutionTest, WindowFollowsItThereAndBack) {
   ChangeResolution(*window_, 144, suggested);
   const RECT followed = RectangleOf(window_->Handle());
   EXPECT_NE(EqualRect(&followed, &suggested), FALSE);
-  for (std::size_t column = 0; column < widths.size(); ++column)
+  for (std::size_t column = 0; column < widths.size(); ++column) {
     EXPECT_NEAR(window_->ColumnWidths().at(column), widths.at(column) * 3 / 2, 1);
+  }
   EXPECT_NE(Places(), places);
   ChangeResolution(*window_, 96, place);
   EXPECT_EQ(Places(), places);

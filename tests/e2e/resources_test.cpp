@@ -37,8 +37,9 @@ class ResourcesTest : public EndToEndTest {
       std::cout << times << " times: graphics objects " << before.Graphics << " to "
                 << after.Graphics << ", user objects " << before.User << " to " << after.User
                 << "\n";
-      if (after.Graphics - before.Graphics < times / 2 && after.User - before.User < times / 2)
+      if (after.Graphics - before.Graphics < times / 2 && after.User - before.User < times / 2) {
         return;
+      }
       before = after;
     }
     FAIL() << "Objects were lost in each of " << Rounds << " rounds";
@@ -72,8 +73,9 @@ TEST_F(ResourcesTest, CountsSeeAnObjectMoreAndLess) {
 TEST_F(ResourcesTest, EditsKeepNone) {
   Select(L"cm_SrcTree");
   ExpectNoGrowth((LongRun() ? 1000 : 50) / 2, [&] {
-    for (const WORD key : {WORD{VK_CONTROL}, WORD{VK_SHIFT}, WORD{'J'}, WORD{VK_RETURN}})
+    for (const WORD key : {WORD{VK_CONTROL}, WORD{VK_SHIFT}, WORD{'J'}, WORD{VK_RETURN}}) {
       Press(key);
+    }
     WaitForKeys(L"cm_SrcTree", L"Ctrl + Shift + J");
     Press(VK_DELETE);
     WaitForKeys(L"cm_SrcTree", L"---");

@@ -27,8 +27,9 @@ class SortTest : public EndToEndTest {
   void ExpectSorted(std::size_t column, bool descending) {
     std::vector<RowTexts> rows = window_->Rows();
     EXPECT_TRUE(Sorted(rows, column, descending)) << "column " << column << ", " << descending;
-    for (std::size_t header = 0; header < 4; ++header)
+    for (std::size_t header = 0; header < 4; ++header) {
       EXPECT_EQ(window_->Header(static_cast<int>(header)).HasIcon, header == column) << header;
+    }
     std::vector<RowTexts> expected = WithoutHeadings(ExpectedRows(folder_));
     std::ranges::sort(rows);
     std::ranges::sort(expected);
@@ -83,8 +84,9 @@ TEST_F(SortTest, KeysGivenInTheSortedViewStay) {
   ToggleSortedView();
   MakeAChange();
   ToggleSortedView();
-  for (RowTexts& row : expected)
+  for (RowTexts& row : expected) {
     if (row[1] == L"cm_SrcShort") row[3] = L"Ctrl + Alt + K";
+  }
   EXPECT_TRUE(SameRows(window_->Rows(), expected));
 }
 

@@ -66,9 +66,10 @@ TEST_F(StartTest, PanelIsDisabledForAHeadingRowAndEnabledForACommand) {
   for (const int id : inputs) EXPECT_FALSE(window_->Enabled(id)) << id;
   EXPECT_FALSE(window_->ButtonEnabled(IDC_Toolbar2, IDM_delete));
   window_->ClickRow(1);
-  for (const int id : inputs)
+  for (const int id : inputs) {
     WaitFor("control " + std::to_string(id) + " to be enabled",
             [&] { return window_->Enabled(id); });
+  }
   EXPECT_TRUE(window_->ButtonEnabled(IDC_Toolbar2, IDM_delete));
   EXPECT_FALSE(window_->ButtonEnabled(IDC_Toolbar2, IDM_assign)) << "no key is chosen yet";
 }

@@ -40,8 +40,9 @@ class FaultyFiles final : public Files {
 
   [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override {
     bytes.clear();
-    if (const FileError error = Next(ReadErrors, Operation::Read); error != FileError::None)
+    if (const FileError error = Next(ReadErrors, Operation::Read); error != FileError::None) {
       return error;
+    }
     const auto found = Contents.find(Resolve(path));
     if (found == Contents.end()) return FileError::NotFound;
     bytes = found->second;
@@ -86,8 +87,9 @@ class FaultyFiles final : public Files {
 
   [[nodiscard]] FileError Move(const std::wstring& from, const std::wstring& to) override {
     Calls.push_back(L"Move " + from + L" " + to);
-    if (const FileError error = Next(MoveErrors, Operation::Move); error != FileError::None)
+    if (const FileError error = Next(MoveErrors, Operation::Move); error != FileError::None) {
       return error;
+    }
     if (!Contents.contains(from)) return FileError::NotFound;
     Rename(from, to);
     return FileError::None;
@@ -95,8 +97,9 @@ class FaultyFiles final : public Files {
 
   FileError Remove(const std::wstring& path) override {
     Calls.push_back(L"Remove " + path);
-    if (const FileError error = Next(RemoveErrors, Operation::Remove); error != FileError::None)
+    if (const FileError error = Next(RemoveErrors, Operation::Remove); error != FileError::None) {
       return error;
+    }
     Step();
     return Contents.erase(path) != 0 ? FileError::None : FileError::NotFound;
   }

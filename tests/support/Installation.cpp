@@ -1,7 +1,6 @@
 #include "tests/support/Installation.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr int FirstCode = 100;
@@ -15,9 +14,7 @@ std::string NameOf(int command) {
 std::string CommandLines(int commands) {
   std::string text;
   for (int command = 0; command < commands; ++command) {
-    if (command % 20 == 0) {
-      text += "[_____Group " + std::to_string(command / 20) + "_____]=0\r\n";
-    }
+    if (command % 20 == 0) text += "[_____Group " + std::to_string(command / 20) + "_____]=0\r\n";
     text += NameOf(command) + "=" + std::to_string(FirstCode + command) + ";Does what command " +
             std::to_string(command) + " is for\r\n";
   }

@@ -94,9 +94,7 @@ void DoEverything(Editor& editor) {
   editor.EndOptions();
   editor.BeginExport();
   editor.EndExport();
-  for (const Operation& operation : Operations) {
-    operation.Run(editor);
-  }
+  for (const Operation& operation : Operations) operation.Run(editor);
   editor.Activate();
   EXPECT_FALSE(editor.QueryUnload());
 }

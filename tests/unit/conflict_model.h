@@ -108,8 +108,9 @@ inline Text WrittenToFile(const Text& shown, bool reversed) {
     return letters + L"+" + (key.empty() ? L"+" : key);
   }
   for (std::size_t i = shown.size(); i-- > 0;) {
-    if (shown[i] == L'+' && i + 1 != shown.size())
+    if (shown[i] == L'+' && i + 1 != shown.size()) {
       return letters + L"+" + Trim(shown.substr(i + 1));
+    }
   }
   return letters + L"+" + Trim(shown);
 }

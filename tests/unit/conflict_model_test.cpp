@@ -75,20 +75,21 @@ class Pair {
 
   void Step() {
     const std::size_t kind = Below(100);
-    if (kind < 45)
+    if (kind < 45) {
       Edit(true);
-    else if (kind < 75)
+    } else if (kind < 75) {
       Edit(false);
-    else if (kind < 83)
+    } else if (kind < 83) {
       DeleteOne();
-    else if (kind < 84)
+    } else if (kind < 84) {
       DeleteAll();
-    else if (kind < 94)
+    } else if (kind < 94) {
       Order();
-    else if (kind < 98)
+    } else if (kind < 98) {
       Save();
-    else
+    } else {
       Open();
+    }
   }
 
   void Compare() const {

@@ -30,8 +30,9 @@ class RecentFilesTest : public testing::Test {
 
   std::vector<std::wstring> Paths() const {
     std::vector<std::wstring> paths;
-    for (int index = 1; !IsMissing(recent_.ListItems(index)); ++index)
+    for (int index = 1; !IsMissing(recent_.ListItems(index)); ++index) {
       paths.push_back(recent_.ListItems(index));
+    }
     return paths;
   }
 

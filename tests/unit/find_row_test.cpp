@@ -5,7 +5,6 @@
 #include "tests/support/Kept.h"
 
 namespace tessera::find_row_test {
-
 namespace {
 
 DisplayTable TableOf(const std::vector<std::wstring>& descriptions) {

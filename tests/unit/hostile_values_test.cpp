@@ -164,8 +164,9 @@ TEST(HostileValues, ThirtyThousandShortcutsAreReadAndSaved) {
 TEST(HostileValues, AFileOfFiftyMegabytesIsSavedInOneSection) {
   World world;
   std::string before = "[Big]\n";
-  while (before.size() < 50U << 20U)
+  while (before.size() < 50U << 20U) {
     before += "key" + std::to_string(before.size()) + " = v \xE4\n";
+  }
   const std::string after = "[user]\nmenu1=a\n;end";
   world.Files.Contents[IniFile] = before + "[Shortcuts]\nF3=cm_Copy\n" + after;
   world.Start();

@@ -4,7 +4,6 @@
 #include "app/KeyMeaning.h"
 
 namespace tessera::key_meaning_test {
-
 namespace {
 
 constexpr ChooserState Elsewhere{};

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 namespace tessera::layout_test {
-
 namespace {
 
 TEST(Layout, ListFillsTheWindowBetweenToolbarAndPanel) {

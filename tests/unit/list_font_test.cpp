@@ -5,7 +5,6 @@
 #include "dialogs/cFontDlg.h"
 
 namespace tessera::list_font_test {
-
 namespace {
 
 Settings WithFont(const std::wstring& name, short size, short style = 0) {

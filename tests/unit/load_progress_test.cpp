@@ -20,9 +20,7 @@ TEST(LoadProgress, GrowsBy300WithEachStepBeyondItsFirstMaximum) {
   FakeClock clock;
   LoadProgress progress(clock, [](const LoadProgress&) {});
   progress.Start();
-  for (int step = 1; step < 1500; ++step) {
-    progress.Step();
-  }
+  for (int step = 1; step < 1500; ++step) progress.Step();
   EXPECT_EQ(progress.Value(), 1500);
   EXPECT_EQ(progress.Maximum(), 1500);
   progress.Step();
@@ -48,9 +46,7 @@ TEST(LoadProgress, HandlesNoEventsWhileALoadIsShort) {
   LoadProgress progress(clock, [&](const LoadProgress&) { ++shown; });
   progress.Start();
   clock.Seconds += 0.03F;
-  for (int step = 0; step < 1500; ++step) {
-    progress.Step();
-  }
+  for (int step = 0; step < 1500; ++step) progress.Step();
   progress.Finish();
   EXPECT_EQ(shown, 2);
   EXPECT_EQ(clock.DoEventsCount, 0);
@@ -63,9 +59,7 @@ TEST(LoadProgress, IsShownAndHandlesEventsEvery50MillisecondsHoweverLongTheLoad)
   progress.Start();
   for (int part = 0; part < 1000; ++part) {
     clock.Seconds += 0.03125F;
-    for (int step = 0; step < 100; ++step) {
-      progress.Step();
-    }
+    for (int step = 0; step < 100; ++step) progress.Step();
   }
   EXPECT_EQ(clock.DoEventsCount, 500);
   EXPECT_EQ(shown, 501);
@@ -77,9 +71,7 @@ TEST(LoadProgress, HandlesEventsWhenMidnightHasPassed) {
   LoadProgress progress(clock, [](const LoadProgress&) {});
   progress.Start();
   clock.Seconds = 1;
-  for (int step = 0; step < 100; ++step) {
-    progress.Step();
-  }
+  for (int step = 0; step < 100; ++step) progress.Step();
   EXPECT_EQ(clock.DoEventsCount, 1);
 }
 
@@ -87,9 +79,7 @@ TEST(LoadProgress, StaysWithinWhatABarCanShowHoweverLongTheLoad) {
   FakeClock clock;
   LoadProgress progress(clock, [](const LoadProgress&) {});
   progress.Start();
-  for (int step = 0; step < 8000000; ++step) {
-    progress.Step();
-  }
+  for (int step = 0; step < 8000000; ++step) progress.Step();
   EXPECT_GT(progress.Maximum(), 1999999000);
   EXPECT_LE(progress.Value(), progress.Maximum());
 }

@@ -8,7 +8,6 @@
 #include "app/MenuBar.h"
 
 namespace tessera::menu_bar_test {
-
 namespace {
 
 TEST(MenuBar, EntriesStandInTheirOrder) {

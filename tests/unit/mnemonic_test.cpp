@@ -16,9 +16,7 @@ TEST(Mnemonic, IsTakenOutOfACaption) {
       {L"&Open...", L"Open..."},           {L"E&xit", L"Exit"},         {L"Options", L"Options"},
       {L"Fish && chips", L"Fish & chips"}, {L"Ends in &", L"Ends in "}, {L"", L""},
   };
-  for (const Case& each : Cases) {
-    EXPECT_EQ(WithoutMnemonic(each.Caption), each.Plain);
-  }
+  for (const Case& each : Cases) EXPECT_EQ(WithoutMnemonic(each.Caption), each.Plain);
 }
 
 TEST(Mnemonic, AddedInParenthesesGoesAsAWhole) {
@@ -30,9 +28,7 @@ TEST(Mnemonic, AddedInParenthesesGoesAsAWhole) {
       {L"(&&)", L"(&)"},
       {L"Cut (&O", L"Cut (O"},
   };
-  for (const Case& each : Cases) {
-    EXPECT_EQ(WithoutMnemonic(each.Caption), each.Plain);
-  }
+  for (const Case& each : Cases) EXPECT_EQ(WithoutMnemonic(each.Caption), each.Plain);
 }
 
 }  // namespace

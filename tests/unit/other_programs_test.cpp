@@ -65,8 +65,9 @@ const std::string Unsaved = "F3=cm_Copy\r\nX=cm_Pack\r\n";
 void Start(World& world, const std::wstring& file) {
   world.Files.Clock = &world.Clock;
   world.Files.Held = file;
-  if (file != IniFile)
+  if (file != IniFile) {
     world.Files.Contents[IniFile] = "[Shortcuts]\r\nRedirectSection=keys.ini\r\n";
+  }
   world.Files.Contents[file] = Old.Whole();
   world.Start();
   world.Assign(Pack, 0, L"X");

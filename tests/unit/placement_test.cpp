@@ -6,7 +6,6 @@
 #include <vector>
 
 namespace tessera::placement_test {
-
 namespace {
 
 Settings StoredAt(short left, short top, short width, short height) {

@@ -89,8 +89,9 @@ std::unique_ptr<World> Prepared(const Scenario& scenario) {
   auto world = std::make_unique<World>();
   scenario.Prepare(*world);
   if (scenario.KeepsCopies) {
-    for (const std::wstring& path : scenario.Written)
+    for (const std::wstring& path : scenario.Written) {
       world->Files.Contents[path + L".bak"] = "older";
+    }
   }
   world->Files.Calls.clear();
   world->Files.CallCount = 0;

@@ -40,8 +40,9 @@ class SettingsTest : public testing::Test {
   }
 
   [[nodiscard]] std::string ValueOf(const std::string& key) {
-    for (const std::string& line : Lines())
+    for (const std::string& line : Lines()) {
       if (line.starts_with(key + '=')) return line.substr(key.size() + 1);
+    }
     return "(absent)";
   }
 

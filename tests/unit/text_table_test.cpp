@@ -101,8 +101,9 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3209},
        L"Hotkeys in this list has not saved yet to your Total Commander configuration file."},
   };
-  for (const BuiltInText& text : texts)
+  for (const BuiltInText& text : texts) {
     EXPECT_EQ(BuiltInTextOf(text.Id), text.Text) << NumberOf(text.Id);
+  }
   EXPECT_EQ(std::size(texts), TextTable().size());
 }
 

@@ -9,7 +9,6 @@
 #include "resources/resource.h"
 
 namespace tessera::toolbar_buttons_test {
-
 namespace {
 
 struct Look {

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 namespace tessera::twips_test {
-
 namespace {
 
 TEST(Twips, TwipsArePixelsAtAnyResolution) {

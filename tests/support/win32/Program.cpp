@@ -23,8 +23,9 @@ std::wstring Environment(const std::optional<std::wstring>& commanderPath) {
   std::wstring block;
   const auto add = [&block](std::wstring_view line) { (block += line) += L'\0'; };
   wchar_t* const strings = GetEnvironmentStringsW();
-  for (const wchar_t* line = strings; *line != L'\0'; line += std::wstring_view(line).size() + 1)
+  for (const wchar_t* line = strings; *line != L'\0'; line += std::wstring_view(line).size() + 1) {
     if (!IsCommanderVariable(line)) add(line);
+  }
   FreeEnvironmentStringsW(strings);
   if (commanderPath) add(std::wstring(CommanderVariable) + *commanderPath);
   return block + L'\0';
@@ -72,8 +73,9 @@ Program::Program(const std::wstring& executable, const std::optional<std::wstrin
                           &started) != FALSE;
   };
   // Under Wine the start may fail so, once, when another process has just been killed.
-  if (!start() && (GetLastError() != ERROR_INTERNAL_ERROR || !start()))
+  if (!start() && (GetLastError() != ERROR_INTERNAL_ERROR || !start())) {
     throw std::runtime_error("The program does not start, error " + std::to_string(GetLastError()));
+  }
   CloseHandle(started.hThread);
   process_ = Own(started.hProcess);
   id_ = started.dwProcessId;

@@ -135,9 +135,7 @@ TEST(Growth, LookingUpEveryKeyOfAnIniFileGrowsAsTheKeys) {
     for (int key = 0; key < keys; ++key) bytes += std::to_string(key) + "=value\r\n";
     return BlocksOf([&] {
       const IniDocument document(bytes);
-      for (int key = 0; key < keys; ++key) {
-        EXPECT_TRUE(document.Find("S", std::to_string(key)));
-      }
+      for (int key = 0; key < keys; ++key) EXPECT_TRUE(document.Find("S", std::to_string(key)));
     });
   };
   EXPECT_LT(blocksFor(Many) / blocksFor(Few), Linear);

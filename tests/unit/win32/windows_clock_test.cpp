@@ -17,7 +17,9 @@ TEST(WindowsClock, SecondsSinceMidnightFollowTheLocalTime) {
   GetLocalTime(&now);
   const float seconds = clock.SecondsSinceMidnight();
   const auto expected = static_cast<float>((now.wHour * 60 + now.wMinute) * 60 + now.wSecond);
-  if (seconds < expected) GTEST_SKIP() << "midnight passed just now";
+  if (seconds < expected) {
+    GTEST_SKIP() << "midnight passed just now";
+  }
   EXPECT_LT(seconds - expected, 5.0F);
 }
 
