@@ -13,6 +13,8 @@ float WindowsClock::SecondsSinceMidnight() const {
   return static_cast<float>(milliseconds / 1000.0);
 }
 
+std::uint64_t WindowsClock::Milliseconds() const { return GetTickCount64(); }
+
 void WindowsClock::DoEvents() {
   MSG message{};
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {

@@ -16,6 +16,7 @@ using MessageFilter = std::function<bool(MSG& message)>;
 class WindowsClock final : public Clock {
  public:
   [[nodiscard]] float SecondsSinceMidnight() const override;
+  [[nodiscard]] std::uint64_t Milliseconds() const override;
 
   /// Stops at a request to quit, which stays pending for the program's message loop.
   void DoEvents() override;

@@ -6,8 +6,9 @@
 namespace tessera {
 namespace {
 
-constexpr float PauseLength = 0.5F;  // seconds
-constexpr int PauseStep = 5;         // milliseconds; keeps the pause from taking a whole processor
+constexpr float PauseLength = 0.5F;               // seconds
+constexpr std::uint64_t PauseMilliseconds = 500;  // the same
+constexpr int PauseStep = 5;  // milliseconds; keeps the pause from taking a whole processor
 
 std::wstring ExecutablePath(const Files& files, const Environment& environment) {
   // Deliberate: an unset variable gives "\", so no other place is ever looked at.
@@ -27,11 +28,13 @@ WindowId FindTotalCommander(const Programs& programs) {
 
 void Pause(Clock& clock) {
   const float target = clock.SecondsSinceMidnight() + PauseLength;
+  const std::uint64_t end = clock.Milliseconds() + PauseMilliseconds;
   if (target <= 0.0F) return;
   for (;;) {
     const float now = clock.SecondsSinceMidnight();
     clock.DoEvents();
-    if (now >= target) return;
+    // The time of day never gets there when it begins anew at midnight or is set back.
+    if (now >= target || clock.Milliseconds() >= end) return;
     clock.Sleep(PauseStep);
   }
 }

@@ -14,8 +14,7 @@ namespace tessera {
 /// Total Commander's main window; 0 when it is not running.
 [[nodiscard]] WindowId FindTotalCommander(const Programs& programs);
 
-/// Waits half a second while window events are handled. The clock's return to 0
-/// at midnight is deliberately not looked for.
+/// Waits half a second, at midnight too, while window events are handled.
 void Pause(Clock& clock);
 
 struct RestartRequest {

@@ -1,6 +1,7 @@
 // A clock that a test sets; time passes only in sleeps and by a scripted step per reading.
 #pragma once
 
+#include <cmath>
 #include <functional>
 #include <string>
 
@@ -14,17 +15,23 @@ class FakeClock final : public Clock {
   FakeClock() = default;
   explicit FakeClock(Log& log) : log_(&log) {}
 
-  mutable float Seconds = 36000;  ///< since midnight
-  float StepPerReading = 0;       ///< seconds that pass after each reading
-  int SleptMilliseconds = 0;      ///< in total
+  mutable double Seconds = 36000;  ///< since the first midnight
+  double SetBackBy = 0;            ///< seconds that the time of day was set back by
+  float StepPerReading = 0;        ///< seconds that pass after each reading
+  int SleptMilliseconds = 0;       ///< in total
   int SleepCount = 0;
   int DoEventsCount = 0;
   std::function<void()> OnDoEvents;
 
   [[nodiscard]] float SecondsSinceMidnight() const override {
-    const float now = Seconds;
+    constexpr double SecondsPerDay = 86400;
+    const double now = std::fmod(Seconds - SetBackBy, SecondsPerDay);
     Seconds += StepPerReading;
-    return now;
+    return static_cast<float>(now);
+  }
+
+  [[nodiscard]] std::uint64_t Milliseconds() const override {
+    return static_cast<std::uint64_t>(std::llround(Seconds * 1000));
   }
 
   void DoEvents() override {
@@ -37,7 +44,7 @@ class FakeClock final : public Clock {
   void Sleep(int milliseconds) override {
     ++SleepCount;
     SleptMilliseconds += milliseconds;
-    Seconds += static_cast<float>(milliseconds) / 1000.0F;
+    Seconds += milliseconds / 1000.0;
   }
 
  private:

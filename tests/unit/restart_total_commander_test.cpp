@@ -103,9 +103,25 @@ TEST(FindTotalCommander, LooksForItsWindowClass) {
 TEST(Pause, LastsHalfASecondWhileEventsAreHandled) {
   FakeClock clock;
   Pause(clock);
-  EXPECT_GE(clock.Seconds, 36000.5F);
-  EXPECT_LT(clock.Seconds, 36000.6F);
+  EXPECT_EQ(clock.SleptMilliseconds, 500);
   EXPECT_GT(clock.DoEventsCount, 50);
+}
+
+TEST(Pause, LastsHalfASecondAtMidnightToo) {
+  FakeClock clock;
+  clock.Seconds = 86399.75;
+  Pause(clock);
+  EXPECT_EQ(clock.SleptMilliseconds, 500);
+}
+
+TEST(Pause, LastsHalfASecondWhenTheTimeIsSetBack) {
+  FakeClock clock;
+  int events = 0;
+  clock.OnDoEvents = [&] {
+    if (++events == 10) clock.SetBackBy = 3600;
+  };
+  Pause(clock);
+  EXPECT_EQ(clock.SleptMilliseconds, 500);
 }
 
 }  // namespace
