@@ -27,7 +27,8 @@ class Document : Pinned {
   /// There are changes that are not saved: File > Save, and the Save button, are enabled.
   [[nodiscard]] bool Modified() const;
 
-  /// File > Save and Restart is enabled. Holds as of the last RefreshRestartItems or edit.
+  /// File > Save and Restart is enabled. Holds as of the last RefreshRestartItems or edit: a Total
+  /// Commander that ends while the menu is open is started all the same.
   [[nodiscard]] bool SaveAndRestartEnabled() const;
 
   /// The same item on the Save button's menu.
@@ -82,7 +83,7 @@ class Document : Pinned {
   bool modified_ = false;
   bool unread_ = false;  ///< the file is there, and reading it failed
   bool saveAndRestartEnabled_ = false;
-  bool restartButtonEnabled_ = false;
+  bool restartButtonEnabled_ = true;
   bool busy_ = false;
 };
 

@@ -65,7 +65,6 @@ void frmMain::OnCommand(int id, HWND control) {
   if (views_.IsMainToolbar(control)) {
     windowsSystem_.Seams().Clock.DoEvents();
   }
-  editor_.RefreshRestartItems();
   // The events before it may have started something else.
   const WindowTask task = AcceptsInput() ? RunCommand(editor_, id) : WindowTask::None;
   Sync();

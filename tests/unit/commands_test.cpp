@@ -36,6 +36,30 @@ TEST_F(CommandsTest, SaveIsEnabledByAnEditAndSaves) {
   EXPECT_NE(Ini(), IniContent);
 }
 
+TEST_F(CommandsTest, TotalCommanderThatEndsWhileTheMenuIsOpenIsStartedAgain) {
+  Start();
+  for (const int id : {IDM_mnuFileSavenRestartTC, IDM_restarttc}) {
+    Assign(Pack, id == IDM_restarttc ? L"F9" : L"F8");
+    Programs.Windows[L"TTOTAL_CMD"] = 7;
+    Editor.RefreshRestartItems();
+    Programs.Windows.clear();
+    Calls.clear();
+    RunCommand(Editor, id);
+    EXPECT_FALSE(Editor.Document().Modified()) << id;
+    ASSERT_FALSE(Calls.empty()) << id;
+    EXPECT_EQ(Calls.back(), L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\TC\\Wincmd.ini\"");
+  }
+}
+
+TEST_F(CommandsTest, SaveAndRestartNeedsNoMenuToHaveBeenOpen) {
+  Start();
+  for (const int id : {IDM_mnuFileSavenRestartTC, IDM_restarttc}) {
+    Assign(Pack, id == IDM_restarttc ? L"F9" : L"F8");
+    RunCommand(Editor, id);
+    EXPECT_FALSE(Editor.Document().Modified()) << id;
+  }
+}
+
 TEST_F(CommandsTest, ChecksFollowTheSettings) {
   Start();
   EXPECT_TRUE(StateOf(IDM_mnuViewToolbar).Checked);
