@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "settings/ini/IniText.h"
+
 namespace tessera {
 namespace {
 
@@ -87,6 +89,15 @@ FileError Swap(Files& files, const Names& names) {
   return files.Move(names.Prepared(), names.Target) == FileError::None ? FileError::None : error;
 }
 
+/// Gives the former content its lasting name. An empty one, as a crash of the system may leave it,
+/// is worth less than any backup.
+FileError MakeBackup(Files& files, const Names& names) {
+  const FileStamp former = files.Stamp(names.Former());
+  const bool isEmpty = former != FileStamp{} && former.Length == 0;
+  if (isEmpty && files.Exists(names.Backup())) return files.Remove(names.Former());
+  return files.Move(names.Former(), names.Backup());
+}
+
 /// Clears up beside a file whose new content is in place. What cannot be renamed or removed here is
 /// no reason to report the save as failed: the next start removes it.
 void TidyUp(Files& files, Patience& patience, const Names& names, KeepCopies copies) {
@@ -96,7 +107,7 @@ void TidyUp(Files& files, Patience& patience, const Names& names, KeepCopies cop
   }
   // The former content gets its lasting name only now, so that a failed save never costs the
   // backup of the save before it.
-  static_cast<void>(patience.Try([&] { return files.Move(names.Former(), names.Backup()); }));
+  static_cast<void>(patience.Try([&] { return MakeBackup(files, names); }));
   files.Remove(names.Unsaved());
 }
 
@@ -105,6 +116,17 @@ void GiveUp(Files& files, const Names& names, KeepCopies copies) {
   const bool kept =
       copies == KeepCopies::Yes && files.Move(names.Prepared(), names.Unsaved()) == FileError::None;
   if (!kept) files.Remove(names.Prepared());
+}
+
+/// For a target that is not there, nor its former content. Gives NotFound for the part of a
+/// content.
+FileError PutPreparedInPlace(Files& files, const Names& names) {
+  std::string content;
+  const FileError error = files.Read(names.Prepared(), content);
+  if (error != FileError::None) return error;
+  // Where there was no file, all that is written are lines with their ends.
+  const bool isWhole = content.ends_with(IniLineEnd);
+  return isWhole ? files.Move(names.Prepared(), names.Target) : FileError::NotFound;
 }
 
 }  // namespace
@@ -154,15 +176,16 @@ void ClearLeftOvers(Files& files, const std::wstring& path, KeepCopies copies) {
 
   std::string content;
   FileError target = files.Read(names.Target, content);
-  if (hasFormer && target == FileError::NotFound) {
-    target = files.Move(names.Former(), names.Target);
+  if (target == FileError::NotFound) {
+    target =
+        hasFormer ? files.Move(names.Former(), names.Target) : PutPreparedInPlace(files, names);
   } else if (hasFormer && target == FileError::None) {
     // The same content twice stems from a save that was not completed.
     const bool isBackup =
         copies == KeepCopies::Yes &&
         CompareWith(content, files, names.Former()) == FileError::ChangedMeanwhile;
     if (isBackup)
-      static_cast<void>(files.Move(names.Former(), names.Backup()));
+      static_cast<void>(MakeBackup(files, names));
     else
       files.Remove(names.Former());
   }

@@ -42,8 +42,9 @@ struct FormerContent {
                                        const FormerContent* former = nullptr);
 
 /// Clears up what a save of `path` left when the program was killed in it; reads no file when there
-/// is nothing. The former content returns when the file itself is gone, and else gets the name that
-/// `copies` gives it.
+/// is nothing. When the file itself is gone, the former content returns, or else the new one where
+/// that is whole. Otherwise the former content gets the name that `copies` gives it; an empty one
+/// never takes the place of a backup.
 void ClearLeftOvers(Files& files, const std::wstring& path, KeepCopies copies);
 
 /// True when the user's file at `path` exists, or a killed save left its content beside it, which

@@ -231,6 +231,39 @@ TEST(ClearLeftOvers, PreparedContentOfAFileThatNeverWasGoes) {
   EXPECT_EQ(files.Contents, FileTable{});
 }
 
+TEST(ClearLeftOvers, WholePreparedContentIsPutInPlaceWhenItIsAllThereIs) {
+  for (const KeepCopies copies : {KeepCopies::No, KeepCopies::Yes}) {
+    FaultyFiles files;
+    files.Contents = {{Prepared, "[s]\r\na=1\r\n"}};
+    ClearLeftOvers(files, Path, copies);
+    EXPECT_EQ(files.Contents, (FileTable{{Path, "[s]\r\na=1\r\n"}}));
+  }
+}
+
+TEST(ClearLeftOvers, PreparedContentThatCannotBeReadOrPutInPlaceStays) {
+  FaultyFiles files;
+  files.Contents = {{Prepared, "a=1\r\n"}};
+  files.ReadErrors = {FileError::None, FileError::AccessDenied};
+  ClearLeftOvers(files, Path, KeepCopies::Yes);
+  EXPECT_EQ(files.Contents, (FileTable{{Prepared, "a=1\r\n"}}));
+  files.MoveErrors = {FileError::AccessDenied};
+  ClearLeftOvers(files, Path, KeepCopies::Yes);
+  EXPECT_EQ(files.Contents, (FileTable{{Prepared, "a=1\r\n"}}));
+}
+
+TEST(ClearLeftOvers, EmptyFormerContentIsNoBackup) {
+  FaultyFiles files;
+  files.Contents = {{Path, "new"}, {Former, ""}, {Backup, "older"}};
+  ClearLeftOvers(files, Path, KeepCopies::Yes);
+  EXPECT_EQ(files.Contents, (FileTable{{Path, "new"}, {Backup, "older"}}));
+}
+
+TEST_F(ReplaceContentTest, EmptyFormerContentDoesNotReplaceABackup) {
+  files_.Contents = {{Path, ""}, {Backup, "older"}};
+  EXPECT_EQ(Save(KeepCopies::Yes), FileError::None);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "new"}, {Backup, "older"}}));
+}
+
 TEST(ClearLeftOvers, NothingGoesWhileTheFileCannotBeRead) {
   FaultyFiles files;
   files.Contents = {{Prepared, "new"}, {Former, "old"}};
