@@ -92,6 +92,11 @@ std::vector<std::wstring> ProfileFile::Lines(std::wstring_view section) const {
   return lines;
 }
 
+void ProfileFile::PassOverMark() {
+  const std::string_view bytes = *former_.Bytes;
+  if (bytes.starts_with(Utf8Mark)) document_ = IniDocument(bytes.substr(Utf8Mark.size()));
+}
+
 void ProfileFile::UseCodePage(unsigned codePage) { codePage_ = codePage; }
 
 void ProfileFile::WriteString(std::wstring_view section, std::wstring_view key,

@@ -81,6 +81,12 @@ class ProfileFile {
   [[nodiscard]] std::vector<std::pair<std::wstring, std::wstring>> Entries(
       std::wstring_view section) const;
 
+  // -- How the file is read
+
+  /// Passes over a UTF-8 byte order mark, which else hides a header that the file begins with. For
+  /// a file that is not changed.
+  void PassOverMark();
+
   // -- Changes, kept in memory until Save
 
   /// From now on bytes are decoded with this code page, in place of the ANSI one.

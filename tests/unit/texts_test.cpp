@@ -50,6 +50,13 @@ TEST_F(TextsTest, OfAnIdThatNeitherHasAreEmpty) {
   EXPECT_EQ(texts_.GetLangText(TextId{9999}), L"");
 }
 
+TEST_F(TextsTest, MayStandBehindAByteOrderMark) {
+  With("\xEF\xBB\xBF[UserLanguage]\r\nCodePage=65001\r\n1008=\xD0\x96\r\n");
+  EXPECT_EQ(texts_.GetLangText(TextId::Ok), L"\u0416");
+  With("\xEF\xBB\xBF;mine\r\n[UserLanguage]\r\n1008=x\r\n");
+  EXPECT_EQ(texts_.GetLangText(TextId::Ok), L"x");
+}
+
 TEST_F(TextsTest, MayHaveIdsThatTheBuiltInTableLacks) {
   EXPECT_EQ(With("[UserLanguage]\r\n9999=new\r\n").GetLangText(TextId{9999}), L"new");
 }
