@@ -7,7 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Pinned.h"
 #include "shortcuts/CommandFinder.h"
+#include "shortcuts/NativeKey.h"
 #include "shortcuts/RedirectSection.h"
 #include "shortcuts/WincmdIni.h"
 #include "text/Text.h"
@@ -64,29 +66,30 @@ Lines LinesOfCatalogue(const DisplayTable& table, const HotkeyNotation& notation
   return lines;
 }
 
-/// The value with quotes around it when a read would else take its own quotes or blanks away.
-std::wstring Protected(const std::wstring& value) {
-  if (value.empty()) return value;
-  const bool quoted = value.size() > 1 && value.front() == value.back() &&
-                      (value.front() == L'"' || value.front() == L'\'');
-  const bool blank = IsBlank(value.front()) || IsBlank(value.back());
-  return quoted || blank ? L'"' + value + L'"' : value;
-}
-
-/// Appends the lines in force whose command is not in the catalogue and whose key no line has yet.
-void AppendUnknownLines(Lines& lines, const ProfileFile& file,
-                        const std::vector<CommandEntry>& catalogueRows) {
-  Lines linesInForce = file.Entries(ShortcutsSection);
-  const CommandFinder finder(catalogueRows, linesInForce);
-  std::unordered_set<std::wstring, HashIgnoringCase, EqualsIgnoringCase> names;
-  names.emplace(RedirectSectionKey);
-  for (const auto& [name, value] : lines) names.insert(name);
-  for (auto& [name, value] : linesInForce) {
-    // A known command takes the name as well: a later line of that name is not in force.
-    if (!names.insert(name).second || finder.Find(value)) continue;
-    lines.emplace_back(std::move(name), Protected(value));
+/// The lines of a file whose commands are not in the catalogue.
+class UnknownCommands : Pinned {
+ public:
+  /// `written` takes the place of the file's lines.
+  UnknownCommands(const ProfileFile& file, const Lines& written,
+                  const std::vector<CommandEntry>& catalogueRows)
+      : linesInForce_(file.Entries(ShortcutsSection)), finder_(catalogueRows, linesInForce_) {
+    for (const auto& [name, value] : written) writtenKeys_.insert(CanonicalKey(name));
   }
-}
+
+  /// To be asked about each line of the file once, in their order. False also for a line that is
+  /// not in force, and for one whose key is written.
+  bool HaveLine(const std::wstring& name, const std::wstring& value) {
+    // A known command takes the name as well: a later line of that name is not in force.
+    const bool isInForce = names_.insert(name).second;
+    return isInForce && !finder_.Find(value) && !writtenKeys_.contains(CanonicalKey(name));
+  }
+
+ private:
+  Lines linesInForce_;
+  CommandFinder finder_;
+  std::unordered_set<std::wstring> writtenKeys_;
+  std::unordered_set<std::wstring, HashIgnoringCase, EqualsIgnoringCase> names_;
+};
 
 bool IsTaken(const StartMenuSlot& slot) { return slot.Key.ends_with(L'*'); }
 
@@ -96,13 +99,14 @@ FileError WriteKeys(const Catalogue& catalogue, const HotkeyNotation& notation,
                     const Environment& environment) {
   WincmdIni wincmdIni(files, clock, environment, request.Path);
 
-  Lines lines = LinesOfCatalogue(catalogue.ListView1, notation);
-  if (request.KeepUnknownShortcuts) {
-    AppendUnknownLines(lines, wincmdIni.Shortcuts(), catalogue.lvwHidden);
-  }
-  wincmdIni.Shortcuts().ReplaceEntries(ShortcutsSection, lines, [](std::wstring_view name) {
-    return EqualIgnoringCase(name, RedirectSectionKey);
-  });
+  const Lines lines = LinesOfCatalogue(catalogue.ListView1, notation);
+  UnknownCommands unknown(wincmdIni.Shortcuts(), lines, catalogue.lvwHidden);
+  wincmdIni.Shortcuts().ReplaceEntries(
+      ShortcutsSection, lines, [&](const std::wstring& name, const std::wstring& value) {
+        if (EqualIgnoringCase(name, RedirectSectionKey)) return FormerLine::Stays;
+        const bool isKept = request.KeepUnknownShortcuts && unknown.HaveLine(name, value);
+        return isKept ? FormerLine::Follows : FormerLine::Goes;
+      });
   for (const StartMenuSlot& slot : catalogue.StartMenuKeys) {
     if (IsTaken(slot)) wincmdIni.StartMenu().DeleteValue(StartMenuSection, slot.ValueName);
   }

@@ -171,7 +171,7 @@ void IniDocument::RemoveSection(std::string_view section) {
 
 void IniDocument::ReplaceEntries(std::string_view section,
                                  const std::vector<std::pair<std::string, std::string>>& entries,
-                                 const std::function<bool(std::string_view key)>& keep) {
+                                 const std::function<FormerLine(const Entry& line)>& becomes) {
   std::string added = KeyLines(entries, NameCodePage());
   const IniSection* const found = Section(section);
   if (found == nullptr) {
@@ -184,7 +184,10 @@ void IniDocument::ReplaceEntries(std::string_view section,
   std::optional<std::size_t> firstReplaced;
   for (std::size_t i = 1; i < lines.size(); ++i) {
     const auto entry = EntryOf(lines[i]);
-    if (!entry || keep(entry->Name)) continue;
+    if (!entry) continue;
+    const FormerLine fate = becomes(*entry);
+    if (fate == FormerLine::Stays) continue;
+    if (fate == FormerLine::Follows) added += lines[i];
     lines[i] = {};
     if (!firstReplaced) firstReplaced = i;
   }
@@ -194,7 +197,11 @@ void IniDocument::ReplaceEntries(std::string_view section,
     if (!HasLineEnd(lines[place - 1]) && !lines[place - 1].empty()) {
       added.insert(0, IniLineEnd);
     }
-    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(place), added);
+    // The last line of a file may have moved before others.
+    const auto isNothing = [](std::string_view line) { return line.empty(); };
+    const auto behind = lines.begin() + static_cast<std::ptrdiff_t>(place);
+    if (!HasLineEnd(added) && !std::all_of(behind, lines.end(), isNothing)) added += IniLineEnd;
+    lines.insert(behind, added);
   } else if (IsOnlyOne(*found) && std::all_of(lines.begin() + 1, lines.end(), isBlank)) {
     lines.front() = {};
   }

@@ -18,6 +18,13 @@
 
 namespace tessera {
 
+/// What becomes of a key line of a section whose entries are replaced.
+enum class FormerLine {
+  Goes,
+  Stays,   ///< where it is
+  Follows  ///< moves behind the new entries, with its bytes
+};
+
 class IniDocument {
  public:
   /// Names and values in and out are bytes in this encoding, whatever the file is written in.
@@ -70,15 +77,15 @@ class IniDocument {
   void RemoveSection(std::string_view section);
 
   /// Puts `entries` in the place of a section's key lines, in their order, in one step. The section
-  /// stays where it is, and so do its comments, blank lines and the keys that `keep` names; the new
-  /// lines stand where the first line that they replace stood. A section left with nothing at all
-  /// goes; one that was missing is appended. Of equal keys the last value counts, in the place of
-  /// the first. An entry whose key begins with ";" or "[" or holds a line break is left out: it
-  /// would be read as another kind of line, and every later key of the section might be lost with
-  /// it.
+  /// stays where it is, and so do its comments and blank lines; `becomes`, which is asked in file
+  /// order, tells what happens to its key lines. The new lines stand where the first line that they
+  /// replace stood. A section left with nothing at all goes; one that was missing is appended. Of
+  /// equal keys in `entries` the last value counts, in the place of the first. An entry whose key
+  /// begins with ";" or "[" or holds a line break is left out: it would be read as another kind of
+  /// line, and every later key of the section might be lost with it.
   void ReplaceEntries(std::string_view section,
                       const std::vector<std::pair<std::string, std::string>>& entries,
-                      const std::function<bool(std::string_view key)>& keep);
+                      const std::function<FormerLine(const Entry& line)>& becomes);
 
  private:
   using SectionIndex = std::unordered_map<std::string_view, std::size_t, IniNameHash, IniNameEqual>;

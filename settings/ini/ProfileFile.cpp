@@ -123,16 +123,17 @@ void ProfileFile::DeleteSection(std::wstring_view section) {
   isChanged_ = true;
 }
 
-void ProfileFile::ReplaceEntries(std::wstring_view section,
-                                 const std::vector<std::pair<std::wstring, std::wstring>>& entries,
-                                 const std::function<bool(std::wstring_view key)>& keep) {
+void ProfileFile::ReplaceEntries(
+    std::wstring_view section, const std::vector<std::pair<std::wstring, std::wstring>>& entries,
+    const std::function<FormerLine(const std::wstring& key, const std::wstring& value)>& becomes) {
   std::vector<std::pair<std::string, std::string>> encoded;
   encoded.reserve(entries.size());
   for (const auto& [name, value] : entries) {
     encoded.emplace_back(EncodeName(name), EncodeValue(TrimSpaces(value)));
   }
-  document_.ReplaceEntries(EncodeName(section), encoded,
-                           [&](std::string_view name) { return keep(DecodeName(name)); });
+  document_.ReplaceEntries(EncodeName(section), encoded, [&](const IniDocument::Entry& line) {
+    return becomes(DecodeName(line.Name), DecodeValue(WithoutQuotes(line.Value)));
+  });
   isChanged_ = true;
 }
 

@@ -103,10 +103,10 @@ class ProfileFile {
   void DeleteValue(std::wstring_view section, std::wstring_view key);
   void DeleteSection(std::wstring_view section);
 
-  /// As IniDocument::ReplaceEntries.
-  void ReplaceEntries(std::wstring_view section,
-                      const std::vector<std::pair<std::wstring, std::wstring>>& entries,
-                      const std::function<bool(std::wstring_view key)>& keep);
+  /// As IniDocument::ReplaceEntries; `becomes` gets the value without its quotes.
+  void ReplaceEntries(
+      std::wstring_view section, const std::vector<std::pair<std::wstring, std::wstring>>& entries,
+      const std::function<FormerLine(const std::wstring& key, const std::wstring& value)>& becomes);
 
   /// Writes the file when its bytes differ from those read; a missing file that was only read stays
   /// missing, and any change creates it. A file that exists and could not be read is not written:

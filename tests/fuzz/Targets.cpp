@@ -71,7 +71,10 @@ void RunIni(std::string_view bytes) {
   document.Remove(section, key);
   check(document);
   document.ReplaceEntries(section, {{std::string(key), std::string(value)}, {"F5", "cm_Copy"}},
-                          [](std::string_view name) { return name == "RedirectSection"; });
+                          [](const IniEntry& line) {
+                            if (line.Name == "RedirectSection") return FormerLine::Stays;
+                            return line.Value.empty() ? FormerLine::Follows : FormerLine::Goes;
+                          });
   check(document);
   document.RemoveSection(section);
   check(document);

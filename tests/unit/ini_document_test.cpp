@@ -13,12 +13,12 @@ namespace {
 using namespace std::literals;
 using Entries = std::vector<std::pair<std::string, std::string>>;
 
-bool KeepNone(std::string_view /*key*/) { return false; }
+FormerLine KeepNone(const IniEntry& /*line*/) { return FormerLine::Goes; }
 
 std::string Replaced(std::string_view before, const Entries& entries,
-                     const std::function<bool(std::string_view)>& keep = KeepNone) {
+                     const std::function<FormerLine(const IniEntry&)>& becomes = KeepNone) {
   IniDocument document(before);
-  document.ReplaceEntries("s", entries, keep);
+  document.ReplaceEntries("s", entries, becomes);
   return document.Bytes();
 }
 
@@ -165,7 +165,9 @@ TEST(IniDocument, ReplacedEntriesStandWhereTheFirstReplacedLineStood) {
 }
 
 TEST(IniDocument, ReplacedEntriesFollowTheKeptKeysWhenNoneIsReplaced) {
-  const auto keepR = [](std::string_view key) { return key == "R"; };
+  const auto keepR = [](const IniEntry& line) {
+    return line.Name == "R" ? FormerLine::Stays : FormerLine::Goes;
+  };
   EXPECT_EQ(Replaced("[s]\nR=1\n;c\n", {{"x", "8"}}, keepR), "[s]\nR=1\nx=8\r\n;c\n");
   EXPECT_EQ(Replaced("[s]\na=0\nR=1\nb=2\n", {{"x", "8"}}, keepR), "[s]\nx=8\r\nR=1\n");
   EXPECT_EQ(Replaced("[s]\nR=1", {{"x", "8"}}, keepR), "[s]\nR=1\r\nx=8\r\n");
@@ -409,6 +411,18 @@ TEST(IniDocumentProperties, AnyUtf16ComesBackAsItWas) {
     static_cast<void>(Everything(document));
     ASSERT_EQ(document.Bytes(), file);
   }
+}
+
+TEST(IniDocument, ALineThatFollowsTheNewOnesKeepsItsBytes) {
+  const auto becomes = [](const IniEntry& line) {
+    return line.Value == "\"v\"" ? FormerLine::Follows : FormerLine::Goes;
+  };
+  EXPECT_EQ(Replaced("[s]\n k = \"v\" \na=1\n;c\n", {{"x", "8"}}, becomes),
+            "[s]\nx=8\r\n k = \"v\" \n;c\n");
+  EXPECT_EQ(Replaced("[s]\na=1\n;c\nk\t=\"v\"", {{"x", "8"}}, becomes),
+            "[s]\nx=8\r\nk\t=\"v\"\r\n;c\n");
+  EXPECT_EQ(Replaced("[s]\na=1\nk=\"v\"", {{"x", "8"}}, becomes), "[s]\nx=8\r\nk=\"v\"");
+  EXPECT_EQ(Replaced("[s]\na=1\nk=\"v\"\n", {}, becomes), "[s]\nk=\"v\"\n");
 }
 
 TEST(IniDocument, AnEmptiedSectionStaysInFrontOfAnotherOfItsName) {

@@ -201,8 +201,9 @@ void ExpectNothingElseChanged(const std::string& file, const Units& section,
                               const Entries& entries) {
   const bool isUtf16 = file.starts_with("\xFF\xFE");
   IniDocument document(file);
-  document.ReplaceEntries(NameFor(section, isUtf16), entries,
-                          [](std::string_view key) { return key == "key" || key == "KEY"; });
+  document.ReplaceEntries(NameFor(section, isUtf16), entries, [](const IniEntry& line) {
+    return line.Name == "key" || line.Name == "KEY" ? FormerLine::Stays : FormerLine::Goes;
+  });
   const std::string after = document.Bytes();
   Emptied emptied = WithoutKeysOf(file, section);
   if (entries.empty()) {

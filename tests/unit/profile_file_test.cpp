@@ -143,7 +143,9 @@ TEST_F(ProfileFileTest, NumbersAreWrittenInDecimalDigits) {
 TEST_F(ProfileFileTest, EntriesAreReplacedAsTexts) {
   ProfileFile file = With("[s]\nRedirectSection=1\na=1\n;c\n");
   file.ReplaceEntries(L"s", {{L"x", L" \u0416 "}, {L"\u00E9", L"2"}},
-                      [](std::wstring_view key) { return key == L"RedirectSection"; });
+                      [](const std::wstring& key, const std::wstring&) {
+                        return key == L"RedirectSection" ? FormerLine::Stays : FormerLine::Goes;
+                      });
   EXPECT_EQ(Saved(file), "[s]\nRedirectSection=1\nx=\xEF\xBB\xBF\xD0\x96\r\n\xE9=2\r\n;c\n");
 }
 
@@ -151,7 +153,7 @@ TEST_F(ProfileFileTest, MarkOfAReplacedValueStandsWithinItsQuotes) {
   ProfileFile file = With("");
   file.ReplaceEntries(
       L"s", {{L"a", L"'\u0416'"}, {L"b", L"\"\u0416\""}, {L"c", L"\"\u0416"}, {L"d", L"'x'"}},
-      [](std::wstring_view) { return false; });
+      [](const std::wstring&, const std::wstring&) { return FormerLine::Goes; });
   EXPECT_EQ(Saved(file),
             "[s]\r\na='\xEF\xBB\xBF\xD0\x96'\r\nb=\"\xEF\xBB\xBF\xD0\x96\"\r\n"
             "c=\xEF\xBB\xBF\"\xD0\x96\r\nd='x'\r\n");

@@ -263,6 +263,25 @@ TEST_F(SaveShortcutsTest, AKeptLineGivesWayToACommandThatHasTakenItsKey) {
   EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\r\nA+F5=cm_1\r\nF8=em_two\r\n");
 }
 
+TEST_F(SaveShortcutsTest, AKeptLineGivesWayHoweverItSpellsItsKey) {
+  Files.Contents[Path] =
+      "[Shortcuts]\r\nAC+F5=em_a\r\nC + F6=em_b\r\nW+Q=em_c\r\nCtrl+F2=em_d\r\nc+k=em_e\r\n";
+  Show({L"Ctrl + Alt + F5", L"Ctrl + F6", L"Q", L"Ctrl + F2", L"K"});
+  KeepUnknown = true;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Files.Contents[Path],
+            "[Shortcuts]\r\nCA+F5=cm_1\r\nC+F6=cm_2\r\nQ=cm_3\r\nC+F2=cm_4\r\nK=cm_5\r\n"
+            "W+Q=em_c\r\nCtrl+F2=em_d\r\nc+k=em_e\r\n");
+}
+
+TEST_F(SaveShortcutsTest, AKeptLineKeepsItsBytes) {
+  Files.Contents[Path] = "[Shortcuts]\n  A+F5 =\t\"em_own\" \nF5=cm_1\nF8 = \xE9\x81";
+  Show({L"F6"});
+  KeepUnknown = true;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Files.Contents[Path], "[Shortcuts]\nF6=cm_1\r\n  A+F5 =\t\"em_own\" \nF8 = \xE9\x81");
+}
+
 TEST_F(SaveShortcutsTest, AKeyIsWrittenWithoutTheControlCharactersAroundItsName) {
   Files.Contents[Path] = "[Shortcuts]\r\nF=em_own\r\n";
   Show({L"\x01\tF\x02", L"\x03"});
