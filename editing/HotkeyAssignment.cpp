@@ -25,9 +25,8 @@ bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
     return false;
   }
   ReleaseCurrentKeys(catalogue_, row, notation_);
-  CommandEntry& entry = catalogue_.ListView1.Edit(row);
-  entry.CurrentKeys = key;
-  entry.Icon = RowIcon::HasKey;
+  GiveKey(catalogue_, row, key, notation_);
+  catalogue_.ListView1.Edit(row).Icon = RowIcon::HasKey;
   return true;
 }
 
@@ -36,7 +35,7 @@ bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
     return false;
   }
   // The key may have been the row's own last one, which the check has just taken out of the cell.
-  notation_.AddKey(catalogue_.ListView1.Edit(row).CurrentKeys, key);
+  GiveKey(catalogue_, row, key, notation_);
   return true;
 }
 

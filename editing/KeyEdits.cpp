@@ -2,6 +2,8 @@
 #include "editing/KeyEdits.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "text/Text.h"
 
@@ -16,6 +18,13 @@ std::wstring WithMark(std::wstring_view text) { return std::wstring(text).append
 
 std::wstring WithoutMark(std::wstring_view text) {
   return std::wstring(text.substr(0, text.size() - std::min(text.size(), OverriddenMark.size())));
+}
+
+void SetCurrentKeys(Catalogue& catalogue, CommandEntry& row, std::wstring keys,
+                    const HotkeyNotation& notation) {
+  const std::vector<std::wstring> former = notation.NativeKeysOf(row.CurrentKeys);
+  row.CurrentKeys = std::move(keys);
+  catalogue.Given.Change(row.Key, former, notation.NativeKeysOf(row.CurrentKeys));
 }
 
 void TakeDefaultKey(Catalogue& catalogue, const KeyConflict& conflict,
@@ -33,7 +42,7 @@ void TakeDefaultKey(Catalogue& catalogue, const KeyConflict& conflict,
 void TakeCurrentKey(Catalogue& catalogue, const KeyConflict& conflict, std::wstring_view key,
                     const HotkeyNotation& notation) {
   CommandEntry& owner = catalogue.ListView1.Edit(conflict.Owner);
-  owner.CurrentKeys = RemoveKeyFromList(owner.CurrentKeys, key, notation);
+  SetCurrentKeys(catalogue, owner, RemoveKeyFromList(owner.CurrentKeys, key, notation), notation);
   const bool defaultIsOverridden = owner.DefaultKeys.ends_with(L'*');
   const bool hasNoKey = owner.DefaultKeys == notation.UndefinedHotkey &&
                         owner.CurrentKeys == notation.UndefinedHotkey;
@@ -93,10 +102,16 @@ void TakeKey(Catalogue& catalogue, RowKey row, const std::wstring& key, const Ke
   }
 }
 
+void GiveKey(Catalogue& catalogue, RowKey row, const std::wstring& key,
+             const HotkeyNotation& notation) {
+  notation.AddKey(catalogue.ListView1.Edit(row).CurrentKeys, key);
+  for (const std::wstring& native : notation.NativeKeysOf(key)) catalogue.Given.Give(row, native);
+}
+
 void ReleaseCurrentKeys(Catalogue& catalogue, RowKey row, const HotkeyNotation& notation) {
   CommandEntry& entry = catalogue.ListView1.Edit(row);
   const std::vector<std::wstring> keys = notation.KeysOf(entry.CurrentKeys);
-  entry.CurrentKeys = notation.UndefinedHotkey;
+  SetCurrentKeys(catalogue, entry, notation.UndefinedHotkey, notation);
   if (entry.DefaultKeys == notation.UndefinedHotkey) {
     entry.Icon = RowIcon::None;
   }

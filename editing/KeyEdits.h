@@ -21,6 +21,10 @@ namespace tessera {
 void TakeKey(Catalogue& catalogue, RowKey row, const std::wstring& key, const KeyConflict& conflict,
              bool replace, const HotkeyNotation& notation);
 
+/// Puts the key behind the row's current keys, or in the place of the undefined marker.
+void GiveKey(Catalogue& catalogue, RowKey row, const std::wstring& key,
+             const HotkeyNotation& notation);
+
 /// Empties the row's current keys, and withdraws the marks that they set on Start Menu slots and on
 /// the default keys of other rows. A default-keys cell stays red until the next open.
 void ReleaseCurrentKeys(Catalogue& catalogue, RowKey row, const HotkeyNotation& notation);

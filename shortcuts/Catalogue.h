@@ -8,6 +8,7 @@
 
 #include "shortcuts/CommandEntry.h"
 #include "shortcuts/DisplayTable.h"
+#include "shortcuts/GivenKeys.h"
 #include "shortcuts/HotkeyNotation.h"
 #include "shortcuts/KeyIndex.h"
 #include "shortcuts/StartMenuKeys.h"
@@ -24,6 +25,7 @@ struct Catalogue {
   KeyIndex lvwDefKeys;                       ///< the default keys of the displayed rows, one by one
   KeyIndex lvwCurrKeys;                      ///< their current keys
   StartMenuKeyTable StartMenuKeys;
+  GivenKeys Given;  ///< by edits of this run, whatever files are opened meanwhile
 };
 
 /// Copies the master rows into ListView1, in their order, and gives each its icon.

@@ -72,6 +72,12 @@ std::wstring WithNum(std::wstring_view key) {
   return std::wstring(isOperator ? L"Num " : L"").append(key);
 }
 
+std::wstring WithoutNum(std::wstring text) {
+  constexpr std::wstring_view Num = L"Num";
+  const std::size_t at = text.find(Num);
+  return at == std::wstring::npos ? text : text.erase(at, Num.size());
+}
+
 std::wstring_view KeyPart(std::wstring_view text) {
   // A "+" at the end is the key itself, not what joins it.
   const std::size_t plus =
@@ -160,6 +166,18 @@ std::wstring HotkeyNotation::DisplayToNative(std::wstring_view displayKey) const
     native += KeyPart(displayKey);
   }
   return native;
+}
+
+std::vector<std::wstring> HotkeyNotation::NativeKeysOf(const std::wstring& column) const {
+  if (column.empty() || column == UndefinedHotkey) return {};
+  const std::wstring text = WithoutNum(column);
+  if (text == L"+") return {text};
+  if (!Contains(text, MultiHotkeySeparator)) return {DisplayToNative(text)};
+  std::vector<std::wstring> keys;
+  for (const std::wstring& piece : SplitText(text, TrimmedSeparator())) {
+    keys.push_back(DisplayToNative(piece));
+  }
+  return keys;
 }
 
 std::wstring HotkeyNotation::ApplyReverseOrder(std::wstring text) const {

@@ -51,6 +51,10 @@ struct HotkeyNotation {
   /// when its name in force occurs anywhere in the key, in exactly that letter case.
   [[nodiscard]] std::wstring DisplayToNative(std::wstring_view displayKey) const;
 
+  /// The keys of a current-keys column as a save writes them; none for the undefined marker and for
+  /// "". Only the first keypad key loses its "Num", deliberately.
+  [[nodiscard]] std::vector<std::wstring> NativeKeysOf(const std::wstring& column) const;
+
   /// The same keys with the key name first, when ReverseOrderHotkey is set. Modifiers are
   /// recognised by their English words only; others are dropped. Not for keys that are reversed
   /// already.
@@ -59,6 +63,9 @@ struct HotkeyNotation {
 
 /// The displayed name of a key: a keypad operator's is "Num " and the operator.
 [[nodiscard]] std::wstring WithNum(std::wstring_view key);
+
+/// The text without its first "Num".
+[[nodiscard]] std::wstring WithoutNum(std::wstring text);
 
 /// The key name of a "+"-joined text, trimmed: what follows its last "+" that is not its last
 /// character; all of the text when it has no such "+".

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -21,26 +22,11 @@ namespace {
 
 using Lines = std::vector<std::pair<std::wstring, std::wstring>>;
 
-std::wstring WithoutNum(std::wstring text) {
-  // Deliberately the first one alone: a second keypad key in the same cell keeps its "Num".
-  constexpr std::wstring_view Num = L"Num";
-  const std::size_t at = text.find(Num);
-  return at == std::wstring::npos ? text : text.erase(at, Num.size());
-}
-
-std::vector<std::wstring> NativeKeys(const std::wstring& currentKeys,
-                                     const HotkeyNotation& notation) {
-  const std::wstring text = WithoutNum(currentKeys);
-  if (text == L"+") return {text};
-  if (text.find(notation.MultiHotkeySeparator) == std::wstring::npos) {
-    return {notation.DisplayToNative(text)};
-  }
-  std::vector<std::wstring> keys;
-  for (const std::wstring& piece : SplitText(text, notation.TrimmedSeparator())) {
-    keys.push_back(notation.DisplayToNative(piece));
-  }
-  return keys;
-}
+struct CatalogueLine {
+  std::wstring Name;
+  std::wstring Command;
+  RowKey Row = 0;
+};
 
 /// In a file, every character up to the space is a blank.
 constexpr bool IsBlank(wchar_t character) { return character <= L' '; }
@@ -52,17 +38,52 @@ std::wstring AsName(const std::wstring& key) {
   return {begin, end.base()};
 }
 
-Lines LinesOfCatalogue(const DisplayTable& table, const HotkeyNotation& notation) {
-  Lines lines;
+std::vector<CatalogueLine> LinesOfRows(const DisplayTable& table, const HotkeyNotation& notation) {
+  std::vector<CatalogueLine> lines;
   for (std::size_t position = 0; position < table.Count(); ++position) {
     const CommandEntry& row = table.At(position);
-    if (row.CurrentKeys.empty() || row.CurrentKeys == notation.UndefinedHotkey) continue;
-    for (const std::wstring& key : NativeKeys(row.CurrentKeys, notation)) {
+    for (const std::wstring& key : notation.NativeKeysOf(row.CurrentKeys)) {
       std::wstring name = AsName(key);
       // A line without a name would bind nothing.
-      if (!name.empty()) lines.emplace_back(std::move(name), row.CommandName);
+      if (!name.empty()) {
+        lines.push_back({std::move(name), std::wstring(row.CommandName), row.Key});
+      }
     }
   }
+  return lines;
+}
+
+/// Of several rows' lines for one key leaves that of the row which an edit gave the key to last, in
+/// the place of the first. Where all rows have the key from the file, the lines stay.
+void LeaveKeysToEditedRows(std::vector<CatalogueLine>& lines, const GivenKeys& given) {
+  const auto momentOf = [&](const CatalogueLine* line) {
+    return given.MomentOf(line->Row, line->Name);
+  };
+  std::unordered_map<std::wstring, std::vector<CatalogueLine*>> linesOfKeys;
+  for (CatalogueLine& line : lines) linesOfKeys[CanonicalKey(line.Name)].push_back(&line);
+  for (auto& [key, same] : linesOfKeys) {
+    // Of a row's own lines for the key the last one, which is what an edit adds.
+    CatalogueLine* const winner = *std::max_element(
+        same.rbegin(), same.rend(), [&](const CatalogueLine* left, const CatalogueLine* right) {
+          return momentOf(left) < momentOf(right);
+        });
+    const bool isOneRow = std::all_of(same.begin(), same.end(), [&](const CatalogueLine* line) {
+      return line->Row == winner->Row;
+    });
+    if (isOneRow || momentOf(winner) == 0) continue;
+    std::swap(*same.front(), *winner);
+    std::for_each(same.begin() + 1, same.end(), [](CatalogueLine* line) { line->Name.clear(); });
+  }
+  std::erase_if(lines, [](const CatalogueLine& line) { return line.Name.empty(); });
+}
+
+Lines LinesOfCatalogue(const Catalogue& catalogue, const HotkeyNotation& notation) {
+  std::vector<CatalogueLine> rows = LinesOfRows(catalogue.ListView1, notation);
+  LeaveKeysToEditedRows(rows, catalogue.Given);
+  Lines lines;
+  lines.reserve(rows.size());
+  for (CatalogueLine& line : rows)
+    lines.emplace_back(std::move(line.Name), std::move(line.Command));
   return lines;
 }
 
@@ -99,7 +120,7 @@ FileError WriteKeys(const Catalogue& catalogue, const HotkeyNotation& notation,
                     const Environment& environment) {
   WincmdIni wincmdIni(files, clock, environment, request.Path);
 
-  const Lines lines = LinesOfCatalogue(catalogue.ListView1, notation);
+  const Lines lines = LinesOfCatalogue(catalogue, notation);
   UnknownCommands unknown(wincmdIni.Shortcuts(), lines, catalogue.lvwHidden);
   wincmdIni.Shortcuts().ReplaceEntries(
       ShortcutsSection, lines, [&](const std::wstring& name, const std::wstring& value) {

@@ -17,8 +17,10 @@ struct SaveRequest {
 };
 
 /// Reads "Wincmd.ini" afresh, puts the current keys of the displayed rows, in display order, in the
-/// place of its section "Shortcuts", deletes the Start Menu keys that were taken away, and saves.
-/// When that succeeded, the taken slots of the catalogue are cleared; otherwise nothing is changed.
+/// place of its section "Shortcuts" (a key that several rows have goes to the one that an edit gave
+/// it to last, or else to the one written last), deletes the Start Menu keys that were taken away,
+/// and saves. When that succeeded, the taken slots of the catalogue are cleared; otherwise nothing
+/// is changed.
 [[nodiscard]] FileError SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
                                       const SaveRequest& request, Files& files, Clock& clock,
                                       const Environment& environment);

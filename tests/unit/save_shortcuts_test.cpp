@@ -95,6 +95,24 @@ TEST_F(SaveShortcutsTest, OfEqualKeysTheRowWrittenLastWins) {
   EXPECT_EQ(Saved({L"F1", L"F2", L"f1"}), "[Shortcuts]\r\nF1=cm_3\r\nF2=cm_2\r\n");
 }
 
+TEST_F(SaveShortcutsTest, OfEqualKeysTheOneThatAnEditGaveLastWinsInThePlaceOfTheFirst) {
+  Shown.Given.Give(3, L"F1");  // cm_2
+  EXPECT_EQ(Saved({L"F9", L"F1", L"F2", L"f1"}),
+            "[Shortcuts]\r\nF9=cm_1\r\nF1=cm_2\r\nF2=cm_3\r\n");
+  Shown.Given.Give(5, L"F1");  // cm_4
+  EXPECT_EQ(Saved({L"F9", L"F1", L"F2", L"f1"}),
+            "[Shortcuts]\r\nF9=cm_1\r\nf1=cm_4\r\nF2=cm_3\r\n");
+  Shown.Given.Give(2, L"F1");  // cm_1
+  EXPECT_EQ(Saved({L"F9 = f1", L"F1", L"F2", L"F1"}),
+            "[Shortcuts]\r\nF9=cm_1\r\nf1=cm_1\r\nF2=cm_3\r\n");
+  EXPECT_EQ(Saved({L"F9", L"F1 = f1", L"f1", L"F1"}), "[Shortcuts]\r\nF9=cm_1\r\nF1=cm_4\r\n");
+}
+
+TEST_F(SaveShortcutsTest, KeysThatARowHasTwiceAreWrittenAsBefore) {
+  Shown.Given.Give(2, L"F1");
+  EXPECT_EQ(Saved({L"F1 = F2 = f1"}), "[Shortcuts]\r\nF1=cm_1\r\nF2=cm_1\r\n");
+}
+
 TEST_F(SaveShortcutsTest, LinesFollowTheDisplayedOrder) {
   Files.Contents[Path] = "";
   Show({L"F1", L"F2", L"F3"});

@@ -1,0 +1,45 @@
+// What is remembered of the keys that edits gave to rows.
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "shortcuts/GivenKeys.h"
+
+namespace tessera::given_keys_test {
+namespace {
+
+using Keys = std::vector<std::wstring>;
+
+TEST(GivenKeys, LaterRowsHaveHigherMoments) {
+  GivenKeys given;
+  EXPECT_EQ(given.MomentOf(2, L"F5"), 0U);
+  given.Give(2, L"F5");
+  given.Give(3, L"F5");
+  EXPECT_GT(given.MomentOf(2, L"F5"), 0U);
+  EXPECT_GT(given.MomentOf(3, L"F5"), given.MomentOf(2, L"F5"));
+  given.Give(2, L"F5");
+  EXPECT_GT(given.MomentOf(2, L"F5"), given.MomentOf(3, L"F5"));
+  EXPECT_EQ(given.MomentOf(2, L"C+F5"), 0U);
+}
+
+TEST(GivenKeys, SpellingDoesNotCount) {
+  GivenKeys given;
+  given.Give(2, L"CA+*");
+  EXPECT_NE(given.MomentOf(2, L"ac + *"), 0U);
+  EXPECT_NE(given.MomentOf(2, L"CA+Num *"), 0U);
+}
+
+TEST(GivenKeys, AKeyThatAnEditTakesEndsForThatRow) {
+  GivenKeys given;
+  for (const RowKey row : {2U, 3U}) given.Give(row, L"F5");
+  given.Give(2, L"*");
+  given.Give(2, L"F7");
+  given.Change(2, Keys{L"F5", L"Num *"}, Keys{L"*"});
+  EXPECT_EQ(given.MomentOf(2, L"F5"), 0U);
+  EXPECT_NE(given.MomentOf(2, L"*"), 0U);
+  EXPECT_NE(given.MomentOf(3, L"F5"), 0U);
+  EXPECT_NE(given.MomentOf(2, L"F7"), 0U) << "the edit did not concern a key that was not there";
+}
+
+}  // namespace
+}  // namespace tessera::given_keys_test
