@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a purpose needs and that this machine lacks.
-# Usage: scripts/setup.sh build|package|run|test|fuzz|coverage|bench...
+# Usage: scripts/setup.sh build|package|run|test|fuzz|coverage|mutants|bench...
 set -euo pipefail
 
 build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils)
@@ -9,6 +9,7 @@ run=("${build[@]}" wine wine64 fonts-wine xvfb xdotool imagemagick)
 test=("${run[@]}" g++ googletest clang-format-14 clang-tidy-14 python3)
 fuzz=(cmake ninja-build clang-14 libclang-rt-14-dev)
 coverage=(cmake ninja-build googletest clang-14 llvm-14 python3)
+mutants=(cmake ninja-build g++ googletest python3)
 bench=("${run[@]}" g++ libbenchmark-dev libsimpleini-dev libinih-dev)
 
 wanted=()
@@ -20,6 +21,7 @@ for purpose in "$@"; do
     test) wanted+=("${test[@]}") ;;
     fuzz) wanted+=("${fuzz[@]}") ;;
     coverage) wanted+=("${coverage[@]}") ;;
+    mutants) wanted+=("${mutants[@]}") ;;
     bench) wanted+=("${bench[@]}") ;;
     *) echo "setup.sh: unknown purpose: $purpose" >&2; exit 2 ;;
   esac
