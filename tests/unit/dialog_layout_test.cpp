@@ -18,6 +18,23 @@ TEST(DialogLayout, RowsAreStackedAndWideEnoughForTheirTexts) {
   EXPECT_EQ(layout.Height, 41);
 }
 
+TEST(DialogLayout, RowsGrowWithTallText) {
+  constexpr DialogMetrics Tall{.Dpi = 96, .TextHeight = 40};
+  constexpr MeasuredControl Controls[] = {{ControlKind::CheckBox, 0, 100},
+                                          {ControlKind::OptionButton, 0, 100},
+                                          {ControlKind::Button, 0, 100}};
+  const PagesLayout layout = LayOutPages(Controls, Tall, 200);
+  EXPECT_EQ(layout.Controls[0].Height, 43);
+  EXPECT_EQ(layout.Controls[1].Height, 43);
+  EXPECT_EQ(layout.Controls[2].Height, 48);
+}
+
+TEST(DialogLayout, FrameWithoutATextKeepsNoRoomForOne) {
+  constexpr MeasuredControl Controls[] = {{ControlKind::Frame, 0, 0},
+                                          {ControlKind::CheckBox, 0, 100}};
+  EXPECT_EQ(LayOutPages(Controls, Metrics, 200).Controls[1].Top, 3 + 7);
+}
+
 TEST(DialogLayout, FrameEnclosesWhatFollowsIt) {
   constexpr MeasuredControl Controls[] = {{ControlKind::Frame, 0, 50},
                                           {ControlKind::CheckBox, 0, 100},
