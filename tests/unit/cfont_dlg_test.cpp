@@ -53,6 +53,23 @@ TEST_F(cFontDlgTest, PlainDescriptionHasNormalWeight) {
   EXPECT_TRUE(dialogs_.FontRequests.at(0).Underline);
 }
 
+TEST_F(cFontDlgTest, EachStyleIsOneFieldOfTheRecord) {
+  constexpr int Styles[] = {0, cFontDlg::Bold, cFontDlg::Italic, cFontDlg::StrikeOut,
+                            cFontDlg::Underline};
+  for (const int style : Styles) {
+    dialog_.FontStyle = style;
+    EXPECT_FALSE(dialog_.ShowFont());
+    const FontRecord record = dialogs_.FontRequests.back();
+    EXPECT_EQ(record.Weight == 700, style == cFontDlg::Bold) << style;
+    EXPECT_EQ(record.Italic, style == cFontDlg::Italic) << style;
+    EXPECT_EQ(record.StrikeOut, style == cFontDlg::StrikeOut) << style;
+    EXPECT_EQ(record.Underline, style == cFontDlg::Underline) << style;
+    dialog_.FontStyle = -1;
+    Choose(record);
+    EXPECT_EQ(dialog_.FontStyle, style);
+  }
+}
+
 TEST_F(cFontDlgTest, LongFaceNameIsCutTo31Characters) {
   dialog_.FaceName = std::wstring(40, L'x');
   EXPECT_FALSE(dialog_.ShowFont());
