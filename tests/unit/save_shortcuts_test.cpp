@@ -340,5 +340,14 @@ TEST_F(SaveShortcutsTest, AKeptLineReadsAsBefore) {
   }
 }
 
+TEST_F(SaveShortcutsTest, AKeptLineThatNeedsNoQuotesGetsNone) {
+  const std::string content = "[Shortcuts]\r\nF5=em_me\r\nF8='em\"\r\nF9=\"\r\n";
+  Files.Contents[Path] = content;
+  Show({L"---"});
+  KeepUnknown = true;
+  EXPECT_EQ(Save(), FileError::None);
+  EXPECT_EQ(Files.Contents[Path], content);
+}
+
 }  // namespace
 }  // namespace tessera::save_shortcuts_test
