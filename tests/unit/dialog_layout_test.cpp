@@ -123,8 +123,10 @@ TEST(DialogLayout, ButtonsEndAtTheRight) {
 
 TEST(DialogLayout, GrowsWithTheResolution) {
   constexpr DialogMetrics Double{.Dpi = 192, .TextHeight = 26};
-  EXPECT_EQ(DialogMargin(Double), 2 * DialogMargin(Metrics));
-  EXPECT_EQ(DialogGap(Double), 2 * DialogGap(Metrics));
+  EXPECT_EQ(DialogMargin(Metrics), 11);
+  EXPECT_EQ(DialogMargin(Double), 22);
+  EXPECT_EQ(DialogGap(Metrics), 7);
+  EXPECT_EQ(DialogGap(Double), 14);
   EXPECT_EQ(ButtonSize(40, Double).Height, 2 * ButtonSize(20, Metrics).Height);
 }
 
