@@ -1,4 +1,7 @@
 // Closing with unsaved changes, and what the next start finds.
+#include <future>
+#include <stdexcept>
+
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
@@ -30,6 +33,18 @@ class CloseTest : public EndToEndTest {
     Click({place.right - frame - GetSystemMetrics(SM_CXSIZE) / 2,
            place.top + frame + GetSystemMetrics(SM_CYSIZE) / 2});
     return NextBox();
+  }
+
+  /// Asks whether the session may end, as the system does at a log-off; the answer comes after the
+  /// user's.
+  [[nodiscard]] std::future<bool> AskToLogOff() const {
+    return std::async(std::launch::async, [window = window_->Handle()] {
+      constexpr UINT Limit = 30000;  // milliseconds
+      DWORD_PTR answer = 0;
+      if (SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, Limit, &answer) == 0)
+        throw std::runtime_error("The window does not tell whether the session may end");
+      return answer != FALSE;
+    });
   }
 
   std::string original_;
@@ -86,6 +101,39 @@ TEST_F(CloseTest, AltF4AsksToo) {
   PressAltF4();
   Answer(NextBox(), IDNO);
   EXPECT_EQ(program_->WaitForEnd(), 0U);
+}
+
+TEST_F(CloseTest, LogOffAsksTooAndIsRefusedByCancel) {
+  MakeAChange();
+  std::future<bool> mayEnd = AskToLogOff();
+  const Box box = NextBox();
+  EXPECT_EQ(Utf8(box.Text), "Save changes to  " + Utf8(folder_.WincmdIni()) + "\n");
+  Answer(box, IDCANCEL);
+  EXPECT_FALSE(mayEnd.get());
+  EXPECT_TRUE(Modified());
+
+  mayEnd = AskToLogOff();
+  Answer(NextBox(), IDYES);
+  EXPECT_TRUE(mayEnd.get());
+  EXPECT_EQ(SectionValue(ReadBytes(folder_.WincmdIni()), "Shortcuts", "CA+K"), "cm_SrcShort");
+  EXPECT_TRUE(program_->Running()) << "another program may still refuse";
+  PostMessageW(window_->Handle(), WM_ENDSESSION, TRUE, 0);
+  EXPECT_EQ(program_->WaitForEnd(), 0U);
+}
+
+TEST_F(CloseTest, LogOffWithoutChangesIsAllowedAtOnce) {
+  EXPECT_TRUE(AskToLogOff().get());
+  EXPECT_TRUE(NoBoxOpen());
+}
+
+TEST_F(CloseTest, NothingIsAskedASecondTimeWhileTheQuestionIsOpen) {
+  MakeAChange();
+  const Box box = AskToClose();
+  PostMessageW(window_->Handle(), WM_CLOSE, 0, 0);
+  EXPECT_FALSE(AskToLogOff().get());
+  Answer(box, IDCANCEL);  // a click comes after what was posted
+  EXPECT_TRUE(NoBoxOpen()) << DescribeOpenBoxes(program_->Id());
+  EXPECT_TRUE(program_->Running());
 }
 
 TEST_F(CloseTest, NothingIsAskedWithoutChanges) {

@@ -1,4 +1,11 @@
 // Giving keys to commands, and taking them away, by keyboard and mouse.
+// clang-format off
+#include <windows.h>  // must come first
+#include <commctrl.h>
+// clang-format on
+
+#include <algorithm>
+
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
@@ -48,6 +55,9 @@ TEST_F(EditTest, TakingADefaultKeyAsksFirst) {
   EXPECT_TRUE(Modified());
   const RECT cell = window_->CellRectangle(window_->FindCommand(L"cm_SrcByDateTime"), 2);
   WaitFor("the default key to be red", [&] { return CountPixels(cell, Red) > 0; });
+  // Drawn before it.
+  EXPECT_EQ(CountPixels(window_->CellRectangle(window_->FindCommand(L"cm_SrcByDateTime"), 1), Red),
+            0);
 }
 
 TEST_F(EditTest, TakingAnotherCommandsKeyAsksFirst) {
@@ -100,6 +110,79 @@ TEST_F(EditTest, EnterAssignsTheChosenKeyAndResetsThePanel) {
   EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt1));
   EXPECT_TRUE(window_->HasFocus(IDC_ListView1));
   EXPECT_FALSE(window_->ButtonEnabled(IDC_Toolbar2, IDM_assign));
+}
+
+TEST_F(EditTest, EnterAndEscapeCloseTheDroppedDownChooserAndDoNoMore) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  window_->ClickControl(IDC_chkCtrlAlt1);
+  const HWND chooser = window_->Control(IDC_Combo1);
+  const RECT place = RectangleOf(chooser);
+  const auto waitForList = [&](bool open) {
+    WaitFor(open ? "the chooser's list" : "the chooser's list to close",
+            [&] { return (Send(chooser, CB_GETDROPPEDSTATE) != 0) == open; });
+  };
+  for (const WORD key : {WORD{VK_RETURN}, WORD{VK_ESCAPE}}) {
+    Click({place.left + 10, (place.top + place.bottom) / 2});
+    waitForList(true);
+    const std::wstring before = window_->ChosenKey();
+    Press(VK_DOWN);
+    WaitFor("another key", [&] { return window_->ChosenKey() != before; });
+    Press(key);
+    waitForList(false);
+    EXPECT_TRUE(window_->HasFocus(IDC_Combo1));
+    EXPECT_TRUE(window_->BoxChecked(IDC_chkCtrlAlt1));
+    EXPECT_EQ(RowOf(L"cm_SrcTree")[3], L"---");
+    EXPECT_FALSE(Modified());
+  }
+}
+
+TEST_F(EditTest, FocusComesBackToWhereItWas) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  Press(VK_CONTROL);
+  WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
+
+  window_->Command(IDM_delall);
+  Answer(NextBox(), IDNO);
+  WaitFor("the chooser to have the focus again", [&] { return window_->HasFocus(IDC_Combo1); });
+
+  const HWND other = CreateWindowW(L"STATIC", L"another program", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9,
+                                   nullptr, nullptr, nullptr, nullptr);
+  BringToFront(other);
+  WaitFor("the focus to go", [&] { return !window_->HasFocus(IDC_Combo1); });
+  BringToFront(window_->Handle());
+  WaitFor("the chooser to have the focus again", [&] { return window_->HasFocus(IDC_Combo1); });
+  DestroyWindow(other);
+}
+
+TEST_F(EditTest, ALetterLeadsToTheNextRowThatBeginsWithIt) {
+  StartAndLoad();
+  const std::vector<RowTexts> rows = window_->Rows();
+  Select(L"cm_SrcTree");
+  const auto selected = static_cast<std::size_t>(window_->SelectedRow());
+  const wchar_t letter = rows[selected][0].front();
+  const auto begins = [letter](const RowTexts& row) { return row[0].starts_with(letter); };
+  const auto first = std::ranges::find_if(rows, begins) - rows.begin();
+  const auto next = std::find_if(rows.begin() + selected + 1, rows.end(), begins) - rows.begin();
+  ASSERT_LT(first, static_cast<std::ptrdiff_t>(selected));
+  ASSERT_LT(next, static_cast<std::ptrdiff_t>(rows.size()));
+  Type({&letter, 1});
+  WaitFor("another row", [&] { return window_->SelectedRow() != static_cast<int>(selected); });
+  EXPECT_EQ(window_->SelectedRow(), next);
+}
+
+TEST_F(EditTest, AClickBesideTheRowsKeepsTheSelectedOne) {
+  StartAndLoad();
+  const HWND list = window_->Control(IDC_ListView1);
+  for (WPARAM column = 0; column < 4; ++column) Send(list, LVM_SETCOLUMNWIDTH, column, LPARAM{90});
+  Select(L"cm_SrcTree");
+  const int selected = window_->SelectedRow();
+  const RECT last = window_->CellRectangle(selected, 3);
+  Click({last.right + 30, (last.top + last.bottom) / 2});
+  window_->ClickControl(IDC_chkCtrlAlt0);  // answered after the click on the list
+  WaitFor("box Ctrl to be checked", [&] { return window_->BoxChecked(IDC_chkCtrlAlt0); });
+  EXPECT_EQ(window_->SelectedRow(), selected);
 }
 
 TEST_F(EditTest, AKeypadOperatorIsGivenAsNum) {

@@ -1,4 +1,9 @@
 // Files that are handed to the program: on its command line, and dropped on its window.
+// clang-format off
+#include <windows.h>  // must come first
+#include <commctrl.h>
+// clang-format on
+
 #include <string>
 
 #include "resources/resource.h"
@@ -62,6 +67,16 @@ TEST_F(OpenTest, DroppedFileIsOpened) {
   StartAndLoad();
   Drop(other_);
   ExpectOtherFile();
+}
+
+TEST_F(OpenTest, DroppedFileShowsItsFirstRow) {
+  StartAndLoad();
+  const auto top = [&] { return Send(window_->Control(IDC_ListView1), LVM_GETTOPINDEX); };
+  window_->ClickRow(window_->RowCount() - 1);
+  ASSERT_GT(top(), 0);
+  Drop(other_);
+  WaitUntilOpen(other_);
+  WaitFor("the first row to be in sight", [&] { return top() == 0; });
 }
 
 TEST_F(OpenTest, DropAsksAboutUnsavedChangesFirst) {

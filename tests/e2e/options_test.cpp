@@ -90,6 +90,14 @@ class OptionsTest : public EndToEndTest {
     return GetWindowLongPtrW(window_->Control(IDC_ListView1), which);
   }
 
+  void WaitForToolbarEdges(bool border, bool edge) const {
+    const HWND toolbar = window_->Control(IDC_Toolbar1);
+    WaitFor("the toolbar's edges", [&] {
+      return ((GetWindowLongPtrW(toolbar, GWL_STYLE) & WS_BORDER) != 0) == border &&
+             ((GetWindowLongPtrW(toolbar, GWL_EXSTYLE) & WS_EX_STATICEDGE) != 0) == edge;
+    });
+  }
+
   [[nodiscard]] bool ListHasGridLines() const {
     return (Send(window_->Control(IDC_ListView1), LVM_GETEXTENDEDLISTVIEWSTYLE) &
             LVS_EX_GRIDLINES) != 0;
@@ -204,6 +212,40 @@ TEST_F(OptionsTest, LayoutIsAppliedToTheList) {
   WaitFor("grid lines", [&] { return ListHasGridLines(); });
   WaitFor("the border to go",
           [&] { return !has(GWL_STYLE, WS_BORDER) && !has(GWL_EXSTYLE, WS_EX_CLIENTEDGE); });
+}
+
+TEST_F(OptionsTest, BothLooksReachTheToolbarCrosswise) {
+  WaitForToolbarEdges(false, true);
+  const auto toggle = [&](const BoxCase& box) {
+    Dialog dialog = OpenOptions();
+    Toggle(dialog, box);
+    dialog.CloseBy(IDC_cmdOK);
+  };
+  toggle(Boxes[1]);  // borders no longer fixed
+  WaitForToolbarEdges(true, false);
+  toggle(Boxes[2]);  // flat
+  WaitForToolbarEdges(false, false);
+  toggle(Boxes[1]);
+  WaitUntilApplied();
+  WaitForToolbarEdges(false, false);
+}
+
+TEST_F(OptionsTest, LanguageThatIsChosenAlreadyIsNoChange) {
+  Dialog dialog = OpenOptions();
+  GoTo(dialog, Language);
+  dialog.ClickControl(IDC_optUseDefaultLanguage);
+  GoTo(dialog, Layout);  // answered after the click
+  EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
+}
+
+TEST_F(OptionsTest, FocusGoesFromApplyToOk) {
+  Dialog dialog = OpenOptions();
+  Toggle(dialog, Boxes[0]);
+  WaitForApply(dialog, true);
+  dialog.ClickControl(IDC_cmdApply);
+  WaitForApply(dialog, false);
+  EXPECT_TRUE(dialog.HasFocus(IDC_cmdOK));
+  dialog.CloseByKey(VK_RETURN);
 }
 
 TEST_F(OptionsTest, PickedColorStaysAfterCancel) {

@@ -86,6 +86,22 @@ TEST_F(PlacementTest, ColumnsComeBackAsTheyWere) {
   EXPECT_EQ(window_->ColumnOrder(), (std::array<int, 4>{3, 0, 2, 1}));
 }
 
+TEST_F(PlacementTest, WhatWasNotMovedIsStoredAsItWas) {
+  // No whole numbers of pixels, and a place on a screen that is no longer there.
+  const std::vector<std::pair<std::string, std::string>> stored{
+      {"MainWindowLeft", "30001"},
+      {"MainWindowTop", "1007"},
+      {"MainWindowWidth", "10007"},
+      {"MainWindowHeight", "7001"},
+      {"ColumnHeadersSize", "1007,2008,3001,1004"}};
+  std::string text = "[Tessera]\r\n";
+  for (const auto& [name, value] : stored) text += name + '=' + value + "\r\n";
+  WriteBytes(folder_.SettingsFile(), text);
+  StartAndLoad();
+  Close();
+  for (const auto& [name, value] : stored) EXPECT_EQ(Setting(name), value) << name;
+}
+
 TEST_F(PlacementTest, HiddenToolbarStaysHidden) {
   StartAndLoad();
   window_->Command(IDM_mnuViewToolbar);
