@@ -19,6 +19,10 @@ std::wstring TemporaryFolder() {
   return path + L"tessera files " + std::to_wstring(GetCurrentProcessId());
 }
 
+bool UnderWine() {
+  return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
 class WindowsFilesTest : public testing::Test {
  protected:
   WindowsFilesTest() { CreateDirectoryW(folder_.c_str(), nullptr); }
@@ -126,21 +130,25 @@ TEST_F(WindowsFilesTest, FileHeldOpenIsReadButNotReplaced) {
   EXPECT_EQ(files_.Write(At(L"a"), "x"), FileError::SharingViolation);
 }
 
-/// Changes the length of a file back and forth, as a program does that writes it, until it ends.
+void SetLength(HANDLE file, LONGLONG length) {
+  FILE_END_OF_FILE_INFO end{};
+  end.EndOfFile.QuadPart = length;
+  SetFileInformationByHandle(file, FileEndOfFileInfo, &end, sizeof end);
+}
+
+/// Changes the length of a file of `Long` bytes, as a program does that writes it, until it ends.
 class RestlessWriter {
  public:
   static constexpr LONGLONG Short = 1000;
   static constexpr LONGLONG Long = 1000000;
 
-  explicit RestlessWriter(const std::wstring& path)
+  /// `next` gives the length that follows another.
+  RestlessWriter(const std::wstring& path, LONGLONG (*next)(LONGLONG))
       : file_(Own(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                               nullptr, OPEN_EXISTING, 0, nullptr))),
-        thread_([this] {
-          for (LONGLONG length = Short; !ends_; length = Short + Long - length) {
-            FILE_END_OF_FILE_INFO end{};
-            end.EndOfFile.QuadPart = length;
-            SetFileInformationByHandle(file_.get(), FileEndOfFileInfo, &end, sizeof end);
-          }
+        thread_([this, next] {
+          for (LONGLONG length = next(Long); !ends_; length = next(length))
+            SetLength(file_.get(), length);
         }) {}
   ~RestlessWriter() {
     ends_ = true;
@@ -157,7 +165,9 @@ class RestlessWriter {
 
 TEST_F(WindowsFilesTest, PartOfAFileThatIsBeingWrittenIsNotTakenForTheWhole) {
   Put(L"a", std::string(RestlessWriter::Long, 'x'));
-  const RestlessWriter writer(At(L"a"));
+  const RestlessWriter writer(At(L"a"), [](LONGLONG length) {
+    return RestlessWriter::Short + RestlessWriter::Long - length;
+  });
   int refused = 0;
   // As many reads as meet a change of the length for certain.
   for (int read = 0; read < 20000 && refused < 20; ++read) {
@@ -173,6 +183,39 @@ TEST_F(WindowsFilesTest, PartOfAFileThatIsBeingWrittenIsNotTakenForTheWhole) {
     }
   }
   EXPECT_GT(refused, 0);
+}
+
+TEST_F(WindowsFilesTest, BeginningOfAFileThatIsGrowingIsNotTakenForTheWhole) {
+  Put(L"a", std::string(RestlessWriter::Long, 'x'));
+  const RestlessWriter writer(At(L"a"), [](LONGLONG length) { return length + 1; });
+  FileError error = FileError::None;
+  // As many reads as meet a change of the length for certain.
+  for (int read = 0; read < 5000 && error == FileError::None; ++read) {
+    std::string bytes;
+    error = files_.Read(At(L"a"), bytes);
+  }
+  EXPECT_EQ(error, FileError::SharingViolation);
+}
+
+TEST_F(WindowsFilesTest, FileBeyondAllMeasureIsNotRead) {
+  Put(L"a", "x");
+  SetLength(Own(CreateFileW(At(L"a").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr))
+                .get(),
+            (LONGLONG{1} << 30) + 1);
+  std::string bytes = "x";
+  EXPECT_EQ(files_.Read(At(L"a"), bytes), FileError::Other);
+  EXPECT_TRUE(bytes.empty());
+}
+
+TEST_F(WindowsFilesTest, LockedPartOfAFileIsToldApart) {
+  if (UnderWine()) GTEST_SKIP() << "Wine reads what another handle has locked";
+  Put(L"a", "x");
+  const UniqueHandle held =
+      Own(CreateFileW(At(L"a").c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                      OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(LockFile(held.get(), 0, 0, 1, 0));
+  std::string bytes;
+  EXPECT_EQ(files_.Read(At(L"a"), bytes), FileError::LockViolation);
 }
 
 TEST_F(WindowsFilesTest, FileThatIsNoLinkResolvesToItself) {
@@ -212,8 +255,7 @@ TEST_F(WindowsFilesTest, SaveReplacesTheFileAndLeavesItsBackup) {
 }
 
 TEST_F(WindowsFilesTest, ReplaceKeepsTheAttributesOfTheTarget) {
-  if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr)
-    GTEST_SKIP() << "a replace under Wine gives the attributes of the replacement";
+  if (UnderWine()) GTEST_SKIP() << "a replace under Wine gives the attributes of the replacement";
   Put(L"a", "old");
   Put(L"b", "new");
   ASSERT_TRUE(SetFileAttributesW(At(L"a").c_str(), FILE_ATTRIBUTE_HIDDEN));

@@ -2,7 +2,9 @@
 #include <windows.h>
 #include <gtest/gtest.h>
 
+#include <future>
 #include <string>
+#include <thread>
 
 #include "platform/win32/WindowsFiles.h"
 #include "platform/win32/WindowsPrograms.h"
@@ -39,6 +41,36 @@ TEST(WindowsPrograms, WindowIsFoundByItsClassAndAskedToCloseOnce) {
   EXPECT_EQ(closeRequests, 1);
   EXPECT_EQ(closeParameter, 0);
   DestroyWindow(window);
+}
+
+LRESULT CALLBACK CountCloseRequestsLate(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  constexpr DWORD WhatAProgramMayNeed = 200;  // milliseconds
+  if (message == WM_CLOSE) Sleep(WhatAProgramMayNeed);
+  if (message == WM_APP) DestroyWindow(window);
+  if (message == WM_DESTROY) PostQuitMessage(0);
+  return CountCloseRequests(window, message, wParam, lParam);
+}
+
+TEST(WindowsPrograms, ProgramIsGivenTimeToClose) {
+  const std::wstring name = L"TesseraTestLate" + std::to_wstring(GetCurrentProcessId());
+  WNDCLASSW windowClass{};
+  windowClass.lpfnWndProc = CountCloseRequestsLate;
+  windowClass.lpszClassName = name.c_str();
+  ASSERT_NE(RegisterClassW(&windowClass), 0);
+  std::promise<HWND> made;
+  std::thread program([&] {
+    made.set_value(CreateWindowW(name.c_str(), L"title", WS_OVERLAPPEDWINDOW, 0, 0, 9, 9, nullptr,
+                                 nullptr, nullptr, nullptr));
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+  });
+  const HWND window = made.get_future().get();
+  closeRequests = 0;
+  const OwnerWindow owner;
+  WindowsPrograms(owner).SendClose(reinterpret_cast<WindowId>(window));
+  EXPECT_EQ(closeRequests, 1);
+  PostMessageW(window, WM_APP, 0, 0);
+  program.join();
 }
 
 TEST(WindowsPrograms, MissingProgramsAndDocumentsAreReported) {
