@@ -129,6 +129,7 @@ TEST_F(KeysListTest, AReleasedMouseButtonMakesTheNextSelectionAChoiceAgain) {
   keys_.ReleaseMouse();
   keys_.Select(7);
   EXPECT_EQ(panel_.ChosenKey(), 7);
+  EXPECT_EQ(keys_.Selection(), 7);
 }
 
 TEST_F(KeysListTest, EscLeavesTheMouseChoosing) {
