@@ -39,6 +39,7 @@ TEST(ExpandPath, ExpandsWholeSegmentsOnly) {
       {L"%tc%\\", L"C:\\TC\\"},
       {L"D:\\x%tc%\\f", L"D:\\x%tc%\\f"},
       {L"D:\\%tc%x\\f", L"D:\\%tc%x\\f"},
+      {L"%tcx\\xtc%\\xtcx", L"%tcx\\xtc%\\xtcx"},
       {L"%unset%\\f", L"%unset%\\f"},
       {L"%\\%%\\f", L"%\\%%\\f"},
       {L"C:\\plain\\", L"C:\\plain\\"},
