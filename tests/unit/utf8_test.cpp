@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+
 namespace tessera::utf8_test {
 namespace {
 
@@ -13,6 +16,21 @@ TEST(Utf8, UnpairedSurrogatesComeBack) {
   const std::string bytes = Utf8FromUtf16Le(units);
   EXPECT_EQ(bytes, "\xED\xA0\x80\x41\xED\xB0\x80\xF0\x9F\x98\x80");
   EXPECT_EQ(Utf16LeFromUtf8(bytes), units);
+}
+
+TEST(Utf8, OnlyAHighSurrogateBeforeALowOneIsAPair) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"\x00\xD8\x00\xDC"s, "\xF0\x90\x80\x80"},
+      {"\xFF\xDB\xFF\xDF"s, "\xF4\x8F\xBF\xBF"},
+      {"\x00\xD8\x00\xE0"s, "\xED\xA0\x80\xEE\x80\x80"},
+      {"\x00\xD8\xFF\xDB"s, "\xED\xA0\x80\xED\xAF\xBF"},
+      {"\xFF\xD7\x00\xDC"s, "\xED\x9F\xBF\xED\xB0\x80"},
+      {"\x00\xDC\x00\xDC"s, "\xED\xB0\x80\xED\xB0\x80"},
+  };
+  for (const auto& [units, bytes] : cases) {
+    EXPECT_EQ(Utf8FromUtf16Le(units), bytes);
+    EXPECT_EQ(Utf16LeFromUtf8(bytes), units);
+  }
 }
 
 TEST(Utf8, EveryUnitOfUtf16ComesBack) {
