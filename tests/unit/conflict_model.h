@@ -150,6 +150,7 @@ class Model {
   std::deque<BoxAnswer> Answers;  ///< to the next questions
   Texts16 Questions;              ///< asked by the last edit
   int Beeps = 0;
+  std::vector<ModelKey> Gifts;  ///< what edits gave and none took, as written; the latest last
 
   void Open(const std::vector<Text>& defaultsOfRows) {
     ReadStartMenu();
@@ -190,6 +191,7 @@ class Model {
     if (!AskStartMenu(key) || !AskOwners(key, true)) return false;
     Release(Selected);
     Rows[Selected].Current = key;
+    Remember(key);
     Rows[Selected].Icon = RowIcon::HasKey;
     return true;
   }
@@ -200,6 +202,7 @@ class Model {
     if (!AskStartMenu(key) || !AskOwners(key, false)) return false;
     Text& cell = Rows[Selected].Current;
     cell = cell == Undefined ? key : cell + L" = " + key;
+    Remember(key);
     return true;
   }
 
@@ -268,19 +271,17 @@ class Model {
   }
 
   void Save() {
-    std::vector<ModelLine> lines;
-    for (const std::size_t i : Order) {
-      const ModelRow& row = Rows[i];
-      Text cell = row.Current;
-      if (cell.empty() || cell == Undefined) continue;
-      if (const std::size_t num = cell.find(L"Num"); num != Text::npos) cell.erase(num, 3);
-      const bool isSeveral = cell.find(L" = ") != Text::npos;
-      for (const Text& piece : isSeveral ? Split(cell, L"=") : Texts16{cell}) {
-        const Text name = cell == L"+" ? cell : WrittenToFile(Trim(piece), Reversed);
-        if (!name.empty()) WriteLine(lines, {name, row.Name});
-      }
+    std::vector<ModelKey> written;
+    for (const std::size_t row : Order) {
+      for (const Text& name : NamesIn(Rows[row].Current)) written.push_back({name, row});
     }
-    Shortcuts = lines;
+    Shortcuts.clear();
+    while (!written.empty()) {
+      Shortcuts.push_back(LineFor(written));
+      std::erase_if(written, [&, name = written.front().Key](const ModelKey& other) {
+        return Same(other.Key, name);
+      });
+    }
     for (ModelSlot& slot : Slots) {
       if (!slot.Key.ends_with(L'*')) continue;
       std::erase_if(StartMenu, [&](const ModelLine& line) { return line.Name == slot.ValueName; });
@@ -338,13 +339,72 @@ class Model {
     }
   }
 
-  static void WriteLine(std::vector<ModelLine>& lines, const ModelLine& line) {
-    for (ModelLine& other : lines) {
-      if (!Same(other.Name, line.Name)) continue;
-      other.Value = line.Value;
-      return;
+  /// The names that a save writes for a cell.
+  [[nodiscard]] Texts16 NamesIn(Text cell) const {
+    Texts16 names;
+    if (cell.empty() || cell == Undefined) return names;
+    if (const std::size_t num = cell.find(L"Num"); num != Text::npos) cell.erase(num, 3);
+    const bool isSeveral = cell.find(L" = ") != Text::npos;
+    for (const Text& piece : isSeveral ? Split(cell, L"=") : Texts16{cell}) {
+      const Text name = cell == L"+" ? cell : WrittenToFile(Trim(piece), Reversed);
+      if (!name.empty()) names.push_back(name);
     }
-    lines.push_back(line);
+    return names;
+  }
+
+  /// The one line for the first name and all that are equal to it.
+  [[nodiscard]] ModelLine LineFor(const std::vector<ModelKey>& written) const {
+    const ModelKey& first = written.front();
+    const ModelKey* last = &first;
+    const ModelKey* latest = &first;
+    bool isOneRow = true;
+    for (const ModelKey& other : written) {
+      if (!Same(other.Key, first.Key)) continue;
+      last = &other;
+      if (MomentOf(other) >= MomentOf(*latest)) latest = &other;
+      if (other.Owner != first.Owner) isOneRow = false;
+    }
+    const bool isGiven = !isOneRow && MomentOf(*latest) != 0;
+    return isGiven ? ModelLine{latest->Key, Rows[latest->Owner].Name}
+                   : ModelLine{first.Key, Rows[last->Owner].Name};
+  }
+
+  /// The second keypad key of a cell is written with its "Num", but is the same key.
+  static bool IsSameGift(const ModelKey& left, const ModelKey& right) {
+    const auto plain = [](Text name) {
+      if (const std::size_t num = name.find(L"Num"); num != Text::npos) name.erase(num, 3);
+      std::erase(name, L' ');
+      return name;
+    };
+    return left.Owner == right.Owner && Same(plain(left.Key), plain(right.Key));
+  }
+
+  [[nodiscard]] std::size_t MomentOf(const ModelKey& line) const {
+    for (std::size_t i = 0; i < Gifts.size(); ++i) {
+      if (IsSameGift(Gifts[i], line)) return i + 1;
+    }
+    return 0;
+  }
+
+  void Forget(const ModelKey& gift) {
+    std::erase_if(Gifts, [&](const ModelKey& other) { return IsSameGift(other, gift); });
+  }
+
+  void Remember(const Text& key) {
+    for (const Text& name : NamesIn(key)) {
+      Forget({name, Selected});
+      Gifts.push_back({name, Selected});
+    }
+  }
+
+  void ChangeCell(std::size_t row, const Text& cell) {
+    const Texts16 before = NamesIn(Rows[row].Current);
+    Rows[row].Current = cell;
+    for (const Text& name : before) {
+      bool stays = false;
+      for (const Text& left : NamesIn(cell)) stays |= IsSameGift({left, row}, {name, row});
+      if (!stays) Forget({name, row});
+    }
   }
 
   [[nodiscard]] Text ToWhom() const {
@@ -389,7 +449,8 @@ class Model {
       for (const Text& piece : Split(owner.Current, L"=")) {
         if (Trim(piece) != key) left += Trim(piece) + L" = ";
       }
-      owner.Current = left.empty() ? Undefined : left.substr(0, left.size() - 3);
+      const std::size_t former = static_cast<std::size_t>(&owner - Rows.data());
+      ChangeCell(former, left.empty() ? Undefined : left.substr(0, left.size() - 3));
       const bool hasNone = owner.Defaults == Undefined && owner.Current == Undefined;
       if (owner.Defaults.ends_with(L'*') || hasNone) owner.Icon = RowIcon::None;
       return true;
@@ -405,7 +466,7 @@ class Model {
 
   void Release(std::size_t row) {
     const Text cell = Rows[row].Current;
-    Rows[row].Current = Undefined;
+    ChangeCell(row, Undefined);
     if (Rows[row].Defaults == Undefined) Rows[row].Icon = RowIcon::None;
     for (const Text& key : KeysIn(cell)) {
       for (ModelSlot& slot : Slots) {

@@ -54,6 +54,20 @@ TEST_F(KeyEdits, TakingAFreeKeyAddsItToTheIndex) {
   EXPECT_EQ(catalogue_.lvwCurrKeys.At(*entry).Owner, Pack);
 }
 
+TEST_F(KeyEdits, AKeyCountsAsGivenUntilAnEditTakesIt) {
+  const auto isGiven = [&](RowKey row, std::wstring_view key) {
+    return catalogue_.Given.MomentOf(row, key) != 0;
+  };
+  for (const wchar_t* key : {L"F7", L"F8"}) catalogue_.Given.Give(Refresh, key);
+  Take(Pack, L"F7", true);
+  EXPECT_FALSE(isGiven(Refresh, L"F7"));
+  EXPECT_TRUE(isGiven(Refresh, L"F8"));
+  ReleaseCurrentKeys(catalogue_, Refresh, notation_);
+  EXPECT_FALSE(isGiven(Refresh, L"F8"));
+  GiveKey(catalogue_, Pack, L"Ctrl + Num *", notation_);
+  EXPECT_TRUE(isGiven(Pack, L"C+*"));
+}
+
 TEST_F(KeyEdits, ReplacingKeysByAFreeKeyLeavesTheRowWithoutAnyEntry) {
   Take(Refresh, L"Alt + X", true);
   EXPECT_FALSE(catalogue_.lvwCurrKeys.FindWhole(L"Alt + X"));
