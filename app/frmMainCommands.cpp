@@ -2,7 +2,6 @@
 #include "app/frmMain.h"
 
 namespace tessera {
-
 namespace {
 
 bool Held(int key) { return GetKeyState(key) < 0; }
@@ -59,12 +58,8 @@ frmKeysList::Events frmMain::KeysListEvents() {
 }
 
 void frmMain::OnCommand(int id, HWND control) {
-  if (!IsCommand(id) || !AcceptsInput()) {
-    return;
-  }
-  if (views_.IsMainToolbar(control)) {
-    windowsSystem_.Seams().Clock.DoEvents();
-  }
+  if (!IsCommand(id) || !AcceptsInput()) return;
+  if (views_.IsMainToolbar(control)) windowsSystem_.Seams().Clock.DoEvents();
   // The events before it may have started something else.
   const WindowTask task = AcceptsInput() ? RunCommand(editor_, id) : WindowTask::None;
   Sync();
@@ -122,9 +117,7 @@ void frmMain::OnInitMenu() {
 
 void frmMain::OnDropDown(const NMTOOLBARW& notification) {
   const ToolbarButton* const button = ButtonOf(notification.iItem);
-  if (button == nullptr || !AcceptsInput()) {
-    return;
-  }
+  if (button == nullptr || !AcceptsInput()) return;
   editor_.RefreshRestartItems();
   const Unique<HMENU> menu = MenuUnder(*button, editor_);
   ShowMenuUnderButton(notification, menu.get(), window_, editor_.Language().RightToLeft());
@@ -134,12 +127,8 @@ bool frmMain::FilterMessage(MSG& message) {
   if (window_ == nullptr || (message.hwnd != window_ && IsChild(window_, message.hwnd) == FALSE)) {
     return false;
   }
-  if (IsKeyMessage(message.message) && FilterKey(message)) {
-    return true;
-  }
-  if (views_.Panel().ChooserWouldLose(message)) {
-    message.hwnd = window_;
-  }
+  if (IsKeyMessage(message.message) && FilterKey(message)) return true;
+  if (views_.Panel().ChooserWouldLose(message)) message.hwnd = window_;
   return IsDialogMessageW(window_, &message) != FALSE;
 }
 
@@ -150,9 +139,7 @@ bool frmMain::FilterKey(const MSG& message) {
                        .ShiftHeld = Held(VK_SHIFT)};
   const bool pressed = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
   const KeyMeaning meaning = MeaningOf(event.Code, pressed, views_.Panel().Chooser());
-  if (!AcceptsInput() || meaning == KeyMeaning::ForControl) {
-    return false;
-  }
+  if (!AcceptsInput() || meaning == KeyMeaning::ForControl) return false;
   if (meaning == KeyMeaning::OpensKeysList) {
     ToggleKeysList();
     return true;
@@ -164,23 +151,17 @@ bool frmMain::FilterKey(const MSG& message) {
 }
 
 void frmMain::ToggleKeysList() {
-  if (AcceptsInput()) {
-    React(editor_.Work(&KeysList::ToggleKeysList));
-  }
+  if (AcceptsInput()) React(editor_.Work(&KeysList::ToggleKeysList));
 }
 
 void frmMain::React(const Reaction& reaction) {
-  if (reaction.StartTimer) {
-    SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr);
-  }
+  if (reaction.StartTimer) SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr);
   if (reaction.Changed) {
     Sync();
   } else {
     views_.SyncKeys();
   }
-  if (!AcceptsInput() || reaction.FocusTo == Reaction::Focus::Unchanged) {
-    return;
-  }
+  if (!AcceptsInput() || reaction.FocusTo == Reaction::Focus::Unchanged) return;
   if (reaction.FocusTo == Reaction::Focus::Chooser) {
     views_.Panel().FocusOnChooser();
   } else {

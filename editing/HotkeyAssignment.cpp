@@ -6,7 +6,6 @@
 #include "text/Text.h"
 
 namespace tessera {
-
 namespace {
 
 /// A question that may destroy something: No is the default button.
@@ -21,9 +20,7 @@ HotkeyAssignment::HotkeyAssignment(Catalogue& catalogue, const HotkeyNotation& n
     : catalogue_(catalogue), notation_(notation), texts_(texts), messageBoxes_(messageBoxes) {}
 
 bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
-  if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, true)) {
-    return false;
-  }
+  if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, true)) return false;
   ReleaseCurrentKeys(catalogue_, row, notation_);
   GiveKey(catalogue_, row, key, notation_);
   catalogue_.ListView1.Edit(row).Icon = RowIcon::HasKey;
@@ -31,9 +28,7 @@ bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
 }
 
 bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
-  if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, false)) {
-    return false;
-  }
+  if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, false)) return false;
   // The key may have been the row's own last one, which the check has just taken out of the cell.
   GiveKey(catalogue_, row, key, notation_);
   return true;
@@ -42,15 +37,11 @@ bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
 bool HotkeyAssignment::Delete(RowKey row) { return DeleteCurrentKeys(catalogue_, row, notation_); }
 
 bool HotkeyAssignment::DeleteAll() {
-  if (!Confirmed(messageBoxes_, DeleteAllQuestion(texts_), BoxIcon::Question)) {
-    return false;
-  }
+  if (!Confirmed(messageBoxes_, DeleteAllQuestion(texts_), BoxIcon::Question)) return false;
   bool changed = false;
   for (std::size_t position = 0; position < catalogue_.ListView1.Count(); ++position) {
     const CommandEntry& row = catalogue_.ListView1.At(position);
-    if (!row.IsHeading()) {
-      changed |= DeleteCurrentKeys(catalogue_, row.Key, notation_);
-    }
+    if (!row.IsHeading()) changed |= DeleteCurrentKeys(catalogue_, row.Key, notation_);
   }
   return changed;
 }
@@ -59,15 +50,11 @@ bool HotkeyAssignment::DeleteAll() {
 bool HotkeyAssignment::CheckStartMenuConflict(RowKey row, const std::wstring& key) {
   bool confirmed = true;
   for (StartMenuSlot& slot : catalogue_.StartMenuKeys) {
-    if (!EqualIgnoringCase(slot.Key, key)) {
-      continue;
-    }
+    if (!EqualIgnoringCase(slot.Key, key)) continue;
     confirmed =
         Confirmed(messageBoxes_, StartMenuQuestion(texts_, slot, catalogue_.ListView1.Row(row)),
                   BoxIcon::Exclamation);
-    if (confirmed) {
-      slot.Key.append(OverriddenMark);
-    }
+    if (confirmed) slot.Key.append(OverriddenMark);
   }
   return confirmed;
 }
@@ -94,9 +81,7 @@ bool HotkeyAssignment::CheckConflicts(RowKey row, const std::wstring& key, bool 
                             BoxIcon::Exclamation);
       break;
   }
-  if (confirmed) {
-    TakeKey(catalogue_, row, key, conflict, replace, notation_);
-  }
+  if (confirmed) TakeKey(catalogue_, row, key, conflict, replace, notation_);
   return confirmed;
 }
 

@@ -8,7 +8,6 @@
 #include "text/Text.h"
 
 namespace tessera {
-
 namespace {
 
 /// The length of the default separator, deliberately also when another one is set.
@@ -34,9 +33,7 @@ void TakeDefaultKey(Catalogue& catalogue, const KeyConflict& conflict,
   CommandEntry& owner = catalogue.ListView1.Edit(conflict.Owner);
   owner.DefaultKeys = WithMark(owner.DefaultKeys);
   owner.DefaultKeysAreRed = true;
-  if (owner.CurrentKeys == notation.UndefinedHotkey) {
-    owner.Icon = RowIcon::None;
-  }
+  if (owner.CurrentKeys == notation.UndefinedHotkey) owner.Icon = RowIcon::None;
 }
 
 void TakeCurrentKey(Catalogue& catalogue, const KeyConflict& conflict, std::wstring_view key,
@@ -46,17 +43,13 @@ void TakeCurrentKey(Catalogue& catalogue, const KeyConflict& conflict, std::wstr
   const bool defaultIsOverridden = owner.DefaultKeys.ends_with(L'*');
   const bool hasNoKey = owner.DefaultKeys == notation.UndefinedHotkey &&
                         owner.CurrentKeys == notation.UndefinedHotkey;
-  if (defaultIsOverridden || hasNoKey) {
-    owner.Icon = RowIcon::None;
-  }
+  if (defaultIsOverridden || hasNoKey) owner.Icon = RowIcon::None;
 }
 
 void WithdrawMarks(Catalogue& catalogue, std::wstring_view key) {
   const std::wstring marked = WithMark(key);
   for (StartMenuSlot& slot : catalogue.StartMenuKeys) {
-    if (EqualIgnoringCase(slot.Key, marked)) {
-      slot.Key = WithoutMark(slot.Key);
-    }
+    if (EqualIgnoringCase(slot.Key, marked)) slot.Key = WithoutMark(slot.Key);
   }
   if (const auto entry = catalogue.lvwDefKeys.FindWhole(marked)) {
     CommandEntry& owner = catalogue.ListView1.Edit(catalogue.lvwDefKeys.At(*entry).Owner);
@@ -72,9 +65,7 @@ std::wstring RemoveKeyFromList(std::wstring_view list, std::wstring_view key,
                                const HotkeyNotation& notation) {
   std::wstring kept;
   for (const std::wstring& piece : SplitText(list, notation.TrimmedSeparator())) {
-    if (piece != key) {
-      kept += piece + notation.MultiHotkeySeparator;
-    }
+    if (piece != key) kept += piece + notation.MultiHotkeySeparator;
   }
   return kept.empty() ? notation.UndefinedHotkey : kept.substr(0, kept.size() - CutLength);
 }
@@ -112,18 +103,12 @@ void ReleaseCurrentKeys(Catalogue& catalogue, RowKey row, const HotkeyNotation& 
   CommandEntry& entry = catalogue.ListView1.Edit(row);
   const std::vector<std::wstring> keys = notation.KeysOf(entry.CurrentKeys);
   SetCurrentKeys(catalogue, entry, notation.UndefinedHotkey, notation);
-  if (entry.DefaultKeys == notation.UndefinedHotkey) {
-    entry.Icon = RowIcon::None;
-  }
-  for (const std::wstring& key : keys) {
-    WithdrawMarks(catalogue, key);
-  }
+  if (entry.DefaultKeys == notation.UndefinedHotkey) entry.Icon = RowIcon::None;
+  for (const std::wstring& key : keys) WithdrawMarks(catalogue, key);
 }
 
 bool DeleteCurrentKeys(Catalogue& catalogue, RowKey row, const HotkeyNotation& notation) {
-  if (catalogue.ListView1.Row(row).CurrentKeys == notation.UndefinedHotkey) {
-    return false;
-  }
+  if (catalogue.ListView1.Row(row).CurrentKeys == notation.UndefinedHotkey) return false;
   ReleaseCurrentKeys(catalogue, row, notation);
   catalogue.lvwCurrKeys.RemoveOwnedBy(row);
   return true;

@@ -7,7 +7,6 @@
 #include "text/Numbers.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr std::wstring_view LanguageSection = L"UserLanguage";

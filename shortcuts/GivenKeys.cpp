@@ -7,7 +7,6 @@
 #include "shortcuts/NativeKey.h"
 
 namespace tessera {
-
 namespace {
 
 /// A cell's second keypad key is written with its "Num", but is given without it.

@@ -9,7 +9,6 @@
 #include "text/Trim.h"
 
 namespace tessera {
-
 namespace {
 
 constexpr std::wstring_view Joint = L" + ";

@@ -17,7 +17,6 @@
 #include "text/TextHash.h"
 
 namespace tessera {
-
 namespace {
 
 using Lines = std::vector<std::pair<std::wstring, std::wstring>>;
@@ -33,7 +32,7 @@ constexpr bool IsBlank(wchar_t character) { return character <= L' '; }
 
 /// The key as its line's name is read from the file.
 std::wstring AsName(const std::wstring& key) {
-  const auto begin = std::find_if_not(key.begin(), key.end(), IsBlank);
+  const auto begin = std::ranges::find_if_not(key, IsBlank);
   const auto end = std::find_if_not(key.rbegin(), std::make_reverse_iterator(begin), IsBlank);
   return {begin, end.base()};
 }
@@ -45,9 +44,7 @@ std::vector<CatalogueLine> LinesOfRows(const DisplayTable& table, const HotkeyNo
     for (const std::wstring& key : notation.NativeKeysOf(row.CurrentKeys)) {
       std::wstring name = AsName(key);
       // A line without a name would bind nothing.
-      if (!name.empty()) {
-        lines.push_back({std::move(name), std::wstring(row.CommandName), row.Key});
-      }
+      if (!name.empty()) lines.push_back({std::move(name), std::wstring(row.CommandName), row.Key});
     }
   }
   return lines;
@@ -67,9 +64,8 @@ void LeaveKeysToEditedRows(std::vector<CatalogueLine>& lines, const GivenKeys& g
         same.rbegin(), same.rend(), [&](const CatalogueLine* left, const CatalogueLine* right) {
           return momentOf(left) < momentOf(right);
         });
-    const bool isOneRow = std::all_of(same.begin(), same.end(), [&](const CatalogueLine* line) {
-      return line->Row == winner->Row;
-    });
+    const bool isOneRow = std::ranges::all_of(
+        same, [&](const CatalogueLine* line) { return line->Row == winner->Row; });
     if (isOneRow || momentOf(winner) == 0) continue;
     std::swap(*same.front(), *winner);
     std::for_each(same.begin() + 1, same.end(), [](CatalogueLine* line) { line->Name.clear(); });
@@ -82,8 +78,9 @@ Lines LinesOfCatalogue(const Catalogue& catalogue, const HotkeyNotation& notatio
   LeaveKeysToEditedRows(rows, catalogue.Given);
   Lines lines;
   lines.reserve(rows.size());
-  for (CatalogueLine& line : rows)
+  for (CatalogueLine& line : rows) {
     lines.emplace_back(std::move(line.Name), std::move(line.Command));
+  }
   return lines;
 }
 

@@ -194,9 +194,7 @@ void IniDocument::ReplaceEntries(std::string_view section,
   const auto isBlank = [](std::string_view line) { return TrimIniBlanks(line).empty(); };
   if (!added.empty()) {
     const std::size_t place = firstReplaced.value_or(found->AfterLastKey());
-    if (!HasLineEnd(lines[place - 1]) && !lines[place - 1].empty()) {
-      added.insert(0, IniLineEnd);
-    }
+    if (!HasLineEnd(lines[place - 1]) && !lines[place - 1].empty()) added.insert(0, IniLineEnd);
     // The last line of a file may have moved before others.
     const auto isNothing = [](std::string_view line) { return line.empty(); };
     const auto behind = lines.begin() + static_cast<std::ptrdiff_t>(place);

@@ -162,10 +162,11 @@ FileError ReplaceContent(Files& files, Clock& clock, const std::wstring& path,
         mayDiffer ? CompareWith(*former->Bytes, files, names.Target) : FileError::None;
     return difference == FileError::None ? Swap(files, names) : difference;
   });
-  if (error == FileError::None)
+  if (error == FileError::None) {
     TidyUp(files, patience, names, copies);
-  else
+  } else {
     GiveUp(files, names, copies);
+  }
   return error;
 }
 
@@ -184,10 +185,11 @@ void ClearLeftOvers(Files& files, const std::wstring& path, KeepCopies copies) {
     const bool isBackup =
         copies == KeepCopies::Yes &&
         CompareWith(content, files, names.Former()) == FileError::ChangedMeanwhile;
-    if (isBackup)
+    if (isBackup) {
       static_cast<void>(MakeBackup(files, names));
-    else
+    } else {
       files.Remove(names.Former());
+    }
   }
   // With the target neither there nor surely absent, what is left may be all there is.
   if (target == FileError::None || target == FileError::NotFound) files.Remove(names.Prepared());

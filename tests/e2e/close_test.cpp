@@ -41,8 +41,9 @@ class CloseTest : public EndToEndTest {
     return std::async(std::launch::async, [window = window_->Handle()] {
       constexpr UINT Limit = 30000;  // milliseconds
       DWORD_PTR answer = 0;
-      if (SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, Limit, &answer) == 0)
+      if (SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, Limit, &answer) == 0) {
         throw std::runtime_error("The window does not tell whether the session may end");
+      }
       return answer != FALSE;
     });
   }

@@ -270,8 +270,9 @@ TEST_F(EditTest, DeletingAllKeysAsksFirst) {
   window_->ChooseFromButtonMenu(IDC_Toolbar2, IDM_delete, 1);
   Answer(NextBox(), IDYES);
   WaitFor("the change to be known", [&] { return Modified(); });
-  for (const RowTexts& row : WithoutHeadings(window_->Rows()))
+  for (const RowTexts& row : WithoutHeadings(window_->Rows())) {
     EXPECT_EQ(row[3], L"---") << Utf8(row[1]);
+  }
   EXPECT_EQ(window_->SelectedRow(), selected);
 }
 
@@ -280,7 +281,7 @@ TEST_F(EditTest, ModifierKeysToggleTheirBoxes) {
   Select(L"cm_SrcTree");
   const std::array<std::pair<WORD, int>, 3> modifiers{
       {{VK_CONTROL, IDC_chkCtrlAlt0}, {VK_MENU, IDC_chkCtrlAlt1}, {VK_SHIFT, IDC_chkCtrlAlt2}}};
-  for (const bool checked : {true, false})
+  for (const bool checked : {true, false}) {
     for (const auto& [key, box] : modifiers) {
       Press(key);
       WaitFor("box " + std::to_string(box) + " to change",
@@ -288,6 +289,7 @@ TEST_F(EditTest, ModifierKeysToggleTheirBoxes) {
       WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
       EXPECT_FALSE(window_->InMenu());
     }
+  }
 }
 
 TEST_F(EditTest, TheContextMenuKeyStandsInForAlt) {

@@ -66,8 +66,9 @@ class OptionsTest : public EndToEndTest {
   /// One of the system's dialogs, which has a control of that ID.
   [[nodiscard]] HWND NextSystemDialog(int control) const {
     return WaitFor("a dialog of the system", [&]() -> HWND {
-      for (const HWND window : VisibleWindows(program_->Id(), L"#32770"))
+      for (const HWND window : VisibleWindows(program_->Id(), L"#32770")) {
         if (GetDlgItem(window, control) != nullptr) return window;
+      }
       return nullptr;
     });
   }
@@ -111,14 +112,16 @@ TEST_F(OptionsTest, TabsAndControlsBearTheirTexts) {
   Dialog dialog = OpenOptions();
   EXPECT_EQ(dialog.Caption(), L"Options");
   const std::array tabs{L"Layout", L"Color and Font", L"Operation", L"Language"};
-  for (int tab = 0; tab < 4; ++tab)
+  for (int tab = 0; tab < 4; ++tab) {
     EXPECT_EQ(dialog.TabText(IDC_tbsOptions, tab), tabs.at(static_cast<std::size_t>(tab)));
+  }
   for (const BoxCase& box : Boxes) {
     GoTo(dialog, box.On);
     EXPECT_EQ(dialog.ControlText(box.Id), box.Text);
     EXPECT_EQ(dialog.BoxChecked(box.Id), box.AtStart) << box.Setting;
-    for (const BoxCase& other : Boxes)
+    for (const BoxCase& other : Boxes) {
       EXPECT_EQ(dialog.Visible(other.Id), other.On == box.On) << other.Setting;
+    }
   }
   const std::vector<std::pair<int, std::wstring>> texts{
       {IDC_Frame1, L"Visual Effects :"},
@@ -142,8 +145,9 @@ TEST_F(OptionsTest, OkStoresEveryBox) {
   for (const BoxCase& box : Boxes) Toggle(dialog, box);
   dialog.CloseBy(IDC_cmdOK);
   WaitUntilApplied();
-  for (const BoxCase& box : Boxes)
+  for (const BoxCase& box : Boxes) {
     EXPECT_EQ(Setting(box.Setting), box.AtStart ? "0" : "1") << box.Setting;
+  }
   dialog = OpenOptions();
   EXPECT_EQ(dialog.ChosenTab(IDC_tbsOptions), Operation) << "the last tab stays";
   for (const BoxCase& box : Boxes) {

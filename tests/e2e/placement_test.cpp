@@ -77,8 +77,9 @@ TEST_F(PlacementTest, ColumnsComeBackAsTheyWere) {
   StartAndLoad();
   const HWND list = window_->Control(IDC_ListView1);
   const std::array<int, 4> widths{210, 90, 150, 120};
-  for (std::size_t column = 0; column < widths.size(); ++column)
+  for (std::size_t column = 0; column < widths.size(); ++column) {
     Send(list, LVM_SETCOLUMNWIDTH, column, LPARAM{widths.at(column)});
+  }
   window_->SetColumnOrder({3, 0, 2, 1});
   Close();
   StartAndLoad();

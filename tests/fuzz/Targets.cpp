@@ -22,7 +22,6 @@
 #include "text/Trim.h"
 
 namespace tessera::fuzz {
-
 namespace {
 
 void Require(bool holds, const char* what) {

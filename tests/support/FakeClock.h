@@ -36,8 +36,9 @@ class FakeClock final : public Clock {
 
   void DoEvents() override {
     ++DoEventsCount;
-    if (log_ != nullptr && (log_->empty() || log_->back() != L"DoEvents"))
+    if (log_ != nullptr && (log_->empty() || log_->back() != L"DoEvents")) {
       log_->push_back(L"DoEvents");  // one entry for calls in a row
+    }
     if (OnDoEvents) OnDoEvents();
   }
 

@@ -7,7 +7,6 @@
 #include "tests/unit/editor_fixture.h"
 
 namespace tessera::commands_test {
-
 namespace {
 
 using namespace installation;

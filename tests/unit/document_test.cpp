@@ -68,9 +68,7 @@ TEST_F(EditorTest, SaveAndRestartClosesWritesAndStarts) {
   Files.Writes = 0;
   Clock.OnDoEvents = [this] {
     const std::wstring pause = Files.Writes == 0 ? L"pause before the write" : L"pause after it";
-    if (Calls.back() != pause) {
-      Calls.push_back(pause);
-    }
+    if (Calls.back() != pause) Calls.push_back(pause);
   };
   Editor.FileSaveAndRestart();
   EXPECT_EQ(Calls,

@@ -276,8 +276,9 @@ class RandomFiles {
     const std::string kind = OneOf({"key", "key", "key", "header", "comment", "junk"});
     const std::string blank = OneOf(blanks);
     if (kind == "key") return blank + Name() + "=" + blank + Value() + OneOf(lineEnds);
-    if (kind == "header")
+    if (kind == "header") {
       return blank + "[" + Name() + "]" + OneOf({"", "x", ";"}) + OneOf(lineEnds);
+    }
     if (kind == "comment") return blank + ";" + Value() + OneOf(lineEnds);
     return OneOf({"alone", "[", "\0\x01\x1A"sv, "\r", "\n", "[open\r\n", "==", "x]\n"}) +
            OneOf({"", "\n"});

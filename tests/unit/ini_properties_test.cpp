@@ -207,8 +207,9 @@ void ExpectNothingElseChanged(const std::string& file, const Units& section,
   const std::string after = document.Bytes();
   Emptied emptied = WithoutKeysOf(file, section);
   if (entries.empty()) {
-    if (emptied.Sections == 1 && !emptied.HasLinesLeft)
+    if (emptied.Sections == 1 && !emptied.HasLinesLeft) {
       emptied.Rest.erase(emptied.Rest.find(emptied.Header), emptied.Header.size());
+    }
     ASSERT_EQ(after, emptied.Rest);
     return;
   }
@@ -229,8 +230,9 @@ TEST(IniProperties, ReplacedEntriesTouchNothingButTheSectionsKeyLines) {
     if (file.starts_with("\xFF\xFE") && file.size() % 2 != 0) continue;
     const Units section = UnitsOf(random.OneOf({"s", "a", "c d", "new"}), false);
     Entries entries;
-    for (std::size_t count = random.Below(4); entries.size() < count;)
+    for (std::size_t count = random.Below(4); entries.size() < count;) {
       entries.emplace_back("fresh " + std::to_string(entries.size()), "v");
+    }
     ASSERT_NO_FATAL_FAILURE(ExpectNothingElseChanged(file, section, entries))
         << i << ": " << testing::PrintToString(file);
   }

@@ -194,7 +194,7 @@ std::optional<FaultyFiles> KilledAfter(int steps, KeepCopies copies, FileError f
 }
 
 TEST(ReplaceContent, KillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
-  for (const KeepCopies copies : {KeepCopies::No, KeepCopies::Yes})
+  for (const KeepCopies copies : {KeepCopies::No, KeepCopies::Yes}) {
     for (const FileError error : {FileError::None, FileError::UnableToMoveReplacement2}) {
       int steps = 0;
       while (auto files = KilledAfter(steps, copies, error)) {
@@ -208,6 +208,7 @@ TEST(ReplaceContent, KillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
       }
       EXPECT_GE(steps, 4);
     }
+  }
 }
 
 TEST(ClearLeftOvers, TemporaryFilesGoAndTheOthersStay) {

@@ -147,8 +147,9 @@ class RestlessWriter {
       : file_(Own(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                               nullptr, OPEN_EXISTING, 0, nullptr))),
         thread_([this, next] {
-          for (LONGLONG length = next(Long); !ends_; length = next(length))
+          for (LONGLONG length = next(Long); !ends_; length = next(length)) {
             SetLength(file_.get(), length);
+          }
         }) {}
   ~RestlessWriter() {
     ends_ = true;
@@ -208,7 +209,9 @@ TEST_F(WindowsFilesTest, FileBeyondAllMeasureIsNotRead) {
 }
 
 TEST_F(WindowsFilesTest, LockedPartOfAFileIsToldApart) {
-  if (UnderWine()) GTEST_SKIP() << "Wine reads what another handle has locked";
+  if (UnderWine()) {
+    GTEST_SKIP() << "Wine reads what another handle has locked";
+  }
   Put(L"a", "x");
   const UniqueHandle held =
       Own(CreateFileW(At(L"a").c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
@@ -240,8 +243,9 @@ TEST_F(WindowsFilesTest, PathOfMoreThan260CharactersWorks) {
   EXPECT_EQ(files_.Read(path, bytes), FileError::None);
   EXPECT_EQ(bytes, "x");
   EXPECT_EQ(files_.Remove(path), FileError::None);
-  for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder)
+  for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder) {
     EXPECT_TRUE(RemoveDirectoryW((prefix + *folder).c_str()));
+  }
 }
 
 TEST_F(WindowsFilesTest, SaveReplacesTheFileAndLeavesItsBackup) {
@@ -255,7 +259,9 @@ TEST_F(WindowsFilesTest, SaveReplacesTheFileAndLeavesItsBackup) {
 }
 
 TEST_F(WindowsFilesTest, ReplaceKeepsTheAttributesOfTheTarget) {
-  if (UnderWine()) GTEST_SKIP() << "a replace under Wine gives the attributes of the replacement";
+  if (UnderWine()) {
+    GTEST_SKIP() << "a replace under Wine gives the attributes of the replacement";
+  }
   Put(L"a", "old");
   Put(L"b", "new");
   ASSERT_TRUE(SetFileAttributesW(At(L"a").c_str(), FILE_ATTRIBUTE_HIDDEN));

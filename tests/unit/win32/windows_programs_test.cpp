@@ -106,8 +106,9 @@ TEST(WindowsPrograms, UnquotedPathWithBlanksStartsThatProgramAndNoOther) {
 
   RemoveDirectoryW(made.c_str());
   files.Remove(decoy);
-  for (int tries = 0; tries < 100 && files.Remove(program) == FileError::AccessDenied; ++tries)
+  for (int tries = 0; tries < 100 && files.Remove(program) == FileError::AccessDenied; ++tries) {
     Sleep(50);  // until the program has ended
+  }
   RemoveDirectoryW((folder + L"\\a b").c_str());
   RemoveDirectoryW(folder.c_str());
 }
