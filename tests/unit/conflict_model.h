@@ -10,110 +10,10 @@
 
 #include "platform/MessageBoxes.h"
 #include "shortcuts/CommandEntry.h"
+#include "tests/unit/model_keys.h"
 #include "text/Text.h"
 
 namespace tessera::model {
-
-using Text = std::wstring;
-using Texts16 = std::vector<Text>;
-
-inline const Text Undefined = L"---";
-
-inline const Texts16 Vocabulary = [] {
-  Texts16 keys;
-  for (int number = 1; number <= 12; ++number) keys.push_back(L"F" + std::to_wstring(number));
-  for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) keys.emplace_back(1, letter);
-  for (wchar_t digit = L'0'; digit <= L'9'; ++digit) keys.emplace_back(1, digit);
-  for (const wchar_t* name :
-       {L"INS", L"DEL", L"HOME", L"END", L"PGUP", L"PGDN", L"SPACE", L"BACK", L"TAB", L"+", L"-",
-        L"*", L"/", L"ENTER", L"ESC", L"LEFT", L"RIGHT", L"UP", L"DOWN"}) {
-    keys.emplace_back(name);
-  }
-  return keys;
-}();
-
-inline Text Lower(Text text) {
-  for (wchar_t& letter : text) {
-    if (letter >= L'A' && letter <= L'Z') letter = static_cast<wchar_t>(letter + 32);
-  }
-  return text;
-}
-
-inline bool Same(const Text& left, const Text& right) { return Lower(left) == Lower(right); }
-
-inline Text Trim(Text text) {
-  while (!text.empty() && text.front() == L' ') text.erase(0, 1);
-  while (!text.empty() && text.back() == L' ') text.pop_back();
-  return text;
-}
-
-inline Texts16 Split(const Text& text, const Text& at) {
-  Texts16 pieces;
-  std::size_t begin = 0;
-  for (std::size_t end = text.find(at); end != Text::npos; end = text.find(at, begin)) {
-    pieces.push_back(text.substr(begin, end - begin));
-    begin = end + at.size();
-  }
-  pieces.push_back(text.substr(begin));
-  return pieces;
-}
-
-inline Texts16 KeysIn(const Text& cell) {
-  Texts16 keys;
-  if (cell.empty() || cell == Undefined) return keys;
-  for (const Text& piece : Split(cell, L"=")) keys.push_back(Trim(piece));
-  return keys;
-}
-
-inline bool IsOperator(const Text& key) {
-  return key == L"+" || key == L"-" || key == L"*" || key == L"/";
-}
-
-/// One key as it is shown. Bits of `modifiers`: Ctrl, Alt, Shift.
-inline Text Shown(unsigned modifiers, const Text& key, bool reversed) {
-  Texts16 names;
-  for (const auto& [bit, name] : {std::pair(1U, L"Ctrl"), std::pair(2U, L"Alt"), {4U, L"Shift"}}) {
-    if ((modifiers & bit) != 0) names.emplace_back(name);
-  }
-  const Text name = (IsOperator(key) ? L"Num " : L"") + key;
-  names.insert(reversed ? names.begin() : names.end(), name);
-  Text text;
-  for (const Text& part : names) text += (text.empty() ? L"" : L" + ") + part;
-  return text;
-}
-
-inline Text ShownFromFile(const Text& native, bool reversed) {
-  const std::size_t plus = native.find(L'+');
-  if (native == L"+" || plus == Text::npos) return Shown(0, native, reversed);
-  unsigned modifiers = 0;
-  const Text letters = native.substr(0, plus);
-  if (letters.find(L'C') != Text::npos) modifiers |= 1;
-  if (letters.find(L'A') != Text::npos) modifiers |= 2;
-  if (letters.find(L'S') != Text::npos) modifiers |= 4;
-  Text key = Trim(native.substr(plus + 1));
-  for (wchar_t& letter : key) {
-    if (letter >= L'a' && letter <= L'z') letter = static_cast<wchar_t>(letter - 32);
-  }
-  return Shown(modifiers, key, reversed);
-}
-
-inline Text WrittenToFile(const Text& shown, bool reversed) {
-  Text letters;
-  if (shown.find(L"Ctrl") != Text::npos) letters += L'C';
-  if (shown.find(L"Alt") != Text::npos) letters += L'A';
-  if (shown.find(L"Shift") != Text::npos) letters += L'S';
-  if (letters.empty()) return Trim(shown);
-  if (reversed) {
-    const Text key = Trim(shown.substr(0, shown.find(L'+')));
-    return letters + L"+" + (key.empty() ? L"+" : key);
-  }
-  for (std::size_t i = shown.size(); i-- > 0;) {
-    if (shown[i] == L'+' && i + 1 != shown.size()) {
-      return letters + L"+" + Trim(shown.substr(i + 1));
-    }
-  }
-  return letters + L"+" + Trim(shown);
-}
 
 struct ModelRow {
   bool IsHeading = false;
@@ -148,7 +48,7 @@ class Model {
   int StoredOrder = 0, StoredColumn = 3;
   std::size_t Selected = 0;
   std::deque<BoxAnswer> Answers;  ///< to the next questions
-  Texts16 Questions;              ///< asked by the last edit
+  TextList Questions;             ///< asked by the last edit
   int Beeps = 0;
   std::vector<ModelKey> Gifts;  ///< what edits gave and none took, as written; the latest last
 
@@ -340,12 +240,12 @@ class Model {
   }
 
   /// The names that a save writes for a cell.
-  [[nodiscard]] Texts16 NamesIn(Text cell) const {
-    Texts16 names;
+  [[nodiscard]] TextList NamesIn(Text cell) const {
+    TextList names;
     if (cell.empty() || cell == Undefined) return names;
     if (const std::size_t num = cell.find(L"Num"); num != Text::npos) cell.erase(num, 3);
     const bool isSeveral = cell.find(L" = ") != Text::npos;
-    for (const Text& piece : isSeveral ? Split(cell, L"=") : Texts16{cell}) {
+    for (const Text& piece : isSeveral ? Split(cell, L"=") : TextList{cell}) {
       const Text name = cell == L"+" ? cell : WrittenToFile(Trim(piece), Reversed);
       if (!name.empty()) names.push_back(name);
     }
@@ -398,7 +298,7 @@ class Model {
   }
 
   void ChangeCell(std::size_t row, const Text& cell) {
-    const Texts16 before = NamesIn(Rows[row].Current);
+    const TextList before = NamesIn(Rows[row].Current);
     Rows[row].Current = cell;
     for (const Text& name : before) {
       bool stays = false;
