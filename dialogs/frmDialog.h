@@ -13,9 +13,9 @@
 namespace tessera {
 
 struct DialogControl {
-  int Id;
-  ControlKind Kind;
-  TextId Caption;  ///< where it shows none, its name for screen readers
+  int Id = 0;
+  ControlKind Kind{};
+  TextId Caption = TextId::None;  ///< where it shows none, its name for screen readers
   int Page = 0;
 };
 

@@ -219,7 +219,9 @@ unsigned IniDocument::NameCodePage() const {
 }
 
 IniSection* IniDocument::SectionNamed(std::string_view name) {
-  return const_cast<IniSection*>(Section(name));
+  const IniSection* const found = Section(name);
+  return found != nullptr ? &sections_[static_cast<std::size_t>(found - sections_.data())]
+                          : nullptr;
 }
 
 void IniDocument::Divide() {

@@ -3,7 +3,7 @@
 Usage: check_tidy.py [--each] BUILD_FOLDER..., native or for Windows, with compile commands. A source
 file of several is read as the first of them compiles it. The tests are left out: the macros of their
 library cost minutes and tell nothing. Most of the time goes into the library's headers, so several
-sources are read as one; those of a batch with findings, and all with --each, are read one by one.
+sources are read as one; a batch with findings is read in halves, and all with --each one by one.
 Prints one line "ok ..." or "not ok ..." per source file, and one more for each sample of code that
 shows that the check can fail.
 """
@@ -82,42 +82,46 @@ def report(title, problems):
     return not problems
 
 
-def read_one_by_one(batch, build, options, inside):
-    return [(file, findings(file, "-p", str(build), *options, inside=inside)) for file in batch]
+def read(batch, build):
+    """What is found in each file of a batch."""
+    if len(batch) == 1:
+        options = ("-p", str(build.folder), *build.options)
+        return [(batch[0], findings(batch[0], *options, inside=build.inside))]
+    if not batch_findings(batch, build.sources[batch[0]], *build.options, inside=build.inside):
+        return [(file, "") for file in batch]
+    # Something is wrong with one of them, or two of them have a name in common.
+    middle = len(batch) // 2
+    return read(batch[:middle], build) + read(batch[middle:], build)
 
 
-def tasks(builds, each, inside_of):
-    """Functions that each read some files, and give them with what was found in them."""
-    seen = set()
-    for build in builds:
-        sources = {file: command for file, command in program_sources(build).items() if file not in seen}
-        seen |= sources.keys()
-        files = list(sources)
-        if not files:
-            continue
-        options = cross_options(sources[files[0]]["command"])
-        inside = inside_of(files)
+class Build:
+    """A build folder, and the files that are read as it compiles them."""
+
+    def __init__(self, folder, read_before):
+        self.folder = folder
+        self.sources = {file: command for file, command in program_sources(folder).items()
+                        if file not in read_before}
+        commands = [command["command"] for command in self.sources.values()]
+        self.options = cross_options(commands[0]) if commands else []
+        self.inside = "|".join(sorted({f"{Path.cwd()}/{file.parts[0]}" for file in self.sources}))
+
+    def batches(self, size):
         # Neighbours are likeliest to have names in common, so a batch takes every so many-th.
-        count = len(files) if each else -(-len(files) // BATCH_SIZE)
-
-        def read(batch, build=build, sources=sources, options=options, inside=inside):
-            if not each and not batch_findings(batch, sources[batch[0]], *options, inside=inside):
-                return [(file, "") for file in batch]
-            return read_one_by_one(batch, build, options, inside)
-
-        yield from ((read, files[start::count]) for start in range(count))
+        files = list(self.sources)
+        count = -(-len(files) // size)
+        return [files[start::count] for start in range(count)]
 
 
-def main(builds, each=False):
-    def inside_of(files):
-        return "|".join(sorted({f"{Path.cwd()}/{file.parts[0]}" for file in files}))
-
-    todo = list(tasks(builds, each, inside_of))
+def main(folders, each=False):
+    builds = []
+    for folder in folders:
+        builds.append(Build(folder, {file for build in builds for file in build.sources}))
+    todo = [(batch, build) for build in builds for batch in build.batches(1 if each else BATCH_SIZE)]
     good = report("clang-tidy has sources to read", "" if todo else "no compile commands")
     good &= report("clang-tidy accepts right code", "".join(sample_findings(GOOD)))
     good &= report("clang-tidy rejects wrong code", "" if all(sample_findings(BAD)) else "nothing found")
     with ThreadPoolExecutor(os.cpu_count()) as threads:
-        for results in threads.map(lambda task: task[0](task[1]), todo):
+        for results in threads.map(lambda task: read(*task), todo):
             for file, problems in results:
                 good &= report(f"clang-tidy on {file}", problems)
     return 0 if good else 1
