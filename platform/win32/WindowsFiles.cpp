@@ -64,6 +64,15 @@ UniqueHandle OpenExisting(const std::wstring& path, DWORD access) {
 
 std::uint64_t Joined(DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; }
 
+/// A file that is there, under its name on the disk: whoever gives a path may write it otherwise.
+std::wstring WithNameOnDisk(const std::wstring& path) {
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW(SystemPath(path).c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return path;
+  FindClose(search);
+  return path.substr(0, path.find_last_of(L"\\/:") + 1) + found.cFileName;
+}
+
 DWORD NextStep(std::size_t remaining) {
   return static_cast<DWORD>(std::min(remaining, LargestStep));
 }
@@ -112,9 +121,8 @@ FileStamp WindowsFiles::Stamp(const std::wstring& path) const {
 
 std::wstring WindowsFiles::Resolve(const std::wstring& path) const {
   const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
-  const bool mayBeLink =
-      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-  if (!mayBeLink) return path;
+  if (attributes == INVALID_FILE_ATTRIBUTES) return path;
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return WithNameOnDisk(path);
   const UniqueHandle file = OpenExisting(path, FILE_READ_ATTRIBUTES);
   if (!file) return path;
   const DWORD length = GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED);

@@ -1,12 +1,14 @@
 // Files in memory that fail, or end the program, where a test says so.
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <map>
 #include <string>
 
 #include "platform/Files.h"
 #include "tests/support/Log.h"
+#include "text/Text.h"
 
 namespace tessera {
 
@@ -56,8 +58,11 @@ class FaultyFiles final : public Files {
   }
 
   [[nodiscard]] std::wstring Resolve(const std::wstring& path) const override {
-    const auto found = Links.find(path);
-    return found == Links.end() ? path : found->second;
+    if (const auto link = Links.find(path); link != Links.end()) return link->second;
+    if (Contents.contains(path)) return path;
+    const auto found = std::ranges::find_if(
+        Contents, [&](const auto& file) { return EqualIgnoringCase(file.first, path); });
+    return found == Contents.end() ? path : found->first;
   }
 
   [[nodiscard]] FileError Write(const std::wstring& path, std::string_view bytes) override {

@@ -1,12 +1,14 @@
 // Files held in memory, which counts reads and writes and fails when told to.
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <map>
 #include <string>
 #include <string_view>
 
 #include "platform/Files.h"
+#include "text/Text.h"
 
 namespace tessera {
 
@@ -45,8 +47,11 @@ class MemoryFiles : public Files {
   }
 
   [[nodiscard]] std::wstring Resolve(const std::wstring& path) const override {
-    const auto found = Links.find(path);
-    return found == Links.end() ? path : found->second;
+    if (const auto link = Links.find(path); link != Links.end()) return link->second;
+    if (Contents.contains(path)) return path;
+    const auto found = std::ranges::find_if(
+        Contents, [&](const auto& file) { return EqualIgnoringCase(file.first, path); });
+    return found == Contents.end() ? path : found->first;
   }
 
   [[nodiscard]] FileError Write(const std::wstring& path, std::string_view bytes) override {

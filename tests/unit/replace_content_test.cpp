@@ -63,6 +63,13 @@ TEST_F(ReplaceContentTest, LinkIsFollowedAndStays) {
   EXPECT_EQ(files_.Contents, (FileTable{{real, "new"}, {real + L".bak", "old"}}));
 }
 
+TEST_F(ReplaceContentTest, NameKeepsTheLetterCaseThatItHasOnTheDisk) {
+  files_.Contents = {{Path, "old"}};
+  EXPECT_EQ(ReplaceContent(files_, clock_, L"c:\\tc\\wincmd.INI", "new", KeepCopies::Yes),
+            FileError::None);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "new"}, {Backup, "old"}}));
+}
+
 TEST_F(ReplaceContentTest, SuccessRemovesUnsavedContentOfAnEarlierFailure) {
   files_.Contents = {{Path, "old"}, {Unsaved, "lost edits"}};
   EXPECT_EQ(Save(KeepCopies::Yes), FileError::None);

@@ -227,6 +227,12 @@ TEST_F(WindowsFilesTest, FileThatIsNoLinkResolvesToItself) {
   EXPECT_EQ(files_.Resolve(At(L"b")), At(L"b"));
 }
 
+TEST_F(WindowsFilesTest, FileResolvesToItsNameOnTheDisk) {
+  Put(L"a.Bak", "x");
+  EXPECT_EQ(files_.Resolve(At(L"A.bAK")), At(L"a.Bak"));
+  EXPECT_EQ(files_.Resolve(folder_ + L"/A.bAK"), folder_ + L"/a.Bak");
+}
+
 TEST_F(WindowsFilesTest, PathOfMoreThan260CharactersWorks) {
   const std::wstring prefix = L"\\\\?\\";
   std::wstring deep = folder_;
@@ -256,6 +262,15 @@ TEST_F(WindowsFilesTest, SaveReplacesTheFileAndLeavesItsBackup) {
   EXPECT_EQ(ContentOf(L"a.bak"), "old");
   EXPECT_FALSE(files_.Exists(At(L"a.tessera-new")));
   EXPECT_FALSE(files_.Exists(At(L"a.tessera-old")));
+}
+
+TEST_F(WindowsFilesTest, SavedFileKeepsTheLetterCaseOfItsName) {
+  WindowsClock clock;
+  Put(L"c", "old");
+  EXPECT_EQ(ReplaceContent(files_, clock, At(L"C"), "new", KeepCopies::No), FileError::None);
+  WIN32_FIND_DATAW found{};
+  FindClose(FindFirstFileW(At(L"C").c_str(), &found));
+  EXPECT_EQ(std::wstring(found.cFileName), L"c");
 }
 
 TEST_F(WindowsFilesTest, ReplaceKeepsTheAttributesOfTheTarget) {
