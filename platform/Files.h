@@ -45,8 +45,8 @@ class Files {
   /// The stamp of a file as it is now, without reading it; an empty one when it cannot be told.
   [[nodiscard]] virtual FileStamp Stamp(const std::wstring& path) const = 0;
 
-  /// The file that a symbolic link at `path` leads to, or `path` itself when it is no link; its name
-  /// as it stands on the disk, in that letter case. `path` when there is nothing.
+  /// The file that a symbolic link at `path` leads to, or `path` itself when it is no link; its
+  /// name as it stands on the disk, in that letter case. `path` when there is nothing.
   [[nodiscard]] virtual std::wstring Resolve(const std::wstring& path) const = 0;
 
   /// Creates or overwrites a file, and returns after its content has reached the disk. On an error
