@@ -64,9 +64,10 @@ void Document::Open(const std::wstring& path, const ProgressStep& step) {
 }
 
 void Document::LoadCatalogue(const ProgressStep& step) {
+  known_.clear();
   const WincmdIni wincmd(system_.Files, system_.Clock, inputFiles_.CommanderVariables(),
-                         wincmdPath_);
-  unread_ = wincmd.ReadError() != FileError::None;
+                         wincmdPath_, &known_);
+  unread_ = wincmd.Unread() != nullptr;
   catalogue_.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation_);
   if (catalogue_.lvwHidden.empty()) ReadMasterRows(step);
   inputFiles_.FindDefaultHotkeys();
@@ -116,7 +117,7 @@ void Document::Save(bool restarts) {
   }
   const BusyTime busy(busy_);
   if (restarts) Restart(true);
-  const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0};
+  const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0, &known_};
   const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.Files,
                                         system_.Clock, inputFiles_.CommanderVariables());
   if (error == FileError::None) {

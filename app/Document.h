@@ -8,6 +8,7 @@
 #include "localisation/Texts.h"
 #include "platform/Pinned.h"
 #include "platform/System.h"
+#include "settings/ini/ProfileFile.h"
 #include "settings/Settings.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
@@ -80,6 +81,7 @@ class Document : Pinned {
   Catalogue catalogue_;
   HotkeyNotation notation_;
   std::wstring wincmdPath_;
+  KnownContents known_;  ///< of "Wincmd.ini" and the files that its sections are redirected to
   bool modified_ = false;
   bool unread_ = false;  ///< the file is there, and reading it failed
   bool saveAndRestartEnabled_ = false;

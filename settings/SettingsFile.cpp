@@ -16,7 +16,7 @@ ProfileFile SettingsFile::Read() {
   const std::wstring path = SettingsPath(environment_);
   ClearLeftOvers(files_, path, KeepCopies::No);
   ProfileFile file(files_, clock_, path);
-  unread_ = file.ReadError() != FileError::None && file.ReadError() != FileError::NotFound;
+  unread_ = file.Unread();
   return file;
 }
 

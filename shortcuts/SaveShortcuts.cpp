@@ -115,7 +115,7 @@ bool IsTaken(const StartMenuSlot& slot) { return slot.Key.ends_with(L'*'); }
 FileError WriteKeys(const Catalogue& catalogue, const HotkeyNotation& notation,
                     const SaveRequest& request, Files& files, Clock& clock,
                     const Environment& environment) {
-  WincmdIni wincmdIni(files, clock, environment, request.Path);
+  WincmdIni wincmdIni(files, clock, environment, request.Path, request.Known);
 
   const Lines lines = LinesOfCatalogue(catalogue, notation);
   UnknownCommands unknown(wincmdIni.Shortcuts(), lines, catalogue.lvwHidden);
@@ -128,7 +128,7 @@ FileError WriteKeys(const Catalogue& catalogue, const HotkeyNotation& notation,
   for (const StartMenuSlot& slot : catalogue.StartMenuKeys) {
     if (IsTaken(slot)) wincmdIni.StartMenu().DeleteValue(StartMenuSection, slot.ValueName);
   }
-  return wincmdIni.Save(files, clock);
+  return wincmdIni.Save(files, clock, request.Known);
 }
 
 }  // namespace

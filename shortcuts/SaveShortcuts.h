@@ -6,6 +6,7 @@
 #include "platform/Clock.h"
 #include "platform/Environment.h"
 #include "platform/Files.h"
+#include "settings/ini/ProfileFile.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
 
@@ -14,13 +15,15 @@ namespace tessera {
 struct SaveRequest {
   std::wstring Path;                  ///< of "Wincmd.ini"
   bool KeepUnknownShortcuts = false;  ///< keep lines whose command is not in the catalogue
+  KnownContents* Known = nullptr;     ///< as WincmdIni takes it; may be null
 };
 
 /// Reads "Wincmd.ini" afresh, puts the current keys of the displayed rows, in display order, in the
 /// place of its section "Shortcuts" (a key that several rows have goes to the one that an edit gave
 /// it to last, or else to the one written last), deletes the Start Menu keys that were taken away,
 /// and saves. When that succeeded, the taken slots of the catalogue are cleared; otherwise nothing
-/// is changed.
+/// is changed, and what should have been saved is left beside the file, also where that cannot be
+/// read and `request.Known` tells what it held.
 [[nodiscard]] FileError SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
                                       const SaveRequest& request, Files& files, Clock& clock,
                                       const Environment& environment);

@@ -10,11 +10,10 @@
 namespace tessera {
 
 WincmdIni::WincmdIni(Files& files, Clock& clock, const Environment& environment,
-                     const std::wstring& path) {
-  ClearLeftOvers(files, path, KeepCopies::Yes);
-  files_.emplace_back(files, clock, path);
-  shortcuts_ = FileOfSection(ShortcutsSection, files, clock, environment);
-  startMenu_ = FileOfSection(StartMenuSection, files, clock, environment);
+                     const std::wstring& path, KnownContents* known) {
+  Read(files, clock, path, known);
+  shortcuts_ = FileOfSection(ShortcutsSection, files, clock, environment, known);
+  startMenu_ = FileOfSection(StartMenuSection, files, clock, environment, known);
 }
 
 const ProfileFile& WincmdIni::Shortcuts() const { return files_[shortcuts_]; }
@@ -25,34 +24,45 @@ ProfileFile& WincmdIni::Shortcuts() { return files_[shortcuts_]; }
 
 ProfileFile& WincmdIni::StartMenu() { return files_[startMenu_]; }
 
-FileError WincmdIni::ReadError() const {
-  const auto unread = std::ranges::find_if(files_, [](const ProfileFile& file) {
-    return file.ReadError() != FileError::None && file.ReadError() != FileError::NotFound;
-  });
-  return unread == files_.end() ? FileError::None : unread->ReadError();
+const ProfileFile* WincmdIni::Unread() const {
+  const auto unread = std::ranges::find_if(files_, &ProfileFile::Unread);
+  return unread == files_.end() ? nullptr : &*unread;
 }
 
-FileError WincmdIni::Save(Files& files, Clock& clock) {
+FileError WincmdIni::Save(Files& files, Clock& clock, KnownContents* known) {
+  FileError error = FileError::None;
   for (ProfileFile& file : files_) {
-    const FileError error = file.Save(files, clock, KeepCopies::Yes);
-    if (error != FileError::None) return error;
+    if (error != FileError::None) {
+      file.KeepUnsaved(files);
+      continue;
+    }
+    error = file.Save(files, clock, KeepCopies::Yes);
+    if (known != nullptr && error == FileError::None) (*known)[file.Path()] = file.Content();
   }
-  return FileError::None;
+  return error;
+}
+
+void WincmdIni::Read(Files& files, Clock& clock, const std::wstring& path, KnownContents* known) {
+  ClearLeftOvers(files, path, KeepCopies::Yes);
+  ProfileFile& file = files_.emplace_back(files, clock, path);
+  if (known == nullptr) return;
+  if (!file.Unread()) {
+    (*known)[path] = file.Content();
+  } else if (const auto former = known->find(path); former != known->end()) {
+    file.Assume(former->second);
+  }
 }
 
 std::size_t WincmdIni::FileOfSection(std::wstring_view section, Files& files, Clock& clock,
-                                     const Environment& environment) {
+                                     const Environment& environment, KnownContents* known) {
   const std::wstring path = PathOfSection(files_.front(), section, environment);
   const std::wstring target = files.Resolve(path);
   // Two copies of one file in memory would undo each other's changes.
-  const auto known = std::ranges::find_if(files_, [&](const ProfileFile& file) {
+  const auto same = std::ranges::find_if(files_, [&](const ProfileFile& file) {
     return EqualIgnoringCase(files.Resolve(file.Path()), target);
   });
-  const auto index = static_cast<std::size_t>(known - files_.begin());
-  if (known == files_.end()) {
-    ClearLeftOvers(files, path, KeepCopies::Yes);
-    files_.emplace_back(files, clock, path);
-  }
+  const auto index = static_cast<std::size_t>(same - files_.begin());
+  if (same == files_.end()) Read(files, clock, path, known);
   return index;
 }
 

@@ -35,19 +35,25 @@ ProfileFile::ProfileFile(const Files& files, std::wstring path)
     : path_(std::move(path)), former_{{}, files.Stamp(path_)} {
   std::string bytes;
   readError_ = files.Read(path_, bytes);
-  Take(std::move(bytes));
+  Take(std::make_shared<const std::string>(std::move(bytes)));
 }
 
 ProfileFile::ProfileFile(const Files& files, Clock& clock, std::wstring path)
     : path_(std::move(path)), former_{{}, files.Stamp(path_)} {
   std::string bytes;
   readError_ = ReadWhenFree(files, clock, path_, bytes);
-  Take(std::move(bytes));
+  Take(std::make_shared<const std::string>(std::move(bytes)));
 }
 
 const std::wstring& ProfileFile::Path() const { return path_; }
 
 FileError ProfileFile::ReadError() const { return readError_; }
+
+bool ProfileFile::Unread() const {
+  return readError_ != FileError::None && readError_ != FileError::NotFound;
+}
+
+const std::shared_ptr<const std::string>& ProfileFile::Content() const { return former_.Bytes; }
 
 std::wstring ProfileFile::ReadString(std::wstring_view section, std::wstring_view key,
                                      std::wstring_view defaultValue,
@@ -97,6 +103,11 @@ void ProfileFile::PassOverMark() {
   if (bytes.starts_with(Utf8Mark)) document_ = IniDocument(bytes.substr(Utf8Mark.size()));
 }
 
+void ProfileFile::Assume(std::shared_ptr<const std::string> content) {
+  Take(std::move(content));
+  isAssumed_ = true;
+}
+
 void ProfileFile::UseCodePage(unsigned codePage) { codePage_ = codePage; }
 
 void ProfileFile::WriteString(std::wstring_view section, std::wstring_view key,
@@ -139,11 +150,13 @@ void ProfileFile::ReplaceEntries(
 
 FileError ProfileFile::Save(Files& files, Clock& clock, KeepCopies copies) {
   // What could not be read must not be overwritten by the little that is known of it.
-  const bool isMissing = readError_ == FileError::NotFound;
-  if (readError_ != FileError::None && !isMissing) return readError_;
+  if (Unread()) {
+    if (copies == KeepCopies::Yes) KeepUnsaved(files);
+    return readError_;
+  }
   if (!isChanged_) return FileError::None;
   std::string bytes = document_.Bytes();
-  if (bytes == *former_.Bytes && !isMissing) return FileError::None;
+  if (bytes == *former_.Bytes && readError_ == FileError::None) return FileError::None;
   const FileError error = ReplaceContent(files, clock, path_, bytes, copies, &former_);
   if (error != FileError::None) return error;
   former_ = {std::make_shared<const std::string>(std::move(bytes)), files.Stamp(path_)};
@@ -152,8 +165,14 @@ FileError ProfileFile::Save(Files& files, Clock& clock, KeepCopies copies) {
   return FileError::None;
 }
 
-void ProfileFile::Take(std::string bytes) {
-  former_.Bytes = std::make_shared<const std::string>(std::move(bytes));
+void ProfileFile::KeepUnsaved(Files& files) const {
+  if (!isChanged_ || (Unread() && !isAssumed_)) return;
+  const std::string bytes = document_.Bytes();
+  if (bytes != *former_.Bytes) LeaveUnsaved(files, path_, bytes);
+}
+
+void ProfileFile::Take(std::shared_ptr<const std::string> content) {
+  former_.Bytes = std::move(content);
   document_ = IniDocument(former_.Bytes);
 }
 

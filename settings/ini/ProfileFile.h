@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,6 +20,9 @@ namespace tessera {
 
 /// The buffer length, in bytes with the terminator, of every read that has no reason for another.
 inline constexpr std::size_t ProfileBufferLength = 4096;
+
+/// What files held when they were last read or saved, by their paths.
+using KnownContents = std::map<std::wstring, std::shared_ptr<const std::string>>;
 
 class ProfileFile;
 
@@ -58,6 +63,12 @@ class ProfileFile {
   /// How reading the file went.
   [[nodiscard]] FileError ReadError() const;
 
+  /// The file is there, and reading it failed.
+  [[nodiscard]] bool Unread() const;
+
+  /// The whole content as it was read or last saved; never null.
+  [[nodiscard]] const std::shared_ptr<const std::string>& Content() const;
+
   /// The value without its quotes, cut at `bufferLength` - 1 bytes (characters in a UTF-16 file);
   /// `defaultValue` (without its trailing blanks) when the key is absent.
   [[nodiscard]] std::wstring ReadString(std::wstring_view section, std::wstring_view key,
@@ -87,6 +98,10 @@ class ProfileFile {
   /// a file that is not changed.
   void PassOverMark();
 
+  /// Takes what a file that could not be read is known to have held. A save of it fails all the
+  /// same, but can leave its changes beside it.
+  void Assume(std::shared_ptr<const std::string> content);
+
   // -- Changes, kept in memory until Save
 
   /// From now on bytes are decoded with this code page, in place of the ANSI one.
@@ -113,11 +128,14 @@ class ProfileFile {
   /// the result is the error of reading it.
   [[nodiscard]] FileError Save(Files& files, Clock& clock, KeepCopies copies);
 
+  /// Leaves the changed content beside the file, as a failed save does; nothing where there is no
+  /// change, or where it is not known what the file held.
+  void KeepUnsaved(Files& files) const;
+
  private:
   friend ProfileSection;
 
-  /// Takes what was read.
-  void Take(std::string bytes);
+  void Take(std::shared_ptr<const std::string> content);
 
   [[nodiscard]] bool IsUtf16() const;
   [[nodiscard]] unsigned CodePage() const;
@@ -133,6 +151,7 @@ class ProfileFile {
   IniDocument document_;
   unsigned codePage_ = AnsiCodePage;
   bool isChanged_ = false;
+  bool isAssumed_ = false;
 };
 
 }  // namespace tessera

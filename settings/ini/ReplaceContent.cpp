@@ -170,6 +170,12 @@ FileError ReplaceContent(Files& files, Clock& clock, const std::wstring& path,
   return error;
 }
 
+void LeaveUnsaved(Files& files, const std::wstring& path, std::string_view bytes) {
+  const Names names{files.Resolve(path)};
+  const bool isWritten = files.Write(names.Prepared(), bytes) == FileError::None;
+  GiveUp(files, names, isWritten ? KeepCopies::Yes : KeepCopies::No);
+}
+
 void ClearLeftOvers(Files& files, const std::wstring& path, KeepCopies copies) {
   const Names names{files.Resolve(path)};
   const bool hasFormer = files.Exists(names.Former());

@@ -41,6 +41,10 @@ struct FormerContent {
                                        std::string_view bytes, KeepCopies copies,
                                        const FormerContent* former = nullptr);
 
+/// Leaves beside the file at `path`, as ".unsaved", what it should hold and could not be given;
+/// nothing where that cannot be written.
+void LeaveUnsaved(Files& files, const std::wstring& path, std::string_view bytes);
+
 /// Clears up what a save of `path` left when the program was killed in it; reads no file when there
 /// is nothing. When the file itself is gone, the former content returns, or else the new one where
 /// that is whole. Otherwise the former content gets the name that `copies` gives it; an empty one

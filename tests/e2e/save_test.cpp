@@ -107,6 +107,27 @@ TEST_F(SaveTest, FileThatIsHeldOpenKeepsItsContentAndTheChangesStayUnsaved) {
   EXPECT_FALSE(Exists(folder_.WincmdIni() + L".unsaved"));
 }
 
+TEST_F(SaveTest, FileThatNobodyMayReadLeavesTheUnsavedContentBesideIt) {
+  StartAndLoad();
+  MakeAChange();
+  const std::string expected = WithShortcuts(original_, ExpectedShortcuts(window_->Rows()));
+  {
+    const UniqueHandle held = Own(CreateFileW(folder_.WincmdIni().c_str(), GENERIC_READ, 0, nullptr,
+                                              OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(held);
+    window_->ClickButton(IDC_Toolbar1, IDM_mnuFileSave);
+    WaitFor("the content that could not be saved",
+            [&] { return Exists(folder_.WincmdIni() + L".unsaved"); });
+    WaitFor("the window to answer", [&] { return window_->RowCount() > 0; });
+    EXPECT_TRUE(Modified());
+  }
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni()), original_);
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni() + L".unsaved"), expected);
+  Save();
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni()), expected);
+  EXPECT_FALSE(Exists(folder_.WincmdIni() + L".unsaved"));
+}
+
 TEST_F(SaveTest, WhatAnotherProgramWritesBeforeAndDuringASaveStays) {
   StartAndLoad();
   const std::string before = "[Before]\r\na=\xE4 ;kept\r\n\r\n" + original_;

@@ -217,7 +217,7 @@ TEST_F(WincmdIniFiles, ARedirectedFileThatIsMissingIsEmpty) {
   const WincmdIni ini = Open();
   EXPECT_EQ(ini.Shortcuts().Path(), L"C:\\tc\\s.ini");
   EXPECT_TRUE(ini.Shortcuts().Entries(L"Shortcuts").empty());
-  EXPECT_EQ(ini.ReadError(), FileError::None);
+  EXPECT_EQ(ini.Unread(), nullptr);
 }
 
 TEST_F(WincmdIniFiles, ARedirectingLineIsNotFollowedTwice) {
