@@ -2,13 +2,13 @@
 #include "app/Document.h"
 
 #include <memory>
+#include <utility>
 
 #include "localisation/TextTable.h"
 #include "settings/commander/RestartTotalCommander.h"
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/InternalCommands.h"
 #include "shortcuts/SaveShortcuts.h"
-#include "shortcuts/WincmdIni.h"
 #include "text/Trim.h"
 
 namespace tessera {
@@ -56,18 +56,35 @@ void Document::ReadModifierNames() {
   notation_.ShiftName = nameOf(TextId::ShiftName);
 }
 
-void Document::Open(const std::wstring& path, const ProgressStep& step) {
+bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const ProgressStep& step) {
+  KnownContents known;
+  const WincmdIni wincmd = ReadWincmdIni(path, known);
+  const bool unread = wincmd.Unread() != nullptr;
+  if (unread && whenUnread == WhenUnread::KeepsOpenFile) return false;
   ReadModifierNames();
   wincmdPath_ = path;
-  LoadCatalogue(step);
+  known_ = std::move(known);
+  unread_ = unread;
+  LoadCatalogue(wincmd, step);
   SetModified(false);
+  return true;
 }
 
-void Document::LoadCatalogue(const ProgressStep& step) {
-  known_.clear();
-  const WincmdIni wincmd(system_.Files, system_.Clock, inputFiles_.CommanderVariables(),
-                         wincmdPath_, &known_);
-  unread_ = wincmd.Unread() != nullptr;
+WincmdIni Document::ReadWincmdIni(const std::wstring& path, KnownContents& known) {
+  for (;;) {
+    WincmdIni wincmd(system_.Files, system_.Clock, inputFiles_.CommanderVariables(), path, &known);
+    const ProfileFile* const unread = wincmd.Unread();
+    if (unread == nullptr || !AskToRetry(unread->Path())) return wincmd;
+  }
+}
+
+bool Document::AskToRetry(const std::wstring& path) {
+  const std::wstring text = texts_.GetLangText(TextId::CannotReadThisFile) + L" " + path;
+  return system_.MessageBoxes.Show(text, BoxButtons::RetryCancel, BoxIcon::Exclamation) ==
+         BoxAnswer::Retry;
+}
+
+void Document::LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step) {
   catalogue_.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation_);
   if (catalogue_.lvwHidden.empty()) ReadMasterRows(step);
   inputFiles_.FindDefaultHotkeys();

@@ -12,8 +12,15 @@
 #include "settings/Settings.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
+#include "shortcuts/WincmdIni.h"
 
 namespace tessera {
+
+/// What comes of an open when the user gives up on a file that cannot be read.
+enum class WhenUnread {
+  KeepsOpenFile,
+  ShowsNoKeys  ///< at the start, where no file is open; nothing is saved then
+};
 
 class Document : Pinned {
  public:
@@ -56,8 +63,10 @@ class Document : Pinned {
   /// or the document is busy.
   [[nodiscard]] bool ChangesMayGo();
 
-  /// Reads the file at `path`, and what is shown beside its keys.
-  void Open(const std::wstring& path, const ProgressStep& step);
+  /// Reads the file at `path`, and what is shown beside its keys. Of one that cannot be read the
+  /// user is told, and may have it tried again. False when all stays as it was.
+  [[nodiscard]] bool Open(const std::wstring& path, WhenUnread whenUnread,
+                          const ProgressStep& step);
 
   void FileSave();
   void FileSaveAndRestart();
@@ -68,7 +77,9 @@ class Document : Pinned {
 
  private:
   void ReadModifierNames();
-  void LoadCatalogue(const ProgressStep& step);
+  [[nodiscard]] WincmdIni ReadWincmdIni(const std::wstring& path, KnownContents& known);
+  [[nodiscard]] bool AskToRetry(const std::wstring& path);
+  void LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step);
   void ReadMasterRows(const ProgressStep& step);
   [[nodiscard]] BoxAnswer AskToSaveChanges();
   void Save(bool restarts);

@@ -58,7 +58,8 @@ void Editor::Load(std::wstring fileToOpen) {
 void Editor::Activate() {
   if (std::exchange(activated_, true)) return;
   inputFiles_.FindTotalcmdInc();
-  OpenShortcutFile(false, inputFiles_.FindWincmdIni(fileToOpen_), true);
+  const std::wstring path = inputFiles_.FindWincmdIni(fileToOpen_);
+  if (!IsMissing(path)) OpenPath(path, true, WhenUnread::ShowsNoKeys);
   list_.RestoreStoredSort();
 }
 
@@ -89,13 +90,19 @@ void Editor::RefreshRestartItems() { document_.RefreshRestartItems(); }
 void Editor::OpenShortcutFile(bool browse, const std::wstring& path, bool addToRecent) {
   if (!document_.ChangesMayGo()) return;
   const std::wstring opened = browse ? inputFiles_.BrowseForWincmdIni() : path;
-  if (!IsMissing(opened)) OpenPath(opened, addToRecent);
+  if (!IsMissing(opened)) OpenPath(opened, addToRecent, WhenUnread::KeepsOpenFile);
 }
 
-void Editor::OpenPath(const std::wstring& path, bool addToRecent) {
+void Editor::OpenPath(const std::wstring& path, bool addToRecent, WhenUnread whenUnread) {
   const BusyTime busy = document_.BeginBusyTime();
   progress_.Start();
-  document_.Open(path, [this] { progress_.Step(); });
+  if (document_.Open(path, whenUnread, [this] { progress_.Step(); })) {
+    ShowOpenedFile(path, addToRecent);
+  }
+  progress_.Finish();
+}
+
+void Editor::ShowOpenedFile(const std::wstring& path, bool addToRecent) {
   list_.ShowFirstRow();
   keysList_.Hide();
   if (addToRecent) {
@@ -103,7 +110,6 @@ void Editor::OpenPath(const std::wstring& path, bool addToRecent) {
     SaveRecentFiles();
   }
   if (settings_.SortedList != 0) list_.SortCommandList();
-  progress_.Finish();
 }
 
 void Editor::ApplyLanguage() {

@@ -105,7 +105,8 @@ class Editor : Pinned {
 
  private:
   Reaction FollowUp(const Reaction& reaction);
-  void OpenPath(const std::wstring& path, bool addToRecent);
+  void OpenPath(const std::wstring& path, bool addToRecent, WhenUnread whenUnread);
+  void ShowOpenedFile(const std::wstring& path, bool addToRecent);
   void ReadRecentFiles(const ProfileFile& stored);
   void SaveRecentFiles();
   void ApplyLanguage();

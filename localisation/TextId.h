@@ -61,6 +61,7 @@ enum class TextId : int {
   SaveChangesTo = 3020,
   CannotFindThisFile = 3021,
   VerifyPath = 3022,
+  CannotReadThisFile = 3023,
   NoWincmdIni = 3046,
   NoTotalcmdInc = 3047,
   NoLanguageFile = 3048,

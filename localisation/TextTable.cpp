@@ -63,6 +63,7 @@ constexpr BuiltInText Table[] = {
     {TextId::SaveChangesTo, L"Save changes to"},
     {TextId::CannotFindThisFile, L"Cannot find this file"},
     {TextId::VerifyPath, L"Please verify that the correct path and file name are given."},
+    {TextId::CannotReadThisFile, L"Cannot read this file"},
     {TextId::NoWincmdIni, L"Cannot find Total Commander settings file [Wincmd.ini]"},
     {TextId::NoTotalcmdInc, L"Cannot find your Totalcmd.inc file !"},
     {TextId::NoLanguageFile, L"Cannot find language file!"},

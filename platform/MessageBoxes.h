@@ -8,10 +8,10 @@ namespace tessera {
 /// The title of every box, and of the main window.
 inline constexpr wchar_t ProgramTitle[] = L"Tessera";
 
-enum class BoxButtons { Ok, YesNo, YesNoCancel };
+enum class BoxButtons { Ok, YesNo, YesNoCancel, RetryCancel };
 enum class BoxIcon { Critical, Question, Exclamation, Information };
 enum class BoxDefault { First, Second };
-enum class BoxAnswer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+enum class BoxAnswer { Ok = 1, Cancel = 2, Retry = 4, Yes = 6, No = 7 };
 
 class MessageBoxes {
  public:

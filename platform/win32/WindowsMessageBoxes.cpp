@@ -12,8 +12,10 @@ struct ButtonStyle {
 };
 
 // In the order of BoxButtons.
-constexpr std::array<ButtonStyle, 3> ButtonStyles{
-    {{MB_OK, BoxAnswer::Ok}, {MB_YESNO, BoxAnswer::No}, {MB_YESNOCANCEL, BoxAnswer::Cancel}}};
+constexpr std::array<ButtonStyle, 4> ButtonStyles{{{MB_OK, BoxAnswer::Ok},
+                                                   {MB_YESNO, BoxAnswer::No},
+                                                   {MB_YESNOCANCEL, BoxAnswer::Cancel},
+                                                   {MB_RETRYCANCEL, BoxAnswer::Cancel}}};
 
 // In the order of BoxIcon.
 constexpr std::array<UINT, 4> IconStyles{MB_ICONERROR, MB_ICONQUESTION, MB_ICONWARNING,

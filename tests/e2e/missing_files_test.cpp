@@ -135,11 +135,29 @@ TEST_F(MissingFilesTest, CommandListHeldByAnotherProgramGivesNoRows) {
   ExpectWorkingProgram(0);
 }
 
+TEST_F(MissingFilesTest, SettingsHeldByAnotherProgramAreReadAtARetry) {
+  UniqueHandle held = Hold(folder_.WincmdIni());
+  ASSERT_TRUE(held);
+  Start();
+  const Box box = NextBox();
+  EXPECT_EQ(box.Text, L"Cannot read this file " + folder_.WincmdIni());
+  EXPECT_EQ(box.Buttons, (std::vector<int>{IDRETRY, IDCANCEL}));
+  EXPECT_EQ(box.DefaultButton, IDRETRY);
+  Answer(box, IDRETRY);
+  const Box again = NextBox();
+  held.reset();
+  Answer(again, IDRETRY);
+  WaitUntilLoaded(CaptionOfOpenFile());
+  EXPECT_TRUE(SameRows(window_->Rows(), rows_));
+  ExpectWorkingProgram(rows_.size());
+}
+
 TEST_F(MissingFilesTest, SettingsHeldByAnotherProgramGiveNoCurrentKeysAndAreNotOverwritten) {
   const std::string original = ReadBytes(folder_.WincmdIni());
   UniqueHandle held = Hold(folder_.WincmdIni());
   ASSERT_TRUE(held);
   Start();
+  Answer(NextBox(), IDCANCEL);
   WaitFor("the rows", [&] { return window_->RowCount() == static_cast<int>(rows_.size()); });
   for (const RowTexts& row : WithoutHeadings(window_->Rows())) {
     EXPECT_EQ(row[3], L"---") << Utf8(row[1]);

@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "platform/win32/Handle.h"
 #include "resources/resource.h"
 #include "tests/e2e/DroppedFile.h"
 #include "tests/e2e/EndToEndTest.h"
@@ -48,6 +49,25 @@ TEST_F(OpenTest, FullPathOnTheCommandLine) {
 TEST_F(OpenTest, RelativePathOnTheCommandLineStartsFromTheCurrentFolder) {
   Start(L"\"..\\other file.ini\"");
   ExpectOtherFile();
+}
+
+TEST_F(OpenTest, FileThatCannotBeReadLeavesTheOpenOne) {
+  StartAndLoad();
+  MakeAChange();
+  const std::wstring caption = window_->Caption();
+  const std::vector<RowTexts> rows = window_->Rows();
+  const UniqueHandle held =
+      Own(CreateFileW(other_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(held);
+  Drop(other_);
+  Answer(NextBox(), IDNO);  // about the changes
+  const Box box = NextBox();
+  EXPECT_EQ(box.Text, L"Cannot read this file " + other_);
+  Answer(box, IDCANCEL);
+  EXPECT_EQ(window_->Caption(), caption);
+  EXPECT_TRUE(SameRows(window_->Rows(), rows));
+  EXPECT_TRUE(Modified());
+  Save();
 }
 
 TEST_F(OpenTest, OtherFileIsSavedAndTheOneThatWasFoundIsNot) {

@@ -5,6 +5,86 @@ namespace {
 
 using namespace installation;
 
+// -- Opening a file that cannot be read
+
+/// More errors than an open waits for.
+constexpr std::size_t HeldForGood = 100;
+
+TEST_F(EditorTest, AnUnreadableFileIsToldAndTriedAgain) {
+  Editor.Load();
+  Files.ReadErrors.assign(3 * HeldForGood, FileError::Other);
+  MessageBoxes.Answers = {BoxAnswer::Retry, BoxAnswer::Retry, BoxAnswer::Cancel};
+  Editor.Activate();
+  ASSERT_EQ(MessageBoxes.Shown.size(), 3U);
+  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot read this file " + IniFile);
+  EXPECT_EQ(MessageBoxes.Shown[0].Buttons, BoxButtons::RetryCancel);
+  EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(MessageBoxes.Shown[0].Default, BoxDefault::First);
+}
+
+TEST_F(EditorTest, AFileThatIsReadAtARetryIsOpenedAsAnyOther) {
+  Editor.Load();
+  Files.ReadErrors = {FileError::Other};
+  MessageBoxes.Answers = {BoxAnswer::Retry};
+  Editor.Activate();
+  EXPECT_EQ(MessageBoxes.Shown.size(), 1U);
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"Ctrl + F3");
+  Assign(Pack, L"X");
+  Editor.FileSave();
+  EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
+}
+
+TEST_F(EditorTest, AnUnreadableFileThatIsGivenUpAtTheStartGivesNoKeysAndIsNotSaved) {
+  Editor.Load();
+  Files.ReadErrors = {FileError::Other};
+  MessageBoxes.Answers = {BoxAnswer::Cancel};
+  Editor.Activate();
+  EXPECT_EQ(Editor.Document().Caption(), IniFile + L" - Tessera");
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"---");
+  Assign(Pack, L"X");
+  Editor.FileSave();
+  EXPECT_EQ(Ini(), IniContent);
+  EXPECT_FALSE(Files.Contents.contains(IniFile + L".unsaved"));
+  EXPECT_EQ(MessageBoxes.BeepCount, 1);
+}
+
+TEST_F(EditorTest, AnUnreadableFileThatIsGivenUpLaterKeepsTheOpenFileAndItsChanges) {
+  Start();
+  Assign(Pack, L"X");
+  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nF9=cm_View\r\n";
+  Files.ReadErrors = {FileError::Other};
+  MessageBoxes.Answers = {BoxAnswer::No, BoxAnswer::Cancel};
+  Editor.OpenShortcutFile(false, OtherIniFile, true);
+  EXPECT_EQ(Editor.Document().Caption(), IniFile + L" - Tessera");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"X");
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"Ctrl + F3");
+  EXPECT_EQ(Editor.List().SelectedRow(), Pack + 1);
+  EXPECT_EQ(Editor.RecentFiles().ListItems(1), IniFile);
+  EXPECT_FALSE(ProgressShown.back());
+  EXPECT_TRUE(Editor.Document().Modified());
+  Editor.FileSave();
+  EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
+}
+
+TEST_F(EditorTest, AnUnreadableFileBehindTheRedirectingLineIsTold) {
+  Ini() = "[Shortcuts]\r\nRedirectSection=Other.ini\r\n";
+  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nF9=cm_View\r\n";
+  Editor.Load();
+  Files.ReadErrors = {FileError::None, FileError::Other};
+  MessageBoxes.Answers = {BoxAnswer::Retry};
+  Editor.Activate();
+  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
+  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot read this file " + OtherIniFile);
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"F9");
+}
+
+TEST_F(EditorTest, AMissingFileIsEmptyWithoutABox) {
+  Start();
+  Editor.OpenShortcutFile(false, OtherIniFile, false);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
+  EXPECT_EQ(Editor.Document().Caption(), OtherIniFile + L" - Tessera");
+}
+
 // -- Saving
 
 TEST_F(EditorTest, ASaveChangesSectionShortcutsAlone) {

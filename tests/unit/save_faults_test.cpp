@@ -338,6 +338,7 @@ TEST(SaveFaults, AFileThatCouldNotBeReadAtTheOpenIsNotSaved) {
     SampleProgram<UnreadableIni> program;
     program.Files.Contents[IniFile] = Content;
     program.Files.Fault = fault;
+    program.MessageBoxes.Answers = {BoxAnswer::Cancel};
     program.Start();
     program.Files.Fault = FileError::None;
     ASSERT_EQ(program.Editor.Document().Rows().Count(), 5U);

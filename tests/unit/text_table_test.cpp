@@ -82,6 +82,7 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3020}, L"Save changes to"},
       {TextId{3021}, L"Cannot find this file"},
       {TextId{3022}, L"Please verify that the correct path and file name are given."},
+      {TextId{3023}, L"Cannot read this file"},
       {TextId{3046}, L"Cannot find Total Commander settings file [Wincmd.ini]"},
       {TextId{3047}, L"Cannot find your Totalcmd.inc file !"},
       {TextId{3048}, L"Cannot find language file!"},
