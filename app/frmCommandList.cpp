@@ -1,4 +1,4 @@
-// The rows and the columns of the list, and what it draws itself.
+// The rows and the columns of the list.
 #include "app/frmCommandList.h"
 
 #include <algorithm>
@@ -11,10 +11,6 @@
 
 namespace tessera {
 namespace {
-
-constexpr int DefaultsSubItem = 2;
-
-constexpr COLORREF Red = RGB(255, 0, 0);
 
 /// The place of an icon among the images of rows; nothing for none.
 std::optional<int> ImageOf(RowIcon icon) {
@@ -95,7 +91,7 @@ LRESULT frmCommandList::OnNotify(NMHDR& header) {
       SyncSelection();
       return 0;
     case NM_CUSTOMDRAW:
-      return OnCustomDraw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+      return OnCustomDraw(reinterpret_cast<const NMLVCUSTOMDRAW&>(header).nmcd);
     default:
       return 0;
   }
@@ -135,50 +131,6 @@ LRESULT frmCommandList::FindItem(const NMLVFINDITEMW& search) const {
   const auto start = static_cast<std::size_t>(std::max(0, search.iStart));
   const auto found = FindRow(editor_.Document().Rows(), search.lvfi.psz, start);
   return found ? static_cast<LRESULT>(*found) : -1;
-}
-
-LRESULT frmCommandList::OnCustomDraw(NMLVCUSTOMDRAW& draw) {
-  const std::size_t position = draw.nmcd.dwItemSpec;
-  switch (draw.nmcd.dwDrawStage) {
-    case CDDS_PREPAINT:
-      return CDRF_NOTIFYITEMDRAW;
-    case CDDS_ITEMPREPAINT:
-      return position < editor_.Document().Rows().Count() &&
-                     editor_.Document().Rows().At(position).DefaultKeysAreRed
-                 ? CDRF_NOTIFYSUBITEMDRAW
-                 : CDRF_DODEFAULT;
-    case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
-      draw.clrText =
-          draw.iSubItem == DefaultsSubItem ? Red : ColorOf(editor_.Options().ForegroundColor);
-      return draw.iSubItem == DefaultsSubItem && DrawOverriddenKeys(draw) ? CDRF_SKIPDEFAULT
-                                                                          : CDRF_DODEFAULT;
-    default:
-      return CDRF_DODEFAULT;
-  }
-}
-
-// Red cannot be read on a dark highlight: in the selected row the cell keeps the list's back
-// colour.
-bool frmCommandList::DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw) {
-  const std::size_t position = draw.nmcd.dwItemSpec;
-  if (position >= editor_.Document().Rows().Count() ||
-      ListView_GetItemState(ListView1_, static_cast<int>(position), LVIS_SELECTED) == 0) {
-    return false;
-  }
-  RECT cell{};
-  ListView_GetSubItemRect(ListView1_, static_cast<int>(position), DefaultsSubItem, LVIR_BOUNDS,
-                          &cell);
-  const HDC context = draw.nmcd.hdc;
-  const Unique<HBRUSH> back(CreateSolidBrush(ColorOf(editor_.Options().BackgroundColor)));
-  FillRect(context, &cell, back.get());
-  SetTextColor(context, Red);
-  SetBkMode(context, TRANSPARENT);
-  const HGDIOBJ former = SelectObject(context, font_.get());
-  cell.left += Scaled(6, dpi_);
-  DrawTextW(context, editor_.Document().Rows().At(position).DefaultKeys.c_str(), -1, &cell,
-            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-  SelectObject(context, former);
-  return true;
 }
 
 void frmCommandList::Sync() {

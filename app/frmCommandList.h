@@ -44,8 +44,10 @@ class frmCommandList : Pinned {
  private:
   void LoadIcons();
   void ApplyColumnWidths(const std::array<int, 4>& twips);
-  LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw);
-  bool DrawOverriddenKeys(const NMLVCUSTOMDRAW& draw);
+  [[nodiscard]] LRESULT OnCustomDraw(const NMCUSTOMDRAW& draw) const;
+  void DrawRow(const NMCUSTOMDRAW& draw) const;
+  void DrawIcon(HDC context, int position) const;
+  [[nodiscard]] RECT PlaceOf(int position, Column column) const;
   void OnItemChanged(const NMLISTVIEW& change);
   void SelectRow(int position) const;
   [[nodiscard]] LRESULT FindItem(const NMLVFINDITEMW& search) const;

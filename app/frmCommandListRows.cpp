@@ -1,0 +1,107 @@
+// How the command list draws its rows. It draws all of them itself: what the system makes of a row
+// in colours of the user's, or without the focus, is not always to be seen.
+#include <algorithm>
+#include <string_view>
+
+#include "app/frmCommandList.h"
+#include "app/RowLooks.h"
+
+namespace tessera {
+namespace {
+
+/// Between the edge of a cell and its text, for 96 pixels an inch.
+constexpr int TextMargin = 6;
+constexpr int TextMarginAfterIcon = 2;
+constexpr int TextMarginAtEnd = 2;
+
+/// Pixels at the beginning of a row that are not drawn, since some lists do not redraw them with
+/// it.
+constexpr int RowMargin = 2;
+
+ListColors ColorsOfList(const Settings& settings) {
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof contrast;
+  SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
+  return {.Text = ColorOf(settings.ForegroundColor),
+          .Back = ColorOf(settings.BackgroundColor),
+          .Highlight = GetSysColor(COLOR_HIGHLIGHT),
+          .HighlightText = GetSysColor(COLOR_HIGHLIGHTTEXT),
+          .Shadow = GetSysColor(COLOR_BTNSHADOW),
+          .HighContrast = (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0};
+}
+
+void Fill(HDC context, const RECT& area, Rgb color) {
+  const Unique<HBRUSH> brush(CreateSolidBrush(color));
+  FillRect(context, &area, brush.get());
+}
+
+void Write(HDC context, RECT place, std::wstring_view text) {
+  if (place.left >= place.right) return;
+  DrawTextW(context, text.data(), static_cast<int>(text.size()), &place,
+            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
+}  // namespace
+
+LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) const {
+  if (draw.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (draw.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  if (draw.dwItemSpec < editor_.Document().Rows().Count()) {
+    const int former = SaveDC(draw.hdc);
+    DrawRow(draw);
+    RestoreDC(draw.hdc, former);
+  }
+  return CDRF_SKIPDEFAULT;
+}
+
+void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
+  const HDC context = draw.hdc;
+  const CommandEntry& row = editor_.Document().Rows().At(draw.dwItemSpec);
+  const auto item = static_cast<int>(draw.dwItemSpec);
+  const ListColors colors = ColorsOfList(editor_.Options());
+  const bool selected = ListView_GetItemState(ListView1_, item, LVIS_SELECTED) != 0;
+  const CellColors rowColors = ColorsOfRow(colors, selected, GetFocus() == ListView1_);
+  RECT whole = draw.rc;
+  whole.left += RowMargin;
+  Fill(context, whole, rowColors.Back);
+  DrawIcon(context, item);
+  SelectObject(context, font_.get());
+  SetBkMode(context, TRANSPARENT);
+  for (const Column column : AllColumns) {
+    const CellColors cellColors = ColorsOfCell(colors, rowColors, row, column);
+    RECT cell = PlaceOf(item, column);
+    if (cellColors.Back != rowColors.Back) Fill(context, cell, cellColors.Back);
+    cell.left += Scaled(column == Column::Description ? TextMarginAfterIcon : TextMargin, dpi_);
+    cell.right -= Scaled(TextMarginAtEnd, dpi_);
+    SetTextColor(context, cellColors.Text);
+    Write(context, cell, CellText(row, column));
+  }
+}
+
+// Up to the end of its column, if that is narrower.
+void frmCommandList::DrawIcon(HDC context, int position) const {
+  LVITEMW item{};
+  item.mask = LVIF_IMAGE;
+  item.iItem = position;
+  FillCell(item);
+  RECT place{};
+  ListView_GetItemRect(ListView1_, position, &place, LVIR_ICON);
+  const LONG room = PlaceOf(position, Column::Description).right - place.left;
+  int width = 0;
+  int height = 0;
+  ImageList_GetIconSize(ilsListView_.get(), &width, &height);
+  if (room <= 0) return;
+  ImageList_DrawEx(ilsListView_.get(), item.iImage, context, place.left,
+                   (place.top + place.bottom - height) / 2, std::min<int>(width, room), height,
+                   CLR_NONE, CLR_NONE, ILD_NORMAL);
+}
+
+// The description's begins after its icon.
+RECT frmCommandList::PlaceOf(int position, Column column) const {
+  RECT cell{};
+  ListView_GetSubItemRect(ListView1_, position, static_cast<int>(IndexOf(column)), LVIR_LABEL,
+                          &cell);
+  return cell;
+}
+
+}  // namespace tessera
