@@ -55,4 +55,8 @@ CellColors ColorsOfCell(const ListColors& colors, const CellColors& rowColors,
   return {.Text = Red, .Back = colors.Back};
 }
 
+bool RunsOverAllColumns(const CommandEntry& row, const std::array<int, 4>& order) {
+  return row.IsHeading() && order.front() == static_cast<int>(IndexOf(Column::Description));
+}
+
 }  // namespace tessera

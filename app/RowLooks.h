@@ -1,5 +1,7 @@
-// The colours of a row of the command list.
+// How a row of the command list looks: its colours, and how far its texts run.
 #pragma once
+
+#include <array>
 
 #include "shortcuts/DisplayTable.h"
 
@@ -34,5 +36,9 @@ struct CellColors {
 /// The colours of a cell in a row of those colours.
 [[nodiscard]] CellColors ColorsOfCell(const ListColors& colors, const CellColors& rowColors,
                                       const CommandEntry& row, Column column);
+
+/// True when the row's description may take the room of all columns: nothing stands in the others,
+/// which all come after it. `order` has the columns (0-based) as they stand.
+[[nodiscard]] bool RunsOverAllColumns(const CommandEntry& row, const std::array<int, 4>& order);
 
 }  // namespace tessera

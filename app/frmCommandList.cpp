@@ -12,6 +12,8 @@
 namespace tessera {
 namespace {
 
+constexpr UINT_PTR ListSubclass = 1;
+
 /// The place of an icon among the images of rows; nothing for none.
 std::optional<int> ImageOf(RowIcon icon) {
   switch (icon) {
@@ -23,6 +25,11 @@ std::optional<int> ImageOf(RowIcon icon) {
       break;
   }
   return std::nullopt;
+}
+
+bool IsWidthChange(const NMHDR& header) {
+  if (header.code != HDN_ITEMCHANGEDW) return false;
+  return (reinterpret_cast<const NMHEADERW&>(header).pitem->mask & HDI_WIDTH) != 0;
 }
 
 }  // namespace
@@ -39,6 +46,7 @@ void frmCommandList::Create(HWND window, int dpi) {
                                  LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
                              0, IDC_ListView1);
   SetWindowTheme(ListView1_, L"Explorer", nullptr);
+  SetWindowSubclass(ListView1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
   const ColumnLayout layout = ReadColumnLayout(editor_.Options());
   const std::array<int, 4> widths = WidthsInPixels(layout.Widths, dpi_);
   for (std::size_t column = 0; column < widths.size(); ++column) {
@@ -55,17 +63,21 @@ void frmCommandList::Create(HWND window, int dpi) {
 
 HWND frmCommandList::Control() const { return ListView1_; }
 
-ColumnLayout frmCommandList::Columns() const {
-  const ColumnLayout stored = ReadColumnLayout(editor_.Options());
+std::array<int, 4> frmCommandList::ColumnOrder() const {
   std::array<int, 4> order{};
   if (ListView_GetColumnOrderArray(ListView1_, 4, order.data()) == FALSE) {
-    order = OrderOfPositions(stored.Positions);
+    order = OrderOfPositions(ReadColumnLayout(editor_.Options()).Positions);
   }
+  return order;
+}
+
+ColumnLayout frmCommandList::Columns() const {
+  const ColumnLayout stored = ReadColumnLayout(editor_.Options());
   std::array<int, 4> pixels{};
   for (std::size_t column = 0; column < pixels.size(); ++column) {
     pixels[column] = ListView_GetColumnWidth(ListView1_, static_cast<int>(column));
   }
-  return ColumnsToStore(stored, order, pixels, dpi_);
+  return ColumnsToStore(stored, ColumnOrder(), pixels, dpi_);
 }
 
 void frmCommandList::Show() { ShowWindow(ListView1_, SW_SHOWNA); }
@@ -95,6 +107,16 @@ LRESULT frmCommandList::OnNotify(NMHDR& header) {
     default:
       return 0;
   }
+}
+
+LRESULT CALLBACK frmCommandList::ListProcedure(HWND list, UINT message, WPARAM wParam,
+                                               LPARAM lParam, UINT_PTR /*id*/, DWORD_PTR /*self*/) {
+  const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
+  // The list has moved the columns after one that changed its width, with what runs over them.
+  if (message == WM_NOTIFY && IsWidthChange(*reinterpret_cast<const NMHDR*>(lParam))) {
+    InvalidateRect(list, nullptr, TRUE);
+  }
+  return result;
 }
 
 void frmCommandList::FillCell(LVITEMW& item) const {

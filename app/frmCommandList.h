@@ -42,12 +42,16 @@ class frmCommandList : Pinned {
   void ShowSelectedRow();
 
  private:
+  static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
+                                        UINT_PTR id, DWORD_PTR self);
   void LoadIcons();
   void ApplyColumnWidths(const std::array<int, 4>& twips);
   [[nodiscard]] LRESULT OnCustomDraw(const NMCUSTOMDRAW& draw) const;
   void DrawRow(const NMCUSTOMDRAW& draw) const;
   void DrawIcon(HDC context, int position) const;
+  [[nodiscard]] std::array<int, 4> ColumnOrder() const;
   [[nodiscard]] RECT PlaceOf(int position, Column column) const;
+  [[nodiscard]] RECT TextPlace(int position, Column column) const;
   void OnItemChanged(const NMLISTVIEW& change);
   void SelectRow(int position) const;
   [[nodiscard]] LRESULT FindItem(const NMLVFINDITEMW& search) const;

@@ -69,12 +69,9 @@ void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
   SetBkMode(context, TRANSPARENT);
   for (const Column column : AllColumns) {
     const CellColors cellColors = ColorsOfCell(colors, rowColors, row, column);
-    RECT cell = PlaceOf(item, column);
-    if (cellColors.Back != rowColors.Back) Fill(context, cell, cellColors.Back);
-    cell.left += Scaled(column == Column::Description ? TextMarginAfterIcon : TextMargin, dpi_);
-    cell.right -= Scaled(TextMarginAtEnd, dpi_);
+    if (cellColors.Back != rowColors.Back) Fill(context, PlaceOf(item, column), cellColors.Back);
     SetTextColor(context, cellColors.Text);
-    Write(context, cell, CellText(row, column));
+    Write(context, TextPlace(item, column), CellText(row, column));
   }
 }
 
@@ -102,6 +99,20 @@ RECT frmCommandList::PlaceOf(int position, Column column) const {
   ListView_GetSubItemRect(ListView1_, position, static_cast<int>(IndexOf(column)), LVIR_LABEL,
                           &cell);
   return cell;
+}
+
+RECT frmCommandList::TextPlace(int position, Column column) const {
+  const CommandEntry& row = editor_.Document().Rows().At(static_cast<std::size_t>(position));
+  RECT place = PlaceOf(position, column);
+  const bool description = column == Column::Description;
+  if (description && RunsOverAllColumns(row, ColumnOrder())) {
+    RECT whole{};
+    ListView_GetItemRect(ListView1_, position, &whole, LVIR_BOUNDS);
+    place.right = whole.right;
+  }
+  place.left += Scaled(description ? TextMarginAfterIcon : TextMargin, dpi_);
+  place.right -= Scaled(TextMarginAtEnd, dpi_);
+  return place;
 }
 
 }  // namespace tessera

@@ -1,4 +1,9 @@
 // How the rows of the command list look.
+// clang-format off
+#include <windows.h>  // must come first
+#include <commctrl.h>
+// clang-format on
+
 #include <string>
 
 #include "resources/resource.h"
@@ -51,6 +56,37 @@ TEST_F(ListLooksTest, SelectedRowStandsOutFromTheUsersOwnColors) {
   GoToThePanel();
   WaitForColor(row + 1, shadow);
   WaitForColor(row, Text);  // the only one of them that can be told from it
+}
+
+TEST_F(ListLooksTest, HeadingRunsOverAllColumnsWhenTheDescriptionIsTheFirst) {
+  StartAndLoad();
+  const RowTexts heading = window_->Row(0);
+  ASSERT_EQ(heading[1], L"");
+  Select(L"cm_SrcTree");
+  const auto hasText = [&](int column) {
+    const RECT cell = window_->CellRectangle(0, column);
+    return CountPixels(cell, GetSysColor(COLOR_WINDOW)) < AreaOf(cell);
+  };
+  WaitFor("the heading to go on in the second column", [&] { return hasText(1); });
+  EXPECT_EQ(window_->Row(0), heading);
+  window_->SetColumnOrder({1, 0, 2, 3});
+  InvalidateRect(window_->Control(IDC_ListView1), nullptr, TRUE);  // as after a drag of the header
+  WaitFor("the heading to be cut at its column", [&] { return !hasText(1) && !hasText(2); });
+  EXPECT_EQ(window_->Row(0), heading);
+}
+
+TEST_F(ListLooksTest, HeadingStaysWholeWhenAColumnChangesItsWidth) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  WaitForColor(0, GetSysColor(COLOR_WINDOW));
+  RECT place = window_->CellRectangle(0, 0);
+  place.right = place.left + 400;  // pixels: more than the first column, less than all after it
+  const std::vector<DWORD> before = TakePicture(place).Pixels;
+  Send(window_->Control(IDC_ListView1), LVM_SETCOLUMNWIDTH, 0, 60);
+  const RECT second = window_->CellRectangle(1, 1);
+  WaitFor("the column to be narrower",
+          [&] { return CountPixels(second, GetSysColor(COLOR_WINDOW)) < AreaOf(second); });
+  WaitFor("the heading to be as it was", [&] { return TakePicture(place).Pixels == before; });
 }
 
 }  // namespace

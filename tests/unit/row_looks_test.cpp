@@ -1,4 +1,4 @@
-// The colours of the rows of the command list.
+// The colours of the rows of the command list, and how far their texts run.
 #include <gtest/gtest.h>
 
 #include "app/RowLooks.h"
@@ -99,6 +99,18 @@ TEST(RowLooks, OverriddenDefaultIsRedOnTheListsOwnColor) {
     EXPECT_EQ(ColorsOfCell(Usual, highlighted, row, column),
               column == Column::Defaults ? (CellColors{.Text = Red, .Back = White}) : highlighted);
   }
+}
+
+TEST(RowLooks, HeadingRunsOverAllColumnsWhenItsOwnIsTheFirst) {
+  CommandEntry heading;
+  heading.Tag = CommentBlockTag;
+  CommandEntry command;
+  command.Tag = L"300";
+  EXPECT_TRUE(RunsOverAllColumns(heading, {0, 1, 2, 3}));
+  EXPECT_TRUE(RunsOverAllColumns(heading, {0, 3, 1, 2}));
+  EXPECT_FALSE(RunsOverAllColumns(heading, {1, 0, 2, 3})) << "another column stands before it";
+  EXPECT_FALSE(RunsOverAllColumns(heading, {3, 2, 1, 0}));
+  EXPECT_FALSE(RunsOverAllColumns(command, {0, 1, 2, 3}));
 }
 
 }  // namespace
