@@ -10,6 +10,7 @@ CommandFinder::CommandFinder(std::span<const CommandEntry> rows,
   rowsByValue_.reserve(lines.size());
   for (const auto& [name, value] : lines) {
     if (!value.empty()) rowsByValue_.try_emplace(value);
+    longestValue_ = std::max(longestValue_, value.size());
   }
   for (std::size_t row = 0; row < rows.size(); ++row) {
     const CommandEntry& entry = rows[row];
@@ -41,6 +42,8 @@ void CommandFinder::AddCurrentKeys(std::size_t row, std::wstring_view keys) {
 }
 
 CommandFinder::Rows* CommandFinder::RowsOf(std::wstring_view text) {
+  // The keys of a command that has very many are a long text, and change with each of its lines.
+  if (text.size() > longestValue_) return nullptr;
   const auto found = rowsByValue_.find(text);
   return found == rowsByValue_.end() ? nullptr : &found->second;
 }

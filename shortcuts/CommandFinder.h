@@ -41,6 +41,7 @@ class CommandFinder {
   [[nodiscard]] Rows* RowsOf(std::wstring_view text);
 
   std::unordered_map<std::wstring_view, Rows, HashIgnoringCase, EqualsIgnoringCase> rowsByValue_;
+  std::size_t longestValue_ = 0;
 };
 
 }  // namespace tessera
