@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
 #include "app/Document.h"
@@ -52,11 +53,12 @@ class Editor : Pinned {
 
   /// Runs an operation of the panel, the command list or the keys list, and does what follows from
   /// it. While the document is busy, nothing.
-  template <typename Part, typename... Parameters, typename... Arguments>
-  Reaction Work(Reaction (Part::*operation)(Parameters...), Arguments&&... arguments) {
+  template <typename Part, typename... Parameters>
+  Reaction Work(Reaction (Part::*operation)(Parameters...),
+                std::type_identity_t<Parameters>... arguments) {
     if (document_.Busy()) return {};
     Part& part = std::get<Part&>(workplace_);
-    return FollowUp((part.*operation)(std::forward<Arguments>(arguments)...));
+    return FollowUp((part.*operation)(std::forward<Parameters>(arguments)...));
   }
 
   // -- Start and end of the program
