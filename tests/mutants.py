@@ -1,9 +1,10 @@
-"""Makes small changes to the program, one by one, and lists those that no native unit test notices.
+"""Makes small changes to the program, one by one, and lists those that no test notices.
 
 Each change, a mutant, is built and tried in a copy of the tree under out/mutants, with everything that
 is not committed yet. One that does not compile is not counted. Ends with 1 when some survived: each of
-them is a missing test, unless the change makes no difference. For portable files only: what windows do,
-the native tests do not see.
+them is a missing test, unless the change makes no difference. Portable files are changed, and tried by
+the native unit tests; with --windows the windows and the system's side, tried by the real program under
+Wine, which takes minutes each and wants an idle machine.
 """
 
 import argparse
@@ -57,7 +58,9 @@ def wanted_mutants(options, files):
         below = any(file.startswith(f"{name}/") for name in names) and file.endswith(
             (".cpp", ".h") if options.since else ".cpp")
         path = Path(file)
-        if not (file in names or below) or path.parts[0] not in PRODUCT_FOLDERS or may_use_the_system(path):
+        of_windows = may_use_the_system(path)
+        if not (file in names or below) or path.parts[0] not in PRODUCT_FOLDERS or (
+                of_windows != options.windows):
             continue
         text = path.read_text(encoding="utf-8")
         lines = lines_since(options.since, file) if options.since else range(1, sys.maxsize)
@@ -81,9 +84,9 @@ def copy_tree(files):
             copy.unlink()
 
 
-def build():
-    command = ["nice", "cmake", "--build", "out/mutants", "--target", "unit_tests"]
-    return subprocess.run(command, cwd=TREE, capture_output=True, check=False).returncode == 0
+def succeeds(*command, **options):
+    return subprocess.run(["nice", *command], cwd=TREE, check=False, stdin=subprocess.DEVNULL,
+                          **options).returncode == 0
 
 
 def run_tests(seconds, names="*"):
@@ -113,15 +116,49 @@ def run_tests(seconds, names="*"):
             run.wait()
 
 
-def outcome_of(mutant, text, seconds):
+class Portable:
+    """Tries a change by the native unit tests."""
+
+    def __init__(self):
+        if not succeeds("scripts/compile.sh", "mutants"):
+            sys.exit("mutants: the unchanged program does not build")
+        before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
+        if run_tests(LONGEST_RUN) != "passed":
+            sys.exit("mutants: the unchanged program fails its tests")
+        unchanged = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
+        self.seconds = 2 + round(3 * unchanged / SHARES)
+
+    def outcome(self, file):
+        if not succeeds("cmake", "--build", "out/mutants", "--target", "unit_tests", capture_output=True):
+            return "uncompiled"
+        # Most are found by the tests of their own class, which are few.
+        outcome = run_tests(self.seconds, f"*{Path(file).stem}*")
+        return outcome if outcome != "passed" else run_tests(self.seconds)
+
+
+class Windows:
+    """Tries a change by the program under Wine."""
+
+    def __init__(self):
+        if not self.passes():
+            sys.exit("mutants: the unchanged program fails its tests")
+
+    def outcome(self, _file):
+        if not succeeds("scripts/compile.sh", "windows", capture_output=True):
+            return "uncompiled"
+        return "passed" if self.passes() else "failed"
+
+    @staticmethod
+    def passes():
+        return succeeds("./test", "windows", "end-to-end", capture_output=True,
+                        env=os.environ | {"GTEST_FAIL_FAST": "1"})
+
+
+def outcome_of(mutant, text, trial):
     copy = TREE / mutant.file
     copy.write_text(text[:mutant.begin] + mutant.text + text[mutant.end:], encoding="utf-8")
     try:
-        if not build():
-            return "uncompiled"
-        # Most are found by the tests of their own class, which are few.
-        outcome = run_tests(seconds, f"*{Path(mutant.file).stem}*")
-        return outcome if outcome != "passed" else run_tests(seconds)
+        return trial.outcome(mutant.file)
     finally:
         copy.write_text(text, encoding="utf-8")
 
@@ -136,28 +173,23 @@ def main():
     parser = argparse.ArgumentParser(prog="./test mutants", description=__doc__)
     parser.add_argument("files", nargs="*", metavar="FILE", help="a file or a folder")
     parser.add_argument("--since", metavar="COMMIT", help="only lines changed since the branch left it")
+    parser.add_argument("--windows", action="store_true", help="the windows' code, in place of portable")
     parser.add_argument("--most", type=int, metavar="N", help="a sample of so many")
     parser.add_argument("--seed", type=int, default=1, help="chooses the sample")
     options = parser.parse_args()
     files = files_of_tree("--cached", "--others", "--exclude-standard")
     mutants = wanted_mutants(options, files)
     if not mutants:
-        sys.exit("mutants: nothing to change there in portable code")
+        sys.exit("mutants: nothing to change there in code of that kind")
 
     copy_tree(files)
-    if subprocess.run(["nice", "scripts/compile.sh", "mutants"], cwd=TREE, check=False).returncode != 0:
-        sys.exit("mutants: the unchanged program does not build")
-    before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
-    if run_tests(LONGEST_RUN) != "passed":
-        sys.exit("mutants: the unchanged program fails its tests")
-    unchanged = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
-    seconds = 2 + round(3 * unchanged / SHARES)
-    print(f"{len(mutants)} changes, each with {seconds} s for the tests", flush=True)
+    trial = Windows() if options.windows else Portable()
+    print(f"{len(mutants)} changes", flush=True)
 
     scores = defaultdict(Counter)
     for mutant in mutants:
         text = (TREE / mutant.file).read_text(encoding="utf-8")  # the tree may change meanwhile
-        outcome = outcome_of(mutant, text, seconds)
+        outcome = outcome_of(mutant, text, trial)
         for name in (os.path.dirname(mutant.file), "all"):
             scores[name][outcome] += 1
         if outcome == "passed":
