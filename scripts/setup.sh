@@ -6,10 +6,10 @@ set -euo pipefail
 build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils)
 package=("${build[@]}" python3)
 run=("${build[@]}" wine wine64 fonts-wine xvfb xdotool imagemagick)
-test=("${run[@]}" g++ googletest clang-format-14 clang-tidy-14 python3)
+test=("${run[@]}" g++ clang-14 libclang-rt-14-dev googletest clang-format-14 clang-tidy-14 python3)
 fuzz=(cmake ninja-build clang-14 libclang-rt-14-dev)
 coverage=(cmake ninja-build googletest clang-14 llvm-14 python3)
-mutants=(cmake ninja-build g++ googletest python3)
+mutants=(cmake ninja-build g++ clang-14 googletest python3)
 bench=("${run[@]}" g++ libbenchmark-dev libsimpleini-dev libinih-dev)
 
 wanted=()

@@ -26,7 +26,9 @@ GOOD = "#include <string>\nint Length(const std::string& text) { return static_c
 def program_sources(build):
     """The compile commands of the program's sources in a build, by their paths from the root."""
     root = Path.cwd()
-    commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
+    text = (build / "compile_commands.json").read_text(encoding="utf-8")
+    # What another compiler than clang has precompiled means nothing to clang.
+    commands = json.loads(re.sub(r" -include \S+/cmake_pch\.hxx", "", text))
     inside = {Path(command["file"]).relative_to(root): command for command in commands
               if command["file"].endswith(".cpp") and Path(command["file"]).is_relative_to(root)}
     return {file: inside[file] for file in sorted(inside) if file.parts[0] not in OUTSIDE}
@@ -84,21 +86,18 @@ def report(title, problems):
 
 def read(batch, build):
     """What is found in each file of a batch."""
-    if len(batch) == 1:
-        options = ("-p", str(build.folder), *build.options)
-        return [(batch[0], findings(batch[0], *options, inside=build.inside))]
-    if not batch_findings(batch, build.sources[batch[0]], *build.options, inside=build.inside):
-        return [(file, "") for file in batch]
+    problems = batch_findings(batch, build.sources[batch[0]], *build.options, inside=build.inside)
+    if len(batch) == 1 or not problems:
+        return [(file, problems) for file in batch]
     # Something is wrong with one of them, or two of them have a name in common.
     middle = len(batch) // 2
     return read(batch[:middle], build) + read(batch[middle:], build)
 
 
 class Build:
-    """A build folder, and the files that are read as it compiles them."""
+    """The files of a build folder that are read as it compiles them."""
 
     def __init__(self, folder, read_before):
-        self.folder = folder
         self.sources = {file: command for file, command in program_sources(folder).items()
                         if file not in read_before}
         commands = [command["command"] for command in self.sources.values()]

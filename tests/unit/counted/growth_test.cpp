@@ -16,9 +16,8 @@ std::uint64_t blocksRun = 0;
 }  // namespace
 
 /// The compiler puts a call of this at the beginning of every block.
-extern "C"
-    __attribute__((no_sanitize("address"), no_sanitize("undefined"), no_sanitize_coverage)) void
-    __sanitizer_cov_trace_pc();
+extern "C" __attribute__((no_sanitize("address", "undefined", "coverage"))) void
+__sanitizer_cov_trace_pc();
 
 void __sanitizer_cov_trace_pc() { ++blocksRun; }
 
