@@ -97,7 +97,7 @@ bool CommandEnabled(const Editor& editor, int id) {
 
 WindowTask RunCommand(Editor& editor, int id) {
   if (IsRecentFile(id)) {
-    editor.OpenRecentFile(id - IDM_mnuFileRecentFiles1 + 1);
+    editor.mnuFileRecentFiles_Click(id - IDM_mnuFileRecentFiles1 + 1);
     return WindowTask::ShowSelectedRow;
   }
   const Command* const command = CommandOf(id);

@@ -43,6 +43,8 @@ Reaction Editor::FollowUp(const Reaction& reaction) {
   return reaction;
 }
 
+void Editor::HideKeysList() { keysList_.Hide(); }
+
 void Editor::Load(std::wstring fileToOpen) {
   fileToOpen_ = std::move(fileToOpen);
   const ProfileFile stored = settingsFile_.Read();
@@ -53,6 +55,7 @@ void Editor::Load(std::wstring fileToOpen) {
   document_.SetModified(false);
   export_.Load(stored);
   ReadRecentFiles(stored);
+  inputFiles_.SetUpDialogs();
 }
 
 void Editor::Activate() {

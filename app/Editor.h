@@ -61,6 +61,9 @@ class Editor : Pinned {
     return FollowUp((part.*operation)(std::forward<Parameters>(arguments)...));
   }
 
+  /// Before a box or a dialog opens: behind a modal one the keys list could not be used.
+  void HideKeysList();
+
   // -- Start and end of the program
 
   /// Reads settings and texts; the window is made from what the queries tell afterwards. The file
@@ -90,7 +93,7 @@ class Editor : Pinned {
   void OpenShortcutFile(bool browse, const std::wstring& path, bool addToRecent);
 
   /// Opens the file of that 1-based index of the recent files, or tells that it has gone.
-  void OpenRecentFile(int index);
+  void mnuFileRecentFiles_Click(int index);
   void ClearRecentFiles();
 
   /// Opens the help file, or tells that it is missing.

@@ -6,7 +6,7 @@
 
 namespace tessera {
 
-void Editor::OpenRecentFile(int index) {
+void Editor::mnuFileRecentFiles_Click(int index) {
   const std::wstring path = recentFiles_.ListItems(index);
   if (document_.Busy() || IsMissing(path)) return;
   if (ExistsOrReturns(system_.Files, path)) {

@@ -20,6 +20,10 @@ const std::wstring& InputFiles::TotalcmdInc() const { return totalcmdIncPath_; }
 
 const Environment& InputFiles::CommanderVariables() const { return commanderEnvironment_; }
 
+void InputFiles::SetUpDialogs() {
+  commonDialog_.Setup(ExpandPath(system_.Environment, settings_.TCInstallDir));
+}
+
 void InputFiles::FindTotalcmdInc() {
   totalcmdIncPath_ =
       LocateTotalcmdInc({system_.Files, system_.Registry, system_.Environment},
@@ -27,9 +31,9 @@ void InputFiles::FindTotalcmdInc() {
                           return AskForFile(TextId::NoTotalcmdInc, BoxIcon::Information, folder,
                                             L"Totalcmd.inc", FileFilter::InternalCommands);
                         });
-  const std::wstring directory = ExpandPath(system_.Environment, settings_.TCInstallDir);
-  commanderEnvironment_.SetTotalCommanderDirectory(directory);
-  commonDialog_.Setup(directory);
+  commanderEnvironment_.SetTotalCommanderDirectory(
+      ExpandPath(system_.Environment, settings_.TCInstallDir));
+  SetUpDialogs();
 }
 
 std::wstring InputFiles::FindWincmdIni(const std::wstring& preferred) {

@@ -29,6 +29,9 @@ class InputFiles : Pinned {
 
   // -- Looking for files
 
+  /// Lets open dialogs start in the folder of Total Commander, as far as it is known.
+  void SetUpDialogs();
+
   /// Finds "Totalcmd.inc", and with it the folder of Total Commander.
   void FindTotalcmdInc();
 

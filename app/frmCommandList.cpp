@@ -47,6 +47,9 @@ void frmCommandList::Create(HWND window, int dpi) {
                              0, IDC_ListView1);
   SetWindowTheme(ListView1_, L"Explorer", nullptr);
   SetWindowSubclass(ListView1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
+}
+
+void frmCommandList::SetUpColumns() {
   const ColumnLayout layout = ReadColumnLayout(editor_.Options());
   const std::array<int, 4> widths = WidthsInPixels(layout.Widths, dpi_);
   for (std::size_t column = 0; column < widths.size(); ++column) {
@@ -59,6 +62,7 @@ void frmCommandList::Create(HWND window, int dpi) {
   }
   std::array<int, 4> order = OrderOfPositions(layout.Positions);
   ListView_SetColumnOrderArray(ListView1_, 4, order.data());
+  ApplyLanguage();
 }
 
 HWND frmCommandList::Control() const { return ListView1_; }

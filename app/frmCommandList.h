@@ -20,8 +20,11 @@ class frmCommandList : Pinned {
   /// `editor` must outlive it.
   frmCommandList(const Editor& editor, Events events);
 
-  /// Makes the list, hidden, with the columns of the settings.
+  /// Makes the list, hidden and without columns.
   void Create(HWND window, int dpi);
+
+  /// Gives it the columns of the settings, once it has its language and its looks.
+  void SetUpColumns();
   [[nodiscard]] HWND Control() const;
 
   /// The order and the widths of the columns as they are shown.

@@ -25,8 +25,8 @@ frmMain::frmMain(WindowsSystem& windowsSystem)
     : windowsSystem_(windowsSystem),
       editor_(windowsSystem.Seams(),
               [this](const LoadProgress& progress) { views_.Show(progress); }),
-      frmOptions_(editor_.Language(), editor_.Options()),
       frmExportToClipboard_(editor_.Language(), editor_.Options()),
+      frmOptions_(editor_.Language(), editor_.Options()),
       views_(editor_, ListEvents(), PanelEvents(), KeysListEvents()) {
   windowsSystem_.SetMessageFilter([this](MSG& message) { return FilterMessage(message); });
 }
@@ -36,12 +36,13 @@ frmMain::~frmMain() { windowsSystem_.SetMessageFilter(nullptr); }
 bool frmMain::Form_Load(std::wstring fileToOpen) {
   editor_.Load(std::move(fileToOpen));
   if (!Create()) return false;
-  windowsSystem_.SetMainWindow(window_);
+  windowsSystem_.SetMainWindow(window_, [this] { HideKeysList(); });
   views_.Create(window_, dpi_);
   views_.ApplyLanguage();
   ApplyDpi();
-  ApplyPlacement();
   views_.ApplyDisplaySettings();
+  views_.SetUpColumns();
+  ApplyPlacement();
   Sync();
   return true;
 }
@@ -199,7 +200,7 @@ bool frmMain::MayClose() {
 void frmMain::Form_Unload() {
   editor_.Unload(CurrentPlacement(), views_.List().Columns());
   KillTimer(window_, Timer1);
-  windowsSystem_.SetMainWindow(nullptr);
+  windowsSystem_.SetMainWindow(nullptr, nullptr);
   PostQuitMessage(0);
 }
 

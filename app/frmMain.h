@@ -58,12 +58,13 @@ class frmMain : Pinned {
   [[nodiscard]] frmKeysList::Events KeysListEvents();
   void OnCommand(int id, HWND control);
   void Do(WindowTask task);
-  void ShowExport();
-  void ShowOptions();
+  void mnuFileExportToClipboard_Click();
+  void mnuViewOptions_Click();
   void OnInitMenu();
   void OnDropDown(const NMTOOLBARW& notification);
   bool FilterKey(const MSG& message);
   void ToggleKeysList();
+  void HideKeysList();
   void React(const Reaction& reaction);
 
   /// Shows the state of the editor in every control.
@@ -73,8 +74,9 @@ class frmMain : Pinned {
 
   WindowsSystem& windowsSystem_;
   Editor editor_;
-  frmOptions frmOptions_;
+  // They end in the reverse order: the keys list of the views, options, export.
   frmExportToClipboard frmExportToClipboard_;
+  frmOptions frmOptions_;
   frmViews views_;
   HWND window_ = nullptr;
   int dpi_ = 96;

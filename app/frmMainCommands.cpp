@@ -75,10 +75,10 @@ void frmMain::Do(WindowTask task) {
       views_.ShowSelectedRow();
       break;
     case WindowTask::ShowExport:
-      ShowExport();
+      mnuFileExportToClipboard_Click();
       break;
     case WindowTask::ShowOptions:
-      ShowOptions();
+      mnuViewOptions_Click();
       break;
     case WindowTask::Close:
       PostMessageW(window_, WM_CLOSE, 0, 0);
@@ -88,14 +88,16 @@ void frmMain::Do(WindowTask task) {
   }
 }
 
-void frmMain::ShowExport() {
+void frmMain::mnuFileExportToClipboard_Click() {
+  HideKeysList();
   ClipboardExport& model = editor_.BeginExport();
   frmExportToClipboard_.Show(window_, model, [&model] { model.Ok(); });
   editor_.EndExport();
   Sync();
 }
 
-void frmMain::ShowOptions() {
+void frmMain::mnuViewOptions_Click() {
+  HideKeysList();
   frmOptions_.Show(window_, editor_.BeginOptions());
   views_.ApplyFonts();
   views_.ApplyDisplaySettings();
@@ -152,6 +154,11 @@ bool frmMain::FilterKey(const MSG& message) {
 
 void frmMain::ToggleKeysList() {
   if (AcceptsInput()) React(editor_.Work(&KeysList::ToggleKeysList));
+}
+
+void frmMain::HideKeysList() {
+  editor_.HideKeysList();
+  views_.SyncKeys();
 }
 
 void frmMain::React(const Reaction& reaction) {

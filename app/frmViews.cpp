@@ -56,6 +56,8 @@ void frmViews::ApplyLanguage() {
   keysList_.SetName(WithoutMnemonic(editor_.Language().GetLangText(TextId::Hotkey)));
 }
 
+void frmViews::SetUpColumns() { list_.SetUpColumns(); }
+
 void frmViews::ApplyDpi(int dpi) {
   dpi_ = dpi;
   Toolbar1_.ApplyDpi(dpi);

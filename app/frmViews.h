@@ -36,6 +36,9 @@ class frmViews {
   void ApplyFonts();
   void ApplyDisplaySettings();
 
+  /// At the start, once language and display settings are applied.
+  void SetUpColumns();
+
   /// Does nothing while the window is minimised, or has no views yet.
   void LayOut();
 

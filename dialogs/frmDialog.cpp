@@ -135,11 +135,11 @@ void frmDialog::OnInit() {
   CreateControls();
   ApplyLanguage();
   // Moved to its screen first: that decides the resolution.
-  Centre();
+  CenterForm();
   ApplyDpi(static_cast<int>(GetDpiForWindow(window_)));
   Sync();
   ShowPage(page_);
-  Centre();
+  CenterForm();
   FocusFirst();
 }
 

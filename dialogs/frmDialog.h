@@ -72,7 +72,7 @@ class frmDialog {
   [[nodiscard]] int TabsWidth() const;
   void PlaceAll(const PagesLayout& pages, POINT origin) const;
   void Resize(int width, int height);
-  void Centre();
+  void CenterForm();
   void ShowPage(int page);
   void FocusFirst();
   void DrawTabBackground(SIZE size);

@@ -132,7 +132,7 @@ void frmDialog::Resize(int width, int height) {
   InvalidateRect(window_, nullptr, TRUE);
 }
 
-void frmDialog::Centre() {
+void frmDialog::CenterForm() {
   const Area room = WorkArea(GetParent(window_));
   const Area own = WindowArea(window_);
   const Area centred = Centred(room, own.Width, own.Height);

@@ -19,7 +19,7 @@ HotkeyPanel::HotkeyPanel(Catalogue& catalogue, CommandList& list, HotkeyAssignme
       notation_(notation),
       settings_(settings),
       messageBoxes_(messageBoxes),
-      modifierToggle_(ToggleResetValues()) {}
+      ModifierToggle_(ToggleResetValues()) {}
 
 HotkeyPanel::PerModifier HotkeyPanel::ToggleResetValues() const {
   return {true, settings_.UseContextMenuKey != 0, true};
@@ -66,7 +66,7 @@ Reaction HotkeyPanel::ChooseKey(int index) {
 
 Reaction HotkeyPanel::ResetPanel() {
   boxesChecked_.fill(false);
-  modifierToggle_ = ToggleResetValues();
+  ModifierToggle_ = ToggleResetValues();
   chosenKey_ = NoKeyChosen;
   return {.FollowChooser = true, .FocusTo = Reaction::Focus::CommandList, .Handled = true};
 }
@@ -101,7 +101,7 @@ Reaction HotkeyPanel::KeyDown(const KeyEvent& event) {
   if (!list_.CommandSelected()) return {};
   Reaction reaction{.FollowChooser = true};
   const auto press = [&](Modifier box) {
-    boxesChecked_[IndexOf(box)] = modifierToggle_[IndexOf(box)];
+    boxesChecked_[IndexOf(box)] = ModifierToggle_[IndexOf(box)];
     reaction.FocusTo = Reaction::Focus::Chooser;
   };
   if (event.Code == KeyCode::Delete) {
@@ -128,7 +128,7 @@ Reaction HotkeyPanel::KeyDown(const KeyEvent& event) {
 Reaction HotkeyPanel::KeyUp(const KeyEvent& event) {
   if (!list_.CommandSelected()) return {};
   const auto flip = [this](Modifier box) {
-    bool& toggle = modifierToggle_[IndexOf(box)];
+    bool& toggle = ModifierToggle_[IndexOf(box)];
     toggle = !toggle;
   };
   const bool usesContextMenuKey = settings_.UseContextMenuKey != 0;
@@ -147,7 +147,7 @@ Reaction HotkeyPanel::KeyUp(const KeyEvent& event) {
 }
 
 Reaction HotkeyPanel::TimerTick() {
-  bool& toggle = modifierToggle_[IndexOf(Modifier::Alt)];
+  bool& toggle = ModifierToggle_[IndexOf(Modifier::Alt)];
   toggle = !toggle;
   boxesChecked_[IndexOf(Modifier::Alt)] = toggle;
   return {.FocusTo = Reaction::Focus::Chooser};

@@ -96,7 +96,7 @@ class HotkeyPanel : Pinned {
   const Settings& settings_;
   MessageBoxes& messageBoxes_;
   PerModifier boxesChecked_{};
-  PerModifier modifierToggle_;  ///< what each box becomes at the next press of its key
+  PerModifier ModifierToggle_;  ///< what each box becomes at the next press of its key
   int chosenKey_ = NoKeyChosen;
 };
 

@@ -38,7 +38,7 @@ Reaction KeysList::ChooserDropsDown() {
 }
 
 Reaction KeysList::Select(int index) {
-  if (!acceptClick_) {
+  if (!AcceptClick_) {
     moved_ = index;
     return {};
   }
@@ -48,14 +48,14 @@ Reaction KeysList::Select(int index) {
 }
 
 Reaction KeysList::ReleaseMouse() {
-  acceptClick_ = true;
+  AcceptClick_ = true;
   return {};
 }
 
 Reaction KeysList::KeyDown(KeyCode code) {
   if (code == KeyCode::Escape) return CloseKeysList();
-  acceptClick_ = code == KeyCode::Enter || code == KeyCode::Space;
-  return acceptClick_ ? Select(Selection()) : Reaction{};
+  AcceptClick_ = code == KeyCode::Enter || code == KeyCode::Space;
+  return AcceptClick_ ? Select(Selection()) : Reaction{};
 }
 
 }  // namespace tessera

@@ -55,7 +55,7 @@ class KeysList : Pinned {
   HotkeyPanel& panel_;
   bool visible_ = false;
   bool panelToolbarEnabled_ = true;
-  bool acceptClick_ = true;
+  bool AcceptClick_ = true;
   std::optional<int> moved_;  ///< where a key has moved the selection, without choosing it
 };
 

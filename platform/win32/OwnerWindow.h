@@ -3,21 +3,34 @@
 
 #include <windows.h>
 
+#include <functional>
+#include <utility>
+
 namespace tessera {
 
 class OwnerWindow {
  public:
-  /// The program's active window, or its main window while another program is active; null before
-  /// there is one.
+  /// The main window, or the modal dialog that has disabled it; null before there is one. Never a
+  /// pop-up such as the keys list: the main window would stay enabled behind a question.
   [[nodiscard]] HWND Current() const {
-    const HWND active = GetActiveWindow();
-    return active != nullptr ? active : main_;
+    return IsWindowEnabled(main_) != FALSE ? main_ : GetLastActivePopup(main_);
   }
 
-  void SetMain(HWND window) { main_ = window; }
+  /// The same, for a box or dialog that opens now.
+  [[nodiscard]] HWND ForModal() const {
+    if (beforeModal_) beforeModal_();
+    return Current();
+  }
+
+  /// `beforeModal` is called before each box or dialog opens.
+  void SetMain(HWND window, std::function<void()> beforeModal) {
+    main_ = window;
+    beforeModal_ = std::move(beforeModal);
+  }
 
  private:
   HWND main_ = nullptr;
+  std::function<void()> beforeModal_;
 };
 
 }  // namespace tessera

@@ -103,18 +103,18 @@ FontRecord FromLogicalFont(const LOGFONTW& logical, int pointSizeInTenths) {
 WindowsDialogs::WindowsDialogs(const OwnerWindow& owner) : owner_(owner) {}
 
 std::optional<std::wstring> WindowsDialogs::Open(const FileDialogRequest& request) {
-  return ChooseFile("GetOpenFileNameW", FileFlags, owner_.Current(), request);
+  return ChooseFile("GetOpenFileNameW", FileFlags, owner_.ForModal(), request);
 }
 
 std::optional<std::wstring> WindowsDialogs::Save(const FileDialogRequest& request) {
   const DWORD overwrite = request.AskBeforeOverwrite ? DWORD{OFN_OVERWRITEPROMPT} : DWORD{0};
-  return ChooseFile("GetSaveFileNameW", FileFlags | overwrite, owner_.Current(), request);
+  return ChooseFile("GetSaveFileNameW", FileFlags | overwrite, owner_.ForModal(), request);
 }
 
 std::optional<std::uint32_t> WindowsDialogs::Color() {
   CHOOSECOLORW dialog{};
   dialog.lStructSize = sizeof dialog;
-  dialog.hwndOwner = owner_.Current();
+  dialog.hwndOwner = owner_.ForModal();
   dialog.lpCustColors = customColors_.data();
   if (!Show("ChooseColorW", dialog)) return std::nullopt;
   return dialog.rgbResult;
@@ -125,7 +125,7 @@ bool WindowsDialogs::Font(FontRecord& font) {
   const UniqueDeviceContext printer = DefaultPrinter();
   CHOOSEFONTW dialog{};
   dialog.lStructSize = sizeof dialog;
-  dialog.hwndOwner = owner_.Current();
+  dialog.hwndOwner = owner_.ForModal();
   dialog.hDC = printer.get();
   dialog.lpLogFont = &logical;
   dialog.iPointSize = font.PointSizeInTenths;

@@ -35,7 +35,7 @@ BoxAnswer WindowsMessageBoxes::Show(const std::wstring& text, BoxButtons buttons
                                     BoxDefault defaultButton) {
   const ButtonStyle& style = ButtonStyles.at(static_cast<std::size_t>(buttons));
   const UINT defaultStyle = defaultButton == BoxDefault::Second ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
-  const HWND owner = owner_.Current();
+  const HWND owner = owner_.ForModal();
   const int answer = MessageBoxW(owner, text.c_str(), ProgramTitle,
                                  style.Style | IconStyles.at(static_cast<std::size_t>(icon)) |
                                      defaultStyle | DirectionStyle(owner));

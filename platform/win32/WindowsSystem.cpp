@@ -12,7 +12,9 @@ System WindowsSystem::Seams() {
   return {files_, registry_, environment_, messageBoxes_, dialogs_, programs_, clock_, clipboard_};
 }
 
-void WindowsSystem::SetMainWindow(HWND window) { owner_.SetMain(window); }
+void WindowsSystem::SetMainWindow(HWND window, std::function<void()> beforeModal) {
+  owner_.SetMain(window, std::move(beforeModal));
+}
 
 void WindowsSystem::SetMessageFilter(MessageFilter filter) {
   clock_.SetMessageFilter(std::move(filter));

@@ -1,6 +1,8 @@
 // The one Windows implementation of every seam, owned together.
 #pragma once
 
+#include <functional>
+
 #include "platform/System.h"
 #include "platform/win32/OwnerWindow.h"
 #include "platform/win32/WindowsClipboard.h"
@@ -23,8 +25,9 @@ class WindowsSystem {
   /// The seams; they live as long as this object.
   [[nodiscard]] System Seams();
 
-  /// Message boxes and dialogs belong to this window while none of the program's is active.
-  void SetMainWindow(HWND window);
+  /// Message boxes and dialogs belong to this window, and `beforeModal` is called before each
+  /// opens.
+  void SetMainWindow(HWND window, std::function<void()> beforeModal);
 
   /// What looks at messages first while pending events are handled.
   void SetMessageFilter(MessageFilter filter);

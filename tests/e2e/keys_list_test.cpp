@@ -172,6 +172,36 @@ TEST_F(KeysListTest, ClickOnARowHidesIt) {
   }
 }
 
+TEST_F(KeysListTest, HidesBeforeAQuestionWhichBelongsToTheMainWindow) {
+  MakeAChange();
+  window_->ChooseKey(L"F5");
+  Dialog list = OpenList();
+  MoveTo(list, Selected(list) + 1);
+  window_->Command(IDM_mnuFileOpen);
+  const Box question = NextBox();
+  EXPECT_FALSE(IsWindowVisible(list.Handle()));
+  EXPECT_EQ(GetWindow(question.Window, GW_OWNER), window_->Handle());
+  EXPECT_FALSE(IsWindowEnabled(window_->Handle()));
+  window_->Command(IDM_mnuFileExit);
+  window_->Command(IDM_mnuViewOptions);
+  window_->Command(IDM_delall);
+  Answer(question, IDCANCEL);
+  WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
+  WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
+  EXPECT_TRUE(NoBoxOpen()) << "nothing else has started meanwhile";
+  EXPECT_EQ(window_->ChosenKey(), L"F5") << "hiding is no choice";
+}
+
+TEST_F(KeysListTest, HidesBeforeADialog) {
+  const Dialog list = OpenList();
+  window_->Command(IDM_mnuViewOptions);
+  Dialog options = NextDialog(L"frmOptions");
+  EXPECT_FALSE(IsWindowVisible(list.Handle()));
+  EXPECT_EQ(GetWindow(options.Handle(), GW_OWNER), window_->Handle());
+  options.CloseByKey(VK_ESCAPE);
+  WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
+}
+
 TEST_F(KeysListTest, IsHiddenWhileTheWindowIsMinimised) {
   const Dialog list = OpenList();
   PostMessageW(window_->Handle(), WM_SYSCOMMAND, SC_MINIMIZE, 0);

@@ -111,6 +111,22 @@ TEST_F(RestartTest, MenuItemRestartsItToo) {
   EXPECT_EQ(SectionValue(ReadBytes(folder_.WincmdIni()), "Shortcuts", "CA+K"), "cm_SrcShort");
 }
 
+TEST_F(RestartTest, MenuItemSavesAndStartsItWhenItEndsWhileTheMenuIsOpen) {
+  StartStandIn();
+  StartAndLoad();
+  MakeAChange();
+  const HWND menu = window_->OpenMenu('F');
+  EXPECT_TRUE(WaitForMenuEntry(menu, L"Save and Restart Bainioka").Enabled);
+  EndStandIn(WaitForStandIn());
+  standIn_->WaitForEnd();
+  Press(VK_DOWN);
+  Press(VK_DOWN);
+  Press(VK_RETURN);
+  static_cast<void>(WaitForStandIn());
+  WaitFor("the save to end", [&] { return !Modified(); });
+  EXPECT_EQ(SectionValue(ReadBytes(folder_.WincmdIni()), "Shortcuts", "CA+K"), "cm_SrcShort");
+}
+
 TEST_F(RestartTest, SaveLeavesItAlone) {
   StartStandIn();
   StartAndLoad();

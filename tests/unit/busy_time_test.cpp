@@ -69,7 +69,7 @@ constexpr Operation Operations[] = {
        editor.OpenShortcutFile(false, OtherIniFile, true);
        return Reaction{};
      }},
-    {"OpenRecentFile", Run<&Editor::OpenRecentFile, 2>},
+    {"mnuFileRecentFiles_Click", Run<&Editor::mnuFileRecentFiles_Click, 2>},
     {"ClearRecentFiles", Run<&Editor::ClearRecentFiles>},
     {"QueryUnload", Run<&Editor::QueryUnload>},
 };
@@ -226,7 +226,7 @@ TEST_F(EditorTest, AMissingRecentFileStaysInTheListDuringASave) {
   Programs.Windows[L"TTOTAL_CMD"] = 7;
   Start();
   Assign(Pack, L"X");
-  Clock.OnDoEvents = [this] { Editor.OpenRecentFile(2); };
+  Clock.OnDoEvents = [this] { Editor.mnuFileRecentFiles_Click(2); };
   Editor.FileSaveAndRestart();
   EXPECT_GT(Clock.DoEventsCount, 0);
   EXPECT_TRUE(MessageBoxes.Shown.empty());

@@ -24,17 +24,17 @@ TEST_F(EditorTest, ARecentFileIsOpenedAgain) {
   StoredSettings() = "[Tessera]\r\nRecentFiles1=C:\\TC\\Other.ini\r\n";
   Start();
   ASSERT_EQ(Editor.RecentFiles().ListItems(2), OtherIniFile);
-  Editor.OpenRecentFile(2);
+  Editor.mnuFileRecentFiles_Click(2);
   EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + V");
   EXPECT_EQ(Editor.RecentFiles().ListItems(1), OtherIniFile);
-  Editor.OpenRecentFile(9);
+  Editor.mnuFileRecentFiles_Click(9);
   EXPECT_EQ(Editor.Document().Caption(), L"C:\\TC\\Other.ini - Tessera");
 }
 
 TEST_F(EditorTest, ARecentFileThatHasGoneIsReportedAndRemoved) {
   StoredSettings() = "[Tessera]\r\nRecentFiles1=C:\\gone.ini\r\n";
   Start();
-  Editor.OpenRecentFile(2);
+  Editor.mnuFileRecentFiles_Click(2);
   ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
   EXPECT_EQ(MessageBoxes.Shown[0].Text,
             L"Cannot find this file C:\\gone.ini\n\n"
@@ -125,6 +125,21 @@ TEST_F(EditorTest, TheExportFollowsTheListAndWarnsOfUnsavedChanges) {
   Editor.BeginExport().Ok();
   Editor.EndExport();
   EXPECT_EQ(Clipboard.Texts.back().find(L"Important"), std::wstring::npos);
+}
+
+TEST_F(EditorTest, TheKeysListHidesBeforeADialogWithoutAChoice) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, View);
+  Choose(L"F5");
+  const int chosen = Editor.Panel().ChosenKey();
+  Editor.Work(&KeysList::ToggleKeysList);
+  Editor.Work(&KeysList::KeyDown, KeyCode{40});
+  Editor.Work(&KeysList::Select, chosen + 1);
+  ASSERT_TRUE(Editor.AllKeys().Visible());
+  Editor.HideKeysList();
+  EXPECT_FALSE(Editor.AllKeys().Visible());
+  EXPECT_TRUE(Editor.AllKeys().PanelToolbarEnabled());
+  EXPECT_EQ(Editor.Panel().ChosenKey(), chosen);
 }
 
 TEST_F(EditorTest, OptionsResetThePanelAndAreStoredAtOnce) {
@@ -245,7 +260,7 @@ TEST_F(EditorTest, ARecentFileOfAKilledSaveIsThereAgain) {
   Files.Contents[OtherIniFile + L".tessera-old"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
   StoredSettings() = "[Tessera]\r\nRecentFiles1=C:\\TC\\Other.ini\r\n";
   Start();
-  Editor.OpenRecentFile(2);
+  Editor.mnuFileRecentFiles_Click(2);
   EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + V");
   EXPECT_EQ(Editor.RecentFiles().ListItems(1), OtherIniFile);
   EXPECT_TRUE(MessageBoxes.Shown.empty());

@@ -97,7 +97,7 @@ TEST(HostileValues, LongPathsAreOpenedAndSaved) {
     World next;
     next.Files.Contents = world.Files.Contents;
     next.Start();
-    next.Editor.OpenRecentFile(2);
+    next.Editor.mnuFileRecentFiles_Click(2);
     EXPECT_EQ(next.MessageBoxes.Shown.size(), length < ProfileBufferLength ? 0U : 1U);
   }
 }
@@ -243,7 +243,7 @@ TEST(HostileValues, ARecentFileOnAMissingDriveIsReportedAndGoes) {
   world.Files.Contents[VantorFile] =
       "[Tessera]\r\nRecentFiles1=Q:\\gone\\Wincmd.ini\r\nRecentFiles2=C:\\TC\\Wincmd.ini\r\n";
   world.Start();
-  world.Editor.OpenRecentFile(2);
+  world.Editor.mnuFileRecentFiles_Click(2);
   ASSERT_EQ(world.MessageBoxes.Shown.size(), 1U);
   EXPECT_NE(world.MessageBoxes.Shown[0].Text.find(L"Q:\\gone\\Wincmd.ini"), std::wstring::npos);
   EXPECT_EQ(world.Files.Contents[VantorFile].find("gone"), std::string::npos);

@@ -15,7 +15,7 @@ TEST_F(EditorTest, WithoutTotalcmdIncTheUserIsToldAndAsked) {
   EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Information);
   EXPECT_EQ(MessageBoxes.Shown[0].Buttons, BoxButtons::Ok);
   ASSERT_EQ(Dialogs.OpenRequests.size(), 1U);
-  EXPECT_EQ(Dialogs.OpenRequests[0].Folder, L"");
+  EXPECT_EQ(Dialogs.OpenRequests[0].Folder, L"C:\\TC\\");
   EXPECT_EQ(Dialogs.OpenRequests[0].FileName, L"Totalcmd.inc");
   EXPECT_EQ(Dialogs.OpenRequests[0].Filter, FilterText(FileFilter::InternalCommands));
   EXPECT_EQ(Editor.Document().Rows().Count(), 5U);
