@@ -41,7 +41,8 @@ void ShowMenuUnderButton(const NMTOOLBARW& button, HMENU menu, HWND owner, bool 
   SendMessageW(toolbar, TB_GETRECT, static_cast<WPARAM>(button.iItem),
                reinterpret_cast<LPARAM>(&around.rcExclude));
   MapWindowPoints(toolbar, nullptr, reinterpret_cast<POINT*>(&around.rcExclude), 2);
-  TrackPopupMenuEx(menu, TPM_VERTICAL | (rightToLeft ? TPM_RIGHTALIGN | TPM_LAYOUTRTL : 0U),
+  // In that layout a menu that is aligned to its left ends at the given point.
+  TrackPopupMenuEx(menu, TPM_VERTICAL | (rightToLeft ? TPM_LAYOUTRTL : 0U),
                    rightToLeft ? around.rcExclude.right : around.rcExclude.left,
                    around.rcExclude.bottom, owner, &around);
 }

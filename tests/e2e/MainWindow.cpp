@@ -69,8 +69,7 @@ bool MainWindow::ButtonPressed(int toolbar, int command) const {
 void MainWindow::ClickButton(int toolbar, int command) {
   BringToFront(Handle());
   // Near the left edge: at the right one there may be the arrow of a menu.
-  const RECT button =
-      RectangleBy(Control(toolbar), TB_GETRECT, static_cast<WPARAM>(command), RECT{});
+  const RECT button = ButtonRectangle(toolbar, command);
   Click({button.left + (button.bottom - button.top) / 3, (button.top + button.bottom) / 2});
 }
 
@@ -84,12 +83,17 @@ std::wstring MainWindow::ButtonText(int toolbar, int command) const {
   return text;
 }
 
+RECT MainWindow::ButtonRectangle(int toolbar, int command) const {
+  return RectangleBy(Control(toolbar), TB_GETRECT, static_cast<WPARAM>(command), RECT{});
+}
+
 HWND MainWindow::OpenButtonMenu(int toolbar, int command) {
-  constexpr int FromTheRight = 4;  // pixels: inside the arrow at any size of it
+  constexpr int FromTheEnd = 4;  // pixels: inside the arrow at any size of it
   BringToFront(Handle());
-  const RECT button =
-      RectangleBy(Control(toolbar), TB_GETRECT, static_cast<WPARAM>(command), RECT{});
-  Click({button.right - FromTheRight, (button.top + button.bottom) / 2});
+  const RECT button = ButtonRectangle(toolbar, command);
+  const bool mirrored = (GetWindowLongPtrW(Control(toolbar), GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+  Click({mirrored ? button.left + FromTheEnd : button.right - FromTheEnd,
+         (button.top + button.bottom) / 2});
   WaitFor("the button's menu to open", [&] { return !OpenMenus().empty(); });
   return OpenMenus().front();
 }

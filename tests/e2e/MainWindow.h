@@ -64,6 +64,7 @@ class MainWindow : public Window {
   void ChooseKey(const std::wstring& key);
   [[nodiscard]] bool ButtonEnabled(int toolbar, int command) const;
   [[nodiscard]] bool ButtonPressed(int toolbar, int command) const;
+  [[nodiscard]] RECT ButtonRectangle(int toolbar, int command) const;  ///< on the screen
   void ClickButton(int toolbar, int command);
 
   /// What the button's tool tip shows.

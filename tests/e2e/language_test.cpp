@@ -131,6 +131,21 @@ class LanguageTest : public EndToEndTest {
     EXPECT_EQ(menu.left - window.left > window.right - menu.right, right);
     window_->CloseMenus();
   }
+
+  /// The menu below an arrow is flush with its button at the side where reading begins.
+  void ExpectButtonMenusAtTheRight(bool right) {
+    const auto expectFlush = [&](int toolbar, int button) {
+      const RECT menu = RectangleOf(window_->OpenButtonMenu(toolbar, button));
+      const RECT place = window_->ButtonRectangle(toolbar, button);
+      EXPECT_EQ(right ? menu.right : menu.left, right ? place.right : place.left) << button;
+      window_->CloseMenus();
+    };
+    expectFlush(IDC_Toolbar1, IDM_mnuFileOpen);
+    Select(L"cm_SrcTree");
+    WaitFor("the button to be enabled",
+            [&] { return window_->ButtonEnabled(IDC_Toolbar2, IDM_delete); });
+    expectFlush(IDC_Toolbar2, IDM_delete);
+  }
 };
 
 TEST_F(LanguageTest, ChosenLanguageIsAppliedToEveryWindowAtOnce) {
@@ -174,6 +189,7 @@ TEST_F(LanguageTest, ArabicReadsFromTheRight) {
   EXPECT_EQ(window_->Header(0).Text, L"\u0627\u0644\u0648\u0635\u0641");
   ExpectDirection(true);
   ExpectMenuAtTheRight(true);
+  ExpectButtonMenusAtTheRight(true);
 }
 
 TEST_F(LanguageTest, DirectionAloneKeepsTheEnglishTexts) {
@@ -205,6 +221,7 @@ TEST_F(LanguageTest, EnglishReadsFromTheLeft) {
   StartAndLoad();
   ExpectDirection(false);
   ExpectMenuAtTheRight(false);
+  ExpectButtonMenusAtTheRight(false);
 }
 
 TEST_F(LanguageTest, EmptyAndAbsentTextsAreTheBuiltInOnes) {
