@@ -22,13 +22,19 @@ struct WindowPlacement {
 struct Surroundings {
   int SmallestWidth = 0;  ///< the system makes the window no smaller
   int SmallestHeight = 0;
-  std::span<const Area> Screens;  ///< work areas, the primary screen's first
-  int Dpi = 96;
+  std::span<const Screen> Screens;  ///< the primary one first
+  int Dpi = 96;                     ///< of the window as it is now
 };
 
 /// The same window where it can be reached with the mouse: one whose title bar is on no screen
 /// moves into the first one. Without screens it stays.
-[[nodiscard]] Area MakeReachable(const Area& window, std::span<const Area> screens, int dpi);
+[[nodiscard]] Area MakeReachable(const Area& window, std::span<const Screen> screens, int dpi);
+
+/// With which resolution the stored place is to be read: that of the screen which, so read, holds
+/// its corner. Of several such screens the one whose whole pixels the corner's twips are, a coarser
+/// one before a finer one; `dpi` where there is none.
+[[nodiscard]] int ResolutionOfStoredPlace(const Settings& settings, std::span<const Screen> screens,
+                                          int dpi);
 
 /// The stored place, where it can be reached.
 [[nodiscard]] Area StoredPlace(const Settings& settings, const Surroundings& around);

@@ -57,7 +57,7 @@ void frmMain::ApplyPlacement() {
   for (int attempt = 0; attempt < 2 && dpi != dpi_; ++attempt) {
     dpi = dpi_;
     const SIZE smallest = views_.SmallestSize();
-    const std::vector<Area> screens = WorkAreas();
+    const std::vector<Screen> screens = Screens(dpi_);
     Place(window_, StoredPlace(settings, {.SmallestWidth = smallest.cx,
                                           .SmallestHeight = smallest.cy,
                                           .Screens = screens,

@@ -13,6 +13,12 @@ struct Area {
   [[nodiscard]] bool operator==(const Area&) const = default;
 };
 
+/// A screen by the part that programs may use, and its resolution in pixels an inch.
+struct Screen {
+  Area WorkArea;
+  int Dpi = 96;
+};
+
 /// `value` * `numerator` / `denominator`; halves are rounded away from 0.
 [[nodiscard]] int Ratio(int value, int numerator, int denominator);
 

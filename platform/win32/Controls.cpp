@@ -2,8 +2,11 @@
 #include "platform/win32/Controls.h"
 
 #include <oleacc.h>
+#include <shellscalingapi.h>
+#include <uxtheme.h>
 
 #include "platform/win32/Components.h"
+#include "platform/win32/SystemFunction.h"
 
 namespace tessera {
 namespace {
@@ -16,15 +19,19 @@ constexpr GUID AccessibleInterface{
 constexpr GUID AccessibleName{
     0x608d3df8, 0x8128, 0x4aa7, {0xa4, 0x28, 0xf5, 0x5e, 0x49, 0x26, 0x72, 0x91}};
 
-BOOL CALLBACK AddWorkArea(HMONITOR monitor, HDC /*context*/, RECT* /*area*/, LPARAM result) {
-  MONITORINFO information{};
-  information.cbSize = sizeof information;
-  if (GetMonitorInfoW(monitor, &information) != FALSE) {
-    auto& areas = *reinterpret_cast<std::vector<Area>*>(result);
-    const bool primary = (information.dwFlags & MONITORINFOF_PRIMARY) != 0;
-    areas.insert(primary ? areas.begin() : areas.end(), AreaOf(information.rcWork));
-  }
+BOOL CALLBACK AddMonitor(HMONITOR monitor, HDC /*context*/, RECT* /*area*/, LPARAM result) {
+  reinterpret_cast<std::vector<HMONITOR>*>(result)->push_back(monitor);
   return TRUE;
+}
+
+/// `otherwise` where the system does not tell.
+int ResolutionOf(HMONITOR monitor, int otherwise) {
+  auto* const ask = SystemFunction<decltype(GetDpiForMonitor)>(L"shcore.dll", "GetDpiForMonitor");
+  UINT horizontal = 0;
+  UINT vertical = 0;
+  const bool told =
+      ask != nullptr && SUCCEEDED(ask(monitor, MDT_EFFECTIVE_DPI, &horizontal, &vertical));
+  return told ? static_cast<int>(horizontal) : otherwise;
 }
 
 }  // namespace
@@ -128,10 +135,21 @@ Area WorkArea(HWND window) {
   return AreaOf(information.rcWork);
 }
 
-std::vector<Area> WorkAreas() {
-  std::vector<Area> areas;
-  EnumDisplayMonitors(nullptr, nullptr, AddWorkArea, reinterpret_cast<LPARAM>(&areas));
-  return areas;
+std::vector<Screen> Screens(int dpi) {
+  std::vector<HMONITOR> monitors;
+  EnumDisplayMonitors(nullptr, nullptr, AddMonitor, reinterpret_cast<LPARAM>(&monitors));
+  std::vector<Screen> screens;
+  for (const HMONITOR monitor : monitors) {
+    MONITORINFO information{};
+    information.cbSize = sizeof information;
+    if (GetMonitorInfoW(monitor, &information) == FALSE) continue;
+    const bool primary = (information.dwFlags & MONITORINFOF_PRIMARY) != 0;
+    // A single one is not asked: the library for that would delay the start.
+    screens.insert(
+        primary ? screens.begin() : screens.end(),
+        {AreaOf(information.rcWork), monitors.size() > 1 ? ResolutionOf(monitor, dpi) : dpi});
+  }
+  return screens;
 }
 
 void Place(HWND control, const Area& area) {

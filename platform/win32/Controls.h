@@ -71,8 +71,8 @@ inline constexpr COLORREF TranslatorsColor = RGB(0, 255, 255);
 /// The part of the screen that programs may use, on the monitor where most of the window is.
 [[nodiscard]] Area WorkArea(HWND window);
 
-/// The same of all monitors, the primary one first.
-[[nodiscard]] std::vector<Area> WorkAreas();
+/// All monitors, the primary one first. A single one has the resolution `dpi`.
+[[nodiscard]] std::vector<Screen> Screens(int dpi);
 
 void Place(HWND control, const Area& area);
 
