@@ -4,6 +4,25 @@
 #include "settings/Paths.h"
 
 namespace tessera {
+namespace {
+
+/// A clock for tries that are not worth a wait.
+class ClockWithoutSleep final : public Clock {
+ public:
+  explicit ClockWithoutSleep(Clock& clock) : clock_(clock) {}
+
+  [[nodiscard]] float SecondsSinceMidnight() const override {
+    return clock_.SecondsSinceMidnight();
+  }
+  [[nodiscard]] std::uint64_t Milliseconds() const override { return clock_.Milliseconds(); }
+  void DoEvents() override { clock_.DoEvents(); }
+  void Sleep(int /*milliseconds*/) override {}
+
+ private:
+  Clock& clock_;
+};
+
+}  // namespace
 
 std::wstring SettingsPath(const Environment& environment) {
   return AddBackslash(environment.ProgramDirectory()) + L"vantor.ini";
@@ -23,13 +42,19 @@ ProfileFile SettingsFile::Read() {
 FileError SettingsFile::Change(const std::function<void(ProfileFile&)>& change) {
   const std::wstring path = SettingsPath(environment_);
   ClearLeftOvers(files_, path, KeepCopies::No);
-  return SaveFromTheStart([&] {
-    ProfileFile file(files_, clock_, path);
+  // A folder that refuses a file once does so again: only the first time may it be a scanner's
+  // doing, which passes.
+  ClockWithoutSleep impatient(clock_);
+  Clock& clock = refused_ ? impatient : clock_;
+  const FileError error = SaveFromTheStart([&] {
+    ProfileFile file(files_, clock, path);
     // Defaults must not replace what the user once chose.
     if (unread_ && file.ReadError() == FileError::None) return FileError::AccessDenied;
     change(file);
-    return file.Save(files_, clock_, KeepCopies::No);
+    return file.Save(files_, clock, KeepCopies::No);
   });
+  refused_ = error == FileError::AccessDenied;
+  return error;
 }
 
 }  // namespace tessera

@@ -32,15 +32,16 @@ class SettingsFile : Pinned {
 
   /// Reads the file afresh, changes it, and saves it in one write; a missing one is created. What
   /// is known was not read from the file when Read failed: the result is then AccessDenied, and an
-  /// existing file stays as it is. No caller tells the user of an error: the program runs all the
-  /// same.
+  /// existing file stays as it is. Once access was denied, later saves are tried without a wait
+  /// until one succeeds. No caller tells the user of an error: the program runs all the same.
   FileError Change(const std::function<void(ProfileFile&)>& change);
 
  private:
   Files& files_;
   Clock& clock_;
   const Environment& environment_;
-  bool unread_ = false;  ///< the file is there, and Read failed
+  bool unread_ = false;   ///< the file is there, and Read failed
+  bool refused_ = false;  ///< the last save was denied, as in a folder of programs
 };
 
 }  // namespace tessera

@@ -57,6 +57,26 @@ TEST_F(SettingsFileTest, AFileThatCouldNotBeReadAtTheStartIsNotChanged) {
   EXPECT_EQ(Files.Contents[VantorFile], "[a]\r\nb=1\r\n");
 }
 
+TEST_F(SettingsFileTest, AFolderThatRefusesIsWaitedForOnceAndTriedEachTime) {
+  Files.WriteErrors.assign(100, FileError::AccessDenied);
+  EXPECT_EQ(WriteOne(), FileError::AccessDenied);
+  const int waited = Clock.SleptMilliseconds;
+  EXPECT_GT(waited, 0);
+  for (int change = 0; change < 3; ++change) {
+    const int writes = Files.Writes;
+    EXPECT_EQ(WriteOne(), FileError::AccessDenied);
+    EXPECT_GT(Files.Writes, writes);
+  }
+  EXPECT_EQ(Clock.SleptMilliseconds, waited);
+
+  Files.WriteErrors.clear();
+  EXPECT_EQ(WriteOne(), FileError::None);
+  Files.Contents.clear();
+  Files.WriteErrors = {FileError::SharingViolation};
+  EXPECT_EQ(WriteOne(), FileError::None) << "waited for again";
+  EXPECT_GT(Clock.SleptMilliseconds, waited);
+}
+
 TEST_F(SettingsFileTest, WhatAKilledChangeLeftIsClearedUpByTheNext) {
   Files.Contents = {{VantorFile, "[a]\r\nb=1\r\n"}, {VantorFile + L".tessera-new", "[a"}};
   EXPECT_EQ(WriteOne(), FileError::None);
