@@ -18,15 +18,17 @@ enum class RootKey : std::uint32_t {
 };
 
 struct RegistryValue {
-  std::uint32_t Type = 0;  ///< 1 text, 3 binary, 4 number, as the system counts them
-  std::string Bytes;       ///< as stored, a text in the ANSI code page with its terminator
+  std::uint32_t Type = 0;  ///< 1 and 2 text, 3 binary, 4 number, as the system counts them
+  std::string Bytes;       ///< as stored, a list of texts in the ANSI code page
+  std::wstring Text{};     ///< of types 1 and 2, in place of bytes; with its terminator
 };
 
 class Registry {
  public:
   virtual ~Registry() = default;
 
-  /// The value, or nothing when it or its key is absent or holds more than `capacity` bytes.
+  /// The value, or nothing when it or its key is absent or holds more than `capacity` bytes, or
+  /// characters of a text.
   [[nodiscard]] virtual std::optional<RegistryValue> Query(RootKey root, const std::wstring& subkey,
                                                            const std::wstring& name,
                                                            std::size_t capacity) const = 0;

@@ -12,9 +12,10 @@
 namespace tessera {
 namespace {
 
-constexpr std::size_t ValueCapacity = 2048;  // bytes
+constexpr std::size_t ValueCapacity = 2048;  // bytes, or characters of a text
 
 constexpr std::uint32_t TypeText = 1;
+constexpr std::uint32_t TypeExpandableText = 2;
 constexpr std::uint32_t TypeBinary = 3;
 constexpr std::uint32_t TypeNumber = 4;
 
@@ -54,6 +55,12 @@ std::wstring HexadecimalDigits(std::string_view bytes) {
   return result;
 }
 
+/// Deliberate: the last character falls away whether it is the terminator or not.
+template <typename Character>
+std::basic_string<Character> WithoutLast(std::basic_string_view<Character> text) {
+  return std::basic_string<Character>(text.substr(0, text.empty() ? 0 : text.size() - 1));
+}
+
 std::string NumberBytes(std::wstring_view text) {
   auto number = static_cast<std::uint32_t>(RoundTo32Bits(LeadingNumber(text)));
   std::string bytes;
@@ -72,10 +79,11 @@ std::wstring cRegistry::ReadValue(std::wstring_view keyPath, std::wstring_view v
       registry_.Query(address->Root, address->Subkey, std::wstring(valueName), ValueCapacity);
   if (!value) return std::wstring(MissingMarker);
   if (value->Type == TypeBinary) return HexadecimalDigits(value->Bytes);
+  if (value->Type == TypeText || value->Type == TypeExpandableText) {
+    return WithoutLast(std::wstring_view(value->Text));
+  }
   // Deliberate: a number is not formatted; its last byte falls away like a text's terminator.
-  std::string_view text = value->Bytes;
-  if (!text.empty()) text.remove_suffix(1);
-  return Decode(text);
+  return Decode(WithoutLast(std::string_view(value->Bytes)));
 }
 
 void cRegistry::WriteValue(std::wstring_view keyPath, std::wstring_view valueName,
@@ -85,7 +93,7 @@ void cRegistry::WriteValue(std::wstring_view keyPath, std::wstring_view valueNam
   RegistryValue stored;
   stored.Type = static_cast<std::uint32_t>(type);
   if (stored.Type == TypeText) {
-    stored.Bytes = Encode(value) + '\0';
+    stored.Text = std::wstring(value) + L'\0';
   } else if (stored.Type == TypeNumber) {
     stored.Bytes = NumberBytes(value);
   } else {

@@ -1,4 +1,4 @@
-// Names go through as they are; stored texts become bytes of the ANSI code page and back.
+// Names and texts go through as they are; lists of texts become bytes of the ANSI code page.
 #include "platform/win32/WindowsRegistry.h"
 
 #include <windows.h>
@@ -28,7 +28,7 @@ UniqueKey OpenKey(RootKey root, const std::wstring& subkey, REGSAM access) {
   return UniqueKey(status == ERROR_SUCCESS ? key : nullptr);
 }
 
-bool IsText(DWORD type) { return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ; }
+bool IsText(DWORD type) { return type == REG_SZ || type == REG_EXPAND_SZ; }
 
 std::optional<RegistryValue> QueryIn(HKEY key, const std::wstring& name) {
   DWORD type = 0;
@@ -41,10 +41,10 @@ std::optional<RegistryValue> QueryIn(HKEY key, const std::wstring& name) {
                        &size) != ERROR_SUCCESS)
     return std::nullopt;
   bytes.resize(size);
-  if (!IsText(type)) return RegistryValue{type, bytes};
+  if (!IsText(type) && type != REG_MULTI_SZ) return RegistryValue{type, bytes};
   std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
   bytes.copy(reinterpret_cast<char*>(text.data()), text.size() * sizeof(wchar_t));
-  return RegistryValue{type, Encode(text)};
+  return IsText(type) ? RegistryValue{type, {}, text} : RegistryValue{type, Encode(text)};
 }
 
 }  // namespace
@@ -57,7 +57,7 @@ std::optional<RegistryValue> WindowsRegistry::Query(RootKey root, const std::wst
     const UniqueKey key = OpenKey(root, subkey, KEY_QUERY_VALUE | view);
     if (!key) continue;
     const auto value = QueryIn(key.get(), name);
-    if (value && value->Bytes.size() <= capacity) return value;
+    if (value && value->Bytes.size() <= capacity && value->Text.size() <= capacity) return value;
   }
   return std::nullopt;
 }
@@ -69,10 +69,10 @@ bool WindowsRegistry::Set(RootKey root, const std::wstring& subkey, const std::w
                       KEY_SET_VALUE, nullptr, &created, nullptr) != ERROR_SUCCESS)
     return false;
   const UniqueKey key(created);
-  const std::wstring text = IsText(value.Type) ? Decode(value.Bytes) : std::wstring();
-  const void* const data = IsText(value.Type) ? static_cast<const void*>(text.data())
-                                              : static_cast<const void*>(value.Bytes.data());
-  const std::size_t size = IsText(value.Type) ? text.size() * sizeof(wchar_t) : value.Bytes.size();
+  const bool isText = IsText(value.Type);
+  const void* const data = isText ? static_cast<const void*>(value.Text.data())
+                                  : static_cast<const void*>(value.Bytes.data());
+  const std::size_t size = isText ? value.Text.size() * sizeof(wchar_t) : value.Bytes.size();
   return RegSetValueExW(key.get(), name.c_str(), 0, value.Type, static_cast<const BYTE*>(data),
                         static_cast<DWORD>(size)) == ERROR_SUCCESS &&
          RegFlushKey(key.get()) == ERROR_SUCCESS;

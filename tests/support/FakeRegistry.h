@@ -8,7 +8,6 @@
 
 #include "platform/Registry.h"
 #include "tests/support/Log.h"
-#include "text/Text.h"
 
 namespace tessera {
 
@@ -24,7 +23,7 @@ class FakeRegistry final : public Registry {
   /// Stores a text as the system does, with its terminator.
   void SetText(RootKey root, const std::wstring& subkey, const std::wstring& name,
                const std::wstring& text) {
-    Values[{root, subkey, name}] = {1, Encode(text) + '\0'};
+    Values[{root, subkey, name}] = {1, {}, text + L'\0'};
   }
 
   [[nodiscard]] std::optional<RegistryValue> Query(RootKey root, const std::wstring& subkey,
@@ -32,8 +31,10 @@ class FakeRegistry final : public Registry {
                                                    std::size_t capacity) const override {
     Record(L"Query", root, subkey, name);
     const auto found = Values.find({root, subkey, name});
-    if (found == Values.end() || found->second.Bytes.size() > capacity) return std::nullopt;
-    return found->second;
+    if (found == Values.end()) return std::nullopt;
+    const RegistryValue& value = found->second;
+    const bool fits = value.Bytes.size() <= capacity && value.Text.size() <= capacity;
+    return fits ? std::optional(value) : std::nullopt;
   }
 
   bool Set(RootKey root, const std::wstring& subkey, const std::wstring& name,

@@ -23,17 +23,29 @@ class cRegistryTest : public testing::Test {
 };
 
 TEST_F(cRegistryTest, TextIsReadWithoutItsTerminator) {
-  Stored(L"t") = {1, std::string("C:\\TC\0", 6)};
+  Stored(L"t") = {1, {}, std::wstring(L"C:\\TC\0", 6)};
   EXPECT_EQ(values_.ReadValue(KeyPath, L"t"), L"C:\\TC");
 }
 
 TEST_F(cRegistryTest, TextWithoutTerminatorLosesItsLastCharacter) {
-  Stored(L"t") = {2, "abc"};
+  Stored(L"t") = {2, {}, L"abc"};
   EXPECT_EQ(values_.ReadValue(KeyPath, L"t"), L"ab");
 }
 
+TEST_F(cRegistryTest, CharactersOutsideTheCodePageStay) {
+  for (const std::uint32_t type : {1U, 2U}) {
+    Stored(L"t") = {type, {}, std::wstring(L"C:\\\u0141\u00F3d\u017A\0", 8)};
+    EXPECT_EQ(values_.ReadValue(KeyPath, L"t"), L"C:\\\u0141\u00F3d\u017A");
+  }
+}
+
+TEST_F(cRegistryTest, ListOfTextsIsReadInTheCodePage) {
+  Stored(L"l") = {7, std::string("a\0b\0\0", 5)};
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"l"), std::wstring(L"a\0b\0", 4));
+}
+
 TEST_F(cRegistryTest, ValueOfNoBytesIsEmpty) {
-  Stored(L"t") = {1, ""};
+  Stored(L"t") = {1, {}};
   EXPECT_EQ(values_.ReadValue(KeyPath, L"t"), L"");
 }
 
@@ -48,7 +60,7 @@ TEST_F(cRegistryTest, NumberIsReadAsItsFirstThreeBytes) {
 }
 
 TEST_F(cRegistryTest, AbsentValueIsTheMissingMarker) {
-  Stored(L"t") = {1, std::string("x\0", 2)};
+  Stored(L"t") = {1, {}, std::wstring(L"x\0", 2)};
   EXPECT_EQ(values_.ReadValue(KeyPath, L"other"), MissingMarker);
 }
 
@@ -61,10 +73,12 @@ TEST_F(cRegistryTest, UnknownRootIsTheMissingMarker) {
 }
 
 TEST_F(cRegistryTest, ValueAboveTheBufferIsTheMissingMarker) {
-  Stored(L"fits") = {1, std::string(2048, 'x')};
-  Stored(L"long") = {1, std::string(2049, 'x')};
+  Stored(L"fits") = {1, {}, std::wstring(2048, L'\u017B')};
+  Stored(L"long") = {2, {}, std::wstring(2049, L'x')};
+  Stored(L"binary") = {3, std::string(2049, 'x')};
   EXPECT_EQ(values_.ReadValue(KeyPath, L"fits").size(), 2047U);
   EXPECT_EQ(values_.ReadValue(KeyPath, L"long"), MissingMarker);
+  EXPECT_EQ(values_.ReadValue(KeyPath, L"binary"), MissingMarker);
 }
 
 TEST_F(cRegistryTest, RootNameInLowerCaseIsAccepted) {
@@ -91,7 +105,7 @@ TEST_F(cRegistryTest, RootWithoutSubkeyIsItsOwnKey) {
 TEST_F(cRegistryTest, TextIsWrittenWithItsTerminator) {
   values_.WriteValue(KeyPath, L"t", L"ab", 1);
   EXPECT_EQ(Stored(L"t").Type, 1U);
-  EXPECT_EQ(Stored(L"t").Bytes, std::string("ab\0", 3));
+  EXPECT_EQ(Stored(L"t").Text, std::wstring(L"ab\0", 3));
 }
 
 TEST_F(cRegistryTest, NumberIsWrittenAsFourBytes) {

@@ -198,9 +198,9 @@ TEST(HostileValues, FilesThatVanishWhileOpenAreMadeAnewOrAskedFor) {
 TEST(HostileValues, ARegistryValueOfAnotherTypeOrWithoutItsEndLeadsToTheQuestion) {
   const RegistryValue values[] = {
       {4, std::string("\x01\0\0\0", 4)}, {3, "C:\\TC\\Wincmd.ini"},
-      {1, "C:\\TC\\Wincmd.ini"},         {1, ""},
-      {1, std::string("\0\0", 2)},       {7, std::string("a\0b\0\0", 5)},
-      {1, std::string(2000, 'x')},       {99, "\xFF"}};
+      {1, {}, L"C:\\TC\\Wincmd.ini"},    {1, {}, L""},
+      {1, {}, std::wstring(L"\0\0", 2)}, {7, std::string("a\0b\0\0", 5)},
+      {2, {}, std::wstring(2000, L'x')}, {99, "\xFF"}};
   for (const RegistryValue& value : values) {
     World world;
     for (const wchar_t* name : {L"IniFileName", L"InstallDir"}) {

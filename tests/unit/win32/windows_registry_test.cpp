@@ -32,8 +32,20 @@ TEST_F(WindowsRegistryTest, TextIsStoredWithItsTerminatorAndReadBack) {
   const auto value = registry_.Query(RootKey::CurrentUser, subkey_, L"t", 2048);
   ASSERT_TRUE(value);
   EXPECT_EQ(value->Type, 1U);
-  EXPECT_EQ(value->Bytes, std::string("C:\\Total Commander\0", 19));
+  EXPECT_EQ(value->Text, std::wstring(L"C:\\Total Commander\0", 19));
   EXPECT_EQ(texts_.ReadValue(path_, L"t"), L"C:\\Total Commander");
+}
+
+TEST_F(WindowsRegistryTest, CharactersOutsideTheCodePageStay) {
+  const std::wstring folder = L"C:\\\u0141\u00F3d\u017A \u65E5\u672C";
+  texts_.WriteValue(path_, L"t", folder, 1);
+  EXPECT_EQ(texts_.ReadValue(path_, L"t"), folder);
+}
+
+TEST_F(WindowsRegistryTest, TextAboveTheCapacityGivesNothing) {
+  texts_.WriteValue(path_, L"t", std::wstring(9, L'\u0141'), 1);
+  EXPECT_TRUE(registry_.Query(RootKey::CurrentUser, subkey_, L"t", 10));
+  EXPECT_FALSE(registry_.Query(RootKey::CurrentUser, subkey_, L"t", 9));
 }
 
 TEST_F(WindowsRegistryTest, NumberIsStoredAsFourBytes) {
