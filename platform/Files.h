@@ -14,6 +14,7 @@ enum class FileError {
   SharingViolation,
   LockViolation,
   DiskFull,
+  NotSupported,  ///< by the file system; some of networks and of the cloud lack a replace
   // Three ways in which a replace can stop half way; Files::Replace says what each leaves behind.
   UnableToRemoveReplaced,
   UnableToMoveReplacement,
@@ -49,7 +50,8 @@ class Files {
   /// name as it stands on the disk, in that letter case. `path` when there is nothing.
   [[nodiscard]] virtual std::wstring Resolve(const std::wstring& path) const = 0;
 
-  /// Creates or overwrites a file, and returns after its content has reached the disk. On an error
+  /// Creates or overwrites a file, and returns after its content has reached the disk, where the
+  /// file system can tell. On an error
   /// a part of the content may stand there.
   [[nodiscard]] virtual FileError Write(const std::wstring& path, std::string_view bytes) = 0;
 

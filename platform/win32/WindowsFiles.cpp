@@ -18,7 +18,7 @@ constexpr std::size_t LargestStep = 0x40000000;  // bytes read or written by one
 constexpr std::wstring_view LongPrefix = L"\\\\?\\";
 constexpr std::wstring_view LongSharePrefix = L"\\\\?\\UNC\\";
 
-constexpr std::array<std::pair<DWORD, FileError>, 10> Errors{{
+constexpr std::array<std::pair<DWORD, FileError>, 13> Errors{{
     {ERROR_FILE_NOT_FOUND, FileError::NotFound},
     {ERROR_PATH_NOT_FOUND, FileError::NotFound},
     {ERROR_ACCESS_DENIED, FileError::AccessDenied},
@@ -26,6 +26,9 @@ constexpr std::array<std::pair<DWORD, FileError>, 10> Errors{{
     {ERROR_LOCK_VIOLATION, FileError::LockViolation},
     {ERROR_HANDLE_DISK_FULL, FileError::DiskFull},
     {ERROR_DISK_FULL, FileError::DiskFull},
+    {ERROR_INVALID_FUNCTION, FileError::NotSupported},
+    {ERROR_NOT_SUPPORTED, FileError::NotSupported},
+    {ERROR_INVALID_PARAMETER, FileError::NotSupported},
     {ERROR_UNABLE_TO_REMOVE_REPLACED, FileError::UnableToRemoveReplaced},
     {ERROR_UNABLE_TO_MOVE_REPLACEMENT, FileError::UnableToMoveReplacement},
     {ERROR_UNABLE_TO_MOVE_REPLACEMENT_2, FileError::UnableToMoveReplacement2},
@@ -54,6 +57,23 @@ std::wstring WithoutLongPrefix(const std::wstring& path) {
   if (path.starts_with(LongSharePrefix)) return L"\\\\" + path.substr(LongSharePrefix.size());
   if (path.starts_with(LongPrefix)) return path.substr(LongPrefix.size());
   return path;
+}
+
+/// The path behind an open file, with the volume named by its letter or by its number (`volume`);
+/// empty where it has no such name.
+std::wstring FinalPath(HANDLE file, DWORD volume) {
+  const DWORD length = GetFinalPathNameByHandleW(file, nullptr, 0, volume);
+  std::wstring path(length, L'\0');
+  const DWORD written = GetFinalPathNameByHandleW(file, path.data(), length, volume);
+  path.resize(written < length ? written : 0);
+  return path;
+}
+
+/// Takes a file's protection from being written away; false when there is none, or it stays.
+bool RemoveProtection(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0 &&
+         SetFileAttributesW(path.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY}) != FALSE;
 }
 
 UniqueHandle OpenExisting(const std::wstring& path, DWORD access) {
@@ -125,13 +145,11 @@ std::wstring WindowsFiles::Resolve(const std::wstring& path) const {
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return WithNameOnDisk(path);
   const UniqueHandle file = OpenExisting(path, FILE_READ_ATTRIBUTES);
   if (!file) return path;
-  const DWORD length = GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED);
-  std::wstring final(length, L'\0');
-  const DWORD written =
-      GetFinalPathNameByHandleW(file.get(), final.data(), length, FILE_NAME_NORMALIZED);
-  if (written == 0 || written >= length) return path;
-  final.resize(written);
-  return WithoutLongPrefix(final);
+  const std::wstring named = FinalPath(file.get(), VOLUME_NAME_DOS);
+  if (!named.empty()) return WithoutLongPrefix(named);
+  // A volume that is mounted in a folder alone has no letter; its number needs the prefix.
+  const std::wstring numbered = FinalPath(file.get(), VOLUME_NAME_GUID);
+  return numbered.empty() ? path : numbered;
 }
 
 FileError WindowsFiles::Write(const std::wstring& path, std::string_view bytes) {
@@ -146,7 +164,8 @@ FileError WindowsFiles::Write(const std::wstring& path, std::string_view bytes) 
     if (count == 0) return FileError::Other;
     bytes.remove_prefix(count);
   }
-  return ResultOf(FlushFileBuffers(file.get()));
+  const FileError flushed = ResultOf(FlushFileBuffers(file.get()));
+  return flushed == FileError::NotSupported ? FileError::None : flushed;
 }
 
 FileError WindowsFiles::Replace(const std::wstring& target, const std::wstring& replacement,
@@ -157,8 +176,14 @@ FileError WindowsFiles::Replace(const std::wstring& target, const std::wstring& 
 }
 
 FileError WindowsFiles::Move(const std::wstring& from, const std::wstring& to) {
-  return ResultOf(MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(),
-                              MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+  const auto move = [from = SystemPath(from), to = SystemPath(to)] {
+    return ResultOf(
+        MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+  };
+  const FileError error = move();
+  // A backup is as protected as the file was that it was made of.
+  const bool again = error == FileError::AccessDenied && RemoveProtection(SystemPath(to));
+  return again ? move() : error;
 }
 
 FileError WindowsFiles::Remove(const std::wstring& path) {

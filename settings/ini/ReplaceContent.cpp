@@ -76,6 +76,18 @@ FileError CompareWith(const std::string& content, const Files& files, const std:
                                                         : FileError::None;
 }
 
+/// A swap where the file system has no replace: the target's name is free for a moment, and the
+/// former content is whole under one of two names all the time.
+FileError SwapByMoves(Files& files, const Names& names) {
+  const FileError error = files.Move(names.Target, names.Former());
+  // A target that is not there may stand aside already, after a try that could not be undone.
+  if (error != FileError::None && error != FileError::NotFound) return error;
+  const FileError moved = files.Move(names.Prepared(), names.Target);
+  const bool mustReturn = moved != FileError::None && error == FileError::None;
+  if (mustReturn) static_cast<void>(files.Move(names.Former(), names.Target));
+  return moved;
+}
+
 /// One try to put the prepared content in place. After an error the former content is in place
 /// again, unless nothing could be renamed to the target's name; then it stands under its own.
 FileError Swap(Files& files, const Names& names) {
@@ -83,6 +95,7 @@ FileError Swap(Files& files, const Names& names) {
   // The replace itself finds out whether there is a target: a separate look could take a file that
   // cannot be reached for one that is not there, and overwrite it.
   if (error == FileError::NotFound) return files.Move(names.Prepared(), names.Target);
+  if (error == FileError::NotSupported) return SwapByMoves(files, names);
   if (error != FileError::UnableToMoveReplacement2) return error;
   if (files.Move(names.Former(), names.Target) == FileError::None) return error;
   // The target's name is free, and the former content is safe under another one.

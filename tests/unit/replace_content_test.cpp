@@ -127,6 +127,51 @@ TEST_F(ReplaceContentTest, FailureWithoutCopiesLeavesNothingBeside) {
   EXPECT_EQ(files_.Contents, (FileTable{{Path, "old"}}));
 }
 
+TEST_F(ReplaceContentTest, WhereNoReplaceIsSupportedBothFilesAreRenamed) {
+  files_.Contents = {{Path, "old"}, {Backup, "older"}};
+  files_.ReplaceErrors = {FileError::NotSupported};
+  EXPECT_EQ(Save(KeepCopies::Yes), FileError::None);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "new"}, {Backup, "old"}}));
+  EXPECT_EQ(clock_.SleepCount, 0);
+
+  files_.ReplaceErrors = {FileError::NotSupported};
+  EXPECT_EQ(Save(KeepCopies::No), FileError::None);
+  EXPECT_FALSE(files_.Contents.contains(Former));
+}
+
+TEST_F(ReplaceContentTest, WhereNoReplaceIsSupportedAMissingFileIsCreated) {
+  files_.ReplaceErrors = {FileError::NotSupported};
+  EXPECT_EQ(Save(KeepCopies::Yes), FileError::None);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "new"}}));
+}
+
+TEST_F(ReplaceContentTest, RenamedFileReturnsWhenTheNewOneCannotTakeItsName) {
+  files_.Contents = {{Path, "old"}, {Backup, "older"}};
+  files_.ReplaceErrors = {FileError::NotSupported};
+  files_.MoveErrors = {FileError::None, FileError::Other};
+  EXPECT_EQ(Save(KeepCopies::Yes), FileError::Other);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "old"}, {Backup, "older"}, {Unsaved, "new"}}));
+}
+
+TEST_F(ReplaceContentTest, RenamedFileThatCannotReturnIsWholeUnderItsOtherName) {
+  files_.Contents = {{Path, "old"}};
+  files_.ReplaceErrors = {FileError::NotSupported};
+  files_.MoveErrors = {FileError::None, FileError::Other, FileError::Other};
+  EXPECT_EQ(Save(KeepCopies::Yes), FileError::Other);
+  EXPECT_EQ(files_.Contents, (FileTable{{Former, "old"}, {Unsaved, "new"}}));
+  ClearLeftOvers(files_, Path, KeepCopies::Yes);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "old"}, {Unsaved, "new"}}));
+}
+
+TEST_F(ReplaceContentTest, RenamedFileHeldForAMomentIsTriedAgain) {
+  files_.Contents = {{Path, "old"}};
+  files_.ReplaceErrors = {FileError::NotSupported, FileError::NotSupported};
+  files_.MoveErrors = {FileError::SharingViolation};
+  EXPECT_EQ(Save(KeepCopies::Yes), FileError::None);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "new"}, {Backup, "old"}}));
+  EXPECT_GT(clock_.SleepCount, 0);
+}
+
 TEST_F(ReplaceContentTest, HalfDoneReplaceIsUndoneAndTriedAgain) {
   files_.Contents = {{Path, "old"}, {Backup, "older"}};
   files_.ReplaceErrors = {FileError::UnableToMoveReplacement2};
@@ -202,7 +247,8 @@ std::optional<FaultyFiles> KilledAfter(int steps, KeepCopies copies, FileError f
 
 TEST(ReplaceContent, KillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
   for (const KeepCopies copies : {KeepCopies::No, KeepCopies::Yes}) {
-    for (const FileError error : {FileError::None, FileError::UnableToMoveReplacement2}) {
+    for (const FileError error :
+         {FileError::None, FileError::UnableToMoveReplacement2, FileError::NotSupported}) {
       int steps = 0;
       while (auto files = KilledAfter(steps, copies, error)) {
         ClearLeftOvers(*files, Path, copies);

@@ -118,6 +118,15 @@ TEST_F(WindowsFilesTest, MoveReplacesItsTarget) {
   EXPECT_FALSE(files_.Exists(At(L"b")));
 }
 
+// Wine replaces it in any case; Windows only when it is no longer protected.
+TEST_F(WindowsFilesTest, MoveReplacesAReadOnlyTarget) {
+  Put(L"a", "old");
+  Put(L"b", "new");
+  ASSERT_TRUE(SetFileAttributesW(At(L"a").c_str(), FILE_ATTRIBUTE_READONLY));
+  EXPECT_EQ(files_.Move(At(L"b"), At(L"a")), FileError::None);
+  EXPECT_EQ(ContentOf(L"a"), "new");
+}
+
 TEST_F(WindowsFilesTest, FileHeldOpenIsReadButNotReplaced) {
   Put(L"a", "old");
   Put(L"b", "new");
