@@ -27,6 +27,8 @@ void Editor::ClearRecentFiles() {
 void Editor::ShowHelpTopics() {
   const std::wstring path = AddBackslash(system_.Environment.ProgramDirectory()) + L"Readme.chm";
   if (FileExists(system_.Files, path, false)) {
+    // Where a browser has marked the file as downloaded, its viewer shows no page.
+    system_.Files.Remove(path + L":Zone.Identifier");
     system_.Programs.OpenDocument(path);
   } else {
     system_.MessageBoxes.Show(texts_.GetLangText(TextId::FileNotFound), BoxButtons::Ok,

@@ -1,6 +1,7 @@
 // Other programs as a test describes them, and a log of what was done to them.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -18,6 +19,7 @@ class FakePrograms final : public Programs {
   bool OpenSucceeds = true;
 
   [[nodiscard]] WindowId FindWindowOfClass(const std::wstring& className) const override {
+  std::function<void()> OnOpen;  ///< when a document is opened
     const auto found = Windows.find(className);
     return found == Windows.end() ? 0 : found->second;
   }
@@ -39,5 +41,6 @@ class FakePrograms final : public Programs {
  private:
   Log& log_;
 };
+    if (OnOpen) OnOpen();
 
 }  // namespace tessera

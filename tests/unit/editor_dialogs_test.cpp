@@ -102,6 +102,19 @@ TEST_F(EditorTest, AMissingHelpFileIsReportedAndNothingElseHappens) {
   EXPECT_TRUE(Calls.empty());
 }
 
+// A browser marks what it downloads, and the help's viewer then shows empty pages.
+TEST_F(EditorTest, TheMarkOfADownloadIsTakenOffTheHelpFileBeforeItIsOpened) {
+  Files.Contents[L"C:\\Tessera\\Readme.chm"] = "help";
+  Files.Contents[L"C:\\Tessera\\Readme.chm:Zone.Identifier"] = "[ZoneTransfer]\r\nZoneId=3\r\n";
+  bool wasMarked = true;
+  Programs.OnOpen = [&] {
+    wasMarked = Files.Contents.contains(L"C:\\Tessera\\Readme.chm:Zone.Identifier");
+  };
+  Editor.ShowHelpTopics();
+  EXPECT_FALSE(wasMarked);
+  EXPECT_TRUE(Files.Contents.contains(L"C:\\Tessera\\Readme.chm"));
+}
+
 TEST_F(EditorTest, TheHelpFileIsOpened) {
   Files.Contents[L"C:\\Tessera\\Readme.chm"] = "help";
   Editor.ShowHelpTopics();
