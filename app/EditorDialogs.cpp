@@ -41,7 +41,9 @@ ClipboardExport& Editor::BeginExport() {
   return export_;
 }
 
-void Editor::EndExport() { export_.CopyTo(system_.Clipboard, document_.Modified()); }
+void Editor::EndExport() {
+  if (!export_.CopyTo(system_.Clipboard, document_.Modified())) system_.MessageBoxes.Beep();
+}
 
 OptionsSelection& Editor::BeginOptions() {
   options_.RememberLanguage();

@@ -27,10 +27,10 @@ void ClipboardExport::Ok() {
 
 void ClipboardExport::Cancel() { exportText_.clear(); }
 
-void ClipboardExport::CopyTo(Clipboard& clipboard, bool modified) const {
-  if (!exportText_.empty()) {
-    clipboard.SetText(exportText_ + BuildExportEnding(catalogue_.StartMenuKeys, modified, texts_));
-  }
+bool ClipboardExport::CopyTo(Clipboard& clipboard, bool modified) const {
+  if (exportText_.empty()) return true;
+  return clipboard.SetText(exportText_ +
+                           BuildExportEnding(catalogue_.StartMenuKeys, modified, texts_));
 }
 
 }  // namespace tessera

@@ -8,7 +8,7 @@ namespace tessera {
 namespace {
 
 constexpr int OpenAttempts = 10;
-constexpr DWORD PauseBetweenAttempts = 20;  // milliseconds
+constexpr DWORD PauseBetweenAttempts = 50;  // milliseconds
 
 struct GlobalDeleter {
   void operator()(void* memory) const noexcept { GlobalFree(memory); }
@@ -53,15 +53,15 @@ UniqueGlobal ToGlobal(const std::wstring& text) {
 
 WindowsClipboard::WindowsClipboard(const OwnerWindow& owner) : owner_(owner) {}
 
-void WindowsClipboard::SetText(const std::wstring& text) {
+bool WindowsClipboard::SetText(const std::wstring& text) {
   UniqueGlobal memory = ToGlobal(text);
-  if (!memory) return;
+  if (!memory) return false;
   const OpenedClipboard clipboard(owner_.Current());
-  if (!clipboard.IsOpen() || EmptyClipboard() == FALSE) return;
+  if (!clipboard.IsOpen() || EmptyClipboard() == FALSE) return false;
   // Text that the clipboard has taken belongs to the system.
-  if (SetClipboardData(CF_UNICODETEXT, memory.get()) != nullptr) {
-    static_cast<void>(memory.release());
-  }
+  if (SetClipboardData(CF_UNICODETEXT, memory.get()) == nullptr) return false;
+  static_cast<void>(memory.release());
+  return true;
 }
 
 }  // namespace tessera

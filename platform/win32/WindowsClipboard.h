@@ -10,7 +10,7 @@ class WindowsClipboard final : public Clipboard {
  public:
   explicit WindowsClipboard(const OwnerWindow& owner);
 
-  void SetText(const std::wstring& text) override;
+  bool SetText(const std::wstring& text) override;
 
  private:
   const OwnerWindow& owner_;

@@ -12,7 +12,12 @@ class FakeClipboard final : public Clipboard {
  public:
   std::vector<std::wstring> Texts;  ///< the last one is on the clipboard
 
-  void SetText(const std::wstring& text) override { Texts.push_back(text); }
+  bool IsHeld = false;  ///< by another program
+
+  bool SetText(const std::wstring& text) override {
+    if (!IsHeld) Texts.push_back(text);
+    return !IsHeld;
+  }
 };
 
 }  // namespace tessera

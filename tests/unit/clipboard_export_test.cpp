@@ -47,7 +47,7 @@ TEST_F(ClipboardExportTest, CancelStoresNothingAndLeavesTheClipboardAlone) {
   export_.Load(settingsFile_.Read());
   export_.Click(Column::Description);
   export_.Cancel();
-  export_.CopyTo(clipboard_, true);
+  EXPECT_TRUE(export_.CopyTo(clipboard_, true));
   EXPECT_TRUE(clipboard_.Texts.empty());
   EXPECT_FALSE(files_.Contents.contains(SettingsName));
 }
@@ -60,7 +60,7 @@ TEST_F(ClipboardExportTest, CancelForgetsTheTableOfTheOkBefore) {
 }
 
 TEST_F(ClipboardExportTest, BeforeTheFirstOkNothingIsCopied) {
-  export_.CopyTo(clipboard_, true);
+  EXPECT_TRUE(export_.CopyTo(clipboard_, true));
   EXPECT_TRUE(clipboard_.Texts.empty());
 }
 
@@ -69,8 +69,8 @@ TEST_F(ClipboardExportTest, TheTableOfTheLastOkIsCopiedAgainWhenTheDialogIsOnlyC
   const std::wstring table = export_.ExportText();
   export_.Click(Column::Description);
   catalogue_.ListView1.Edit(sample::Pack).CurrentKeys = L"X";
-  export_.CopyTo(clipboard_, false);
-  export_.CopyTo(clipboard_, false);
+  EXPECT_TRUE(export_.CopyTo(clipboard_, false));
+  EXPECT_TRUE(export_.CopyTo(clipboard_, false));
   EXPECT_EQ(clipboard_.Texts, (std::vector<std::wstring>{table + L"\r\n", table + L"\r\n"}));
   Ok();
   EXPECT_NE(export_.ExportText(), table);
@@ -89,7 +89,7 @@ TEST_F(ClipboardExportTest, OkTakesTheChosenColumnsAndTheUndefinedMarkerInForce)
 TEST_F(ClipboardExportTest, StartMenuKeysFollowTheTable) {
   catalogue_.StartMenuKeys[2] = {L"Ctrl + Alt + F3", L"Notes", L"key3"};
   Ok();
-  export_.CopyTo(clipboard_, false);
+  EXPECT_TRUE(export_.CopyTo(clipboard_, false));
   ASSERT_EQ(clipboard_.Texts.size(), 1U);
   EXPECT_TRUE(clipboard_.Texts[0].starts_with(export_.ExportText()));
   EXPECT_TRUE(clipboard_.Texts[0].ends_with(L"=\r\nNotes\tCtrl + Alt + F3\r\n"));
@@ -97,11 +97,11 @@ TEST_F(ClipboardExportTest, StartMenuKeysFollowTheTable) {
 
 TEST_F(ClipboardExportTest, EachExportOfUnsavedChangesWarnsAndNoneAfterASave) {
   Ok();
-  export_.CopyTo(clipboard_, true);
+  EXPECT_TRUE(export_.CopyTo(clipboard_, true));
   Ok();
-  export_.CopyTo(clipboard_, true);
+  EXPECT_TRUE(export_.CopyTo(clipboard_, true));
   Ok();
-  export_.CopyTo(clipboard_, false);
+  EXPECT_TRUE(export_.CopyTo(clipboard_, false));
   ASSERT_EQ(clipboard_.Texts.size(), 3U);
   EXPECT_NE(clipboard_.Texts[0].find(L"=   Important   ="), std::wstring::npos);
   EXPECT_EQ(clipboard_.Texts[1], clipboard_.Texts[0]);
@@ -111,7 +111,7 @@ TEST_F(ClipboardExportTest, EachExportOfUnsavedChangesWarnsAndNoneAfterASave) {
 TEST_F(ClipboardExportTest, ASettingsFileThatCannotBeWrittenSpoilsNoExport) {
   files_.WriteErrors = {FileError::AccessDenied};
   Ok();
-  export_.CopyTo(clipboard_, false);
+  EXPECT_TRUE(export_.CopyTo(clipboard_, false));
   EXPECT_EQ(clipboard_.Texts.size(), 1U);
 }
 

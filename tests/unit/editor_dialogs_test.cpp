@@ -124,6 +124,20 @@ TEST_F(EditorTest, TheHelpFileIsOpened) {
 
 // -- Dialogs
 
+TEST_F(EditorTest, AnExportThatTheClipboardDoesNotTakeBeeps) {
+  Start();
+  Editor.EndExport();
+  EXPECT_EQ(MessageBoxes.BeepCount, 0) << "there is nothing to copy";
+  Clipboard.IsHeld = true;
+  Editor.BeginExport().Ok();
+  Editor.EndExport();
+  EXPECT_EQ(MessageBoxes.BeepCount, 1);
+  Clipboard.IsHeld = false;
+  Editor.EndExport();
+  EXPECT_EQ(MessageBoxes.BeepCount, 1);
+  EXPECT_EQ(Clipboard.Texts.size(), 1U);
+}
+
 TEST_F(EditorTest, TheExportFollowsTheListAndWarnsOfUnsavedChanges) {
   Start();
   Assign(Pack, L"X");

@@ -2,6 +2,7 @@
 #include <windows.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <thread>
 
@@ -35,7 +36,7 @@ class WindowsClipboardTest : public testing::Test {
 };
 
 TEST_F(WindowsClipboardTest, TextReplacesWhatWasThere) {
-  clipboard_.SetText(L"first");
+  EXPECT_TRUE(clipboard_.SetText(L"first"));
   EXPECT_EQ(ClipboardText(), L"first");
   clipboard_.SetText(L"a\tb\r\n\x017C\x3042");
   EXPECT_EQ(ClipboardText(), L"a\tb\r\n\x017C\x3042");
@@ -47,16 +48,39 @@ TEST_F(WindowsClipboardTest, AClipboardThatIsHeldForAMomentIsWaitedFor) {
     const HWND window = MakeWindow();
     const bool opened = OpenClipboard(window) != FALSE;
     SetEvent(held);
-    Sleep(60);
+    Sleep(300);
     if (opened) CloseClipboard();
     DestroyWindow(window);
     EXPECT_TRUE(opened);
   });
   WaitForSingleObject(held, 5000);
-  clipboard_.SetText(L"after a wait");
+  EXPECT_TRUE(clipboard_.SetText(L"after a wait"));
   holder.join();
   CloseHandle(held);
   EXPECT_EQ(ClipboardText(), L"after a wait");
+}
+
+TEST_F(WindowsClipboardTest, AClipboardThatIsHeldForLongIsTold) {
+  EXPECT_TRUE(clipboard_.SetText(L"before"));
+  const HANDLE held = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  const HANDLE tried = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  std::thread holder([held, tried] {
+    const HWND window = MakeWindow();
+    EXPECT_TRUE(OpenClipboard(window));
+    SetEvent(held);
+    WaitForSingleObject(tried, 10000);
+    CloseClipboard();
+    DestroyWindow(window);
+  });
+  WaitForSingleObject(held, 5000);
+  const std::uint64_t start = GetTickCount64();
+  EXPECT_FALSE(clipboard_.SetText(L"never"));
+  EXPECT_GE(GetTickCount64() - start, 400U);
+  SetEvent(tried);
+  holder.join();
+  CloseHandle(tried);
+  CloseHandle(held);
+  EXPECT_EQ(ClipboardText(), L"before");
 }
 
 }  // namespace
