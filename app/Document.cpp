@@ -133,7 +133,7 @@ void Document::Save(bool restarts) {
     return;
   }
   const BusyTime busy(busy_);
-  if (restarts) Restart(true);
+  const bool mayStart = restarts && Restart(true);
   const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0, &known_};
   const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.Files,
                                         system_.Clock, inputFiles_.CommanderVariables());
@@ -142,13 +142,15 @@ void Document::Save(bool restarts) {
   } else {
     system_.MessageBoxes.Beep();
   }
-  if (restarts) Restart(false);
+  const bool started = mayStart && Restart(false);
+  // It runs on with its former keys, which it would not tell by itself.
+  if (restarts && !started) system_.MessageBoxes.Beep();
 }
 
-/// Closes Total Commander before the save, or starts it after that.
-void Document::Restart(bool closeIt) {
-  RestartTotalCommander(system_.Programs, system_.Clock, system_.Files, system_.Environment,
-                        {.WincmdPath = wincmdPath_, .CloseIt = closeIt});
+/// Closes Total Commander before the save, or starts it after that. False when it cannot be closed.
+bool Document::Restart(bool closeIt) {
+  return RestartTotalCommander(system_.Programs, system_.Clock, system_.Files, system_.Environment,
+                               {.WincmdPath = wincmdPath_, .CloseIt = closeIt});
 }
 
 void Document::SetModified(bool modified) {

@@ -83,7 +83,7 @@ class Document : Pinned {
   void ReadMasterRows(const ProgressStep& step);
   [[nodiscard]] BoxAnswer AskToSaveChanges();
   void Save(bool restarts);
-  void Restart(bool closeIt);
+  [[nodiscard]] bool Restart(bool closeIt);
 
   System system_;
   const Texts& texts_;

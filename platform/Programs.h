@@ -18,11 +18,16 @@ class Programs {
 
   virtual void SetForeground(WindowId window) = 0;
 
-  /// Sends the close request and waits until the window has taken it; a program that hangs is not
-  /// waited for, one that asks its user something is for ten minutes.
-  virtual void SendClose(WindowId window) = 0;
+  /// Sends the close request, and does not wait. False when the system forbids it, as it does to a
+  /// program of more rights.
+  virtual bool SendClose(WindowId window) = 0;
 
-  /// Starts a command line in a normal window, and does not wait for it; false when that fails.
+  /// True while the window that was last sent one is at work on it; false when its program hangs or
+  /// has ended, and when this one is to end. The answer comes while window events are handled.
+  [[nodiscard]] virtual bool AwaitsAnswer() const = 0;
+
+  /// Starts a command line in a normal window and in the folder of its program, and does not wait
+  /// for it; false when that fails, as where no part of an unquoted line is a file.
   virtual bool Start(const std::wstring& commandLine) = 0;
 
   /// Opens a document with the program registered for it; false when that fails.

@@ -1,7 +1,11 @@
 // Other programs' windows and processes on this desktop.
 #pragma once
 
+#include <cstdint>
+#include <memory>
+
 #include "platform/Programs.h"
+#include "platform/win32/Handle.h"
 #include "platform/win32/OwnerWindow.h"
 
 namespace tessera {
@@ -12,12 +16,19 @@ class WindowsPrograms final : public Programs {
 
   [[nodiscard]] WindowId FindWindowOfClass(const std::wstring& className) const override;
   void SetForeground(WindowId window) override;
-  void SendClose(WindowId window) override;
+  bool SendClose(WindowId window) override;
+  [[nodiscard]] bool AwaitsAnswer() const override;
   bool Start(const std::wstring& commandLine) override;
   bool OpenDocument(const std::wstring& path) override;
 
  private:
   const OwnerWindow& owner_;
+
+  // The last close request. The system may bring an answer after nobody waits for it any more.
+  std::shared_ptr<bool> answered_ = std::make_shared<bool>(true);
+  HWND asked_ = nullptr;
+  UniqueHandle askedProcess_;  ///< empty when it may not be opened
+  std::uint64_t askedAt_ = 0;  ///< milliseconds
 };
 
 }  // namespace tessera

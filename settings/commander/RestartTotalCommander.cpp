@@ -10,6 +10,9 @@ constexpr float PauseLength = 0.5F;               // seconds
 constexpr std::uint64_t PauseMilliseconds = 500;  // the same
 constexpr int PauseStep = 5;  // milliseconds; keeps the pause from taking a whole processor
 
+// Milliseconds. A program that is closing may be asking its user something meanwhile.
+constexpr std::uint64_t LongestWaitForAnswer = 600000;
+
 std::wstring ExecutablePath(const Files& files, const Environment& environment) {
   // Deliberate: an unset variable gives "\", so no other place is ever looked at.
   const std::wstring directory = AddBackslash(environment.Variable(L"Commander_Path"));
@@ -18,6 +21,15 @@ std::wstring ExecutablePath(const Files& files, const Environment& environment) 
   const std::wstring only64Bit = folder + L"Totalcmd64.exe";
   const bool use64Bit = !FileExists(files, usual, false) && FileExists(files, only64Bit, false);
   return use64Bit ? only64Bit : usual;
+}
+
+/// Events are handled meanwhile: a window that does not is taken for one that hangs.
+void WaitForAnswer(const Programs& programs, Clock& clock) {
+  const std::uint64_t end = clock.Milliseconds() + LongestWaitForAnswer;
+  while (programs.AwaitsAnswer() && clock.Milliseconds() < end) {
+    clock.DoEvents();
+    clock.Sleep(PauseStep);
+  }
 }
 
 }  // namespace
@@ -39,19 +51,24 @@ void Pause(Clock& clock) {
   }
 }
 
-void RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
+bool RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
                            const Environment& environment, const RestartRequest& request) {
   const std::wstring executable = ExecutablePath(files, environment);
   const WindowId window = FindTotalCommander(programs);
+  bool allowed = true;
   if (window != 0) {
     programs.SetForeground(window);
-    if (request.CloseIt) programs.SendClose(window);
+    if (request.CloseIt) {
+      allowed = programs.SendClose(window);
+      WaitForAnswer(programs, clock);
+    }
   }
   Pause(clock);
-  if (request.CloseIt) return;
+  if (request.CloseIt) return allowed;
   const std::wstring arguments = request.ArgPrefix + L'"' + request.WincmdPath + L'"';
   // The user's keys are saved by now; that Total Commander does not start is plain to see.
   static_cast<void>(programs.Start(request.WithIni ? executable + arguments : executable));
+  return true;
 }
 
 }  // namespace tessera

@@ -26,8 +26,11 @@ struct RestartRequest {
 
 /// Closes or starts Total Commander. The program that is started is "Totalcmd.exe" in the folder
 /// that Commander_Path names ("\" when it is not set, deliberately), or "Totalcmd64.exe" there when
-/// only that one exists. A start that fails is ignored.
-void RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
-                           const Environment& environment, const RestartRequest& request);
+/// only that one exists. A start that fails is ignored. Until Total Commander has answered the
+/// request to close, which may take it a question to its user, events are handled, for ten minutes
+/// at most. False when it may not be asked: it stays, and another one must not be started.
+[[nodiscard]] bool RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
+                                         const Environment& environment,
+                                         const RestartRequest& request);
 
 }  // namespace tessera

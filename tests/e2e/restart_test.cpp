@@ -78,6 +78,24 @@ TEST_F(RestartTest, SaveAndRestartClosesItBeforeTheSaveAndStartsItAfterwards) {
                        CommandLineAfterRestart() + "\n");
 }
 
+TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
+  WriteBytes(folder_.Commander() + L"slow", "");
+  StartStandIn();
+  StartAndLoad();
+  MakeAChange();
+  window_->Command(IDM_restarttc);
+  WaitFor("the close request", [&] { return Log().ends_with("close\n"); });
+  const HWND list = window_->Control(IDC_ListView1);
+  InvalidateRect(list, nullptr, TRUE);
+  WaitFor("the list to be painted", [&] { return GetUpdateRect(list, nullptr, FALSE) == FALSE; });
+  EXPECT_NE(StandInWindow(), nullptr) << "it was painted too late to tell anything";
+  EXPECT_TRUE(Modified()) << "the save comes after the close";
+  WaitFor("the save to end", [&] { return !Modified(); });
+  standIn_->WaitForEnd();
+  static_cast<void>(WaitForStandIn());
+  EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();
+}
+
 TEST_F(RestartTest, ItemsAreEnabledWhileItRunsAndThereAreChanges) {
   const std::wstring caption = L"Save and Restart Bainioka";
   const auto closeMenu = [&] {

@@ -15,19 +15,25 @@ class FakePrograms final : public Programs {
   explicit FakePrograms(Log& log) : log_(log) {}
 
   std::map<std::wstring, WindowId> Windows;  ///< by class name
+  bool CloseIsAllowed = true;
+  mutable int PollsBeforeAnswer = 0;  ///< how often one is still awaited; negative: for ever
   bool StartSucceeds = true;
   bool OpenSucceeds = true;
+  std::function<void()> OnOpen;  ///< when a document is opened
 
   [[nodiscard]] WindowId FindWindowOfClass(const std::wstring& className) const override {
-  std::function<void()> OnOpen;  ///< when a document is opened
     const auto found = Windows.find(className);
     return found == Windows.end() ? 0 : found->second;
   }
   void SetForeground(WindowId window) override {
     log_.push_back(L"SetForeground " + std::to_wstring(window));
   }
-  void SendClose(WindowId window) override {
+  bool SendClose(WindowId window) override {
     log_.push_back(L"SendClose " + std::to_wstring(window));
+    return CloseIsAllowed;
+  }
+  [[nodiscard]] bool AwaitsAnswer() const override {
+    return PollsBeforeAnswer != 0 && PollsBeforeAnswer-- != 0;
   }
   bool Start(const std::wstring& commandLine) override {
     log_.push_back(L"Start " + commandLine);
@@ -35,12 +41,12 @@ class FakePrograms final : public Programs {
   }
   bool OpenDocument(const std::wstring& path) override {
     log_.push_back(L"OpenDocument " + path);
+    if (OnOpen) OnOpen();
     return OpenSucceeds;
   }
 
  private:
   Log& log_;
 };
-    if (OnOpen) OnOpen();
 
 }  // namespace tessera

@@ -158,6 +158,18 @@ TEST_F(EditorTest, SaveAndRestartClosesWritesAndStarts) {
   EXPECT_EQ(Editor.Options().AlwaysRestartTC, 0);
 }
 
+// One that runs with more rights than this program: a second one beside it would help nobody.
+TEST_F(EditorTest, ATotalCommanderThatMayNotBeClosedIsNotStartedAgain) {
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Programs.CloseIsAllowed = false;
+  Start();
+  Assign(Pack, L"X");
+  Editor.FileSaveAndRestart();
+  EXPECT_EQ(Calls, (Log{L"SetForeground 7", L"SendClose 7"}));
+  EXPECT_EQ(MessageBoxes.BeepCount, 1);
+  EXPECT_FALSE(Editor.Document().Modified()) << "the keys are saved";
+}
+
 TEST_F(EditorTest, WithTheSettingEverySaveRestartsAndOneThatIsNotRunningIsStarted) {
   StoredSettings() = "[Tessera]\r\nAlwaysRestartTC=1\r\n";
   Start();

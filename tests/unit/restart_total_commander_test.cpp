@@ -14,14 +14,14 @@ class RestartTotalCommanderTest : public testing::Test {
  protected:
   RestartTotalCommanderTest() { environment_.Variables[L"Commander_Path"] = L"C:\\TC"; }
 
-  void Run(bool closeIt) {
+  bool Run(bool closeIt) {
     RestartRequest request;
     request.WincmdPath = L"C:\\My Files\\Wincmd.ini";
     request.CloseIt = closeIt;
-    Run(request);
+    return Run(request);
   }
-  void Run(const RestartRequest& request) {
-    RestartTotalCommander(programs_, clock_, files_, environment_, request);
+  bool Run(const RestartRequest& request) {
+    return RestartTotalCommander(programs_, clock_, files_, environment_, request);
   }
 
   Log log_;
@@ -35,6 +35,28 @@ TEST_F(RestartTotalCommanderTest, CloseSendsOneRequestThenPauses) {
   programs_.Windows[L"TTOTAL_CMD"] = 7;
   Run(true);
   EXPECT_EQ(log_, (Log{L"SetForeground 7", L"SendClose 7", L"DoEvents"}));
+}
+
+TEST_F(RestartTotalCommanderTest, CloseHandlesEventsUntilTheAnswer) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  programs_.PollsBeforeAnswer = 1000;
+  EXPECT_TRUE(Run(true));
+  EXPECT_EQ(programs_.PollsBeforeAnswer, 0);
+  EXPECT_GE(clock_.DoEventsCount, 1000);
+  EXPECT_EQ(log_, (Log{L"SetForeground 7", L"SendClose 7", L"DoEvents"})) << "one request";
+}
+
+TEST_F(RestartTotalCommanderTest, CloseWaitsForTenMinutesAtMost) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  programs_.PollsBeforeAnswer = -1;
+  EXPECT_TRUE(Run(true)) << "a window that merely stays changes nothing";
+  EXPECT_EQ(clock_.SleptMilliseconds, 600000 + 500);
+}
+
+TEST_F(RestartTotalCommanderTest, OneThatMayNotBeAskedToCloseIsTold) {
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  programs_.CloseIsAllowed = false;
+  EXPECT_FALSE(Run(true));
 }
 
 TEST_F(RestartTotalCommanderTest, CloseOnlyPausesWhenItIsNotRunning) {

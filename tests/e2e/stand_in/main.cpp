@@ -29,6 +29,8 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM first, LPARAM
     case WM_CLOSE:
       KeepSettings("at-close.ini");
       Note("close");
+      // As one that has much to do before it ends, when a test has put this file there.
+      if (std::filesystem::exists(Folder() / "slow")) Sleep(3000);
       DestroyWindow(window);
       return 0;
     case WM_DESTROY:

@@ -2,10 +2,12 @@
 #include <windows.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <future>
 #include <string>
 #include <thread>
 
+#include "platform/win32/WindowsClock.h"
 #include "platform/win32/WindowsFiles.h"
 #include "platform/win32/WindowsPrograms.h"
 
@@ -37,7 +39,8 @@ TEST(WindowsPrograms, WindowIsFoundByItsClassAndAskedToCloseOnce) {
   ASSERT_NE(window, nullptr);
   const WindowId found = programs.FindWindowOfClass(name);
   EXPECT_EQ(found, reinterpret_cast<WindowId>(window));
-  programs.SendClose(found);
+  EXPECT_TRUE(programs.SendClose(found));
+  EXPECT_FALSE(programs.AwaitsAnswer());
   EXPECT_EQ(closeRequests, 1);
   EXPECT_EQ(closeParameter, 0);
   DestroyWindow(window);
@@ -67,10 +70,28 @@ TEST(WindowsPrograms, ProgramIsGivenTimeToClose) {
   const HWND window = made.get_future().get();
   closeRequests = 0;
   const OwnerWindow owner;
-  WindowsPrograms(owner).SendClose(reinterpret_cast<WindowId>(window));
+  WindowsPrograms programs(owner);
+  WindowsClock clock;
+  const std::uint64_t start = clock.Milliseconds();
+  EXPECT_TRUE(programs.SendClose(reinterpret_cast<WindowId>(window)));
+  EXPECT_LT(clock.Milliseconds() - start, 150U) << "it does not wait";
+  EXPECT_TRUE(programs.AwaitsAnswer());
+  while (programs.AwaitsAnswer()) {
+    clock.DoEvents();
+    clock.Sleep(5);
+  }
+  EXPECT_GE(clock.Milliseconds() - start, 150U);
   EXPECT_EQ(closeRequests, 1);
   PostMessageW(window, WM_APP, 0, 0);
   program.join();
+}
+
+TEST(WindowsPrograms, WindowThatIsGoneIsNotAwaited) {
+  const OwnerWindow owner;
+  WindowsPrograms programs(owner);
+  EXPECT_FALSE(programs.AwaitsAnswer()) << "nobody was asked";
+  EXPECT_TRUE(programs.SendClose(0x7FFFFFF0));
+  EXPECT_FALSE(programs.AwaitsAnswer());
 }
 
 TEST(WindowsPrograms, MissingProgramsAndDocumentsAreReported) {
@@ -89,14 +110,14 @@ TEST(WindowsPrograms, UnquotedPathWithBlanksStartsThatProgramAndNoOther) {
   shell += L"\\cmd.exe";
   const std::wstring decoy = folder + L"\\a.exe";
   const std::wstring program = folder + L"\\a b\\c d.exe";
-  const std::wstring made = folder + L"\\made here";
+  const std::wstring made = folder + L"\\a b\\made here";  // in the folder of its own
   ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr));
   ASSERT_TRUE(CreateDirectoryW((folder + L"\\a b").c_str(), nullptr));
   ASSERT_TRUE(CopyFileW(shell.c_str(), program.c_str(), TRUE));
   WindowsFiles files;
   ASSERT_EQ(files.Write(decoy, "not a program"), FileError::None);
 
-  EXPECT_TRUE(WindowsPrograms(OwnerWindow()).Start(program + L" /c mkdir \"" + made + L'"'));
+  EXPECT_TRUE(WindowsPrograms(OwnerWindow()).Start(program + L" /c mkdir \"made here\""));
   bool isMade = false;
   for (int tries = 0; tries < 200 && !isMade; ++tries) {
     Sleep(50);
