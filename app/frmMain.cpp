@@ -5,6 +5,8 @@
 
 #include "platform/win32/DroppedFile.h"
 #include "resources/resource.h"
+#include "platform/win32/Guarded.h"
+#include "platform/win32/InputMethod.h"
 
 namespace tessera {
 namespace {
@@ -39,6 +41,7 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   windowsSystem_.SetMainWindow(window_, [this] { HideKeysList(); });
   views_.Create(window_, dpi_);
   views_.ApplyLanguage();
+  TurnOffInputMethod(window_);
   ApplyDpi();
   views_.ApplyDisplaySettings();
   views_.SetUpColumns();

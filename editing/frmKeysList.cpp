@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "platform/win32/Guarded.h"
+#include "platform/win32/InputMethod.h"
 #include "resources/resource.h"
 #include "shortcuts/HotkeyNotation.h"
 
@@ -39,6 +41,7 @@ void frmKeysList::Create(HWND owner) {
   for (const std::wstring_view key : KeyVocabulary()) {
     SendMessageW(List1_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
   }
+  TurnOffInputMethod(window_);
   SetWindowSubclass(List1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
