@@ -14,6 +14,9 @@ namespace {
 
 constexpr UINT_PTR ListSubclass = 1;
 
+/// Of a search by a text; the headers do not name it.
+constexpr UINT SearchBySubstring = 0x0004;
+
 /// The place of an icon among the images of rows; nothing for none.
 std::optional<int> ImageOf(RowIcon icon) {
   switch (icon) {
@@ -45,7 +48,7 @@ void frmCommandList::Create(HWND window, int dpi) {
                              WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
                                  LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
                              0, IDC_ListView1);
-  SetWindowTheme(ListView1_, L"Explorer", nullptr);
+  UseExplorerTheme(ListView1_);
   SetWindowSubclass(ListView1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
@@ -153,7 +156,7 @@ void frmCommandList::SelectRow(int position) const {
 }
 
 LRESULT frmCommandList::FindItem(const NMLVFINDITEMW& search) const {
-  if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0) return -1;
+  if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL | SearchBySubstring)) == 0) return -1;
   const auto start = static_cast<std::size_t>(std::max(0, search.iStart));
   const auto found = FindRow(editor_.Document().Rows(), search.lvfi.psz, start);
   return found ? static_cast<LRESULT>(*found) : -1;

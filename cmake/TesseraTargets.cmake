@@ -11,8 +11,14 @@ if(WIN32)
   # Windows 10 and later; wide functions unless a name says otherwise.
   target_compile_definitions(tessera_options INTERFACE
     UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00)
-  target_link_options(tessera_options INTERFACE -static)
-  target_link_libraries(tessera_options INTERFACE comctl32 advapi32 uxtheme)
+  target_compile_options(tessera_options INTERFACE
+    "$<$<COMPILE_LANGUAGE:CXX>:-fstack-protector-strong>")
+  # The program imports functions of Windows 10, version 1607: older versions are to say so at once,
+  # and newer ones are not to take it for a program of their predecessors.
+  target_link_options(tessera_options INTERFACE -static -fstack-protector-strong
+    LINKER:--major-os-version=10,--minor-os-version=0
+    LINKER:--major-subsystem-version=10,--minor-subsystem-version=0)
+  target_link_libraries(tessera_options INTERFACE comctl32 advapi32)
 endif()
 
 option(TESSERA_SANITIZE "Address and undefined-behaviour sanitizers" OFF)

@@ -87,6 +87,18 @@ void SetAccessibleName(HWND control, const std::wstring& name) {
       control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, AccessibleName, name.c_str());
 }
 
+void ClearAccessibleName(HWND control) {
+  const UniqueComponent services = CreateComponent(AccessibleProperties, AccessibleInterface);
+  if (services == nullptr) return;
+  static_cast<IAccPropServices&>(*services).ClearHwndProps(
+      control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &AccessibleName, 1);
+}
+
+void UseExplorerTheme(HWND control) {
+  auto* const use = SystemFunction<decltype(SetWindowTheme)>(L"uxtheme.dll", "SetWindowTheme");
+  if (use != nullptr) use(control, L"Explorer", nullptr);
+}
+
 void SetEnabled(HWND control, bool enabled) {
   if ((IsWindowEnabled(control) != FALSE) != enabled) EnableWindow(control, enabled ? TRUE : FALSE);
 }

@@ -3,7 +3,6 @@
 
 #include <windows.h>
 #include <commctrl.h>
-#include <uxtheme.h>
 #include <windowsx.h>
 
 #include <memory>
@@ -55,6 +54,9 @@ void SetEnabled(HWND control, bool enabled);
 /// Adds or takes away bits of a control's style, and lets its frame follow. Does nothing when it is
 /// so already.
 void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
+/// Gives a control the looks that Explorer's have.
+void UseExplorerTheme(HWND control);
+
 
 /// The size of a text on one line in that font; an "&" that marks a mnemonic takes no room.
 [[nodiscard]] SIZE TextSize(HWND control, HFONT font, const std::wstring& text);
