@@ -83,8 +83,10 @@ std::wstring ToUpper(std::wstring_view text) {
 }
 
 int CompareTexts(std::wstring_view left, std::wstring_view right) {
-  const int result = CompareStringEx(LOCALE_NAME_USER_DEFAULT, NORM_IGNORECASE, left.data(),
-                                     static_cast<int>(left.size()), right.data(),
+  // The system takes no null pointer, as an empty text may have, not even with a length of 0.
+  const auto startOf = [](std::wstring_view text) { return text.empty() ? L"" : text.data(); };
+  const int result = CompareStringEx(LOCALE_NAME_USER_DEFAULT, NORM_IGNORECASE, startOf(left),
+                                     static_cast<int>(left.size()), startOf(right),
                                      static_cast<int>(right.size()), nullptr, nullptr, 0);
   return result - CSTR_EQUAL;
 }

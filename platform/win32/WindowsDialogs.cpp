@@ -28,6 +28,21 @@ bool Show(const char* function, Dialog& dialog) {
   return show != nullptr && show(&dialog) != FALSE;
 }
 
+/// Sets the current folder back at its end: a file dialog makes that of the chosen file the current
+/// one, which then cannot be removed, as a stick cannot that is to be ejected.
+class KeptFolder {
+ public:
+  KeptFolder() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0') {
+    GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data());
+  }
+  ~KeptFolder() { SetCurrentDirectoryW(folder_.c_str()); }
+  KeptFolder(const KeptFolder&) = delete;
+  KeptFolder& operator=(const KeptFolder&) = delete;
+
+ private:
+  std::wstring folder_;
+};
+
 const wchar_t* TextOrNull(const std::wstring& text) {
   return text.empty() ? nullptr : text.c_str();
 }
@@ -49,6 +64,7 @@ std::optional<std::wstring> ChooseFile(const char* function, DWORD flags, HWND o
   dialog.lpstrInitialDir = TextOrNull(request.Folder);
   dialog.lpstrTitle = TextOrNull(request.Title);
   dialog.Flags = flags;
+  const KeptFolder kept;
   if (!Show(function, dialog)) return std::nullopt;
   // The system ends the path within the buffer.
   return file.substr(0, file.find(L'\0'));

@@ -79,6 +79,9 @@ TEST(Text, OrderIgnoresLetterCase) {
   EXPECT_LT(CompareTexts(L"alpha", L"BETA"), 0);
   EXPECT_GT(CompareTexts(L"Gamma", L"beta"), 0);
   EXPECT_LT(CompareTexts(L"", L"a"), 0);
+  EXPECT_LT(CompareTexts({}, L"a"), 0) << "a text without an address is an empty one";
+  EXPECT_GT(CompareTexts(L"a", {}), 0);
+  EXPECT_EQ(CompareTexts({}, L""), 0);
   EXPECT_LT(CompareTexts(L"ab", L"ABC"), 0);
 }
 
