@@ -108,6 +108,7 @@ bool Document::ChangesMayGo() {
   if (busy_) return false;
   const BoxAnswer answer = AskToSaveChanges();
   const bool saveFailed = answer == BoxAnswer::Yes && modified_;
+  if (answer != BoxAnswer::Yes) DropUnsaved();
   return answer != BoxAnswer::Cancel && !saveFailed;
 }
 
@@ -119,6 +120,24 @@ BoxAnswer Document::AskToSaveChanges() {
       BoxButtons::YesNoCancel, BoxIcon::Exclamation);
   if (answer == BoxAnswer::Yes) FileSave();
   return answer;
+}
+
+void Document::KeepUnsaved() {
+  if (busy_ || unread_ || !modified_) return;
+  if (!kept_) kept_.emplace(system_.Files);
+  KnownContents known = known_;  // what is kept is not saved
+  // What cannot be written there cannot be kept.
+  static_cast<void>(WriteUnsavedShortcuts(catalogue_, notation_, SaveRequestOfNow(known), *kept_,
+                                          system_.Clock, inputFiles_.CommanderVariables()));
+}
+
+void Document::DropUnsaved() {
+  if (kept_) kept_->TakeAway();
+  kept_.reset();
+}
+
+SaveRequest Document::SaveRequestOfNow(KnownContents& known) const {
+  return {wincmdPath_, settings_.KeepUnknownShortcuts != 0, &known};
 }
 
 void Document::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
@@ -134,9 +153,10 @@ void Document::Save(bool restarts) {
   }
   const BusyTime busy(busy_);
   const bool mayStart = restarts && Restart(true);
-  const SaveRequest request{wincmdPath_, settings_.KeepUnknownShortcuts != 0, &known_};
-  const FileError error = SaveShortcuts(catalogue_, notation_, request, system_.Files,
-                                        system_.Clock, inputFiles_.CommanderVariables());
+  kept_.reset();  // a save that succeeds takes it away, and one that fails writes its own
+  const FileError error =
+      SaveShortcuts(catalogue_, notation_, SaveRequestOfNow(known_), system_.Files, system_.Clock,
+                    inputFiles_.CommanderVariables());
   if (error == FileError::None) {
     SetModified(false);
   } else {

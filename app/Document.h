@@ -1,6 +1,7 @@
 // The open "Wincmd.ini": the commands with their keys, and whether changes to them are saved.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "app/BusyTime.h"
@@ -9,9 +10,11 @@
 #include "platform/Pinned.h"
 #include "platform/System.h"
 #include "settings/ini/ProfileFile.h"
+#include "settings/ini/UnsavedFiles.h"
 #include "settings/Settings.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
+#include "shortcuts/SaveShortcuts.h"
 #include "shortcuts/WincmdIni.h"
 
 namespace tessera {
@@ -68,6 +71,12 @@ class Document : Pinned {
   [[nodiscard]] bool Open(const std::wstring& path, WhenUnread whenUnread,
                           const ProgressStep& step);
 
+  /// Keeps what a save would write as ".unsaved" beside the file, for an end of the program without
+  /// an answer. It stays until the question about unsaved changes is answered, or DropUnsaved.
+  /// Nothing is kept while the document is busy.
+  void KeepUnsaved();
+  void DropUnsaved();
+
   void FileSave();
   void FileSaveAndRestart();
   void SetModified(bool modified);
@@ -82,6 +91,7 @@ class Document : Pinned {
   void LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step);
   void ReadMasterRows(const ProgressStep& step);
   [[nodiscard]] BoxAnswer AskToSaveChanges();
+  [[nodiscard]] SaveRequest SaveRequestOfNow(KnownContents& known) const;
   void Save(bool restarts);
   [[nodiscard]] bool Restart(bool closeIt);
 
@@ -91,6 +101,7 @@ class Document : Pinned {
   InputFiles& inputFiles_;
   Catalogue catalogue_;
   HotkeyNotation notation_;
+  std::optional<UnsavedFiles> kept_;
   std::wstring wincmdPath_;
   KnownContents known_;  ///< of "Wincmd.ini" and the files that its sections are redirected to
   bool modified_ = false;

@@ -68,6 +68,10 @@ void Editor::Activate() {
 
 bool Editor::QueryUnload() { return document_.ChangesMayGo(); }
 
+void Editor::KeepUnsaved() { document_.KeepUnsaved(); }
+
+void Editor::DropUnsaved() { document_.DropUnsaved(); }
+
 void Editor::Unload(const WindowPlacement& placement, const ColumnLayout& columns) {
   StoreColumnLayout(columns, settings_);
   if (!placement.Minimised) {

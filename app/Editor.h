@@ -76,6 +76,10 @@ class Editor : Pinned {
   /// Asks about unsaved changes; false when the program is to go on running.
   [[nodiscard]] bool QueryUnload();
 
+  /// As Document's: at a log-off, and when the program must end.
+  void KeepUnsaved();
+  void DropUnsaved();
+
   /// Stores columns, window and settings.
   void Unload(const WindowPlacement& placement, const ColumnLayout& columns);
 

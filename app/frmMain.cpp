@@ -1,12 +1,13 @@
 // The events of the main window, from its making to its end.
 #include "app/frmMain.h"
 
+#include <cstdlib>
 #include <utility>
 
 #include "platform/win32/DroppedFile.h"
-#include "resources/resource.h"
 #include "platform/win32/Guarded.h"
 #include "platform/win32/InputMethod.h"
+#include "resources/resource.h"
 
 namespace tessera {
 namespace {
@@ -40,8 +41,8 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   if (!Create()) return false;
   windowsSystem_.SetMainWindow(window_, [this] { HideKeysList(); });
   views_.Create(window_, dpi_);
-  views_.ApplyLanguage();
   TurnOffInputMethod(window_);
+  views_.ApplyLanguage();
   ApplyDpi();
   views_.ApplyDisplaySettings();
   views_.SetUpColumns();
@@ -63,8 +64,8 @@ LRESULT CALLBACK frmMain::WindowProcedure(HWND window, UINT message, WPARAM wPar
     static_cast<frmMain*>(creation.lpCreateParams)->window_ = window;
   }
   auto* self = reinterpret_cast<frmMain*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  return self != nullptr ? self->Handle(message, wParam, lParam)
-                         : DefWindowProcW(window, message, wParam, lParam);
+  if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  return Guarded(window, [&] { return self->Handle(message, wParam, lParam); });
 }
 
 LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -103,9 +104,13 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       Form_QueryUnload();
       return 0;
     case WM_QUERYENDSESSION:
-      return MayClose() ? TRUE : FALSE;
+      return MaySessionEnd() ? TRUE : FALSE;
     case WM_ENDSESSION:
-      if (wParam != FALSE) DestroyWindow(window_);
+      if (wParam != FALSE) {
+        DestroyWindow(window_);
+      } else {
+        editor_.DropUnsaved();  // another program has refused
+      }
       return 0;
     case WM_DESTROY:
       Form_Unload();
@@ -117,6 +122,18 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case FailureMessage:
+      OnFailure();
+      return 0;
+    case WM_SETTINGCHANGE:
+      if (wParam == SPI_SETNONCLIENTMETRICS) {
+        views_.ApplyFonts();  // the message font, by which texts become larger
+        views_.LayOut();
+      }
+      break;
+    case WM_NCDESTROY:
+      DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
+      return 0;
     case WM_GETMINMAXINFO: {
       const SIZE smallest = views_.SmallestSize();
       reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest.cx, smallest.cy};
@@ -198,6 +215,37 @@ bool frmMain::MayClose() {
   const bool closes = AcceptsInput() && editor_.QueryUnload();
   Sync();
   return closes;
+}
+
+bool frmMain::MaySessionEnd() {
+  // Without changes whatever is open goes with the window, and a load stops mattering.
+  if (!editor_.Document().Modified()) return true;
+  // The system soon covers the question, and lets its user end the program over it.
+  editor_.KeepUnsaved();
+  if (!AcceptsInput()) return false;
+  ShutdownBlockReasonCreate(window_, editor_.Document().Caption().c_str());
+  const bool closes = MayClose();
+  ShutdownBlockReasonDestroy(window_);
+  return closes;
+}
+
+// What works then is not known: each step goes as far as it can.
+void frmMain::OnFailure() {
+  if (std::exchange(failed_, true)) return;
+  const auto attempt = [](auto step) {
+    try {
+      step();
+    } catch (...) {
+      return;
+    }
+  };
+  attempt([this] { editor_.KeepUnsaved(); });
+  attempt([this] {
+    windowsSystem_.Seams().MessageBoxes.Show(editor_.Language().GetLangText(TextId::MustEnd),
+                                             BoxButtons::Ok, BoxIcon::Critical);
+  });
+  DestroyWindow(window_);
+  PostQuitMessage(EXIT_FAILURE);
 }
 
 void frmMain::Form_Unload() {

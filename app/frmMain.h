@@ -42,6 +42,8 @@ class frmMain : Pinned {
   void Form_Activate();
   void Form_QueryUnload();
   bool MayClose();
+  bool MaySessionEnd();
+  void OnFailure();
   void Form_Unload();
   void OnDropFile(const std::wstring& path);
   [[nodiscard]] bool AcceptsInput() const;
@@ -62,6 +64,7 @@ class frmMain : Pinned {
   void mnuViewOptions_Click();
   void OnInitMenu();
   void OnDropDown(const NMTOOLBARW& notification);
+  bool Filter(MSG& message);
   bool FilterKey(const MSG& message);
   void ToggleKeysList();
   void HideKeysList();
@@ -81,6 +84,7 @@ class frmMain : Pinned {
   HWND window_ = nullptr;
   int dpi_ = 96;
   HWND lastFocus_ = nullptr;  ///< the control that had the focus when the window was left
+  bool failed_ = false;       ///< an exception has reached a window procedure
   Area placed_;               ///< where the stored placement has put the window
   Unique<HICON> icon_;
   Unique<HICON> smallIcon_;

@@ -1,5 +1,6 @@
 // What the user does, as calls of the editor, and the dialogs.
 #include "app/frmMain.h"
+#include "platform/win32/Guarded.h"
 
 namespace tessera {
 namespace {
@@ -126,6 +127,10 @@ void frmMain::OnDropDown(const NMTOOLBARW& notification) {
 }
 
 bool frmMain::FilterMessage(MSG& message) {
+  return Guarded(window_, [&] { return Filter(message); });
+}
+
+bool frmMain::Filter(MSG& message) {
   if (window_ == nullptr || (message.hwnd != window_ && IsChild(window_, message.hwnd) == FALSE)) {
     return false;
   }

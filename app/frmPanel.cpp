@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "localisation/Mnemonic.h"
+#include "platform/win32/Guarded.h"
 #include "platform/win32/Icons.h"
 #include "resources/icons.h"
 #include "resources/resource.h"
@@ -146,8 +147,8 @@ void frmPanel::ShowState(const CommandState& state) const {
 
 LRESULT CALLBACK frmPanel::FrameProcedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* const self = reinterpret_cast<frmPanel*>(GetWindowLongPtrW(frame, GWLP_USERDATA));
-  return self != nullptr ? self->Handle(message, wParam, lParam)
-                         : DefWindowProcW(frame, message, wParam, lParam);
+  if (self == nullptr) return DefWindowProcW(frame, message, wParam, lParam);
+  return Guarded(frame, [&] { return self->Handle(message, wParam, lParam); });
 }
 
 LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -88,8 +88,8 @@ void frmKeysList::Hide() { ShowWindow(window_, SW_HIDE); }
 LRESULT CALLBACK frmKeysList::WindowProcedure(HWND window, UINT message, WPARAM wParam,
                                               LPARAM lParam) {
   auto* const self = reinterpret_cast<frmKeysList*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  return self != nullptr ? self->Handle(message, wParam, lParam)
-                         : DefWindowProcW(window, message, wParam, lParam);
+  if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  return Guarded(window, [&] { return self->Handle(message, wParam, lParam); });
 }
 
 LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -109,6 +109,12 @@ LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       events_.Close();
       return 0;
+    case WM_DESTROY:
+      ClearAccessibleName(List1_);
+      return 0;
+    case WM_NCDESTROY:
+      List1_ = nullptr;
+      return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
     default:
       return DefWindowProcW(window_, message, wParam, lParam);
   }
@@ -117,12 +123,14 @@ LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT CALLBACK frmKeysList::ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
                                             UINT_PTR /*id*/, DWORD_PTR self) {
   const Events& events = reinterpret_cast<const frmKeysList*>(self)->events_;
-  if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN) {
-    events.KeyDown(static_cast<KeyCode>(wParam));
-  } else if (message == WM_LBUTTONUP) {
-    events.ReleaseMouse();
-  }
-  return DefSubclassProc(list, message, wParam, lParam);
+  return Guarded(list, [&] {
+    if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN) {
+      events.KeyDown(static_cast<KeyCode>(wParam));
+    } else if (message == WM_LBUTTONUP) {
+      events.ReleaseMouse();
+    }
+    return DefSubclassProc(list, message, wParam, lParam);
+  });
 }
 
 }  // namespace tessera

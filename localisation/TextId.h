@@ -79,6 +79,7 @@ enum class TextId : int {
   InStartMenu = 3207,
   Important = 3208,
   NotSavedYet = 3209,
+  MustEnd = 3295,
 };
 
 /// The number that stands for a text in a language file.

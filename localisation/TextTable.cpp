@@ -82,6 +82,8 @@ constexpr BuiltInText Table[] = {
     {TextId::Important, L"Important"},
     {TextId::NotSavedYet,
      L"Hotkeys in this list has not saved yet to your Total Commander configuration file."},
+    {TextId::MustEnd,
+     L"Tessera must end because of an error. Unsaved changes are in Wincmd.ini.unsaved."},
 };
 
 }  // namespace

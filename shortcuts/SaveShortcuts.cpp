@@ -145,4 +145,11 @@ FileError SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
   return FileError::None;
 }
 
+FileError WriteUnsavedShortcuts(const Catalogue& catalogue, const HotkeyNotation& notation,
+                                const SaveRequest& request, UnsavedFiles& files, Clock& clock,
+                                const Environment& environment) {
+  return SaveFromTheStart(
+      [&] { return WriteKeys(catalogue, notation, request, files, clock, environment); });
+}
+
 }  // namespace tessera

@@ -7,6 +7,7 @@
 #include "platform/Environment.h"
 #include "platform/Files.h"
 #include "settings/ini/ProfileFile.h"
+#include "settings/ini/UnsavedFiles.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
 
@@ -27,5 +28,12 @@ struct SaveRequest {
 [[nodiscard]] FileError SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
                                       const SaveRequest& request, Files& files, Clock& clock,
                                       const Environment& environment);
+
+/// Writes beside each file what SaveShortcuts would put in its place, through `files`, which are to
+/// be UnsavedFiles; the catalogue stays as it is.
+[[nodiscard]] FileError WriteUnsavedShortcuts(const Catalogue& catalogue,
+                                              const HotkeyNotation& notation,
+                                              const SaveRequest& request, UnsavedFiles& files,
+                                              Clock& clock, const Environment& environment);
 
 }  // namespace tessera

@@ -48,15 +48,18 @@ void SetText(HWND window, const std::wstring& text);
 /// label before the control will do, hidden or not, prefer that.
 void SetAccessibleName(HWND control, const std::wstring& name);
 
+/// To be called before such a control goes; the system would keep its name.
+void ClearAccessibleName(HWND control);
+
 /// Does nothing when it is so already: no flicker, no lost focus.
 void SetEnabled(HWND control, bool enabled);
+
+/// Gives a control the looks that Explorer's have.
+void UseExplorerTheme(HWND control);
 
 /// Adds or takes away bits of a control's style, and lets its frame follow. Does nothing when it is
 /// so already.
 void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
-/// Gives a control the looks that Explorer's have.
-void UseExplorerTheme(HWND control);
-
 
 /// The size of a text on one line in that font; an "&" that marks a mnemonic takes no room.
 [[nodiscard]] SIZE TextSize(HWND control, HFONT font, const std::wstring& text);

@@ -1,7 +1,10 @@
 // Closing with unsaved changes, and what the next start finds.
+#include <filesystem>
 #include <future>
 #include <stdexcept>
+#include <utility>
 
+#include "platform/win32/Guarded.h"
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
@@ -47,6 +50,8 @@ class CloseTest : public EndToEndTest {
       return answer != FALSE;
     });
   }
+
+  [[nodiscard]] std::wstring Unsaved() const { return folder_.WincmdIni() + L".unsaved"; }
 
   std::string original_;
 };
@@ -109,22 +114,73 @@ TEST_F(CloseTest, LogOffAsksTooAndIsRefusedByCancel) {
   std::future<bool> mayEnd = AskToLogOff();
   const Box box = NextBox();
   EXPECT_EQ(Utf8(box.Text), "Save changes to  " + Utf8(folder_.WincmdIni()) + "\n");
+  EXPECT_EQ(SectionValue(ReadBytes(Unsaved()), "Shortcuts", "CA+K"), "cm_SrcShort")
+      << "for an end over the question";
   Answer(box, IDCANCEL);
   EXPECT_FALSE(mayEnd.get());
   EXPECT_TRUE(Modified());
+  EXPECT_FALSE(std::filesystem::exists(Unsaved()));
 
   mayEnd = AskToLogOff();
   Answer(NextBox(), IDYES);
   EXPECT_TRUE(mayEnd.get());
   EXPECT_EQ(SectionValue(ReadBytes(folder_.WincmdIni()), "Shortcuts", "CA+K"), "cm_SrcShort");
+  EXPECT_FALSE(std::filesystem::exists(Unsaved()));
   EXPECT_TRUE(program_->Running()) << "another program may still refuse";
   PostMessageW(window_->Handle(), WM_ENDSESSION, TRUE, 0);
   EXPECT_EQ(program_->WaitForEnd(), 0U);
 }
 
+TEST_F(CloseTest, LogOffOverAnOpenDialogIsRefusedAndKeepsTheChangesMeanwhile) {
+  MakeAChange();
+  window_->Command(IDM_mnuViewOptions);
+  Dialog dialog = NextDialog(L"frmOptions");
+  EXPECT_FALSE(AskToLogOff().get());
+  EXPECT_TRUE(std::filesystem::exists(Unsaved()));
+  PostMessageW(window_->Handle(), WM_ENDSESSION, FALSE, 0);
+  WaitFor("the kept changes to go", [&] { return !std::filesystem::exists(Unsaved()); });
+  dialog.CloseByKey(VK_ESCAPE);
+  EXPECT_TRUE(Modified());
+}
+
+// The same message comes after an exception in a window procedure.
+TEST_F(CloseTest, FailureIsToldOnceAndTheChangesAreKept) {
+  MakeAChange();
+  PostMessageW(window_->Handle(), FailureMessage, 0, 0);
+  const Box box = NextBox();
+  PostMessageW(window_->Handle(), FailureMessage, 0, 0);
+  EXPECT_EQ(box.Title, L"Tessera");
+  EXPECT_EQ(box.Buttons, std::vector<int>{IDOK});
+  EXPECT_EQ(Utf8(box.Text),
+            "Tessera must end because of an error. Unsaved changes are in Wincmd.ini.unsaved.");
+  EXPECT_EQ(SectionValue(ReadBytes(Unsaved()), "Shortcuts", "CA+K"), "cm_SrcShort");
+  Answer(box, IDOK);
+  EXPECT_EQ(program_->WaitForEnd(), 1U);
+  EXPECT_TRUE(std::filesystem::exists(Unsaved()));
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni()), original_);
+  EXPECT_NE(Setting("MainWindowWidth"), "") << "the settings are stored";
+}
+
 TEST_F(CloseTest, LogOffWithoutChangesIsAllowedAtOnce) {
   EXPECT_TRUE(AskToLogOff().get());
   EXPECT_TRUE(NoBoxOpen());
+}
+
+TEST_F(CloseTest, LogOffWithoutChangesIsAllowedAndEndsTheProgramWhileADialogIsOpen) {
+  for (const auto& [command, dialog] :
+       {std::pair(IDM_mnuViewOptions, L"frmOptions"),
+        std::pair(IDM_mnuFileExportToClipboard, L"frmExportToClipboard")}) {
+    if (!program_->Running()) StartAndLoad();
+    SetWindowPos(window_->Handle(), nullptr, 120, 96, 720, 600, SWP_NOZORDER | SWP_NOACTIVATE);
+    std::filesystem::remove(folder_.SettingsFile());
+    window_->Command(command);
+    static_cast<void>(NextDialog(dialog));
+    EXPECT_TRUE(AskToLogOff().get());
+    EXPECT_TRUE(program_->Running()) << "another program may still refuse";
+    PostMessageW(window_->Handle(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(program_->WaitForEnd(), 0U);
+    EXPECT_EQ(Setting("MainWindowLeft"), "1800") << "the settings are stored";
+  }
 }
 
 TEST_F(CloseTest, NothingIsAskedASecondTimeWhileTheQuestionIsOpen) {

@@ -297,6 +297,74 @@ TEST_F(EditorTest, YesSavesAndCloses) {
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
 }
 
+// -- What is kept for an end without an answer, as a log-off may bring it
+
+const std::wstring UnsavedFile = IniFile + L".unsaved";
+
+TEST_F(EditorTest, WhatASaveWouldWriteIsKeptBesideTheFileUntilTheAnswer) {
+  Start();
+  Assign(Pack, L"X");
+  for (const BoxAnswer answer : {BoxAnswer::Cancel, BoxAnswer::No}) {
+    Editor.KeepUnsaved();
+    EXPECT_EQ(Ini(), IniContent);
+    EXPECT_NE(Files.Contents[UnsavedFile].find("X=cm_Pack"), std::string::npos);
+    MessageBoxes.Answers = {answer};
+    static_cast<void>(Editor.QueryUnload());
+    EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+    EXPECT_EQ(Ini(), IniContent);
+  }
+}
+
+TEST_F(EditorTest, WhatIsKeptGoesWithASaveAndStaysWithOneThatFails) {
+  Start();
+  Assign(Pack, L"X");
+  Files.Contents[UnsavedFile] = "of an earlier failure";
+  Editor.KeepUnsaved();
+  MessageBoxes.Answers = {BoxAnswer::Yes, BoxAnswer::Yes};
+  Files.ReplaceErrors.assign(100, FileError::Other);
+  EXPECT_FALSE(Editor.QueryUnload());
+  EXPECT_NE(Files.Contents[UnsavedFile].find("X=cm_Pack"), std::string::npos);
+  Files.ReplaceErrors.clear();
+  EXPECT_TRUE(Editor.QueryUnload());
+  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+  EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
+}
+
+TEST_F(EditorTest, WhatLayThereBeforeIsPutBack) {
+  Start();
+  Assign(Pack, L"X");
+  Files.Contents[UnsavedFile] = "of an earlier failure";
+  Editor.KeepUnsaved();
+  Assign(Pack, L"Y");
+  Editor.KeepUnsaved();
+  EXPECT_NE(Files.Contents[UnsavedFile].find("Y=cm_Pack"), std::string::npos);
+  Editor.DropUnsaved();
+  EXPECT_EQ(Files.Contents[UnsavedFile], "of an earlier failure");
+  Editor.DropUnsaved();
+  EXPECT_EQ(Files.Contents[UnsavedFile], "of an earlier failure");
+}
+
+TEST_F(EditorTest, KeepingLeavesTheKeysThatTheNextSaveTakesFromTheStartMenu) {
+  Start();
+  MessageBoxes.Answers = {BoxAnswer::Yes};
+  Assign(Pack, 3, L"F1");  // of the Start Menu
+  Editor.KeepUnsaved();
+  EXPECT_EQ(Files.Contents[UnsavedFile].find("key1"), std::string::npos);
+  Editor.FileSave();
+  EXPECT_EQ(Ini().find("key1"), std::string::npos);
+}
+
+TEST_F(EditorTest, NothingIsKeptWithoutChangesOrDuringASave) {
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Editor.KeepUnsaved();
+  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+  Assign(Pack, L"X");
+  Clock.OnDoEvents = [this] { Editor.KeepUnsaved(); };
+  Editor.FileSaveAndRestart();
+  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+}
+
 TEST_F(EditorTest, ASaveThatFailsBeeps) {
   Start();
   Assign(Pack, L"X");

@@ -101,6 +101,8 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3208}, L"Important"},
       {TextId{3209},
        L"Hotkeys in this list has not saved yet to your Total Commander configuration file."},
+      {TextId{3295},
+       L"Tessera must end because of an error. Unsaved changes are in Wincmd.ini.unsaved."},
   };
   for (const BuiltInText& text : texts) {
     EXPECT_EQ(BuiltInTextOf(text.Id), text.Text) << NumberOf(text.Id);

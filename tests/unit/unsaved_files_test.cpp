@@ -1,0 +1,63 @@
+// Saves that put their content beside the file.
+#include <gtest/gtest.h>
+
+#include "settings/ini/ReplaceContent.h"
+#include "settings/ini/UnsavedFiles.h"
+#include "tests/support/FakeClock.h"
+#include "tests/support/FaultyFiles.h"
+
+namespace tessera::unsaved_files_test {
+namespace {
+
+using FileTable = std::map<std::wstring, std::string>;
+
+const std::wstring Path = L"C:\\a.ini";
+const std::wstring Unsaved = L"C:\\a.ini.unsaved";
+
+class UnsavedFilesTest : public testing::Test {
+ protected:
+  FileError Save(std::string_view bytes) {
+    return ReplaceContent(unsaved_, clock_, Path, bytes, KeepCopies::Yes);
+  }
+
+  FaultyFiles files_;
+  FakeClock clock_;
+  UnsavedFiles unsaved_{files_};
+};
+
+TEST_F(UnsavedFilesTest, NewContentLiesBesideTheFileAndGoesAgain) {
+  const FileTable before{{Path, "old"}, {Path + L".bak", "older"}};
+  files_.Contents = before;
+  EXPECT_EQ(Save("new"), FileError::None);
+  EXPECT_EQ(files_.Contents,
+            (FileTable{{Path, "old"}, {Path + L".bak", "older"}, {Unsaved, "new"}}));
+  unsaved_.TakeAway();
+  EXPECT_EQ(files_.Contents, before);
+}
+
+TEST_F(UnsavedFilesTest, WhatLayThereBeforeTheFirstSaveIsPutBack) {
+  const FileTable before{{Path, "old"}, {Unsaved, "of an earlier failure"}};
+  files_.Contents = before;
+  EXPECT_EQ(Save("new"), FileError::None);
+  EXPECT_EQ(Save("newer"), FileError::None);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "old"}, {Unsaved, "newer"}}));
+  unsaved_.TakeAway();
+  EXPECT_EQ(files_.Contents, before);
+  unsaved_.TakeAway();
+  EXPECT_EQ(files_.Contents, before);
+}
+
+TEST_F(UnsavedFilesTest, ContentOfAFileThatDoesNotExistLiesThereToo) {
+  EXPECT_EQ(Save("new"), FileError::None);
+  EXPECT_EQ(files_.Contents, (FileTable{{Unsaved, "new"}}));
+}
+
+TEST_F(UnsavedFilesTest, LinkIsFollowed) {
+  files_.Links[Path] = L"D:\\b.ini";
+  files_.Contents[L"D:\\b.ini"] = "old";
+  EXPECT_EQ(Save("new"), FileError::None);
+  EXPECT_EQ(files_.Contents[L"D:\\b.ini.unsaved"], "new");
+}
+
+}  // namespace
+}  // namespace tessera::unsaved_files_test
