@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "localisation/Mnemonic.h"
+#include "platform/win32/Guarded.h"
 
 namespace tessera {
 namespace {
@@ -30,6 +31,11 @@ constexpr ControlClass Classes[] = {
 
 const ControlClass& ClassOf(ControlKind kind) {
   return *std::ranges::find(Classes, kind, &ControlClass::Kind);
+}
+
+/// One that does not show its caption, so that a screen reader has to be told.
+bool HasAccessibleName(ControlKind kind) {
+  return kind == ControlKind::SideButton || kind == ControlKind::TextBox;
 }
 
 /// A dialog without controls, as a resource would hold it.
@@ -84,11 +90,12 @@ INT_PTR CALLBACK frmDialog::DialogProcedure(HWND window, UINT message, WPARAM wP
     SetWindowLongPtrW(window, DWLP_USER, lParam);
     auto& dialog = *reinterpret_cast<frmDialog*>(lParam);
     dialog.window_ = window;
-    dialog.OnInit();
+    Guarded(window, [&] { return (dialog.OnInit(), FALSE); });
     return FALSE;  // the focus has been set
   }
   auto* const self = reinterpret_cast<frmDialog*>(GetWindowLongPtrW(window, DWLP_USER));
-  return self == nullptr ? FALSE : self->Handle(message, wParam, lParam).value_or(FALSE);
+  if (self == nullptr) return FALSE;
+  return Guarded(window, [&] { return self->Handle(message, wParam, lParam).value_or(FALSE); });
 }
 
 std::optional<INT_PTR> frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -115,9 +122,11 @@ std::optional<INT_PTR> frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lPa
     case WM_CTLCOLORBTN:
     case WM_CTLCOLOREDIT:
       return ColorControl(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
-    case WM_DPICHANGED:
-      ApplyDpi(HIWORD(wParam));
+    case WM_DPICHANGED: {
+      const auto& suggested = *reinterpret_cast<const RECT*>(lParam);
+      ApplyDpi(HIWORD(wParam), POINT{suggested.left, suggested.top});
       return TRUE;
+    }
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
       for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
@@ -125,6 +134,16 @@ std::optional<INT_PTR> frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lPa
         SendMessageW(child, message, wParam, lParam);
       }
       LayOut();
+      return std::nullopt;
+    case WM_SETTINGCHANGE:
+      if (wParam == SPI_SETNONCLIENTMETRICS) ApplyDpi(metrics_.Dpi);  // the message font
+      return std::nullopt;
+    case WM_DESTROY:
+      for (const auto& controls : {plan_.Controls, plan_.Buttons}) {
+        for (const DialogControl& control : controls) {
+          if (HasAccessibleName(control.Kind)) ClearAccessibleName(Control(control.Id));
+        }
+      }
       return std::nullopt;
     default:
       return std::nullopt;
@@ -180,6 +199,7 @@ void frmDialog::CreateControls() {
     // Made last, the tabs lie below the controls of their pages.
     tabs_ =
         CreateControl(window_, WC_TABCONTROLW, WS_VISIBLE | WS_TABSTOP | WS_GROUP, 0, plan_.TabsId);
+    PadTabs(static_cast<int>(GetDpiForWindow(window_)));
   }
 }
 
@@ -189,7 +209,7 @@ void frmDialog::ApplyLanguage() {
     for (const DialogControl& control : controls) {
       const std::wstring text = texts_.GetLangText(control.Caption);
       if (control.Kind == ControlKind::SideButton) SetText(Control(control.Id), L"...");
-      if (control.Kind == ControlKind::SideButton || control.Kind == ControlKind::TextBox) {
+      if (HasAccessibleName(control.Kind)) {
         SetAccessibleName(Control(control.Id), WithoutMnemonic(text));
       } else {
         SetText(Control(control.Id), text);

@@ -66,12 +66,18 @@ class frmDialog {
   void CreateControls();
   HWND Create(const DialogControl& control, bool startsGroup);
   void ApplyLanguage();
-  void ApplyDpi(int dpi);
-  void LayOut();
+
+  /// With a corner the window moves there, in the same step that gives it its new size: between two
+  /// steps it could lie on the screen that it has just left, whose resolution would return.
+  void ApplyDpi(int dpi, std::optional<POINT> corner = {});
+  void LayOut(std::optional<POINT> corner = {});
+
+  /// Counts for tabs that are inserted, and for a font that is given, afterwards.
+  void PadTabs(int dpi) const;
   [[nodiscard]] int TextWidth(TextId text) const;
   [[nodiscard]] int TabsWidth() const;
   void PlaceAll(const PagesLayout& pages, POINT origin) const;
-  void Resize(int width, int height);
+  void Resize(int width, int height, std::optional<POINT> corner);
   void CenterForm();
   void ShowPage(int page);
   void FocusFirst();

@@ -52,7 +52,8 @@ bool IsTranslatorsControl(ControlKind kind) {
 
 }  // namespace
 
-void frmDialog::ApplyDpi(int dpi) {
+void frmDialog::ApplyDpi(int dpi, std::optional<POINT> corner) {
+  if (tabs_ != nullptr) PadTabs(dpi);
   const LOGFONTW messageFont = MessageFont(dpi, settings_.FontScript);
   Unique<HFONT> font(CreateFontIndirectW(&messageFont));
   for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
@@ -61,8 +62,11 @@ void frmDialog::ApplyDpi(int dpi) {
   }
   font_ = std::move(font);
   metrics_ = {.Dpi = dpi, .TextHeight = static_cast<int>(TextSize(window_, font_.get(), L"Xg").cy)};
-  if (tabs_ != nullptr) TabCtrl_SetPadding(tabs_, Scaled(TabPadding, dpi), Scaled(4, dpi));
-  LayOut();
+  LayOut(corner);
+}
+
+void frmDialog::PadTabs(int dpi) const {
+  TabCtrl_SetPadding(tabs_, Scaled(TabPadding, dpi), Scaled(4, dpi));
 }
 
 int frmDialog::TextWidth(TextId text) const {
@@ -78,7 +82,7 @@ int frmDialog::TabsWidth() const {
   return width;
 }
 
-void frmDialog::LayOut() {
+void frmDialog::LayOut(std::optional<POINT> corner) {
   std::vector<MeasuredControl> measured;
   for (const DialogControl& control : plan_.Controls) {
     measured.push_back({control.Kind, control.Page, TextWidth(control.Caption)});
@@ -110,7 +114,7 @@ void frmDialog::LayOut() {
   for (std::size_t index = 0; index < areas.size(); ++index) {
     Place(Control(plan_.Buttons[index].Id), areas[index]);
   }
-  Resize(width + 2 * margin, top + areas.front().Height + margin);
+  Resize(width + 2 * margin, top + areas.front().Height + margin, corner);
 }
 
 void frmDialog::PlaceAll(const PagesLayout& pages, POINT origin) const {
@@ -122,13 +126,15 @@ void frmDialog::PlaceAll(const PagesLayout& pages, POINT origin) const {
   }
 }
 
-void frmDialog::Resize(int width, int height) {
+void frmDialog::Resize(int width, int height, std::optional<POINT> corner) {
   RECT frame{0, 0, width, height};
   AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_STYLE)), FALSE,
                            static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_EXSTYLE)),
                            static_cast<UINT>(metrics_.Dpi));
-  SetWindowPos(window_, nullptr, 0, 0, frame.right - frame.left, frame.bottom - frame.top,
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  const POINT place = corner.value_or(POINT{});
+  SetWindowPos(window_, nullptr, place.x, place.y, frame.right - frame.left,
+               frame.bottom - frame.top,
+               (corner ? 0U : SWP_NOMOVE) | SWP_NOZORDER | SWP_NOACTIVATE);
   InvalidateRect(window_, nullptr, TRUE);
 }
 

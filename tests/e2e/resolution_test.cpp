@@ -249,6 +249,30 @@ TEST_F(ResolutionTest, ProgramStartsInIt) {
   }
 }
 
+TEST_F(ResolutionTest, DialogMovesToThePlaceThatComesWithIt) {
+  StartWith(L"");
+  WithEachDialog([&](const Dialog& dialog) {
+    const RECT former = RectangleOf(dialog.Handle());
+    const RECT suggested{31, 43, 831, 643};
+    ChangeResolution(dialog, 192, suggested);
+    const RECT followed = RectangleOf(dialog.Handle());
+    EXPECT_EQ(followed.left, suggested.left);
+    EXPECT_EQ(followed.top, suggested.top);
+    EXPECT_GT(followed.right - followed.left, former.right - former.left) << "as its texts need";
+  });
+}
+
+TEST_F(ResolutionTest, DialogIsLaidOutTheSameEachTime) {
+  StartWith(L"");
+  WithEachDialog([&](const Dialog& dialog) {
+    const RECT first = RectangleOf(dialog.Handle());
+    for (const int dpi : {96, 192, 96}) ChangeResolution(dialog, dpi, first);
+    const RECT last = RectangleOf(dialog.Handle());
+    EXPECT_NE(EqualRect(&first, &last), FALSE)
+        << first.right - first.left << " wide, then " << last.right - last.left;
+  });
+}
+
 TEST_F(ResolutionTest, WindowFollowsItThereAndBack) {
   StartWith(L"");
   const RECT place = RectangleOf(window_->Handle());
