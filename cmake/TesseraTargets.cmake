@@ -5,7 +5,13 @@ target_compile_features(tessera_options INTERFACE cxx_std_20)
 target_include_directories(tessera_options INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/generated)
 # The resource compiler knows none of these.
 target_compile_options(tessera_options INTERFACE
-  "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-Werror>")
+  "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>")
+
+# The presets turn it on; a compiler that they do not know may warn of more.
+option(TESSERA_WERROR "Warnings are errors" OFF)
+if(TESSERA_WERROR)
+  target_compile_options(tessera_options INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Werror>")
+endif()
 
 if(WIN32)
   # Windows 10 and later; wide functions unless a name says otherwise.

@@ -39,9 +39,18 @@ stands_alone() { grep -q 'DLL Name' <<<"$1" && ! grep -E "DLL Name: .*($not_of_w
 
 # An import of a library that is to be loaded at its first use only, since it and what it brings along
 # would delay the start; none is success.
-imports_nothing_early() { ! grep -iE 'DLL Name: (comdlg32|ole32|shell32)\.dll' <<<"$1"; }
+imports_nothing_early() { ! grep -iE 'DLL Name: (comdlg32|imm32|ole32|shell32|uxtheme)\.dll' <<<"$1"; }
+
+# The least version of Windows, in what objdump prints.
+wants_windows_10() {
+  [[ $(grep -cE '^Major(OSystem|Subsystem)Version[[:space:]]+10$' <<<"$1") -eq 2 ]]
+}
+
+# The manifest in the program states the version that CMakeLists.txt does.
+states_version() { grep -aq "name=\"Tessera\" version=\"$2.0\"" "$1"; }
 
 folder=$1
+version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 imports=$(x86_64-w64-mingw32-objdump -p "$folder/tessera.exe")
 found=$(strangers "$folder")
 [[ -z $found ]]; says $? "$folder holds nothing but what is shipped${found:+, but for $found}"
@@ -53,6 +62,10 @@ found=$(missing_pages "$pages")
 stands_alone "$imports"; says $? "tessera.exe needs no library beyond Windows"
 imports_nothing_early "$imports"; says $? "tessera.exe imports no library for its first use only"
 
+wants_windows_10 "$imports"; says $? "tessera.exe names Windows 10 as the least version"
+states_version "$folder/tessera.exe" "$version"; says $? "the manifest states version $version"
+grep -aq 'stack smashing detected' "$folder/tessera.exe"; says $? "tessera.exe looks after its stack"
+
 sample=$(mktemp -d)
 trap 'rm -rf "$sample"' EXIT
 touch "$sample/vantor.ini"
@@ -62,4 +75,6 @@ touch "$sample/README.txt"
 [[ -n $(missing_pages "${pages//index.html/}") ]]; says $? "a missing page is found"
 ! stands_alone "$imports
 DLL Name: libstdc++-6.dll" >/dev/null; says $? "a missing library is found"
+! wants_windows_10 "${imports//Version*10/Version 6}"; says $? "an older version is found"
+! states_version "$folder/tessera.exe" "$version.9"; says $? "another version is found"
 ! imports_nothing_early "DLL Name: SHELL32.dll" >/dev/null; says $? "an early import is found"
