@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a purpose needs and that this machine lacks.
-# Usage: scripts/setup.sh build|package|run|test|fuzz|coverage|mutants|bench...
+# Usage: scripts/setup.sh build|package|sign|run|test|fuzz|coverage|mutants|bench...
 set -euo pipefail
 
 build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils)
 package=("${build[@]}" python3)
+sign=(osslsigncode)
 run=("${build[@]}" wine wine64 fonts-wine xvfb xdotool imagemagick)
-test=("${run[@]}" g++ clang-14 libclang-rt-14-dev googletest clang-format-14 clang-tidy-14 python3)
+test=("${run[@]}" "${sign[@]}" openssl g++ clang-14 libclang-rt-14-dev googletest clang-format-14
+  clang-tidy-14 python3)
 fuzz=(cmake ninja-build clang-14 libclang-rt-14-dev)
 coverage=(cmake ninja-build googletest clang-14 llvm-14 python3)
 mutants=(cmake ninja-build g++ clang-14 googletest python3)
@@ -17,6 +19,7 @@ for purpose in "$@"; do
   case $purpose in
     build) wanted+=("${build[@]}") ;;
     package) wanted+=("${package[@]}") ;;
+    sign) wanted+=("${sign[@]}") ;;
     run) wanted+=("${run[@]}") ;;
     test) wanted+=("${test[@]}") ;;
     fuzz) wanted+=("${fuzz[@]}") ;;
