@@ -2,6 +2,7 @@
 // demonstration folder, which has all that are known.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -99,6 +100,33 @@ TEST_F(ShippedData, EveryKeyIsShownAsTheSameKeyOfAUser) {
     EXPECT_EQ(notation_.KeysOf(row.CurrentKeys), notation_.KeysOf(row.DefaultKeys))
         << Encode(row.CommandName);
   }
+}
+
+/// The widths of the pictures in an icon file.
+std::set<int> WidthsIn(const std::string& icon) {
+  constexpr std::size_t HeaderLength = 6;
+  constexpr std::size_t EntryLength = 16;
+  std::set<int> widths;
+  const auto count = static_cast<std::size_t>(static_cast<unsigned char>(icon.at(4)));
+  for (std::size_t picture = 0; picture < count; ++picture) {
+    widths.insert(static_cast<unsigned char>(icon.at(HeaderLength + picture * EntryLength)));
+  }
+  return widths;
+}
+
+TEST(ShippedIcons, HaveAPictureForEachUsualScaling) {
+  int icons = 0;
+  for (const auto& file :
+       std::filesystem::directory_iterator(TESSERA_SOURCE_DIRECTORY "/resources/icons")) {
+    if (file.path().extension() != ".ico") continue;
+    ++icons;
+    const std::set<int> widths =
+        WidthsIn(Bytes("resources/icons/" + file.path().filename().string()));
+    for (const int percent : {100, 125, 150, 175, 200, 250, 300}) {
+      EXPECT_TRUE(widths.contains(16 * percent / 100)) << file.path() << " at " << percent << " %";
+    }
+  }
+  EXPECT_GT(icons, 10);
 }
 
 }  // namespace
