@@ -117,7 +117,8 @@ LRESULT frmCommandList::OnNotify(NMHDR& header) {
 }
 
 LRESULT CALLBACK frmCommandList::ListProcedure(HWND list, UINT message, WPARAM wParam,
-                                               LPARAM lParam, UINT_PTR /*id*/, DWORD_PTR /*self*/) {
+                                               LPARAM lParam, UINT_PTR /*id*/, DWORD_PTR self) {
+  reinterpret_cast<frmCommandList*>(self)->SyncTip({list, message, wParam, lParam, 0, {}});
   const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
   // The list has moved the columns after one that changed its width, with what runs over them.
   if (message == WM_NOTIFY && IsWidthChange(*reinterpret_cast<const NMHDR*>(lParam))) {
@@ -171,6 +172,7 @@ void frmCommandList::Sync() {
   syncing_ = false;
   SyncSelection();
   SyncHeaderIcons();
+  HideTip();
   // With its background: an icon may have gone.
   InvalidateRect(ListView1_, nullptr, TRUE);
 }

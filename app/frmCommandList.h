@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "app/Editor.h"
+#include "app/frmCellTip.h"
 #include "platform/Pinned.h"
 #include "platform/win32/Controls.h"
 
@@ -52,6 +53,9 @@ class frmCommandList : Pinned {
   [[nodiscard]] LRESULT OnCustomDraw(const NMCUSTOMDRAW& draw) const;
   void DrawRow(const NMCUSTOMDRAW& draw) const;
   void DrawIcon(HDC context, int position) const;
+  void SyncTip(const MSG& message);
+  void SetTip(int position, int subItem);
+  void HideTip();
   [[nodiscard]] std::array<int, 4> ColumnOrder() const;
   [[nodiscard]] RECT PlaceOf(int position, Column column) const;
   [[nodiscard]] RECT TextPlace(int position, Column column) const;
@@ -68,6 +72,8 @@ class frmCommandList : Pinned {
   HWND ListView1_ = nullptr;
   int dpi_ = 96;
   bool syncing_ = false;  ///< notifications are answers to our own changes
+  frmCellTip tip_;
+  POINT tipCell_{-1, -1};  ///< its column and row; -1 for none
   Unique<HFONT> font_;
   Unique<HIMAGELIST> ilsListView_;
   Unique<HIMAGELIST> ilsColumnHeader_;

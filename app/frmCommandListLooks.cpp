@@ -88,9 +88,8 @@ void frmCommandList::ApplyDisplaySettings() {
   const DWORD lines = settings.CommandListShowLines != 0 ? LVS_EX_GRIDLINES : 0;
   // A mirrored list may draw its texts mirrored too while it is buffered.
   const DWORD buffer = editor_.Language().RightToLeft() ? 0 : LVS_EX_DOUBLEBUFFER;
-  ListView_SetExtendedListViewStyle(ListView1_, LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP |
-                                                    buffer | LVS_EX_INFOTIP | LVS_EX_LABELTIP |
-                                                    lines);
+  ListView_SetExtendedListViewStyle(ListView1_,
+                                    LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP | buffer | lines);
   ListView_SetTextColor(ListView1_, ColorOf(settings.ForegroundColor));
   ListView_SetBkColor(ListView1_, ColorOf(settings.BackgroundColor));
   ListView_SetTextBkColor(ListView1_, ColorOf(settings.BackgroundColor));

@@ -44,20 +44,6 @@ bool PointerIsAt(POINT place) {
   return now.x == place.x && now.y == place.y;
 }
 
-/// The system reports moves late; only a pointer that stays where it was put has settled.
-void MoveTo(POINT place) {
-  constexpr int LooksInARow = 8;
-  constexpr DWORD BetweenLooks = 5;  // milliseconds
-  WaitFor("the mouse pointer at " + std::to_string(place.x) + "," + std::to_string(place.y), [&] {
-    SendMouse(place, 0);
-    for (int look = 0; look < LooksInARow; ++look) {
-      Sleep(BetweenLooks);
-      if (!PointerIsAt(place)) return false;
-    }
-    return true;
-  });
-}
-
 /// A click on the spot of the last one becomes a double click unless it comes late enough.
 void KeepClicksApart(POINT place) {
   static POINT lastPlace{-1, -1};
@@ -71,6 +57,20 @@ void KeepClicksApart(POINT place) {
 }
 
 }  // namespace
+
+// The system reports moves late; only a pointer that stays where it was put has settled.
+void MoveTo(POINT place) {
+  constexpr int LooksInARow = 8;
+  constexpr DWORD BetweenLooks = 5;  // milliseconds
+  WaitFor("the mouse pointer at " + std::to_string(place.x) + "," + std::to_string(place.y), [&] {
+    SendMouse(place, 0);
+    for (int look = 0; look < LooksInARow; ++look) {
+      Sleep(BetweenLooks);
+      if (!PointerIsAt(place)) return false;
+    }
+    return true;
+  });
+}
 
 void Press(WORD key) {
   KeyDown(key);

@@ -27,6 +27,9 @@ class HeldKey {
   WORD key_;
 };
 
+/// Moves the pointer there, and waits until it stays there.
+void MoveTo(POINT place);
+
 /// Clicks with the left button at a place of the screen. Two clicks on one spot are never a double
 /// click.
 void Click(POINT place);

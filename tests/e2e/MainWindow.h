@@ -48,6 +48,9 @@ class MainWindow : public Window {
   [[nodiscard]] RECT CellRectangle(int position, int column) const;  ///< on the screen
   [[nodiscard]] RECT IconRectangle(int position) const;              ///< likewise
 
+  /// What the tip says that is shown over the list; empty while there is none.
+  [[nodiscard]] std::wstring CellTip() const;
+
   void ClickRow(int position);
 
   /// Selects a row without input, as assistive programs do.

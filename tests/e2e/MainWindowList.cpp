@@ -12,6 +12,7 @@
 #include "resources/resource.h"
 #include "tests/e2e/Input.h"
 #include "tests/e2e/MainWindow.h"
+#include "tests/support/win32/Program.h"
 #include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
@@ -135,6 +136,22 @@ RECT MainWindow::CellRectangle(int position, int column) const {
 RECT MainWindow::IconRectangle(int position) const {
   return RectangleBy(Control(IDC_ListView1), LVM_GETITEMRECT, static_cast<WPARAM>(position),
                      {LVIR_ICON, 0, 0, 0});
+}
+
+std::wstring MainWindow::CellTip() const {
+  for (const HWND tip : VisibleWindows(ProcessId(), TOOLTIPS_CLASSW)) {
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof tool;
+    tool.hwnd = Control(IDC_ListView1);
+    tool.uId = 1;
+    tool.lpszText = static_cast<wchar_t*>(memory_.At(TextsAt));
+    memory_.Put(tool);
+    memory_.Put(Text{}, TextsAt);
+    Send(tip, TTM_GETTEXTW, CellLength, memory_.At());
+    const auto text = memory_.Get<Text>(TextsAt);
+    if (text.front() != L'\0') return text.data();
+  }
+  return {};
 }
 
 void MainWindow::ClickRow(int position) {

@@ -1,0 +1,26 @@
+// The tip of the command list. The list's own tips do not reach all of its cells.
+#pragma once
+
+#include <string>
+
+#include "platform/Pinned.h"
+#include "platform/win32/Controls.h"
+
+namespace tessera {
+
+class frmCellTip : Pinned {
+ public:
+  /// From now on the tip over that part of the list; an empty text for none. It is made when there
+  /// is something to say for the first time. The font stays the caller's.
+  void Set(HWND list, const RECT& part, const std::wstring& text, HFONT font);
+
+  /// Takes a mouse message of the list: after a rest over the part the tip shows.
+  void Follow(const MSG& message) const;
+
+ private:
+  void Create(HWND list);
+
+  HWND tip_ = nullptr;
+};
+
+}  // namespace tessera

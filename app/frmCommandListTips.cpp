@@ -1,0 +1,61 @@
+// The tips over the cells of the command list.
+#include "app/CellTip.h"
+#include "app/frmCommandList.h"
+#include "app/RowLooks.h"
+
+namespace tessera {
+namespace {
+
+bool IsPointer(UINT message) { return message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK; }
+
+bool MovesRows(UINT message) {
+  return message == WM_VSCROLL || message == WM_HSCROLL || message == WM_MOUSEWHEEL ||
+         message == WM_MOUSEHWHEEL || message == WM_KEYDOWN;
+}
+
+}  // namespace
+
+void frmCommandList::SyncTip(const MSG& message) {
+  if (MovesRows(message.message)) HideTip();
+  if (!IsPointer(message.message)) return;
+  LVHITTESTINFO hit{};
+  hit.pt = {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+  ListView_SubItemHitTest(ListView1_, &hit);
+  if (tipCell_.x != hit.iSubItem || tipCell_.y != hit.iItem) {
+    tipCell_ = {hit.iSubItem, hit.iItem};
+    SetTip(hit.iItem, hit.iSubItem);
+  }
+  tip_.Follow(message);
+}
+
+void frmCommandList::SetTip(int position, int subItem) {
+  const DisplayTable& rows = editor_.Document().Rows();
+  const auto row = static_cast<std::size_t>(position);
+  if (position < 0 || row >= rows.Count() || subItem < 0) {
+    tip_.Set(ListView1_, {}, {}, font_.get());
+    return;
+  }
+  const Column column = RunsOverAllColumns(rows.At(row), ColumnOrder())
+                            ? Column::Description
+                            : AllColumns[static_cast<std::size_t>(subItem)];
+  const RECT place = TextPlace(position, column);
+  const std::wstring text(CellText(rows.At(row), column));
+  const LRESULT length =
+      SendMessageW(ListView1_, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  RECT inside{};
+  GetClientRect(ListView1_, &inside);
+  const bool isCut = IsCut({.TextBegin = place.left,
+                            .TextLength = static_cast<int>(length),
+                            .CellEnd = place.right,
+                            .ListEnd = inside.right});
+  tip_.Set(ListView1_, place,
+           CellTip(rows, row, column, isCut, editor_.Document().Notation(), editor_.Language()),
+           font_.get());
+}
+
+void frmCommandList::HideTip() {
+  tipCell_ = {-1, -1};
+  tip_.Set(ListView1_, {}, {}, font_.get());
+}
+
+}  // namespace tessera
