@@ -22,8 +22,8 @@ class OwnerWindow {
     return Current();
   }
 
-  /// `beforeModal` is called before each box or dialog opens.
-  void SetMain(HWND window, std::function<void()> beforeModal) {
+  /// `beforeModal`, where given, is called before each box or dialog opens.
+  void SetMain(HWND window, std::function<void()> beforeModal = nullptr) {
     main_ = window;
     beforeModal_ = std::move(beforeModal);
   }
