@@ -140,6 +140,9 @@ class LanguageTest : public EndToEndTest {
       EXPECT_EQ(right ? menu.right : menu.left, right ? place.right : place.left) << button;
       window_->CloseMenus();
     };
+    // Away from the screen's edges, from which the system moves menus.
+    SetWindowPos(window_->Handle(), nullptr, 300, 100, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     expectFlush(IDC_Toolbar1, IDM_mnuFileOpen);
     Select(L"cm_SrcTree");
     WaitFor("the button to be enabled",
