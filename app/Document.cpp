@@ -8,6 +8,7 @@
 #include "settings/commander/RestartTotalCommander.h"
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/InternalCommands.h"
+#include "shortcuts/ReadKeys.h"
 #include "shortcuts/SaveShortcuts.h"
 #include "text/Trim.h"
 
@@ -51,9 +52,14 @@ void Document::ReadModifierNames() {
     const std::wstring name(TrimSpaces(texts_.GetLangText(id)));
     return name.empty() ? std::wstring(BuiltInTextOf(id)) : name;
   };
-  notation_.CtrlName = nameOf(TextId::CtrlName);
-  notation_.AltName = nameOf(TextId::AltName);
-  notation_.ShiftName = nameOf(TextId::ShiftName);
+  HotkeyNotation notation = notation_;
+  notation.CtrlName = nameOf(TextId::CtrlName);
+  notation.AltName = nameOf(TextId::AltName);
+  notation.ShiftName = nameOf(TextId::ShiftName);
+  if (notation == notation_) return;
+  // Keys of files that were opened before stay as they are shown, and the keys that they are.
+  for (CommandEntry& row : catalogue_.lvwHidden) RememberKeys(row, notation_);
+  notation_ = std::move(notation);
 }
 
 bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const ProgressStep& step) {

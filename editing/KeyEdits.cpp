@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "shortcuts/ReadKeys.h"
 #include "text/Text.h"
 
 namespace tessera {
@@ -19,11 +20,20 @@ std::wstring WithoutMark(std::wstring_view text) {
   return std::wstring(text.substr(0, text.size() - std::min(text.size(), OverriddenMark.size())));
 }
 
-void SetCurrentKeys(Catalogue& catalogue, CommandEntry& row, std::wstring keys,
-                    const HotkeyNotation& notation) {
-  const std::vector<std::wstring> former = notation.NativeKeysOf(row.CurrentKeys);
-  row.CurrentKeys = std::move(keys);
-  catalogue.Given.Change(row.Key, former, notation.NativeKeysOf(row.CurrentKeys));
+/// Runs a change to the row's current keys; keys that it takes are no longer given ones.
+template <typename Change>
+void ChangeCurrentKeys(Catalogue& catalogue, CommandEntry& row, const HotkeyNotation& notation,
+                       Change change) {
+  const std::vector<std::wstring> former = NativeKeysOf(row, notation);
+  change();
+  catalogue.Given.Change(row.Key, former, NativeKeysOf(row, notation));
+}
+
+void RemoveCurrentKey(CommandEntry& row, std::wstring_view key, const HotkeyNotation& notation) {
+  // Of a long separator the cut leaves a part, which would count as one of the last key.
+  if (notation.MultiHotkeySeparator.size() > CutLength + 1) RememberKeys(row, notation);
+  row.CurrentKeys = RemoveKeyFromList(row.CurrentKeys, key, notation);
+  ForgetKey(row, key, notation);
 }
 
 void TakeDefaultKey(Catalogue& catalogue, const KeyConflict& conflict,
@@ -39,7 +49,7 @@ void TakeDefaultKey(Catalogue& catalogue, const KeyConflict& conflict,
 void TakeCurrentKey(Catalogue& catalogue, const KeyConflict& conflict, std::wstring_view key,
                     const HotkeyNotation& notation) {
   CommandEntry& owner = catalogue.ListView1.Edit(conflict.Owner);
-  SetCurrentKeys(catalogue, owner, RemoveKeyFromList(owner.CurrentKeys, key, notation), notation);
+  ChangeCurrentKeys(catalogue, owner, notation, [&] { RemoveCurrentKey(owner, key, notation); });
   const bool defaultIsOverridden = owner.DefaultKeys.ends_with(L'*');
   const bool hasNoKey = owner.DefaultKeys == notation.UndefinedHotkey &&
                         owner.CurrentKeys == notation.UndefinedHotkey;
@@ -95,14 +105,17 @@ void TakeKey(Catalogue& catalogue, RowKey row, const std::wstring& key, const Ke
 
 void GiveKey(Catalogue& catalogue, RowKey row, const std::wstring& key,
              const HotkeyNotation& notation) {
-  notation.AddKey(catalogue.ListView1.Edit(row).CurrentKeys, key);
+  AddComposedKey(catalogue.ListView1.Edit(row), key, notation);
   for (const std::wstring& native : notation.NativeKeysOf(key)) catalogue.Given.Give(row, native);
 }
 
 void ReleaseCurrentKeys(Catalogue& catalogue, RowKey row, const HotkeyNotation& notation) {
   CommandEntry& entry = catalogue.ListView1.Edit(row);
   const std::vector<std::wstring> keys = notation.KeysOf(entry.CurrentKeys);
-  SetCurrentKeys(catalogue, entry, notation.UndefinedHotkey, notation);
+  ChangeCurrentKeys(catalogue, entry, notation, [&] {
+    entry.CurrentKeys = notation.UndefinedHotkey;
+    entry.ReadKeys.clear();
+  });
   if (entry.DefaultKeys == notation.UndefinedHotkey) entry.Icon = RowIcon::None;
   for (const std::wstring& key : keys) WithdrawMarks(catalogue, key);
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessera {
 
@@ -19,6 +20,12 @@ inline constexpr std::wstring_view CommentBlockTag = L"commentblock";
 /// Marks a key text or cell as taken away or overridden.
 inline constexpr std::wstring_view OverriddenMark = L" *";
 
+/// A current key with the name by which it was read.
+struct ReadKey {
+  std::wstring Shown;  ///< in display notation
+  std::wstring Name;   ///< in Total Commander's; empty for a key that the user composed
+};
+
 /// The views are parts of a text that whoever makes a row keeps alive: with texts of their own,
 /// opening 600 commands took 11.7 times splitting their lines instead of 8.3; 10 is the goal.
 struct CommandEntry {
@@ -29,6 +36,7 @@ struct CommandEntry {
   std::wstring_view Tag;          ///< the code, or CommentBlockTag
   std::wstring DefaultKeys;       ///< in display notation, joined by the key separator
   std::wstring CurrentKeys;       ///< likewise
+  std::vector<ReadKey> ReadKeys;  ///< all current keys; none where CurrentKeys alone tells them
   RowIcon Icon = RowIcon::None;
   bool DefaultKeysAreRed = false;
 

@@ -25,6 +25,8 @@ struct HotkeyNotation {
   std::wstring UndefinedHotkey = L"---";
   bool ReverseOrderHotkey = false;
 
+  [[nodiscard]] bool operator==(const HotkeyNotation&) const = default;
+
   /// The separator without its blanks, which is what a column is split at.
   [[nodiscard]] std::wstring_view TrimmedSeparator() const;
 

@@ -11,6 +11,7 @@
 #include "platform/Pinned.h"
 #include "shortcuts/CommandFinder.h"
 #include "shortcuts/NativeKey.h"
+#include "shortcuts/ReadKeys.h"
 #include "shortcuts/RedirectSection.h"
 #include "shortcuts/WincmdIni.h"
 #include "text/Text.h"
@@ -41,7 +42,7 @@ std::vector<CatalogueLine> LinesOfRows(const DisplayTable& table, const HotkeyNo
   std::vector<CatalogueLine> lines;
   for (std::size_t position = 0; position < table.Count(); ++position) {
     const CommandEntry& row = table.At(position);
-    for (const std::wstring& key : notation.NativeKeysOf(row.CurrentKeys)) {
+    for (const std::wstring& key : NativeKeysOf(row, notation)) {
       std::wstring name = AsName(key);
       // A line without a name would bind nothing.
       if (!name.empty()) lines.push_back({std::move(name), std::wstring(row.CommandName), row.Key});

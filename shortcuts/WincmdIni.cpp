@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "shortcuts/CommandFinder.h"
+#include "shortcuts/ReadKeys.h"
 #include "shortcuts/RedirectSection.h"
 #include "text/Text.h"
 
@@ -79,10 +80,9 @@ void ReadShortcuts(std::vector<CommandEntry>& rows, const ProfileFile& file,
     const auto row = finder.Find(value);
     if (!row) continue;
 
-    std::wstring& keys = rows[*row].CurrentKeys;
-    const std::wstring key = notation.NativeToDisplay(name, notation.UndefinedHotkey);
+    const std::wstring& keys = rows[*row].CurrentKeys;
     finder.RemoveCurrentKeys(*row, keys);
-    notation.AddKey(keys, key);
+    AddReadKey(rows[*row], name, notation);
     finder.AddCurrentKeys(*row, keys);
   }
 }

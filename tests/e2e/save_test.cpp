@@ -34,6 +34,20 @@ TEST_F(SaveTest, OnlySectionShortcutsChanges) {
   EXPECT_FALSE(Exists(folder_.WincmdIni() + L".unsaved"));
 }
 
+TEST_F(SaveTest, KeysThatNobodyTouchedStayTheKeysThatTheyWere) {
+  WriteBytes(folder_.WincmdIni(),
+             "[Shortcuts]\r\nOEM_+=cm_SrcTree\r\nW+Q=cm_SrcComments\r\nc+k=cm_SrcBySize\r\n"
+             "AC+F5=cm_SrcBySize\r\n");
+  StartAndLoad();
+  MakeAChange();
+  Save();
+  const std::string saved = ReadBytes(folder_.WincmdIni());
+  EXPECT_EQ(SectionValue(saved, "Shortcuts", "OEM_+"), "cm_SrcTree") << saved;
+  EXPECT_EQ(SectionValue(saved, "Shortcuts", "W+Q"), "cm_SrcComments") << saved;
+  EXPECT_EQ(SectionValue(saved, "Shortcuts", "c+k"), "cm_SrcBySize") << saved;
+  EXPECT_EQ(SectionValue(saved, "Shortcuts", "CA+F5"), "cm_SrcBySize") << saved;
+}
+
 TEST_F(SaveTest, LinesComeInTheOrderOfTheSortedView) {
   StartAndLoad();
   MakeAChange();

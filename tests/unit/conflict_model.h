@@ -15,11 +15,17 @@
 
 namespace tessera::model {
 
+struct ModelPiece {
+  Text Shown;
+  Text Name;  ///< by which it was read; empty when an edit made it
+};
+
 struct ModelRow {
   bool IsHeading = false;
   Text Description, Name, Code, Defaults, Current;
   RowIcon Icon = RowIcon::None;
   bool IsRed = false;
+  std::vector<ModelPiece> Pieces;  ///< of the current keys
 };
 
 struct ModelKey {
@@ -91,6 +97,7 @@ class Model {
     if (!AskStartMenu(key) || !AskOwners(key, true)) return false;
     Release(Selected);
     Rows[Selected].Current = key;
+    Rows[Selected].Pieces = {{key, {}}};
     Remember(key);
     Rows[Selected].Icon = RowIcon::HasKey;
     return true;
@@ -102,6 +109,7 @@ class Model {
     if (!AskStartMenu(key) || !AskOwners(key, false)) return false;
     Text& cell = Rows[Selected].Current;
     cell = cell == Undefined ? key : cell + L" = " + key;
+    Rows[Selected].Pieces.push_back({key, {}});
     Remember(key);
     return true;
   }
@@ -173,7 +181,7 @@ class Model {
   void Save() {
     std::vector<ModelKey> written;
     for (const std::size_t row : Order) {
-      for (const Text& name : NamesIn(Rows[row].Current)) written.push_back({name, row});
+      for (const Text& name : NamesIn(Rows[row])) written.push_back({name, row});
     }
     Shortcuts.clear();
     while (!written.empty()) {
@@ -235,19 +243,31 @@ class Model {
       if (row.IsHeading || !isMeant) continue;
       const Text key = ShownFromFile(line.Name, Reversed);
       row.Current = row.Current == Undefined ? key : row.Current + L" = " + key;
+      row.Pieces.push_back({key, line.Name});
       return;
     }
   }
 
-  /// The names that a save writes for a cell.
-  [[nodiscard]] TextList NamesIn(Text cell) const {
+  static Text WithoutNum(Text shown) {
+    if (const std::size_t num = shown.find(L"Num"); num != Text::npos) shown.erase(num, 3);
+    return Trim(shown);
+  }
+
+  /// The names that a save writes for a row.
+  [[nodiscard]] TextList NamesIn(const ModelRow& row) const {
     TextList names;
-    if (cell.empty() || cell == Undefined) return names;
-    if (const std::size_t num = cell.find(L"Num"); num != Text::npos) cell.erase(num, 3);
-    const bool isSeveral = cell.find(L" = ") != Text::npos;
-    for (const Text& piece : isSeveral ? Split(cell, L"=") : TextList{cell}) {
-      const Text name = cell == L"+" ? cell : WrittenToFile(Trim(piece), Reversed);
-      if (!name.empty()) names.push_back(name);
+    bool hasNum = false;
+    for (const auto& [shown, name] : row.Pieces) {
+      const Text plain = WrittenToFile(WithoutNum(shown), Reversed);
+      const bool isLost = row.Current.empty() || row.Current == Undefined || plain.empty() ||
+                          plain[0] == L';' || KeyOf(plain) != KeyOf(name);
+      const bool isNum = shown.find(L"Num") != Text::npos;
+      if (isLost && !name.empty()) {
+        names.push_back(name);
+      } else {
+        names.push_back(isNum && hasNum ? WrittenToFile(shown, Reversed) : plain);
+        hasNum |= isNum;
+      }
     }
     return names;
   }
@@ -291,18 +311,18 @@ class Model {
   }
 
   void Remember(const Text& key) {
-    for (const Text& name : NamesIn(key)) {
-      Forget({name, Selected});
-      Gifts.push_back({name, Selected});
-    }
+    const Text name = WrittenToFile(WithoutNum(key), Reversed);
+    Forget({name, Selected});
+    Gifts.push_back({name, Selected});
   }
 
-  void ChangeCell(std::size_t row, const Text& cell) {
-    const TextList before = NamesIn(Rows[row].Current);
+  void ChangeCell(std::size_t row, const Text& cell, const std::vector<ModelPiece>& pieces) {
+    const TextList before = NamesIn(Rows[row]);
     Rows[row].Current = cell;
+    Rows[row].Pieces = pieces;
     for (const Text& name : before) {
       bool stays = false;
-      for (const Text& left : NamesIn(cell)) stays |= IsSameGift({left, row}, {name, row});
+      for (const Text& left : NamesIn(Rows[row])) stays |= IsSameGift({left, row}, {name, row});
       if (!stays) Forget({name, row});
     }
   }
@@ -349,8 +369,10 @@ class Model {
       for (const Text& piece : Split(owner.Current, L"=")) {
         if (Trim(piece) != key) left += Trim(piece) + L" = ";
       }
+      std::vector<ModelPiece> pieces = owner.Pieces;
+      std::erase_if(pieces, [&](const ModelPiece& piece) { return Trim(piece.Shown) == key; });
       const std::size_t former = static_cast<std::size_t>(&owner - Rows.data());
-      ChangeCell(former, left.empty() ? Undefined : left.substr(0, left.size() - 3));
+      ChangeCell(former, left.empty() ? Undefined : left.substr(0, left.size() - 3), pieces);
       const bool hasNone = owner.Defaults == Undefined && owner.Current == Undefined;
       if (owner.Defaults.ends_with(L'*') || hasNone) owner.Icon = RowIcon::None;
       return true;
@@ -366,7 +388,7 @@ class Model {
 
   void Release(std::size_t row) {
     const Text cell = Rows[row].Current;
-    ChangeCell(row, Undefined);
+    ChangeCell(row, Undefined, {});
     if (Rows[row].Defaults == Undefined) Rows[row].Icon = RowIcon::None;
     for (const Text& key : KeysIn(cell)) {
       for (ModelSlot& slot : Slots) {

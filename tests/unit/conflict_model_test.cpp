@@ -171,6 +171,7 @@ class Pair {
       Text name = Text((modifiers & 4) != 0 ? L"S" : L"") + ((modifiers & 1) != 0 ? L"C" : L"") +
                   ((modifiers & 2) != 0 ? L"A" : L"") + (modifiers != 0 ? L"+" : L"");
       name += Vocabulary[Below(Vocabulary.size())];
+      if (Below(4) == 0) name = OddNames[Below(OddNames.size())];
       const std::size_t row = Below(model_.Master.size() + 1);
       const bool isKnown = row < model_.Master.size() && !model_.Master[row].IsHeading;
       const Text value = !isKnown        ? Text(L"em_own")

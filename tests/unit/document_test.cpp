@@ -110,6 +110,14 @@ TEST_F(EditorTest, ASaveReleasesAStartMenuKeyThatWasTaken) {
   EXPECT_NE(Ini().find("CA+F1=cm_Pack\r\n"), std::string::npos);
 }
 
+TEST_F(EditorTest, KeysThatNobodyTouchedAreSavedAsTheKeysThatTheyWere) {
+  Ini() = "[Shortcuts]\r\nOEM_+=cm_View\r\nSC+a=cm_View\r\nc+k=cm_Copy\r\n";
+  Start();
+  Assign(Pack, L"X");
+  Editor.FileSave();
+  EXPECT_EQ(Ini(), "[Shortcuts]\r\nc+k=cm_Copy\r\nOEM_+=cm_View\r\nCS+A=cm_View\r\nX=cm_Pack\r\n");
+}
+
 TEST_F(EditorTest, SavingWithoutChangesTouchesNothing) {
   StoredSettings() = "[Tessera]\r\nAlwaysRestartTC=1\r\n";
   Programs.Windows[L"TTOTAL_CMD"] = 7;

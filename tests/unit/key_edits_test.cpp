@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "editing/KeyEdits.h"
+#include "shortcuts/ReadKeys.h"
 #include "tests/unit/sample_catalogue.h"
 
 namespace tessera::key_edits_test {
@@ -52,6 +53,36 @@ TEST_F(KeyEdits, TakingAFreeKeyAddsItToTheIndex) {
   const auto entry = catalogue_.lvwCurrKeys.FindWhole(L"Alt + X");
   ASSERT_TRUE(entry);
   EXPECT_EQ(catalogue_.lvwCurrKeys.At(*entry).Owner, Pack);
+}
+
+TEST_F(KeyEdits, NamesOfReadKeysStayWhileTheKeysStand) {
+  const auto names = [&](RowKey row) { return NativeKeysOf(Row(row), notation_); };
+  using Names = std::vector<std::wstring>;
+  CommandEntry& view = catalogue_.ListView1.Edit(View);
+  for (const wchar_t* name : {L"OEM_+", L"c+k"}) AddReadKey(view, name, notation_);
+  catalogue_.lvwCurrKeys.Add(L"K", View);
+  EXPECT_EQ(names(View), (Names{L"F6", L"OEM_+", L"c+k"}));
+  GiveKey(catalogue_, View, L"Ctrl + X", notation_);
+  EXPECT_EQ(names(View), (Names{L"F6", L"OEM_+", L"c+k", L"C+X"}));
+
+  Take(Pack, L"K", true);
+  GiveKey(catalogue_, Pack, L"K", notation_);
+  EXPECT_EQ(names(View), (Names{L"F6", L"OEM_+", L"C+X"}));
+  EXPECT_EQ(names(Pack), Names{L"K"}) << "moved, it is the key that is shown";
+
+  EXPECT_TRUE(DeleteCurrentKeys(catalogue_, View, notation_));
+  EXPECT_TRUE(names(View).empty());
+  GiveKey(catalogue_, View, L"K", notation_);
+  EXPECT_EQ(names(View), Names{L"K"});
+}
+
+TEST_F(KeyEdits, WhatIsCutIntoALongSeparatorIsNoPartOfAKey) {
+  notation_.MultiHotkeySeparator = L" //// ";
+  CommandEntry& refresh = catalogue_.ListView1.Edit(Refresh);
+  refresh.CurrentKeys = L"F7 //// F8";
+  Take(Pack, L"F8", true);
+  EXPECT_EQ(refresh.CurrentKeys, L"F7 //");
+  EXPECT_EQ(NativeKeysOf(refresh, notation_), std::vector<std::wstring>{L"F7"});
 }
 
 TEST_F(KeyEdits, AKeyCountsAsGivenUntilAnEditTakesIt) {

@@ -1,6 +1,7 @@
 // The notations of keys for the model of conflicts, in their simplest words.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -70,7 +71,7 @@ inline Text Shown(unsigned modifiers, const Text& key, bool reversed) {
   const Text name = (IsOperator(key) ? L"Num " : L"") + key;
   names.insert(reversed ? names.begin() : names.end(), name);
   Text text;
-  for (const Text& part : names) text += (text.empty() ? L"" : L" + ") + part;
+  for (const Text& part : names) text += (&part == &names.front() ? L"" : L" + ") + part;
   return text;
 }
 
@@ -87,6 +88,20 @@ inline Text ShownFromFile(const Text& native, bool reversed) {
     if (letter >= L'a' && letter <= L'z') letter = static_cast<wchar_t>(letter - 32);
   }
   return Shown(modifiers, key, reversed);
+}
+
+/// Names that the notation alone would not write back, and one that it only writes otherwise.
+inline const TextList OddNames = {L"OEM_+", L"C+OEM_+", L"C+NUM+", L"W+Q", L"c+k", L"Ctrl+F2",
+                                  L"C+",    L"---",     L"Num X",  L"+;x", L"SC+a"};
+
+/// A name as a key: the letters before its first "+" as a set, and the rest.
+inline Text KeyOf(const Text& name) {
+  const std::size_t plus = name.size() > 1 ? name.find(L'+') : Text::npos;
+  std::set<wchar_t> letters;
+  for (std::size_t i = 0; plus != Text::npos && i < plus; ++i) letters.insert(Lower(name)[i]);
+  letters.erase(L' ');
+  return Text(letters.begin(), letters.end()) + L"+" +
+         Trim(Lower(name.substr(plus == Text::npos ? 0 : plus + 1)));
 }
 
 inline Text WrittenToFile(const Text& shown, bool reversed) {
