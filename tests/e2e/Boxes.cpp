@@ -18,7 +18,7 @@ namespace {
 
 constexpr wchar_t DialogClass[] = L"#32770";
 constexpr int MessageTextId = 0xFFFF;
-constexpr std::array AnswerButtons{IDOK, IDCANCEL, IDYES, IDNO};
+constexpr std::array AnswerButtons{IDOK, IDCANCEL, IDRETRY, IDYES, IDNO};
 
 bool IsFileDialog(HWND window) {
   return GetDlgItem(window, edt1) != nullptr || GetDlgItem(window, cmb13) != nullptr;
