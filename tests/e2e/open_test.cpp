@@ -51,6 +51,21 @@ TEST_F(OpenTest, RelativePathOnTheCommandLineStartsFromTheCurrentFolder) {
   ExpectOtherFile();
 }
 
+TEST_F(OpenTest, SavedFileKeepsTheLetterCaseOfItsName) {
+  const std::wstring path = folder_.Root() + L"OTHER File.INI";
+  Start(L'"' + path + L'"');
+  WaitUntilOpen(path);
+  BringToFront(window_->Handle());
+  Select(L"cm_SrcTree");
+  window_->ClickButton(IDC_Toolbar2, IDM_delete);
+  WaitForKeys(L"cm_SrcTree", L"---");
+  Save();
+  EXPECT_EQ(SectionLines(ReadBytes(other_), "Shortcuts").size(), 0U);
+  WIN32_FIND_DATAW found{};
+  FindClose(FindFirstFileW(path.c_str(), &found));
+  EXPECT_EQ(std::wstring(found.cFileName), L"other file.ini");
+}
+
 TEST_F(OpenTest, FileThatCannotBeReadLeavesTheOpenOne) {
   StartAndLoad();
   MakeAChange();
