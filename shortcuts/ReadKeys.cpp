@@ -28,6 +28,12 @@ bool IsWrittenBack(std::wstring_view written, std::wstring_view name) {
   return written == name || (IsKeyName(written) && CanonicalKey(written) == CanonicalKey(name));
 }
 
+bool IsKeypadKey(std::wstring_view name) {
+  const std::wstring canonical = CanonicalKey(name);
+  const std::wstring key = canonical.substr(canonical.find(L'+') + 1);
+  return WithNum(key) != key;
+}
+
 /// A displayed key by itself as the notation writes it.
 std::wstring Written(std::wstring_view shown, const HotkeyNotation& notation) {
   const std::wstring_view key = TrimSpaces(shown);
@@ -69,14 +75,14 @@ std::vector<std::wstring> NativeKeysOf(const CommandEntry& row, const HotkeyNota
     std::wstring written = Written(shown, notation);
     const bool isParted = isSplit && Contains(shown, notation.TrimmedSeparator());
     const bool isAsRead = ReadsAsNone(cell, notation) || isParted || !IsWrittenBack(written, name);
+    const bool isKeypadKey = IsKeypadKey(name.empty() ? written : name);
+    const bool keepsNum = isKeypadKey && hasKeypadKey;
+    hasKeypadKey = hasKeypadKey || isKeypadKey;
     if (!name.empty() && isAsRead) {
       names.push_back(name);
-      continue;
+    } else {
+      names.push_back(keepsNum ? notation.DisplayToNative(shown) : std::move(written));
     }
-    const bool isKeypadKey = Contains(shown, Num);
-    names.push_back(isKeypadKey && hasKeypadKey ? notation.DisplayToNative(shown)
-                                                : std::move(written));
-    hasKeypadKey = hasKeypadKey || isKeypadKey;
   }
   return names;
 }
