@@ -108,6 +108,9 @@ void frmMain::mnuViewOptions_Click() {
     views_.ApplyLanguage();
     views_.ApplyFonts();
     views_.ApplyDisplaySettings();
+    // Controls that move while a window is mirrored may stay half unpainted.
+    RedrawWindow(window_, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
   }
   React(outcome.Panel);
   Sync();

@@ -4,7 +4,9 @@
 #include <commctrl.h>
 // clang-format on
 
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
@@ -43,7 +45,8 @@ class LanguageTest : public EndToEndTest {
   }
 
   void ChooseLanguageFile(const std::wstring& path) {
-    Dialog dialog = OpenOptions('V', 'O');
+    window_->Command(IDM_mnuViewOptions);
+    Dialog dialog = NextDialog(L"frmOptions");
     dialog.ClickControl(IDC_chkShowgridlines);
     dialog.ClickTab(IDC_tbsOptions, 3);
     dialog.ClickControl(IDC_optUseOtheLanguage);
@@ -120,6 +123,27 @@ class LanguageTest : public EndToEndTest {
     exportDialog.WaitUntilClosed();
   }
 
+  /// What the window shows inside its frame.
+  [[nodiscard]] Picture WindowPicture() const {
+    RECT inside{};
+    GetClientRect(window_->Handle(), &inside);
+    return TakePicture(OnScreen(window_->Handle(), inside));
+  }
+
+  /// The same when nothing in it changes any more, without the pointer.
+  [[nodiscard]] Picture SettledPicture() const {
+    constexpr DWORD BetweenLooks = 300;  // milliseconds
+    MoveTo({1, 1});
+    Picture last = WindowPicture();
+    return *WaitFor("the window to be painted", [&]() -> std::optional<Picture> {
+      Sleep(BetweenLooks);
+      Picture now = WindowPicture();
+      const bool settled = now.Pixels == last.Pixels;
+      last = std::move(now);
+      return settled ? std::optional(last) : std::nullopt;
+    });
+  }
+
   /// The first menu opens at the end where reading begins.
   void ExpectMenuAtTheRight(bool right) {
     BringToFront(window_->Handle());
@@ -193,6 +217,29 @@ TEST_F(LanguageTest, ArabicReadsFromTheRight) {
   ExpectDirection(true);
   ExpectMenuAtTheRight(true);
   ExpectButtonMenusAtTheRight(true);
+}
+
+TEST_F(LanguageTest, SwitchToArabicLooksAsAStartInIt) {
+  // Wide enough for every language.
+  const std::string size = "[Tessera]\r\nMainWindowWidth=12000\r\n";
+  const auto startWith = [&](const std::wstring& language, const std::string& gridLines) {
+    WriteBytes(folder_.SettingsFile(), size + "CommandListShowLines=" + gridLines +
+                                           "\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
+                                           Utf8(Shipped(language)) + "\r\n");
+    StartAndLoad();
+    Select(L"cm_SrcTree");
+  };
+  startWith(L"Arabic.lng", "0");
+  const Picture fresh = SettledPicture();
+  Close();
+  // The label of one is longer than the Arabic one, that of the other shorter.
+  for (const wchar_t* before : {L"Russian.lng", L"ChineseSimplified.lng"}) {
+    startWith(before, "1");
+    ChooseLanguageFile(Shipped(L"Arabic.lng"));  // and switches the lines off
+    MoveTo({1, 1});
+    WaitFor("the Arabic window", [&] { return WindowPicture().Pixels == fresh.Pixels; });
+    Close();
+  }
 }
 
 TEST_F(LanguageTest, DirectionAloneKeepsTheEnglishTexts) {
