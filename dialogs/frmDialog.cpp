@@ -5,6 +5,7 @@
 #include <array>
 #include <vector>
 
+#include "dialogs/PageKeys.h"
 #include "localisation/Mnemonic.h"
 #include "platform/win32/Guarded.h"
 
@@ -54,6 +55,21 @@ std::vector<WORD> EmptyTemplate(const wchar_t* className) {
   return whole;
 }
 
+/// Shows messages to a function before a modal dialog of this thread takes them.
+class MessageFilter {
+ public:
+  explicit MessageFilter(HOOKPROC function)
+      : hook_(SetWindowsHookExW(WH_MSGFILTER, function, nullptr, GetCurrentThreadId())) {}
+  ~MessageFilter() { UnhookWindowsHookEx(hook_); }
+  MessageFilter(const MessageFilter&) = delete;
+  MessageFilter& operator=(const MessageFilter&) = delete;
+
+ private:
+  HHOOK hook_;
+};
+
+bool Held(int key) { return GetKeyState(key) < 0; }
+
 }  // namespace
 
 frmDialog::frmDialog(const DialogPlan& plan, const Texts& texts, const Settings& settings)
@@ -63,6 +79,7 @@ void frmDialog::ShowModal(HWND owner) {
   // The window procedure of dialogs, under a class name of our own.
   RegisterWindowClass(plan_.ClassName, DefDlgProcW, 0, DLGWINDOWEXTRA);
   const std::vector<WORD> empty = EmptyTemplate(plan_.ClassName);
+  const MessageFilter filter(FilterMessage);
   DialogBoxIndirectParamW(GetModuleHandleW(nullptr),
                           reinterpret_cast<const DLGTEMPLATE*>(empty.data()), owner,
                           DialogProcedure, reinterpret_cast<LPARAM>(this));
@@ -82,6 +99,21 @@ void frmDialog::SetChecked(int id, bool checked) const {
 
 void frmDialog::FocusOn(int id) const {
   SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(id)), TRUE);
+}
+
+LRESULT CALLBACK frmDialog::FilterMessage(int code, WPARAM wParam, LPARAM lParam) {
+  const MSG& message = *reinterpret_cast<const MSG*>(lParam);
+  if (code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN) {
+    // Boxes and dialogs of the system that are open above it come here too.
+    const HWND window = GetAncestor(message.hwnd, GA_ROOT);
+    const bool isOwn =
+        GetWindowLongPtrW(window, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(DialogProcedure);
+    if (isOwn && reinterpret_cast<frmDialog*>(GetWindowLongPtrW(window, DWLP_USER))
+                     ->TurnPage(message.wParam)) {
+      return 1;
+    }
+  }
+  return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 INT_PTR CALLBACK frmDialog::DialogProcedure(HWND window, UINT message, WPARAM wParam,
@@ -159,7 +191,7 @@ void frmDialog::OnInit() {
   Sync();
   ShowPage(page_);
   CenterForm();
-  FocusFirst();
+  SetFocus(FirstToFocus());
 }
 
 void frmDialog::OnCommandMessage(int id, int notification) {
@@ -234,7 +266,23 @@ void frmDialog::ShowPage(int page) {
   }
 }
 
-void frmDialog::FocusFirst() {
+bool frmDialog::TurnPage(WPARAM key) {
+  const std::optional<int> page = PageAfterKey({.Code = static_cast<unsigned>(key),
+                                                .CtrlHeld = Held(VK_CONTROL),
+                                                .AltHeld = Held(VK_MENU),
+                                                .ShiftHeld = Held(VK_SHIFT)},
+                                               page_, static_cast<int>(plan_.TabCaptions.size()));
+  if (!page) return false;
+  // The tabs and the buttons below them keep the focus.
+  const bool focusOnPage = Find(GetDlgCtrlID(GetFocus())) != nullptr;
+  ShowPage(*page);
+  if (focusOnPage) {
+    SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(FirstToFocus()), TRUE);
+  }
+  return true;
+}
+
+HWND frmDialog::FirstToFocus() const {
   const auto first = std::ranges::find_if(plan_.Controls, [this](const DialogControl& each) {
     return each.Page == page_ && (ClassOf(each.Kind).Style & WS_TABSTOP) != 0;
   });
@@ -242,7 +290,7 @@ void frmDialog::FocusFirst() {
   const bool optionChosenLater =
       first->Kind == ControlKind::OptionButton && Button_GetCheck(control) != BST_CHECKED;
   if (optionChosenLater) control = Control((first + 1)->Id);
-  SetFocus(control);
+  return control;
 }
 
 const DialogControl* frmDialog::Find(int id) const {

@@ -59,6 +59,7 @@ class frmDialog {
   [[nodiscard]] virtual COLORREF SwatchColor(int /*id*/) const { return 0; }
 
  private:
+  static LRESULT CALLBACK FilterMessage(int code, WPARAM wParam, LPARAM lParam);
   static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<INT_PTR> Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void OnInit();
@@ -80,7 +81,8 @@ class frmDialog {
   void Resize(int width, int height, std::optional<POINT> corner);
   void CenterForm();
   void ShowPage(int page);
-  void FocusFirst();
+  bool TurnPage(WPARAM key);
+  [[nodiscard]] HWND FirstToFocus() const;
   void DrawTabBackground(SIZE size);
   void DrawBackground(HDC context) const;
   void DrawSwatch(const DRAWITEMSTRUCT& draw) const;

@@ -6,6 +6,7 @@
 #include <dlgs.h>
 // clang-format on
 
+#include <optional>
 #include <string>
 
 #include "resources/resource.h"
@@ -138,6 +139,36 @@ TEST_F(OptionsTest, TabsAndControlsBearTheirTexts) {
       {IDC_cmdApply, L"&Apply"}};
   for (const auto& [id, text] : texts) EXPECT_EQ(dialog.ControlText(id), text);
   EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
+}
+
+TEST_F(OptionsTest, KeysTurnThePages) {
+  Dialog dialog = OpenOptions();
+  const auto turn = [&](WORD key, bool shift, Tab expected) {
+    const HeldKey ctrl(VK_CONTROL);
+    std::optional<HeldKey> held;
+    if (shift) held.emplace(WORD{VK_SHIFT});
+    Press(key);
+    WaitFor("tab " + std::to_string(expected),
+            [&] { return dialog.ChosenTab(IDC_tbsOptions) == expected; });
+  };
+  const auto waitForFocus = [&](int id) {
+    WaitFor("control " + std::to_string(id) + " to have the focus",
+            [&] { return dialog.HasFocus(id); });
+  };
+  waitForFocus(IDC_chkShowgridlines);
+  turn(VK_TAB, false, ColorAndFont);
+  waitForFocus(IDC_lblColorChange0);
+  EXPECT_FALSE(dialog.Visible(IDC_chkShowgridlines));
+  turn(VK_TAB, true, Layout);
+  turn(VK_TAB, true, Language);
+  waitForFocus(IDC_optUseDefaultLanguage);  // the one that is chosen
+  turn(VK_NEXT, false, Layout);
+  turn(VK_PRIOR, false, Language);
+  dialog.ClickTab(IDC_tbsOptions, Operation);
+  turn(VK_NEXT, false, Language);
+  EXPECT_TRUE(dialog.HasFocus(IDC_tbsOptions)) << "the tabs keep it";
+  EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
+  dialog.CloseByKey(VK_ESCAPE);
 }
 
 TEST_F(OptionsTest, OkStoresEveryBox) {
