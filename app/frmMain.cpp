@@ -204,6 +204,8 @@ void frmMain::Form_Activate() {
   if (editor_.Document().Busy()) return;
   editor_.Activate();
   Sync();
+  // The system may have put a restored window before it.
+  views_.BringKeysListToFront();
 }
 
 void frmMain::Form_QueryUnload() {

@@ -53,7 +53,7 @@ void frmViews::ApplyLanguage() {
   Toolbar1_.ApplyLanguage(editor_.Language());
   list_.ApplyLanguage();
   panel_.ApplyLanguage();
-  keysList_.SetName(WithoutMnemonic(editor_.Language().GetLangText(TextId::Hotkey)));
+  keysList_.ApplyLanguage(KeysListName(), editor_.Language().RightToLeft());
 }
 
 void frmViews::SetUpColumns() { list_.SetUpColumns(); }
@@ -148,7 +148,11 @@ void frmViews::SyncCommands() const {
 void frmViews::CreateKeysList() {
   keysList_.Create(window_);
   keysList_.ApplyFont(font_.get(), dpi_);
-  keysList_.SetName(WithoutMnemonic(editor_.Language().GetLangText(TextId::Hotkey)));
+  keysList_.ApplyLanguage(KeysListName(), editor_.Language().RightToLeft());
+}
+
+std::wstring frmViews::KeysListName() const {
+  return WithoutMnemonic(editor_.Language().GetLangText(TextId::Hotkey));
 }
 
 void frmViews::SyncKeysList() {

@@ -44,6 +44,7 @@ class frmViews {
 
   /// The keys list stands on the screen by itself: when the window moves, it is to follow.
   void MoveKeysList();
+  void BringKeysListToFront() { keysList_.BringToFront(); }
 
   /// Tells the controls of the system about a change of its settings.
   void Forward(UINT message, WPARAM wParam, LPARAM lParam) const;
@@ -67,6 +68,7 @@ class frmViews {
   void SyncCommands() const;
   void SyncKeysList();
   void CreateKeysList();
+  [[nodiscard]] std::wstring KeysListName() const;
 
   const Editor& editor_;
   frmMenus menus_;

@@ -61,8 +61,9 @@ void frmKeysList::ApplyFont(HFONT font, int dpi) {
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void frmKeysList::SetName(const std::wstring& name) {
+void frmKeysList::ApplyLanguage(const std::wstring& name, bool rightToLeft) {
   if (window_ == nullptr) return;
+  SetRightToLeft(window_, rightToLeft);
   SetText(window_, name);
   SetAccessibleName(List1_, name);
 }
@@ -77,9 +78,14 @@ void frmKeysList::Select(int index) {
 
 void frmKeysList::MoveTo(const Area& area) { Place(window_, area); }
 
+void frmKeysList::BringToFront() {
+  if (window_ == nullptr) return;
+  SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 void frmKeysList::Show() {
   ShowWindow(window_, SW_SHOW);
-  SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  BringToFront();
   SetFocus(List1_);
 }
 

@@ -32,8 +32,8 @@ class frmKeysList {
   /// Gives the list the size that suits the font, which stays the caller's.
   void ApplyFont(HFONT font, int dpi);
 
-  /// What a screen reader calls it.
-  void SetName(const std::wstring& name);
+  /// What a screen reader calls it, and where its lines begin.
+  void ApplyLanguage(const std::wstring& name, bool rightToLeft);
 
   /// Its size; where it stands does not matter.
   [[nodiscard]] Area Size() const;
@@ -41,6 +41,9 @@ class frmKeysList {
 
   void Select(int index);
   void MoveTo(const Area& area);
+
+  /// Puts it before the window that it belongs to.
+  void BringToFront();
 
   /// Shows it and gives it the focus.
   void Show();

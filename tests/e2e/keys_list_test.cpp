@@ -1,10 +1,12 @@
 // The pop-up list of all keys.
 #include <array>
 #include <string>
+#include <utility>
 
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Input.h"
+#include "tests/e2e/Screen.h"
 #include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e::keys_list_test {
@@ -210,6 +212,28 @@ TEST_F(KeysListTest, IsHiddenWhileTheWindowIsMinimised) {
   EXPECT_FALSE(IsWindowVisible(list.Handle())) << "what happens meanwhile does not show it";
   PostMessageW(window_->Handle(), WM_SYSCOMMAND, SC_RESTORE, 0);
   WaitFor("the list", [&] { return IsWindowVisible(list.Handle()) != FALSE; });
+}
+
+TEST_F(KeysListTest, IsBeforeTheWindowWhenThatIsRestored) {
+  // There is no room but before the window.
+  PostMessageW(window_->Handle(), WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+  WaitFor("the panel at the lower edge of the screen", [&] {
+    const RECT panel = RectangleOf(window_->Control(IDC_Frame1));
+    return GetSystemMetrics(SM_CYSCREEN) - panel.bottom < panel.bottom - panel.top;
+  });
+  const Dialog list = OpenList();
+  // The upper entries may have a focus rectangle.
+  RECT place = RectangleOf(list.Control(IDC_List1));
+  place.top = (place.top + place.bottom) / 2;
+  Picture shown;
+  WaitFor("the list to be painted", [&] {
+    const Picture before = std::exchange(shown, TakePicture(place));
+    return before.Pixels == shown.Pixels && CountPixels(place, GetSysColor(COLOR_WINDOWTEXT)) > 0;
+  });
+  PostMessageW(window_->Handle(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+  list.WaitUntilClosed();
+  PostMessageW(window_->Handle(), WM_SYSCOMMAND, SC_RESTORE, 0);
+  WaitFor("the list before the window", [&] { return TakePicture(place).Pixels == shown.Pixels; });
 }
 
 TEST_F(KeysListTest, ChosenKeyCanBeAssigned) {

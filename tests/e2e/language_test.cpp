@@ -144,6 +144,16 @@ class LanguageTest : public EndToEndTest {
     });
   }
 
+  /// The keys list is made when it first opens, and stays.
+  void ExpectDirectionOfTheKeysList(bool fromTheRight) {
+    Select(L"cm_SrcTree");
+    window_->ClickControl(IDC_cmdAllList);
+    const Dialog keysList = NextDialog(L"frmKeysList");
+    EXPECT_EQ(Mirrored(keysList, IDC_List1), fromTheRight);
+    PostMessageW(keysList.Handle(), WM_CLOSE, 0, 0);
+    keysList.WaitUntilClosed();
+  }
+
   /// The first menu opens at the end where reading begins.
   void ExpectMenuAtTheRight(bool right) {
     BringToFront(window_->Handle());
@@ -217,6 +227,7 @@ TEST_F(LanguageTest, ArabicReadsFromTheRight) {
   ExpectDirection(true);
   ExpectMenuAtTheRight(true);
   ExpectButtonMenusAtTheRight(true);
+  ExpectDirectionOfTheKeysList(true);
 }
 
 TEST_F(LanguageTest, SwitchToArabicLooksAsAStartInIt) {
@@ -272,6 +283,9 @@ TEST_F(LanguageTest, EnglishReadsFromTheLeft) {
   ExpectDirection(false);
   ExpectMenuAtTheRight(false);
   ExpectButtonMenusAtTheRight(false);
+  ExpectDirectionOfTheKeysList(false);
+  ChooseLanguageFile(Shipped(L"Arabic.lng"));
+  ExpectDirectionOfTheKeysList(true);
 }
 
 TEST_F(LanguageTest, EmptyAndAbsentTextsAreTheBuiltInOnes) {
