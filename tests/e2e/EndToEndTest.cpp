@@ -27,8 +27,10 @@ void EndToEndTest::Start(const std::wstring& argument, WORD showCommand) {
 }
 
 void EndToEndTest::StartAndLoad() {
-  const auto rows = static_cast<int>(ExpectedRows(folder_).size());
+  const std::vector<RowTexts> expected = ExpectedRows(folder_);
+  const auto rows = static_cast<int>(expected.size());
   Start();
+  window_->LookFirst(expected);
   WaitFor(std::to_string(rows) + " rows", [&] { return window_->RowCount() == rows; });
   WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });
   BringToFront(window_->Handle());

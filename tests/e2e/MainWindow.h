@@ -39,6 +39,9 @@ class MainWindow : public Window {
   [[nodiscard]] RowTexts Row(int position) const;
   [[nodiscard]] std::vector<RowTexts> Rows() const;
 
+  /// Lets FindCommand look first where these rows have the commands.
+  void LookFirst(const std::vector<RowTexts>& rows) const;
+
   /// The position of the row with that command; -1 when there is none.
   [[nodiscard]] int FindCommand(const std::wstring& command) const;
   [[nodiscard]] int SelectedRow() const;

@@ -78,6 +78,13 @@ std::vector<RowTexts> MainWindow::ReadRows(int first, int count) const {
   return texts;
 }
 
+void MainWindow::LookFirst(const std::vector<RowTexts>& rows) const {
+  positions_.clear();
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    positions_.emplace(rows[row][1], static_cast<int>(row));
+  }
+}
+
 int MainWindow::FindCommand(const std::wstring& command) const {
   // Reading every row takes a second: a row mostly is where it was seen last.
   const auto isAt = [&](int position) { return Row(position)[1] == command; };
@@ -85,11 +92,7 @@ int MainWindow::FindCommand(const std::wstring& command) const {
   if (seen != positions_.end() && seen->second < RowCount() && isAt(seen->second)) {
     return seen->second;
   }
-  positions_.clear();
-  const std::vector<RowTexts> rows = Rows();
-  for (std::size_t row = 0; row < rows.size(); ++row) {
-    positions_.emplace(rows[row][1], static_cast<int>(row));
-  }
+  LookFirst(Rows());
   const auto found = positions_.find(command);
   return found == positions_.end() ? -1 : found->second;
 }

@@ -189,7 +189,8 @@ TEST_F(KeysListTest, HidesBeforeAQuestionWhichBelongsToTheMainWindow) {
   window_->Command(IDM_delall);
   Answer(question, IDCANCEL);
   WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
-  WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
+  WaitFor("the focus to be where it was before the list",
+          [&] { return window_->HasFocus(IDC_cmdAllList); });
   EXPECT_TRUE(NoBoxOpen()) << "nothing else has started meanwhile";
   EXPECT_EQ(window_->ChosenKey(), L"M") << "hiding is no choice";
 }
