@@ -34,9 +34,16 @@ void EndToEndTest::StartAndLoad() {
   WaitFor(std::to_string(rows) + " rows", [&] { return window_->RowCount() == rows; });
   WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });
   BringToFront(window_->Handle());
-  // A window that is still to be put on the screen and painted may then lie over an open menu.
-  WaitFor("the window to be painted", [&] {
-    return CountPixels(RectangleOf(window_->Control(IDC_Frame1)), GetSysColor(COLOR_BTNFACE)) > 0;
+  // A window that is still to be put on the screen may then lie over an open menu.
+  constexpr int LooksInARow = 30;
+  Picture last;
+  int alike = 0;
+  WaitFor("the window to be painted and to come to rest", [&] {
+    Picture now = TakePicture(PartOnScreen(RectangleOf(window_->Handle())));
+    alike = now.Pixels == last.Pixels ? alike + 1 : 0;
+    last = std::move(now);
+    return alike >= LooksInARow &&
+           CountPixels(RectangleOf(window_->Control(IDC_Frame1)), GetSysColor(COLOR_BTNFACE)) > 0;
   });
 }
 

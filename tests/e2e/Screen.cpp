@@ -1,6 +1,7 @@
 // Only the screen's own device context shows what other programs have drawn.
 #include "tests/e2e/Screen.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
@@ -146,15 +147,19 @@ std::wstring SaveScreenshot(const std::wstring& name) {
   return path;
 }
 
+RECT PartOnScreen(const RECT& rectangle) {
+  const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+  RECT part{};
+  IntersectRect(&part, &rectangle, &screen);
+  return part;
+}
+
 int CountPixels(const RECT& rectangle, COLORREF color) {
-  const Unique<HDC, ScreenReleaser> screen(GetDC(nullptr));
-  int count = 0;
-  for (LONG y = rectangle.top; y < rectangle.bottom; ++y) {
-    for (LONG x = rectangle.left; x < rectangle.right; ++x) {
-      count += GetPixel(screen.get(), x, y) == color ? 1 : 0;
-    }
-  }
-  return count;
+  const RECT visible = PartOnScreen(rectangle);
+  if (IsRectEmpty(&visible) != FALSE) return 0;
+  // A pixel of a picture has red and blue the other way round.
+  const DWORD wanted = RGB(GetBValue(color), GetGValue(color), GetRValue(color));
+  return static_cast<int>(std::ranges::count(TakePicture(visible).Pixels, wanted));
 }
 
 }  // namespace tessera::e2e

@@ -24,7 +24,11 @@ struct Picture {
   [[nodiscard]] bool Holds(const Picture& part, int left, int top) const;
 };
 
+/// The rectangle must lie on the screen.
 [[nodiscard]] Picture TakePicture(const RECT& rectangle);
+
+/// The part of a rectangle that lies on the screen; an empty one for none.
+[[nodiscard]] RECT PartOnScreen(const RECT& rectangle);
 
 /// A line of text, "&" before a letter underlining it, as big as the text is.
 [[nodiscard]] Picture DrawLine(const std::wstring& text, const LOGFONTW& font, COLORREF color,
