@@ -65,6 +65,8 @@ void frmCommandList::SetUpColumns() {
   }
   std::array<int, 4> order = OrderOfPositions(layout.Positions);
   ListView_SetColumnOrderArray(ListView1_, 4, order.data());
+  // The header that comes with the first column has the images of the rows.
+  Header_SetImageList(ListView_GetHeader(ListView1_), ilsColumnHeader_.get());
   ApplyLanguage();
 }
 

@@ -46,6 +46,9 @@ class MainWindow : public Window {
   [[nodiscard]] int FindCommand(const std::wstring& command) const;
   [[nodiscard]] int SelectedRow() const;
   [[nodiscard]] HeaderShows Header(int column) const;
+
+  /// True when the icons of the headers are not those of the rows.
+  [[nodiscard]] bool HeaderHasOwnImages() const;
   [[nodiscard]] std::array<int, 4> ColumnWidths() const;
   [[nodiscard]] std::array<int, 4> ColumnOrder() const;
   [[nodiscard]] RECT CellRectangle(int position, int column) const;  ///< on the screen

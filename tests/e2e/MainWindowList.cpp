@@ -116,6 +116,13 @@ HeaderShows MainWindow::Header(int column) const {
   return {text.data(), (item.fmt & HDF_IMAGE) != 0, item.iImage};
 }
 
+bool MainWindow::HeaderHasOwnImages() const {
+  const HWND list = Control(IDC_ListView1);
+  const auto header = reinterpret_cast<HWND>(Send(list, LVM_GETHEADER));
+  const LRESULT ofHeader = Send(header, HDM_GETIMAGELIST);
+  return ofHeader != 0 && ofHeader != Send(list, LVM_GETIMAGELIST, LVSIL_SMALL);
+}
+
 std::array<int, 4> MainWindow::ColumnWidths() const {
   std::array<int, Columns> widths{};
   for (std::size_t column = 0; column < widths.size(); ++column) {

@@ -27,6 +27,7 @@ class SortTest : public EndToEndTest {
   void ExpectSorted(std::size_t column, bool descending) {
     std::vector<RowTexts> rows = window_->Rows();
     EXPECT_TRUE(Sorted(rows, column, descending)) << "column " << column << ", " << descending;
+    EXPECT_TRUE(window_->HeaderHasOwnImages());
     for (std::size_t header = 0; header < 4; ++header) {
       EXPECT_EQ(window_->Header(static_cast<int>(header)).HasIcon, header == column) << header;
     }
