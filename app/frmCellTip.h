@@ -17,6 +17,9 @@ class frmCellTip : Pinned {
   /// Takes a mouse message of the list: after a rest over the part the tip shows.
   void Follow(const MSG& message) const;
 
+  /// To be called once its windows are destroyed: their numbers may become those of others.
+  void Forget() { tip_ = nullptr; }
+
  private:
   void Create(HWND list);
 

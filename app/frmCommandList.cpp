@@ -222,4 +222,9 @@ void frmCommandList::SyncHeaderIcons() {
   }
 }
 
+void frmCommandList::Forget() {
+  tip_.Forget();
+  lblListView1_ = ListView1_ = nullptr;
+}
+
 }  // namespace tessera

@@ -45,6 +45,9 @@ class frmCommandList : Pinned {
   void Sync();
   void ShowSelectedRow();
 
+  /// To be called once its windows are destroyed: their numbers may become those of others.
+  void Forget();
+
  private:
   static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
                                         UINT_PTR id, DWORD_PTR self);

@@ -133,6 +133,7 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_NCDESTROY:
       DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
+      views_.Forget();
       return 0;
     case WM_GETMINMAXINFO: {
       const SIZE smallest = views_.SmallestSize();

@@ -21,6 +21,12 @@ class frmMenus {
   void FillRecentFiles() const;
   void ShowState(const CommandState& state) const;
 
+  /// To be called once its windows are destroyed: their numbers may become those of others.
+  void Forget() {
+    window_ = nullptr;
+    mnuRecent_ = nullptr;
+  }
+
  private:
   const Editor& editor_;
   HWND window_ = nullptr;

@@ -194,4 +194,10 @@ bool frmPanel::IsTranslatorsControl(HWND control) const {
   return control == lblHotkey_ || std::ranges::find(chkCtrlAlt_, control) != chkCtrlAlt_.end();
 }
 
+void frmPanel::Forget() {
+  Toolbar2_.Forget();
+  chkCtrlAlt_.fill(nullptr);
+  Frame1_ = lblHotkey_ = Combo1_ = cmdAllList_ = nullptr;
+}
+
 }  // namespace tessera

@@ -54,6 +54,9 @@ class frmPanel : Pinned {
   void Sync();
   void ShowState(const CommandState& state) const;
 
+  /// To be called once its windows are destroyed: their numbers may become those of others.
+  void Forget();
+
  private:
   static LRESULT CALLBACK FrameProcedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);

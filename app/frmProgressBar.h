@@ -15,6 +15,9 @@ class frmProgressBar {
   /// The pointer shows too that the program is at work.
   void Show(const LoadProgress& progress) const;
 
+  /// To be called once its windows are destroyed: their numbers may become those of others.
+  void Forget() { ProgressBar1_ = nullptr; }
+
  private:
   HWND ProgressBar1_ = nullptr;
 };

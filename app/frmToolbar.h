@@ -32,6 +32,9 @@ class frmToolbar {
   /// Does nothing where the toolbar lacks the command, or shows it so already.
   void ShowState(int command, bool enabled, bool checked) const;
 
+  /// To be called once its windows are destroyed: their numbers may become those of others.
+  void Forget() { toolbar_ = nullptr; }
+
  private:
   std::span<const ToolbarButton> buttons_;
   HWND toolbar_ = nullptr;

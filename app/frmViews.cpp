@@ -136,6 +136,15 @@ void frmViews::SyncMenus() const {
   SyncCommands();
 }
 
+void frmViews::Forget() {
+  menus_.Forget();
+  Toolbar1_.Forget();
+  list_.Forget();
+  panel_.Forget();
+  progressBar_.Forget();
+  window_ = nullptr;
+}
+
 void frmViews::SyncCommands() const {
   for (const CommandState& state : CommandStates(editor_)) {
     Toolbar1_.ShowState(state.Id, state.Enabled, state.Checked);

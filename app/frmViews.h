@@ -64,6 +64,9 @@ class frmViews {
   void ShowSelectedRow() { list_.ShowSelectedRow(); }
   LRESULT OnListNotify(NMHDR& header) { return list_.OnNotify(header); }
 
+  /// To be called once its windows are destroyed: their numbers may become those of others.
+  void Forget();
+
  private:
   void SyncCommands() const;
   void SyncKeysList();
