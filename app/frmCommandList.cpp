@@ -7,6 +7,7 @@
 
 #include "app/Columns.h"
 #include "app/FindRow.h"
+#include "platform/win32/Guarded.h"
 #include "resources/resource.h"
 
 namespace tessera {
@@ -120,13 +121,15 @@ LRESULT frmCommandList::OnNotify(NMHDR& header) {
 
 LRESULT CALLBACK frmCommandList::ListProcedure(HWND list, UINT message, WPARAM wParam,
                                                LPARAM lParam, UINT_PTR /*id*/, DWORD_PTR self) {
-  reinterpret_cast<frmCommandList*>(self)->SyncTip({list, message, wParam, lParam, 0, {}});
-  const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
-  // The list has moved the columns after one that changed its width, with what runs over them.
-  if (message == WM_NOTIFY && IsWidthChange(*reinterpret_cast<const NMHDR*>(lParam))) {
-    InvalidateRect(list, nullptr, TRUE);
-  }
-  return result;
+  return Guarded(list, [&] {
+    reinterpret_cast<frmCommandList*>(self)->SyncTip({list, message, wParam, lParam, 0, {}});
+    const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
+    // The list has moved the columns after one that changed its width, with what runs over them.
+    if (message == WM_NOTIFY && IsWidthChange(*reinterpret_cast<const NMHDR*>(lParam))) {
+      InvalidateRect(list, nullptr, TRUE);
+    }
+    return result;
+  });
 }
 
 void frmCommandList::FillCell(LVITEMW& item) const {

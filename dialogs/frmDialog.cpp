@@ -108,10 +108,8 @@ LRESULT CALLBACK frmDialog::FilterMessage(int code, WPARAM wParam, LPARAM lParam
     const HWND window = GetAncestor(message.hwnd, GA_ROOT);
     const bool isOwn =
         GetWindowLongPtrW(window, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(DialogProcedure);
-    if (isOwn && reinterpret_cast<frmDialog*>(GetWindowLongPtrW(window, DWLP_USER))
-                     ->TurnPage(message.wParam)) {
-      return 1;
-    }
+    auto* const self = reinterpret_cast<frmDialog*>(GetWindowLongPtrW(window, DWLP_USER));
+    if (isOwn && Guarded(window, [&] { return self->TurnPage(message.wParam); })) return 1;
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }

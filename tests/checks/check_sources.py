@@ -181,6 +181,16 @@ def check_test_namespaces(root):
             yield f"{file} is not in namespace {outer}::{file.stem} alone"
 
 
+def check_guarded(root):
+    """No exception leaves a window procedure or a hook for the system's code, which calls them."""
+    procedure = re.compile(r"^(?:LRESULT|INT_PTR) CALLBACK ([\w:]+)\([^;{]*\) \{(.*?)^\}", re.M | re.S)
+    for file in code_files(root):
+        if file.parts[0] in PRODUCT_FOLDERS:
+            for name, body in procedure.findall((root / file).read_text(encoding="utf-8")):
+                if "Guarded(" not in body:
+                    yield f"{file}: {name} is not guarded"
+
+
 def check_format(root):
     """clang-format changes nothing."""
     files = [str(root / file) for file in code_files(root)]
@@ -253,6 +263,11 @@ BAD = {
         {"tests/unit/win32/a_test.cpp": "namespace {}\n"},
         {"tests/e2e/a_test.cpp": "namespace tessera::a_test {}\n"},
     ],
+    check_guarded: [
+        {"app/frmA.cpp": "LRESULT CALLBACK A(HWND window) {\n  return Handle(window);\n}\n"},
+        {"dialogs/frmA.cpp": "INT_PTR CALLBACK frmA::Procedure(HWND /*window*/,\n"
+                             "                                int a) {\n  return a;\n}\n"},
+    ],
     check_format: [{"settings/a.cpp": "int  f( );\n"}],
     check_line_ends: [
         {"settings/a.cpp": "int a;\r\n"}, {"settings/a.cpp": "int a; \n"}, {"settings/a.cpp": "int a;"},
@@ -265,6 +280,8 @@ GOOD = {
     "app/good.cpp": '#include "resources/resource.h"\n',
     "app/main.cpp": '#include <windows.h>\n\n#include "resources/resource.h"\n',
     "options/frmOptions.cpp": '#include <windows.h>\n\n#include "resources/resource.h"\n',
+    "options/frmGuarded.cpp":
+        "LRESULT CALLBACK A(HWND window) {\n  return Guarded(window, [] { return 1; });\n}\n",
     "editing/good.h": '#include "dialogs/b.h"\n#include "shortcuts/b.h"\n',
     "benchmarks/good.cpp": '#include "benchmarks/b.h"\n#include "tests/support/b.h"\n',
     "tests/support/good.h": '#include "app/Editor.h"\n#include "tests/support/b.h"\n',
