@@ -21,6 +21,8 @@ OUTSIDE = ("tests", "benchmarks", "out")
 BATCH_SIZE = 16
 BAD = "#include <string>\nint Length(const std::string text) { return static_cast<int>(text.size()); }\n"
 GOOD = "#include <string>\nint Length(const std::string& text) { return static_cast<int>(text.size()); }\n"
+# What is no fault in an included file.
+UNUSED = "static inline int Unused() { return 1; }\n"
 
 
 def program_sources(build):
@@ -35,7 +37,8 @@ def program_sources(build):
 
 
 def cross_options(command):
-    """What clang is to know about the compiler of a cross build: its target and its C++ headers."""
+    """What clang is to know about the compiler of a cross build: its target, its C++ headers, and that
+    it has options of its own."""
     compiler = next(word for word in command.split() if "++" in word)
     target = subprocess.run([compiler, "-dumpmachine"], capture_output=True, text=True, check=True)
     if "mingw" not in target.stdout:
@@ -44,10 +47,11 @@ def cross_options(command):
                             capture_output=True, text=True, check=True).stderr
     headers = [line.strip() for line in search.splitlines() if re.match(r" /.*/c\+\+(/|$)", line)]
     return [f"--extra-arg-before=--target={target.stdout.strip()}", "--extra-arg=-nostdinc++",
+            "--extra-arg=-Wno-unknown-warning-option",
             *(f"--extra-arg=-isystem{folder}" for folder in headers)]
 
 
-def findings(file, *options, inside=""):
+def findings(file, *options, inside):
     """In the file itself, and in what it includes from below one of the folders `inside`."""
     headers = f"--header-filter=^({inside})/"
     command = ["clang-tidy-14", "--quiet", "--config-file=.clang-tidy", headers, str(file), *options]
@@ -57,24 +61,29 @@ def findings(file, *options, inside=""):
 
 
 def batch_findings(files, command, *options, inside):
-    """Of files that are read as one, by the compile command of the first."""
+    """Of one file by its compile command; several are read as one, by the command of the first."""
     with tempfile.TemporaryDirectory() as folder:
-        batch = Path(folder, "batch.cpp")
-        batch.write_text("".join(f'#include "{file.resolve()}"  // NOLINT(bugprone-suspicious-include)\n'
-                                 for file in files), encoding="utf-8")
-        command = command | {"file": str(batch),
-                             "command": command["command"].replace(command["file"], str(batch))}
+        source = Path(command["file"])
+        if len(files) > 1:
+            source = Path(folder, "batch.cpp")
+            source.write_text("".join(
+                f'#include "{file.resolve()}"  // NOLINT(bugprone-suspicious-include)\n'
+                for file in files), encoding="utf-8")
+            command = command | {"file": str(source),
+                                 "command": command["command"].replace(command["file"], str(source))}
         Path(folder, "compile_commands.json").write_text(json.dumps([command]), encoding="utf-8")
-        return findings(batch, "-p", folder, *options, inside=inside)
+        return findings(source, "-p", folder, *options, inside=inside)
 
 
-def sample_findings(code):
-    """What is found when a sample is read by itself, and as part of a batch."""
+def sample_findings(*codes):
+    """What is found in samples that are read as one batch."""
     with tempfile.TemporaryDirectory() as folder:
-        sample = Path(folder, "sample.cpp")
-        sample.write_text(code, encoding="utf-8")
-        command = {"directory": folder, "file": str(sample), "command": f"c++ -std=c++20 -c {sample}"}
-        return findings(sample, "--", "-std=c++20"), batch_findings([sample], command, inside=folder)
+        files = [Path(folder, f"sample{number}.cpp") for number in range(len(codes))]
+        for file, code in zip(files, codes):
+            file.write_text(code, encoding="utf-8")
+        command = {"directory": folder, "file": str(files[0]),
+                   "command": f"c++ -std=c++20 -Wall -Werror -c {files[0]}"}
+        return batch_findings(files, command, inside=folder)
 
 
 def report(title, problems):
@@ -117,8 +126,12 @@ def main(folders, each=False):
         builds.append(Build(folder, {file for build in builds for file in build.sources}))
     todo = [(batch, build) for build in builds for batch in build.batches(1 if each else BATCH_SIZE)]
     good = report("clang-tidy has sources to read", "" if todo else "no compile commands")
-    good &= report("clang-tidy accepts right code", "".join(sample_findings(GOOD)))
-    good &= report("clang-tidy rejects wrong code", "" if all(sample_findings(BAD)) else "nothing found")
+    for name, beside in {"by itself": [], "in a batch": [""]}.items():
+        good &= report(f"clang-tidy accepts right code {name}", sample_findings(*beside, GOOD))
+        wrong = sample_findings(*beside, BAD)
+        good &= report(f"clang-tidy rejects wrong code {name}", "" if wrong else "nothing found")
+    unused = sample_findings(UNUSED)
+    good &= report("clang-tidy reads one file by itself", "" if unused else "nothing found")
     with ThreadPoolExecutor(os.cpu_count()) as threads:
         for results in threads.map(lambda task: read(*task), todo):
             for file, problems in results:
