@@ -4,7 +4,8 @@ Each change, a mutant, is built and tried in a copy of the tree under out/mutant
 is not committed yet. One that does not compile is not counted. Ends with 1 when some survived: each of
 them is a missing test, unless the change makes no difference. Portable files are changed, and tried by
 the native unit tests; with --windows the windows and the system's side, tried by the real program under
-Wine, which takes minutes each and wants an idle machine.
+Wine, which takes minutes each and wants an idle machine: a test that fails there now and then, whatever
+the change, counts as one that found it.
 """
 
 import argparse
@@ -70,10 +71,18 @@ def wanted_mutants(options, files):
     return found
 
 
+def content_of(name):
+    """What the copy has of a file: warnings are no errors there, or changes that cause one go untried."""
+    content = Path(name).read_bytes()
+    if name != "CMakePresets.json":
+        return content
+    return content.replace(b'"TESSERA_WERROR": "ON"', b'"TESSERA_WERROR": "OFF"')
+
+
 def copy_tree(files):
     """Makes the copy equal, and leaves alone what is equal already, so that it is not built again."""
     for name in files:
-        copy, content = TREE / name, Path(name).read_bytes()
+        copy, content = TREE / name, content_of(name)
         if not copy.is_file() or copy.read_bytes() != content:
             copy.parent.mkdir(parents=True, exist_ok=True)
             copy.write_bytes(content)

@@ -1,14 +1,17 @@
-"""Checks which changes tests/mutants.py makes to samples of code: those that it should, and no others.
+"""Checks which changes tests/mutants.py makes to samples of code: those that it should, and no others;
+and that a warning does not keep it from trying one.
 
 Prints one line "ok ..." or "not ok ..." for each sample. Run at the root of the repository.
 """
 
+import re
 import sys
 from pathlib import Path
 
 import samples
 
 sys.path.insert(0, str(Path(__file__).parents[1]))
+from mutants import content_of  # noqa: E402
 from mutations import changed_lines, line_of, mutants_of  # noqa: E402
 
 # A line, and what it becomes.
@@ -55,6 +58,8 @@ def main():
             for line, expected in CHANGES.items()]
     seen = list(differences("a = 0;", [])) and list(differences("Stop();", ["{}", "Go();"]))
     good.append(samples.report("mutations: a missing one and one too many are seen", [] if seen else ["none"]))
+    werror = re.findall(r'"TESSERA_WERROR": "(\w+)"', content_of("CMakePresets.json").decode())
+    good.append(samples.report("mutations: a warning is no error", [] if werror == ["OFF"] else werror or ["none"]))
     return 0 if all(good) else 1
 
 
