@@ -9,6 +9,7 @@ namespace {
 /// One screen pixel is the unit of the gaps around the list, at any resolution.
 constexpr int Pixel = 1;
 constexpr int SideGap = 5 * Pixel;
+constexpr int ChooserBorder = Pixel;
 
 /// Lengths in the panel, for 96 pixels an inch.
 constexpr int BoxMarkWidth = 22;
@@ -18,10 +19,16 @@ constexpr int ItemGap = 12;
 constexpr int ChooserWidth = 150;
 constexpr int RoomAroundControls = 16;
 
+/// Where the chooser grows less than the resolution, it stands in its middle.
 Area PlaceAllKeysButton(const Area& chooser, int dpi) {
+  const int room = chooser.Height - 2 * ChooserBorder;
   const int width = Scaled(15, dpi);
-  return {chooser.Left + chooser.Width - width - Scaled(2, dpi), chooser.Top + Scaled(3, dpi),
-          width, Scaled(16, dpi)};
+  const int height = Scaled(16, dpi);
+  const int top = Scaled(3, dpi);
+  const int inside = std::min(height, room);
+  const bool fits = top + height <= chooser.Height - ChooserBorder;
+  return {chooser.Left + chooser.Width - width - Scaled(2, dpi),
+          chooser.Top + (fits ? top : (chooser.Height - inside) / 2), width, inside};
 }
 
 }  // namespace

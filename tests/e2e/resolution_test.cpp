@@ -249,6 +249,20 @@ TEST_F(ResolutionTest, ProgramStartsInIt) {
   }
 }
 
+TEST_F(ResolutionTest, AllKeysButtonStandsInsideTheChooser) {
+  StartWith(L"");
+  for (const int dpi : Resolutions) {
+    SCOPED_TRACE(std::to_string(dpi) + " pixels an inch");
+    ChangeResolution(*window_, dpi, RectangleOf(window_->Handle()));
+    const RECT chooser = RectangleOf(window_->Control(IDC_Combo1));
+    const RECT button = RectangleOf(window_->Control(IDC_cmdAllList));
+    EXPECT_GT(button.left, chooser.left);
+    EXPECT_GT(button.top, chooser.top);
+    EXPECT_LT(button.right, chooser.right);
+    EXPECT_LT(button.bottom, chooser.bottom);
+  }
+}
+
 TEST_F(ResolutionTest, DialogMovesToThePlaceThatComesWithIt) {
   StartWith(L"");
   WithEachDialog([&](const Dialog& dialog) {

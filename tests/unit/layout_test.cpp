@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace tessera::layout_test {
 namespace {
 
@@ -48,6 +50,18 @@ TEST(Layout, AllKeysButtonStandsOverTheRightEndOfTheChooser) {
   EXPECT_EQ(layout.Chooser, (Area{124, 8, 150, 21}));
   EXPECT_EQ(layout.AllKeysButton, (Area{257, 11, 15, 16}));
   EXPECT_EQ(LayOutPanel({.ChooserHeight = 42}, 192).AllKeysButton, (Area{514, 22, 30, 32}));
+}
+
+TEST(Layout, AllKeysButtonNeverReachesBeyondTheChooser) {
+  const auto inChooserOf = [](int height) {
+    const PanelLayout layout = LayOutPanel({.ChooserHeight = height}, 192);
+    const Area& button = layout.AllKeysButton;
+    return std::pair(button.Top - layout.Chooser.Top, button.Height);
+  };
+  EXPECT_EQ(inChooserOf(39), std::pair(6, 32));
+  EXPECT_EQ(inChooserOf(38), std::pair(3, 32));
+  EXPECT_EQ(inChooserOf(35), std::pair(1, 32));
+  EXPECT_EQ(inChooserOf(31), std::pair(1, 29));
 }
 
 TEST(Layout, SmallestWindowHasRoomForThePanelAndSomeRows) {
