@@ -41,9 +41,9 @@ class ClipboardExport {
 
   // -- After the dialog
 
-  /// Copies the table with all that follows it; an empty one is not copied. False when there was
-  /// one, and the clipboard did not take it. When the dialog was
-  /// closed by its close button that is, deliberately, the table of the OK before.
+  /// Copies the table with all that follows it; an empty one is not copied. When the dialog was
+  /// closed by its close button that is, deliberately, the table of the OK before. False when there
+  /// was one, and the clipboard did not take it.
   [[nodiscard]] bool CopyTo(Clipboard& clipboard, bool modified) const;
 
  private:

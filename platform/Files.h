@@ -51,8 +51,7 @@ class Files {
   [[nodiscard]] virtual std::wstring Resolve(const std::wstring& path) const = 0;
 
   /// Creates or overwrites a file, and returns after its content has reached the disk, where the
-  /// file system can tell. On an error
-  /// a part of the content may stand there.
+  /// file system can tell. On an error a part of the content may stand there.
   [[nodiscard]] virtual FileError Write(const std::wstring& path, std::string_view bytes) = 0;
 
   /// Puts `replacement` in the place of `target`, which keeps its attributes and security, and
