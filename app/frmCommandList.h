@@ -5,6 +5,7 @@
 
 #include "app/Editor.h"
 #include "app/frmCellTip.h"
+#include "app/RowLooks.h"
 #include "platform/Pinned.h"
 #include "platform/win32/Controls.h"
 
@@ -53,7 +54,7 @@ class frmCommandList : Pinned {
                                         UINT_PTR id, DWORD_PTR self);
   void LoadIcons();
   void ApplyColumnWidths(const std::array<int, 4>& twips);
-  [[nodiscard]] LRESULT OnCustomDraw(const NMCUSTOMDRAW& draw) const;
+  [[nodiscard]] LRESULT OnCustomDraw(const NMCUSTOMDRAW& draw);
   void DrawRow(const NMCUSTOMDRAW& draw) const;
   void DrawIcon(HDC context, int position) const;
   void SyncTip(const MSG& message);
@@ -61,7 +62,7 @@ class frmCommandList : Pinned {
   void HideTip();
   [[nodiscard]] std::array<int, 4> ColumnOrder() const;
   [[nodiscard]] RECT PlaceOf(int position, Column column) const;
-  [[nodiscard]] RECT TextPlace(int position, Column column) const;
+  [[nodiscard]] RECT TextPlace(int position, Column column, const std::array<int, 4>& order) const;
   void OnItemChanged(const NMLISTVIEW& change);
   void SelectRow(int position) const;
   [[nodiscard]] LRESULT FindItem(const NMLVFINDITEMW& search) const;
@@ -74,7 +75,9 @@ class frmCommandList : Pinned {
   HWND lblListView1_ = nullptr;
   HWND ListView1_ = nullptr;
   int dpi_ = 96;
-  bool syncing_ = false;  ///< notifications are answers to our own changes
+  bool syncing_ = false;    ///< notifications are answers to our own changes
+  ListColors drawnColors_;  ///< of the drawing that goes on, as is the next
+  std::array<int, 4> drawnOrder_{};
   frmCellTip tip_;
   POINT tipCell_{-1, -1};  ///< its column and row; -1 for none
   Unique<HFONT> font_;

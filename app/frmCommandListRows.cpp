@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "app/frmCommandList.h"
-#include "app/RowLooks.h"
 
 namespace tessera {
 namespace {
@@ -43,8 +42,12 @@ void Write(HDC context, RECT place, std::wstring_view text) {
 
 }  // namespace
 
-LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) const {
-  if (draw.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) {
+  if (draw.dwDrawStage == CDDS_PREPAINT) {
+    drawnColors_ = ColorsOfList(editor_.Options());
+    drawnOrder_ = ColumnOrder();
+    return CDRF_NOTIFYITEMDRAW;
+  }
   if (draw.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
   if (draw.dwItemSpec < editor_.Document().Rows().Count()) {
     const int former = SaveDC(draw.hdc);
@@ -58,9 +61,8 @@ void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
   const HDC context = draw.hdc;
   const CommandEntry& row = editor_.Document().Rows().At(draw.dwItemSpec);
   const auto item = static_cast<int>(draw.dwItemSpec);
-  const ListColors colors = ColorsOfList(editor_.Options());
   const bool selected = ListView_GetItemState(ListView1_, item, LVIS_SELECTED) != 0;
-  const CellColors rowColors = ColorsOfRow(colors, selected, GetFocus() == ListView1_);
+  const CellColors rowColors = ColorsOfRow(drawnColors_, selected, GetFocus() == ListView1_);
   RECT whole = draw.rc;
   whole.left += RowMargin;
   Fill(context, whole, rowColors.Back);
@@ -68,10 +70,10 @@ void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
   SelectObject(context, font_.get());
   SetBkMode(context, TRANSPARENT);
   for (const Column column : AllColumns) {
-    const CellColors cellColors = ColorsOfCell(colors, rowColors, row, column);
+    const CellColors cellColors = ColorsOfCell(drawnColors_, rowColors, row, column);
     if (cellColors.Back != rowColors.Back) Fill(context, PlaceOf(item, column), cellColors.Back);
     SetTextColor(context, cellColors.Text);
-    Write(context, TextPlace(item, column), CellText(row, column));
+    Write(context, TextPlace(item, column, drawnOrder_), CellText(row, column));
   }
 }
 
@@ -101,11 +103,11 @@ RECT frmCommandList::PlaceOf(int position, Column column) const {
   return cell;
 }
 
-RECT frmCommandList::TextPlace(int position, Column column) const {
+RECT frmCommandList::TextPlace(int position, Column column, const std::array<int, 4>& order) const {
   const CommandEntry& row = editor_.Document().Rows().At(static_cast<std::size_t>(position));
   RECT place = PlaceOf(position, column);
   const bool description = column == Column::Description;
-  if (description && RunsOverAllColumns(row, ColumnOrder())) {
+  if (description && RunsOverAllColumns(row, order)) {
     RECT whole{};
     ListView_GetItemRect(ListView1_, position, &whole, LVIR_BOUNDS);
     place.right = whole.right;

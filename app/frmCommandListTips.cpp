@@ -1,7 +1,6 @@
 // The tips over the cells of the command list.
 #include "app/CellTip.h"
 #include "app/frmCommandList.h"
-#include "app/RowLooks.h"
 
 namespace tessera {
 namespace {
@@ -35,10 +34,11 @@ void frmCommandList::SetTip(int position, int subItem) {
     tip_.Set(ListView1_, {}, {}, font_.get());
     return;
   }
-  const Column column = RunsOverAllColumns(rows.At(row), ColumnOrder())
+  const std::array<int, 4> order = ColumnOrder();
+  const Column column = RunsOverAllColumns(rows.At(row), order)
                             ? Column::Description
                             : AllColumns[static_cast<std::size_t>(subItem)];
-  const RECT place = TextPlace(position, column);
+  const RECT place = TextPlace(position, column, order);
   const std::wstring text(CellText(rows.At(row), column));
   const LRESULT length =
       SendMessageW(ListView1_, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str()));
