@@ -20,7 +20,7 @@ struct Names {
   [[nodiscard]] std::wstring Prepared() const { return Target + L".tessera-new"; }
   [[nodiscard]] std::wstring Former() const { return Target + L".tessera-old"; }
   [[nodiscard]] std::wstring Backup() const { return Target + L".bak"; }
-  [[nodiscard]] std::wstring Unsaved() const { return Target + L".unsaved"; }
+  [[nodiscard]] std::wstring Unsaved() const { return Target + std::wstring(UnsavedEnding); }
 };
 
 /// How long an error of this kind is worth waiting for, in milliseconds.

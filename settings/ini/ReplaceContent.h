@@ -11,6 +11,9 @@
 
 namespace tessera {
 
+/// Follows a file's name where a save that failed has left the new content.
+inline constexpr std::wstring_view UnsavedEnding = L".unsaved";
+
 /// What is left beside a file that is saved.
 enum class KeepCopies {
   No,

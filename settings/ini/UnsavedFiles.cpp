@@ -1,12 +1,9 @@
-// Only a replace, and the removal that follows it, differ from those of the other files.
+// Only what concerns the content beside a file differs from the other files.
 #include "settings/ini/UnsavedFiles.h"
 
+#include "settings/ini/ReplaceContent.h"
+
 namespace tessera {
-namespace {
-
-constexpr std::wstring_view UnsavedEnding = L".unsaved";
-
-}  // namespace
 
 UnsavedFiles::UnsavedFiles(Files& files) : files_(files) {}
 
@@ -37,17 +34,20 @@ FileError UnsavedFiles::Write(const std::wstring& path, std::string_view bytes) 
 
 FileError UnsavedFiles::Replace(const std::wstring& target, const std::wstring& replacement,
                                 const std::wstring& /*backup*/) {
-  const std::wstring unsaved = target + std::wstring(UnsavedEnding);
-  if (!former_.contains(unsaved)) {
-    std::string bytes;
-    const bool isThere = files_.Read(unsaved, bytes) == FileError::None;
-    former_[unsaved] = isThere ? std::optional(bytes) : std::nullopt;
-  }
-  return files_.Move(replacement, unsaved);
+  return Move(replacement, target + std::wstring(UnsavedEnding));
 }
 
 FileError UnsavedFiles::Move(const std::wstring& from, const std::wstring& to) {
-  return files_.Move(from, to);
+  if (!to.ends_with(UnsavedEnding) || former_.contains(to)) return files_.Move(from, to);
+  std::string bytes;
+  const FileError read = files_.Read(to, bytes);
+  // What cannot be put back is not written over.
+  if (read != FileError::None && read != FileError::NotFound) return read;
+  const FileError error = files_.Move(from, to);
+  if (error == FileError::None) {
+    former_[to] = read == FileError::None ? std::optional(bytes) : std::nullopt;
+  }
+  return error;
 }
 
 FileError UnsavedFiles::Remove(const std::wstring& path) {

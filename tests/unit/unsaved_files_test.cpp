@@ -52,6 +52,36 @@ TEST_F(UnsavedFilesTest, ContentOfAFileThatDoesNotExistLiesThereToo) {
   EXPECT_EQ(files_.Contents, (FileTable{{Unsaved, "new"}}));
 }
 
+TEST_F(UnsavedFilesTest, WhatLayThereBeforeAndCannotBeReadStays) {
+  const FileTable before{{Path, "old"}, {Unsaved, "of an earlier failure"}};
+  files_.Contents = before;
+  files_.ReadErrors.assign(100, FileError::SharingViolation);
+  EXPECT_EQ(Save("new"), FileError::SharingViolation);
+  EXPECT_EQ(files_.Contents, before);
+  unsaved_.TakeAway();
+  EXPECT_EQ(files_.Contents, before);
+}
+
+TEST_F(UnsavedFilesTest, WhatLayThereBeforeStaysWhenItCannotBeReplaced) {
+  const FileTable before{{Path, "old"}, {Unsaved, "of an earlier failure"}};
+  files_.Contents = before;
+  files_.MoveErrors.assign(100, FileError::Other);
+  EXPECT_EQ(Save("new"), FileError::Other);
+  files_.Calls.clear();
+  unsaved_.TakeAway();
+  EXPECT_TRUE(files_.Calls.empty()) << "it is not even written again";
+  EXPECT_EQ(files_.Contents, before);
+}
+
+TEST_F(UnsavedFilesTest, ContentOfAFileThatCannotBeReadIsTakenAwayToo) {
+  const FileTable before{{Path, "old"}, {Unsaved, "of an earlier failure"}};
+  files_.Contents = before;
+  LeaveUnsaved(unsaved_, Path, "new");
+  EXPECT_EQ(files_.Contents[Unsaved], "new");
+  unsaved_.TakeAway();
+  EXPECT_EQ(files_.Contents, before);
+}
+
 TEST_F(UnsavedFilesTest, LinkIsFollowed) {
   files_.Links[Path] = L"D:\\b.ini";
   files_.Contents[L"D:\\b.ini"] = "old";
