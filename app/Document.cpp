@@ -16,7 +16,11 @@ namespace tessera {
 
 Document::Document(const System& system, const Texts& texts, const Settings& settings,
                    InputFiles& inputFiles)
-    : system_(system), texts_(texts), settings_(settings), inputFiles_(inputFiles) {}
+    : system_(system),
+      texts_(texts),
+      settings_(settings),
+      inputFiles_(inputFiles),
+      files_(system_.Files, UnsavedFiles::Targets::Replaced) {}
 
 const DisplayTable& Document::Rows() const { return catalogue_.ListView1; }
 
@@ -130,7 +134,7 @@ BoxAnswer Document::AskToSaveChanges() {
 
 void Document::KeepUnsaved() {
   if (busy_ || unread_ || !modified_) return;
-  if (!kept_) kept_.emplace(system_.Files);
+  if (!kept_) kept_.emplace(files_, UnsavedFiles::Targets::LeftAlone);
   KnownContents known = known_;  // what is kept is not saved
   // What cannot be written there cannot be kept.
   static_cast<void>(WriteUnsavedShortcuts(catalogue_, notation_, SaveRequestOfNow(known), *kept_,
@@ -160,9 +164,8 @@ void Document::Save(bool restarts) {
   const BusyTime busy(busy_);
   const bool mayStart = restarts && Restart(true);
   kept_.reset();  // a save that succeeds takes it away, and one that fails writes its own
-  const FileError error =
-      SaveShortcuts(catalogue_, notation_, SaveRequestOfNow(known_), system_.Files, system_.Clock,
-                    inputFiles_.CommanderVariables());
+  const FileError error = SaveShortcuts(catalogue_, notation_, SaveRequestOfNow(known_), files_,
+                                        system_.Clock, inputFiles_.CommanderVariables());
   if (error == FileError::None) {
     SetModified(false);
   } else {

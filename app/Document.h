@@ -101,6 +101,7 @@ class Document : Pinned {
   InputFiles& inputFiles_;
   Catalogue catalogue_;
   HotkeyNotation notation_;
+  UnsavedFiles files_;  ///< that are saved
   std::optional<UnsavedFiles> kept_;
   std::wstring wincmdPath_;
   KnownContents known_;  ///< of "Wincmd.ini" and the files that its sections are redirected to

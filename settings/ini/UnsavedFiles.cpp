@@ -5,17 +5,16 @@
 
 namespace tessera {
 
-UnsavedFiles::UnsavedFiles(Files& files) : files_(files) {}
+UnsavedFiles::UnsavedFiles(Files& files, Targets targets) : files_(files), targets_(targets) {}
 
 void UnsavedFiles::TakeAway() {
-  for (const auto& [path, bytes] : former_) {
-    if (bytes) {
-      static_cast<void>(files_.Write(path, *bytes));
-    } else {
-      files_.Remove(path);
-    }
-  }
-  former_.clear();
+  while (!former_.empty()) PutBack(std::wstring(former_.begin()->first));
+}
+
+FileError UnsavedFiles::PutBack(const std::wstring& path) {
+  const auto former = former_.extract(path);
+  if (former.empty()) return FileError::None;
+  return former.mapped() ? files_.Write(path, *former.mapped()) : files_.Remove(path);
 }
 
 bool UnsavedFiles::Exists(const std::wstring& path) const { return files_.Exists(path); }
@@ -33,7 +32,8 @@ FileError UnsavedFiles::Write(const std::wstring& path, std::string_view bytes) 
 }
 
 FileError UnsavedFiles::Replace(const std::wstring& target, const std::wstring& replacement,
-                                const std::wstring& /*backup*/) {
+                                const std::wstring& backup) {
+  if (targets_ == Targets::Replaced) return files_.Replace(target, replacement, backup);
   return Move(replacement, target + std::wstring(UnsavedEnding));
 }
 
@@ -42,7 +42,7 @@ FileError UnsavedFiles::Move(const std::wstring& from, const std::wstring& to) {
   std::string bytes;
   const FileError read = files_.Read(to, bytes);
   // What cannot be put back is not written over.
-  if (read != FileError::None && read != FileError::NotFound) return read;
+  if (read != FileError::None && files_.Exists(to)) return read;
   const FileError error = files_.Move(from, to);
   if (error == FileError::None) {
     former_[to] = read == FileError::None ? std::optional(bytes) : std::nullopt;
@@ -51,8 +51,9 @@ FileError UnsavedFiles::Move(const std::wstring& from, const std::wstring& to) {
 }
 
 FileError UnsavedFiles::Remove(const std::wstring& path) {
+  if (!path.ends_with(UnsavedEnding)) return files_.Remove(path);
   // After a replace a save takes the content away that an earlier one could not put in place.
-  return path.ends_with(UnsavedEnding) ? FileError::None : files_.Remove(path);
+  return targets_ == Targets::Replaced ? PutBack(path) : FileError::None;
 }
 
 }  // namespace tessera

@@ -1,4 +1,4 @@
-// A save that changes nothing yet: what it would put in place lies beside each file.
+// What a save leaves beside a file, and what lay there before it.
 #pragma once
 
 #include <map>
@@ -9,12 +9,18 @@
 
 namespace tessera {
 
-/// Other files, where a replace leaves its target alone and puts the new content beside it, as
-/// ".unsaved". To be given to a save in place of those.
+/// Other files, to be given to a save in place of those. What a save leaves beside a file, as
+/// ".unsaved", can be taken away again; what lay there before, which may be all that an earlier run
+/// of the program could keep, is then put back.
 class UnsavedFiles final : public Files {
  public:
+  enum class Targets {
+    Replaced,  ///< and the ".unsaved" of a former save of this object goes, no other one
+    LeftAlone  ///< a replace puts the new content beside its target, as ".unsaved"
+  };
+
   /// `files` must outlive this object.
-  explicit UnsavedFiles(Files& files);
+  UnsavedFiles(Files& files, Targets targets);
 
   /// Takes the new content away again; what lay there before is put back.
   void TakeAway();
@@ -30,7 +36,10 @@ class UnsavedFiles final : public Files {
   FileError Remove(const std::wstring& path) override;
 
  private:
+  FileError PutBack(const std::wstring& path);
+
   Files& files_;
+  Targets targets_;
 
   /// By path, what lay there before; nothing where there was no file.
   std::map<std::wstring, std::optional<std::string>> former_;

@@ -334,8 +334,41 @@ TEST_F(EditorTest, WhatIsKeptGoesWithASaveAndStaysWithOneThatFails) {
   EXPECT_NE(Files.Contents[UnsavedFile].find("X=cm_Pack"), std::string::npos);
   Files.ReplaceErrors.clear();
   EXPECT_TRUE(Editor.QueryUnload());
-  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+  EXPECT_EQ(Files.Contents[UnsavedFile], "of an earlier failure");
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
+}
+
+TEST_F(EditorTest, WhatOneRunHasKeptStaysOverTheSavesOfTheNext) {
+  Start();
+  Assign(Pack, L"X");
+  Editor.KeepUnsaved();
+  const std::string kept = Files.Contents[UnsavedFile];
+  EXPECT_NE(kept.find("X=cm_Pack"), std::string::npos);
+
+  tessera::Editor next(Seams, [](const LoadProgress&) {});
+  next.Load();
+  next.Activate();
+  next.Work(&CommandList::SelectRow, Copy);
+  next.Work(&HotkeyPanel::Delete);
+  next.FileSave();
+  EXPECT_NE(Ini(), IniContent);
+  EXPECT_EQ(Files.Contents[UnsavedFile], kept);
+}
+
+TEST_F(EditorTest, WhatAFailedSaveLeftStaysWithoutAnAnswerAndGoesWithASave) {
+  Start();
+  Assign(Pack, L"X");
+  Files.ReplaceErrors.assign(100, FileError::Other);
+  Editor.FileSave();
+  const std::string left = Files.Contents[UnsavedFile];
+  Assign(Pack, L"Y");
+  Editor.KeepUnsaved();
+  EXPECT_NE(Files.Contents[UnsavedFile], left);
+  Editor.DropUnsaved();
+  EXPECT_EQ(Files.Contents[UnsavedFile], left);
+  Files.ReplaceErrors.clear();
+  Editor.FileSave();
+  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
 }
 
 TEST_F(EditorTest, WhatLayThereBeforeIsPutBack) {

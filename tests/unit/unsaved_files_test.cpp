@@ -22,7 +22,7 @@ class UnsavedFilesTest : public testing::Test {
 
   FaultyFiles files_;
   FakeClock clock_;
-  UnsavedFiles unsaved_{files_};
+  UnsavedFiles unsaved_{files_, UnsavedFiles::Targets::LeftAlone};
 };
 
 TEST_F(UnsavedFilesTest, NewContentLiesBesideTheFileAndGoesAgain) {
@@ -80,6 +80,26 @@ TEST_F(UnsavedFilesTest, ContentOfAFileThatCannotBeReadIsTakenAwayToo) {
   EXPECT_EQ(files_.Contents[Unsaved], "new");
   unsaved_.TakeAway();
   EXPECT_EQ(files_.Contents, before);
+}
+
+TEST_F(UnsavedFilesTest, SaveTakesAwayWhatAnEarlierOneLeftAndPutsBackWhatLayThere) {
+  UnsavedFiles files(files_, UnsavedFiles::Targets::Replaced);
+  const auto save = [&](std::string_view bytes) {
+    return ReplaceContent(files, clock_, Path, bytes, KeepCopies::Yes);
+  };
+  for (const bool liesThere : {false, true}) {
+    files_.Contents = {{Path, "old"}};
+    if (liesThere) files_.Contents[Unsaved] = "of an earlier run";
+    const FileTable before = files_.Contents;
+    files_.ReplaceErrors = {FileError::Other};
+    EXPECT_EQ(save("new"), FileError::Other);
+    EXPECT_EQ(files_.Contents, (FileTable{{Path, "old"}, {Unsaved, "new"}}));
+    EXPECT_EQ(save("newer"), FileError::None);
+    FileTable after = before;
+    after[Path] = "newer";
+    after[Path + L".bak"] = "old";
+    EXPECT_EQ(files_.Contents, after);
+  }
 }
 
 TEST_F(UnsavedFilesTest, LinkIsFollowed) {
