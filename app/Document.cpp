@@ -132,13 +132,14 @@ BoxAnswer Document::AskToSaveChanges() {
   return answer;
 }
 
-void Document::KeepUnsaved() {
-  if (busy_ || unread_ || !modified_) return;
+bool Document::KeepUnsaved() {
+  if (busy_ || unread_ || !modified_) return false;
   if (!kept_) kept_.emplace(files_, UnsavedFiles::Targets::LeftAlone);
   KnownContents known = known_;  // what is kept is not saved
-  // What cannot be written there cannot be kept.
+  // The error of a file that cannot be read comes also when its changes lie there.
   static_cast<void>(WriteUnsavedShortcuts(catalogue_, notation_, SaveRequestOfNow(known), *kept_,
                                           system_.Clock, inputFiles_.CommanderVariables()));
+  return kept_->HoldAll();
 }
 
 void Document::DropUnsaved() {

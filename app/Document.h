@@ -73,8 +73,8 @@ class Document : Pinned {
 
   /// Keeps what a save would write as ".unsaved" beside the file, for an end of the program without
   /// an answer. It stays until the question about unsaved changes is answered, or DropUnsaved.
-  /// Nothing is kept while the document is busy.
-  void KeepUnsaved();
+  /// Nothing is kept while the document is busy. True when all changes lie there.
+  bool KeepUnsaved();
   void DropUnsaved();
 
   void FileSave();

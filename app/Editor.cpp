@@ -68,7 +68,7 @@ void Editor::Activate() {
 
 bool Editor::QueryUnload() { return document_.ChangesMayGo(); }
 
-void Editor::KeepUnsaved() { document_.KeepUnsaved(); }
+bool Editor::KeepUnsaved() { return document_.KeepUnsaved(); }
 
 void Editor::DropUnsaved() { document_.DropUnsaved(); }
 

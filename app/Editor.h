@@ -77,7 +77,7 @@ class Editor : Pinned {
   [[nodiscard]] bool QueryUnload();
 
   /// As Document's: at a log-off, and when the program must end.
-  void KeepUnsaved();
+  bool KeepUnsaved();
   void DropUnsaved();
 
   /// Stores columns, window and settings.

@@ -242,10 +242,12 @@ void frmMain::OnFailure() {
       return;
     }
   };
-  attempt([this] { editor_.KeepUnsaved(); });
-  attempt([this] {
-    windowsSystem_.Seams().MessageBoxes.Show(editor_.Language().GetLangText(TextId::MustEnd),
-                                             BoxButtons::Ok, BoxIcon::Critical);
+  bool isKept = false;
+  attempt([&] { isKept = editor_.KeepUnsaved(); });
+  attempt([&] {
+    const TextId text = isKept ? TextId::MustEnd : TextId::MustEndNothingKept;
+    windowsSystem_.Seams().MessageBoxes.Show(editor_.Language().GetLangText(text), BoxButtons::Ok,
+                                             BoxIcon::Critical);
   });
   DestroyWindow(window_);
   PostQuitMessage(EXIT_FAILURE);

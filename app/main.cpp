@@ -41,7 +41,7 @@ BOOL CALLBACK FindMainWindow(HWND window, LPARAM found) {
   if (window != nullptr) {
     SendMessageW(window, tessera::FailureMessage, 0, 0);
   } else {
-    MessageBoxW(nullptr, tessera::BuiltInTextOf(tessera::TextId::MustEnd).data(),
+    MessageBoxW(nullptr, tessera::BuiltInTextOf(tessera::TextId::MustEndNothingKept).data(),
                 tessera::ProgramTitle, MB_ICONERROR);
   }
   std::_Exit(EXIT_FAILURE);

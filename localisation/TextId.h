@@ -80,6 +80,7 @@ enum class TextId : int {
   Important = 3208,
   NotSavedYet = 3209,
   MustEnd = 3295,
+  MustEndNothingKept = 3296,
 };
 
 /// The number that stands for a text in a language file.

@@ -84,6 +84,7 @@ constexpr BuiltInText Table[] = {
      L"Hotkeys in this list has not saved yet to your Total Commander configuration file."},
     {TextId::MustEnd,
      L"Tessera must end because of an error. Unsaved changes are in Wincmd.ini.unsaved."},
+    {TextId::MustEndNothingKept, L"Tessera must end because of an error."},
 };
 
 }  // namespace

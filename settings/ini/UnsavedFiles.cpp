@@ -7,6 +7,8 @@ namespace tessera {
 
 UnsavedFiles::UnsavedFiles(Files& files, Targets targets) : files_(files), targets_(targets) {}
 
+bool UnsavedFiles::HoldAll() const { return !former_.empty() && pending_.empty(); }
+
 void UnsavedFiles::TakeAway() {
   while (!former_.empty()) PutBack(std::wstring(former_.begin()->first));
 }
@@ -28,6 +30,7 @@ FileStamp UnsavedFiles::Stamp(const std::wstring& path) const { return files_.St
 std::wstring UnsavedFiles::Resolve(const std::wstring& path) const { return files_.Resolve(path); }
 
 FileError UnsavedFiles::Write(const std::wstring& path, std::string_view bytes) {
+  if (targets_ == Targets::LeftAlone) pending_.insert(path);
   return files_.Write(path, bytes);
 }
 
@@ -38,16 +41,16 @@ FileError UnsavedFiles::Replace(const std::wstring& target, const std::wstring& 
 }
 
 FileError UnsavedFiles::Move(const std::wstring& from, const std::wstring& to) {
-  if (!to.ends_with(UnsavedEnding) || former_.contains(to)) return files_.Move(from, to);
+  if (!to.ends_with(UnsavedEnding)) return files_.Move(from, to);
   std::string bytes;
-  const FileError read = files_.Read(to, bytes);
+  const FileError read = former_.contains(to) ? FileError::None : files_.Read(to, bytes);
   // What cannot be put back is not written over.
   if (read != FileError::None && files_.Exists(to)) return read;
   const FileError error = files_.Move(from, to);
-  if (error == FileError::None) {
-    former_[to] = read == FileError::None ? std::optional(bytes) : std::nullopt;
-  }
-  return error;
+  if (error != FileError::None) return error;
+  former_.try_emplace(to, read == FileError::None ? std::optional(bytes) : std::nullopt);
+  pending_.erase(from);
+  return FileError::None;
 }
 
 FileError UnsavedFiles::Remove(const std::wstring& path) {

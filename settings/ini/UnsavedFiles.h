@@ -3,6 +3,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "platform/Files.h"
@@ -21,6 +22,9 @@ class UnsavedFiles final : public Files {
 
   /// `files` must outlive this object.
   UnsavedFiles(Files& files, Targets targets);
+
+  /// All that was written for a save with targets left alone lies beside them; false for nothing.
+  [[nodiscard]] bool HoldAll() const;
 
   /// Takes the new content away again; what lay there before is put back.
   void TakeAway();
@@ -43,6 +47,7 @@ class UnsavedFiles final : public Files {
 
   /// By path, what lay there before; nothing where there was no file.
   std::map<std::wstring, std::optional<std::string>> former_;
+  std::set<std::wstring> pending_;  ///< written, or to be, and not yet beside its target
 };
 
 }  // namespace tessera

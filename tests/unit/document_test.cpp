@@ -338,6 +338,28 @@ TEST_F(EditorTest, WhatIsKeptGoesWithASaveAndStaysWithOneThatFails) {
   EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
 }
 
+TEST_F(EditorTest, KeepingTellsWhetherTheChangesLieThere) {
+  Start();
+  EXPECT_FALSE(Editor.KeepUnsaved()) << "no changes";
+  Assign(Pack, L"X");
+  Files.WriteErrors.assign(100, FileError::DiskFull);
+  EXPECT_FALSE(Editor.KeepUnsaved());
+  Files.WriteErrors.clear();
+  Files.MoveErrors.assign(100, FileError::AccessDenied);
+  EXPECT_FALSE(Editor.KeepUnsaved());
+  Files.MoveErrors.clear();
+  EXPECT_TRUE(Editor.KeepUnsaved());
+  EXPECT_NE(Files.Contents[UnsavedFile].find("X=cm_Pack"), std::string::npos);
+
+  Assign(Pack, L"Y");
+  Files.WriteErrors.assign(100, FileError::DiskFull);
+  EXPECT_FALSE(Editor.KeepUnsaved()) << "only former changes";
+  Files.WriteErrors.clear();
+  Files.ReadErrors.assign(100, FileError::SharingViolation);
+  EXPECT_TRUE(Editor.KeepUnsaved()) << "made from what was read before";
+  EXPECT_NE(Files.Contents[UnsavedFile].find("Y=cm_Pack"), std::string::npos);
+}
+
 TEST_F(EditorTest, WhatOneRunHasKeptStaysOverTheSavesOfTheNext) {
   Start();
   Assign(Pack, L"X");

@@ -103,6 +103,7 @@ TEST(TextTable, HasTheTextsWordForWord) {
        L"Hotkeys in this list has not saved yet to your Total Commander configuration file."},
       {TextId{3295},
        L"Tessera must end because of an error. Unsaved changes are in Wincmd.ini.unsaved."},
+      {TextId{3296}, L"Tessera must end because of an error."},
   };
   for (const BuiltInText& text : texts) {
     EXPECT_EQ(BuiltInTextOf(text.Id), text.Text) << NumberOf(text.Id);
