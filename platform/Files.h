@@ -43,6 +43,9 @@ class Files {
   /// that another program changed the length meanwhile.
   [[nodiscard]] virtual FileError Read(const std::wstring& path, std::string& bytes) const = 0;
 
+  /// True for a file that its owner protects from being written; false when it cannot be told.
+  [[nodiscard]] virtual bool IsReadOnly(const std::wstring& path) const = 0;
+
   /// The stamp of a file as it is now, without reading it; an empty one when it cannot be told.
   [[nodiscard]] virtual FileStamp Stamp(const std::wstring& path) const = 0;
 

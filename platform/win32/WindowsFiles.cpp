@@ -69,11 +69,16 @@ std::wstring FinalPath(HANDLE file, DWORD volume) {
   return path;
 }
 
+bool IsProtected(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 /// Takes a file's protection from being written away; false when there is none, or it stays.
 bool RemoveProtection(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0 &&
-         SetFileAttributesW(path.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY}) != FALSE;
+  return IsProtected(path) &&
+         SetFileAttributesW(path.c_str(), GetFileAttributesW(path.c_str()) &
+                                              ~DWORD{FILE_ATTRIBUTE_READONLY}) != FALSE;
 }
 
 UniqueHandle OpenExisting(const std::wstring& path, DWORD access) {
@@ -128,6 +133,10 @@ FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const
     return FileError::SharingViolation;
   bytes = std::move(content);
   return FileError::None;
+}
+
+bool WindowsFiles::IsReadOnly(const std::wstring& path) const {
+  return IsProtected(SystemPath(path));
 }
 
 FileStamp WindowsFiles::Stamp(const std::wstring& path) const {

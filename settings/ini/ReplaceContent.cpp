@@ -79,6 +79,8 @@ FileError CompareWith(const std::string& content, const Files& files, const std:
 /// A swap where the file system has no replace: the target's name is free for a moment, and the
 /// former content is whole under one of two names all the time.
 FileError SwapByMoves(Files& files, const Names& names) {
+  // A replace refuses it; renamed, it would be as good as written.
+  if (files.IsReadOnly(names.Target)) return FileError::AccessDenied;
   const FileError error = files.Move(names.Target, names.Former());
   // A target that is not there may stand aside already, after a try that could not be undone.
   if (error != FileError::None && error != FileError::NotFound) return error;

@@ -25,6 +25,8 @@ FileError UnsavedFiles::Read(const std::wstring& path, std::string& bytes) const
   return files_.Read(path, bytes);
 }
 
+bool UnsavedFiles::IsReadOnly(const std::wstring& path) const { return files_.IsReadOnly(path); }
+
 FileStamp UnsavedFiles::Stamp(const std::wstring& path) const { return files_.Stamp(path); }
 
 std::wstring UnsavedFiles::Resolve(const std::wstring& path) const { return files_.Resolve(path); }

@@ -31,6 +31,7 @@ class UnsavedFiles final : public Files {
 
   [[nodiscard]] bool Exists(const std::wstring& path) const override;
   [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override;
+  [[nodiscard]] bool IsReadOnly(const std::wstring& path) const override;
   [[nodiscard]] FileStamp Stamp(const std::wstring& path) const override;
   [[nodiscard]] std::wstring Resolve(const std::wstring& path) const override;
   [[nodiscard]] FileError Write(const std::wstring& path, std::string_view bytes) override;

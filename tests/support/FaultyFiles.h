@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <deque>
 #include <map>
+#include <set>
 #include <string>
 
 #include "platform/Files.h"
@@ -19,6 +20,7 @@ class FaultyFiles final : public Files {
  public:
   std::map<std::wstring, std::string> Contents;
   std::map<std::wstring, std::wstring> Links;  ///< a link's path to what it leads to
+  std::set<std::wstring> ReadOnly;             ///< paths; a replace is left to its script
   Log Calls;                                   ///< the changes asked for, as "Write C:\a"
 
   // Results of the next calls of each operation; None lets a call through, as an empty script does.
@@ -49,6 +51,10 @@ class FaultyFiles final : public Files {
     if (found == Contents.end()) return FileError::NotFound;
     bytes = found->second;
     return FileError::None;
+  }
+
+  [[nodiscard]] bool IsReadOnly(const std::wstring& path) const override {
+    return ReadOnly.contains(path);
   }
 
   [[nodiscard]] FileStamp Stamp(const std::wstring& path) const override {

@@ -41,6 +41,8 @@ class MemoryFiles : public Files {
     return FileError::None;
   }
 
+  [[nodiscard]] bool IsReadOnly(const std::wstring& /*path*/) const override { return false; }
+
   [[nodiscard]] FileStamp Stamp(const std::wstring& path) const override {
     const auto found = Contents.find(Resolve(path));
     return found == Contents.end() ? FileStamp{} : FileStamp{1, found->second.size()};

@@ -2,6 +2,7 @@
 // promises.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -143,6 +144,15 @@ TEST_F(ReplaceContentTest, WhereNoReplaceIsSupportedAMissingFileIsCreated) {
   files_.ReplaceErrors = {FileError::NotSupported};
   EXPECT_EQ(Save(KeepCopies::Yes), FileError::None);
   EXPECT_EQ(files_.Contents, (FileTable{{Path, "new"}}));
+}
+
+TEST_F(ReplaceContentTest, WhereNoReplaceIsSupportedAReadOnlyFileStays) {
+  files_.Contents = {{Path, "old"}, {Backup, "older"}};
+  files_.ReadOnly = {Path};
+  files_.ReplaceErrors.assign(100, FileError::NotSupported);
+  EXPECT_EQ(Save(KeepCopies::Yes), FileError::AccessDenied);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "old"}, {Backup, "older"}, {Unsaved, "new"}}));
+  EXPECT_EQ(std::ranges::count(files_.Calls, L"Move " + Path + L" " + Former), 0);
 }
 
 TEST_F(ReplaceContentTest, RenamedFileReturnsWhenTheNewOneCannotTakeItsName) {

@@ -73,6 +73,14 @@ TEST_F(WindowsFilesTest, OnlyAFileExists) {
   EXPECT_FALSE(files_.Exists(L""));
 }
 
+TEST_F(WindowsFilesTest, ProtectionFromBeingWrittenIsTold) {
+  EXPECT_FALSE(files_.IsReadOnly(At(L"a")));
+  Put(L"a", "x");
+  EXPECT_FALSE(files_.IsReadOnly(At(L"a")));
+  ASSERT_TRUE(SetFileAttributesW(At(L"a").c_str(), FILE_ATTRIBUTE_READONLY));
+  EXPECT_TRUE(files_.IsReadOnly(At(L"a")));
+}
+
 TEST_F(WindowsFilesTest, StampTellsThatAFileWasWritten) {
   EXPECT_EQ(files_.Stamp(At(L"a")), FileStamp{});
   Put(L"a", "old");
