@@ -22,6 +22,20 @@ bool MenuIsOpen() {
          (information.flags & GUI_INMENUMODE) != 0;
 }
 
+/// What the system tells its user at a log-off about a program that holds it up.
+class LogOffReason {
+ public:
+  LogOffReason(HWND window, const std::wstring& text) : window_(window) {
+    ShutdownBlockReasonCreate(window, text.c_str());
+  }
+  ~LogOffReason() { ShutdownBlockReasonDestroy(window_); }
+  LogOffReason(const LogOffReason&) = delete;
+  LogOffReason& operator=(const LogOffReason&) = delete;
+
+ private:
+  HWND window_;
+};
+
 }  // namespace
 
 frmMain::frmMain(WindowsSystem& windowsSystem)
@@ -223,13 +237,11 @@ bool frmMain::MayClose() {
 bool frmMain::MaySessionEnd() {
   // Without changes whatever is open goes with the window, and a load stops mattering.
   if (!editor_.Document().Modified()) return true;
+  // First of all: the rest may wait for files, and the system does not wait long.
+  const LogOffReason reason(window_, editor_.Document().Caption());
   // The system soon covers the question, and lets its user end the program over it.
   editor_.KeepUnsaved();
-  if (!AcceptsInput()) return false;
-  ShutdownBlockReasonCreate(window_, editor_.Document().Caption().c_str());
-  const bool closes = MayClose();
-  ShutdownBlockReasonDestroy(window_);
-  return closes;
+  return AcceptsInput() && MayClose();
 }
 
 // What works then is not known: each step goes as far as it can.
