@@ -81,6 +81,12 @@ bool RemoveProtection(const std::wstring& path) {
                                               ~DWORD{FILE_ATTRIBUTE_READONLY}) != FALSE;
 }
 
+void Protect(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return;
+  SetFileAttributesW(path.c_str(), attributes | FILE_ATTRIBUTE_READONLY);
+}
+
 UniqueHandle OpenExisting(const std::wstring& path, DWORD access) {
   constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   return Own(CreateFileW(SystemPath(path).c_str(), access, ShareAll, nullptr, OPEN_EXISTING,
@@ -190,9 +196,14 @@ FileError WindowsFiles::Move(const std::wstring& from, const std::wstring& to) {
         MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
   };
   const FileError error = move();
-  // A backup is as protected as the file was that it was made of.
+  // Whoever moves has decided that `to` may go. A backup, for one, is as protected as the file was
+  // that it was made of.
   const bool again = error == FileError::AccessDenied && RemoveProtection(SystemPath(to));
-  return again ? move() : error;
+  if (!again) return error;
+  const FileError second = move();
+  // The denial came from somewhere else.
+  if (second != FileError::None) Protect(SystemPath(to));
+  return second;
 }
 
 FileError WindowsFiles::Remove(const std::wstring& path) {

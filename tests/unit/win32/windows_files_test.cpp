@@ -135,6 +135,18 @@ TEST_F(WindowsFilesTest, MoveReplacesAReadOnlyTarget) {
   EXPECT_EQ(ContentOf(L"a"), "new");
 }
 
+// Under Wine the protection is never in the way of a move, so that it is not taken off there.
+TEST_F(WindowsFilesTest, ReadOnlyTargetThatCannotBeReplacedStaysReadOnly) {
+  Put(L"a", "old");
+  Put(L"b", "new");
+  ASSERT_TRUE(SetFileAttributesW(At(L"a").c_str(), FILE_ATTRIBUTE_READONLY));
+  const UniqueHandle held = Hold(L"a");
+  ASSERT_TRUE(held);
+  EXPECT_NE(files_.Move(At(L"b"), At(L"a")), FileError::None);
+  EXPECT_TRUE(files_.IsReadOnly(At(L"a")));
+  EXPECT_EQ(ContentOf(L"a"), "old");
+}
+
 TEST_F(WindowsFilesTest, FileHeldOpenIsReadButNotReplaced) {
   Put(L"a", "old");
   Put(L"b", "new");
