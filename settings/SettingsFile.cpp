@@ -46,15 +46,15 @@ FileError SettingsFile::Change(const std::function<void(ProfileFile&)>& change) 
   // doing, which passes.
   ClockWithoutSleep impatient(clock_);
   Clock& clock = refused_ ? impatient : clock_;
-  const FileError error = SaveFromTheStart([&] {
+  return SaveFromTheStart([&] {
     ProfileFile file(files_, clock, path);
     // Defaults must not replace what the user once chose.
     if (unread_ && file.ReadError() == FileError::None) return FileError::AccessDenied;
     change(file);
-    return file.Save(files_, clock, KeepCopies::No);
+    const FileError error = file.Save(files_, clock, KeepCopies::No);
+    refused_ = error == FileError::AccessDenied || (refused_ && error != FileError::None);
+    return error;
   });
-  refused_ = error == FileError::AccessDenied;
-  return error;
 }
 
 }  // namespace tessera

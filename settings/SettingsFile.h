@@ -41,7 +41,7 @@ class SettingsFile : Pinned {
   Clock& clock_;
   const Environment& environment_;
   bool unread_ = false;   ///< the file is there, and Read failed
-  bool refused_ = false;  ///< the last save was denied, as in a folder of programs
+  bool refused_ = false;  ///< a save was denied, as in a folder of programs, and none has succeeded
 };
 
 }  // namespace tessera

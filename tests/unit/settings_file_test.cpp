@@ -77,6 +77,29 @@ TEST_F(SettingsFileTest, AFolderThatRefusesIsWaitedForOnceAndTriedEachTime) {
   EXPECT_GT(Clock.SleptMilliseconds, waited);
 }
 
+TEST_F(SettingsFileTest, AFolderThatRefusedIsNotWaitedForAfterAnotherErrorEither) {
+  Files.WriteErrors.assign(100, FileError::AccessDenied);
+  EXPECT_EQ(WriteOne(), FileError::AccessDenied);
+  const int waited = Clock.SleptMilliseconds;
+  for (const FileError error : {FileError::DiskFull, FileError::AccessDenied}) {
+    Files.WriteErrors.assign(100, error);
+    EXPECT_EQ(WriteOne(), error);
+  }
+  EXPECT_EQ(Clock.SleptMilliseconds, waited);
+}
+
+TEST_F(SettingsFileTest, AFileThatIsNotChangedIsNoFolderThatRefuses) {
+  Files.Contents[VantorFile] = "[a]\r\nb=1\r\n";
+  Files.ReadErrors.assign(100, FileError::AccessDenied);
+  EXPECT_EQ(file_.Read().ReadError(), FileError::AccessDenied);
+  Files.ReadErrors.clear();
+  EXPECT_EQ(WriteOne(), FileError::AccessDenied);
+  const int waited = Clock.SleptMilliseconds;
+  Files.ReadErrors = {FileError::SharingViolation};
+  EXPECT_EQ(WriteOne(), FileError::AccessDenied);
+  EXPECT_GT(Clock.SleptMilliseconds, waited);
+}
+
 TEST_F(SettingsFileTest, WhatAKilledChangeLeftIsClearedUpByTheNext) {
   Files.Contents = {{VantorFile, "[a]\r\nb=1\r\n"}, {VantorFile + L".tessera-new", "[a"}};
   EXPECT_EQ(WriteOne(), FileError::None);
