@@ -178,6 +178,8 @@ void Document::Save(bool restarts) {
 }
 
 /// Closes Total Commander before the save, or starts it after that. False when it cannot be closed.
+/// One that may be closed, and whose user then chose otherwise, is started a second time,
+/// deliberately: its window cannot tell that from a close that takes long.
 bool Document::Restart(bool closeIt) {
   return RestartTotalCommander(system_.Programs, system_.Clock, system_.Files, system_.Environment,
                                {.WincmdPath = wincmdPath_, .CloseIt = closeIt});
