@@ -1,4 +1,5 @@
 // The tips over the cells of the command list.
+#include <chrono>
 #include <string>
 
 #include "resources/resource.h"
@@ -19,16 +20,27 @@ class CellTipTest : public EndToEndTest {
     const RECT cell = window_->CellRectangle(position, column);
     // The first cell is given as all of its row.
     const LONG left = column == 0 ? row.left + 30 : cell.left;
+    const auto start = Clock::now();
     MoveTo({left + 10, (cell.top + cell.bottom) / 2});
     WaitFor("a tip", [&] { return !window_->CellTip().empty(); });
+    delay_ = Clock::now() - start;
     return window_->CellTip();
   }
 
+  /// Rests over a cell twice as long as the last tip took to come.
   void ExpectNoTipOver(int position, int column) {
     const RECT cell = window_->CellRectangle(position, column);
     MoveTo({cell.left + 10, (cell.top + cell.bottom) / 2});
     WaitFor("the tip to go", [&] { return window_->CellTip().empty(); });
+    const auto end = Clock::now() + 2 * delay_;
+    WaitFor("the time of a tip",
+            [&] { return !window_->CellTip().empty() || Clock::now() >= end; });
+    EXPECT_EQ(window_->CellTip(), L"");
   }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  Clock::duration delay_{};
 };
 
 TEST_F(CellTipTest, CutCellShowsItsWholeText) {
@@ -38,7 +50,7 @@ TEST_F(CellTipTest, CutCellShowsItsWholeText) {
   const RowTexts row = window_->Row(cut);
   EXPECT_EQ(TipOver(cut, 0), row[0]);
   EXPECT_EQ(TipOver(cut, 1), row[1]);
-  ExpectNoTipOver(cut, 2);
+  ExpectNoTipOver(window_->FindCommand(L"cm_SrcTree"), 1);
 }
 
 TEST_F(CellTipTest, OverriddenDefaultTellsWhichCommandHasTheKey) {
