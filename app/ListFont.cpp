@@ -23,7 +23,7 @@ ListFont ReadListFont(const Settings& settings, int dpi) {
   return {.HasMessageFace = EqualIgnoringCase(settings.FontName, BitmapFace),
           .FaceName = settings.FontName,
           .CharacterSet = settings.FontScript,
-          .HeightPixels = Ratio(points, dpi, PointsPerInch),
+          .HeightPixels = Proportion(points, dpi, PointsPerInch),
           .Bold = has(cFontDlg::Bold),
           .Italic = has(cFontDlg::Italic),
           .StrikeOut = has(cFontDlg::StrikeOut),

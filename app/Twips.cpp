@@ -10,9 +10,9 @@ constexpr int TwipsPerInch = 1440;
 
 }  // namespace
 
-int TwipsToPixels(int twips, int dpi) { return Ratio(twips, dpi, TwipsPerInch); }
+int TwipsToPixels(int twips, int dpi) { return Proportion(twips, dpi, TwipsPerInch); }
 
-int PixelsToTwips(int pixels, int dpi) { return Ratio(pixels, TwipsPerInch, dpi); }
+int PixelsToTwips(int pixels, int dpi) { return Proportion(pixels, TwipsPerInch, dpi); }
 
 int PixelsToTwips(int pixels, int dpi, int storedTwips) {
   return TwipsToPixels(storedTwips, dpi) == pixels ? storedTwips : PixelsToTwips(pixels, dpi);

@@ -5,13 +5,13 @@
 
 namespace tessera {
 
-int Ratio(int value, int numerator, int denominator) {
+int Proportion(int value, int numerator, int denominator) {
   const auto product = static_cast<long long>(value) * numerator;
   const int half = product < 0 ? -denominator / 2 : denominator / 2;
   return static_cast<int>((product + half) / denominator);
 }
 
-int Scaled(int pixelsAt96, int dpi) { return Ratio(pixelsAt96, dpi, 96); }
+int Scaled(int pixelsAt96, int dpi) { return Proportion(pixelsAt96, dpi, 96); }
 
 Area Centred(const Area& room, int width, int height) {
   const int fitting = std::min(width, room.Width);

@@ -20,7 +20,7 @@ struct Screen {
 };
 
 /// `value` * `numerator` / `denominator`; halves are rounded away from 0.
-[[nodiscard]] int Ratio(int value, int numerator, int denominator);
+[[nodiscard]] int Proportion(int value, int numerator, int denominator);
 
 /// A length given for 96 pixels an inch, at another resolution.
 [[nodiscard]] int Scaled(int pixelsAt96, int dpi);
