@@ -1,13 +1,14 @@
-// Saves that put their content beside the file.
-#include <gtest/gtest.h>
-
+// Saves that put their content beside the file, alone and in the whole program.
 #include "settings/ini/ReplaceContent.h"
 #include "settings/ini/UnsavedFiles.h"
 #include "tests/support/FakeClock.h"
 #include "tests/support/FaultyFiles.h"
+#include "tests/unit/editor_fixture.h"
 
 namespace tessera::unsaved_files_test {
 namespace {
+
+using namespace installation;
 
 using FileTable = std::map<std::wstring, std::string>;
 
@@ -107,6 +108,129 @@ TEST_F(UnsavedFilesTest, LinkIsFollowed) {
   files_.Contents[L"D:\\b.ini"] = "old";
   EXPECT_EQ(Save("new"), FileError::None);
   EXPECT_EQ(files_.Contents[L"D:\\b.ini.unsaved"], "new");
+}
+
+// -- What is kept for an end without an answer, as a log-off may bring it
+
+const std::wstring UnsavedFile = IniFile + L".unsaved";
+
+TEST_F(EditorTest, WhatASaveWouldWriteIsKeptBesideTheFileUntilTheAnswer) {
+  Start();
+  Assign(Pack, L"X");
+  for (const BoxAnswer answer : {BoxAnswer::Cancel, BoxAnswer::No}) {
+    Editor.KeepUnsaved();
+    EXPECT_EQ(Ini(), IniContent);
+    EXPECT_NE(Files.Contents[UnsavedFile].find("X=cm_Pack"), std::string::npos);
+    MessageBoxes.Answers = {answer};
+    static_cast<void>(Editor.QueryUnload());
+    EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+    EXPECT_EQ(Ini(), IniContent);
+  }
+}
+
+TEST_F(EditorTest, WhatIsKeptGoesWithASaveAndStaysWithOneThatFails) {
+  Start();
+  Assign(Pack, L"X");
+  Files.Contents[UnsavedFile] = "of an earlier failure";
+  Editor.KeepUnsaved();
+  MessageBoxes.Answers = {BoxAnswer::Yes, BoxAnswer::Yes};
+  Files.ReplaceErrors.assign(100, FileError::Other);
+  EXPECT_FALSE(Editor.QueryUnload());
+  EXPECT_NE(Files.Contents[UnsavedFile].find("X=cm_Pack"), std::string::npos);
+  Files.ReplaceErrors.clear();
+  EXPECT_TRUE(Editor.QueryUnload());
+  EXPECT_EQ(Files.Contents[UnsavedFile], "of an earlier failure");
+  EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
+}
+
+TEST_F(EditorTest, KeepingTellsWhetherTheChangesLieThere) {
+  Start();
+  EXPECT_FALSE(Editor.KeepUnsaved()) << "no changes";
+  Assign(Pack, L"X");
+  Files.WriteErrors.assign(100, FileError::DiskFull);
+  EXPECT_FALSE(Editor.KeepUnsaved());
+  Files.WriteErrors.clear();
+  Files.MoveErrors.assign(100, FileError::AccessDenied);
+  EXPECT_FALSE(Editor.KeepUnsaved());
+  Files.MoveErrors.clear();
+  EXPECT_TRUE(Editor.KeepUnsaved());
+  EXPECT_NE(Files.Contents[UnsavedFile].find("X=cm_Pack"), std::string::npos);
+
+  Assign(Pack, L"Y");
+  Files.WriteErrors.assign(100, FileError::DiskFull);
+  EXPECT_FALSE(Editor.KeepUnsaved()) << "only former changes";
+  Files.WriteErrors.clear();
+  Files.ReadErrors.assign(100, FileError::SharingViolation);
+  EXPECT_TRUE(Editor.KeepUnsaved()) << "made from what was read before";
+  EXPECT_NE(Files.Contents[UnsavedFile].find("Y=cm_Pack"), std::string::npos);
+}
+
+TEST_F(EditorTest, WhatOneRunHasKeptStaysOverTheSavesOfTheNext) {
+  Start();
+  Assign(Pack, L"X");
+  Editor.KeepUnsaved();
+  const std::string kept = Files.Contents[UnsavedFile];
+  EXPECT_NE(kept.find("X=cm_Pack"), std::string::npos);
+
+  tessera::Editor next(Seams, [](const LoadProgress&) {});
+  next.Load();
+  next.Activate();
+  next.Work(&CommandList::SelectRow, Copy);
+  next.Work(&HotkeyPanel::Delete);
+  next.FileSave();
+  EXPECT_NE(Ini(), IniContent);
+  EXPECT_EQ(Files.Contents[UnsavedFile], kept);
+}
+
+TEST_F(EditorTest, WhatAFailedSaveLeftStaysWithoutAnAnswerAndGoesWithASave) {
+  Start();
+  Assign(Pack, L"X");
+  Files.ReplaceErrors.assign(100, FileError::Other);
+  Editor.FileSave();
+  const std::string left = Files.Contents[UnsavedFile];
+  Assign(Pack, L"Y");
+  Editor.KeepUnsaved();
+  EXPECT_NE(Files.Contents[UnsavedFile], left);
+  Editor.DropUnsaved();
+  EXPECT_EQ(Files.Contents[UnsavedFile], left);
+  Files.ReplaceErrors.clear();
+  Editor.FileSave();
+  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+}
+
+TEST_F(EditorTest, WhatLayThereBeforeIsPutBack) {
+  Start();
+  Assign(Pack, L"X");
+  Files.Contents[UnsavedFile] = "of an earlier failure";
+  Editor.KeepUnsaved();
+  Assign(Pack, L"Y");
+  Editor.KeepUnsaved();
+  EXPECT_NE(Files.Contents[UnsavedFile].find("Y=cm_Pack"), std::string::npos);
+  Editor.DropUnsaved();
+  EXPECT_EQ(Files.Contents[UnsavedFile], "of an earlier failure");
+  Editor.DropUnsaved();
+  EXPECT_EQ(Files.Contents[UnsavedFile], "of an earlier failure");
+}
+
+TEST_F(EditorTest, KeepingLeavesTheKeysThatTheNextSaveTakesFromTheStartMenu) {
+  Start();
+  MessageBoxes.Answers = {BoxAnswer::Yes};
+  Assign(Pack, 3, L"F1");  // of the Start Menu
+  Editor.KeepUnsaved();
+  EXPECT_EQ(Files.Contents[UnsavedFile].find("key1"), std::string::npos);
+  Editor.FileSave();
+  EXPECT_EQ(Ini().find("key1"), std::string::npos);
+}
+
+TEST_F(EditorTest, NothingIsKeptWithoutChangesOrDuringASave) {
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Start();
+  Editor.KeepUnsaved();
+  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+  Assign(Pack, L"X");
+  Clock.OnDoEvents = [this] { Editor.KeepUnsaved(); };
+  Editor.FileSaveAndRestart();
+  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
 }
 
 }  // namespace
