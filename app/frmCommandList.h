@@ -50,19 +50,30 @@ class frmCommandList : Pinned {
   void Forget();
 
  private:
+  /// Where the parts of a row are in the list.
+  struct RowPlaces {
+    RECT Whole{};
+    RECT Icon{};
+    std::array<RECT, 4> Cells{};  ///< the description's begins after its icon
+    std::array<int, 4> Order{};   ///< the columns as they stand
+
+    [[nodiscard]] RowPlaces MovedTo(LONG top) const;
+  };
+
   static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
                                         UINT_PTR id, DWORD_PTR self);
   void LoadIcons();
   void ApplyColumnWidths(const std::array<int, 4>& twips);
   [[nodiscard]] LRESULT OnCustomDraw(const NMCUSTOMDRAW& draw);
   void DrawRow(const NMCUSTOMDRAW& draw) const;
-  void DrawIcon(HDC context, int position) const;
+  void DrawIcon(HDC context, int position, const RowPlaces& places) const;
   void SyncTip(const MSG& message);
   void SetTip(int position, int subItem);
   void HideTip();
   [[nodiscard]] std::array<int, 4> ColumnOrder() const;
-  [[nodiscard]] RECT PlaceOf(int position, Column column) const;
-  [[nodiscard]] RECT TextPlace(int position, Column column, const std::array<int, 4>& order) const;
+  [[nodiscard]] RowPlaces PlacesOf(int position) const;
+  [[nodiscard]] RECT TextPlace(const CommandEntry& row, Column column,
+                               const RowPlaces& places) const;
   void OnItemChanged(const NMLISTVIEW& change);
   void SelectRow(int position) const;
   [[nodiscard]] LRESULT FindItem(const NMLVFINDITEMW& search) const;
@@ -77,7 +88,8 @@ class frmCommandList : Pinned {
   int dpi_ = 96;
   bool syncing_ = false;    ///< notifications are answers to our own changes
   ListColors drawnColors_;  ///< of the drawing that goes on, as is the next
-  std::array<int, 4> drawnOrder_{};
+  // Of one row: asking the list for those of each cell takes it longer than drawing them.
+  RowPlaces drawnPlaces_;
   frmCellTip tip_;
   POINT tipCell_{-1, -1};  ///< its column and row; -1 for none
   Unique<HFONT> font_;

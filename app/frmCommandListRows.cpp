@@ -45,7 +45,7 @@ void Write(HDC context, RECT place, std::wstring_view text) {
 LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) {
   if (draw.dwDrawStage == CDDS_PREPAINT) {
     drawnColors_ = ColorsOfList(editor_.Options());
-    drawnOrder_ = ColumnOrder();
+    drawnPlaces_ = PlacesOf(ListView_GetTopIndex(ListView1_));
     return CDRF_NOTIFYITEMDRAW;
   }
   if (draw.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
@@ -63,29 +63,31 @@ void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
   const auto item = static_cast<int>(draw.dwItemSpec);
   const bool selected = ListView_GetItemState(ListView1_, item, LVIS_SELECTED) != 0;
   const CellColors rowColors = ColorsOfRow(drawnColors_, selected, GetFocus() == ListView1_);
+  const RowPlaces places = drawnPlaces_.MovedTo(draw.rc.top);
   RECT whole = draw.rc;
   whole.left += RowMargin;
   Fill(context, whole, rowColors.Back);
-  DrawIcon(context, item);
+  DrawIcon(context, item, places);
   SelectObject(context, font_.get());
   SetBkMode(context, TRANSPARENT);
   for (const Column column : AllColumns) {
     const CellColors cellColors = ColorsOfCell(drawnColors_, rowColors, row, column);
-    if (cellColors.Back != rowColors.Back) Fill(context, PlaceOf(item, column), cellColors.Back);
+    if (cellColors.Back != rowColors.Back) {
+      Fill(context, places.Cells[IndexOf(column)], cellColors.Back);
+    }
     SetTextColor(context, cellColors.Text);
-    Write(context, TextPlace(item, column, drawnOrder_), CellText(row, column));
+    Write(context, TextPlace(row, column, places), CellText(row, column));
   }
 }
 
 // Up to the end of its column, if that is narrower.
-void frmCommandList::DrawIcon(HDC context, int position) const {
+void frmCommandList::DrawIcon(HDC context, int position, const RowPlaces& places) const {
   LVITEMW item{};
   item.mask = LVIF_IMAGE;
   item.iItem = position;
   FillCell(item);
-  RECT place{};
-  ListView_GetItemRect(ListView1_, position, &place, LVIR_ICON);
-  const LONG room = PlaceOf(position, Column::Description).right - place.left;
+  const RECT& place = places.Icon;
+  const LONG room = places.Cells[IndexOf(Column::Description)].right - place.left;
   int width = 0;
   int height = 0;
   ImageList_GetIconSize(ilsListView_.get(), &width, &height);
@@ -95,23 +97,33 @@ void frmCommandList::DrawIcon(HDC context, int position) const {
                    CLR_NONE, CLR_NONE, ILD_NORMAL);
 }
 
-// The description's begins after its icon.
-RECT frmCommandList::PlaceOf(int position, Column column) const {
-  RECT cell{};
-  ListView_GetSubItemRect(ListView1_, position, static_cast<int>(IndexOf(column)), LVIR_LABEL,
-                          &cell);
-  return cell;
+frmCommandList::RowPlaces frmCommandList::RowPlaces::MovedTo(LONG top) const {
+  RowPlaces moved = *this;
+  const int distance = static_cast<int>(top - Whole.top);
+  OffsetRect(&moved.Whole, 0, distance);
+  OffsetRect(&moved.Icon, 0, distance);
+  for (RECT& cell : moved.Cells) OffsetRect(&cell, 0, distance);
+  return moved;
 }
 
-RECT frmCommandList::TextPlace(int position, Column column, const std::array<int, 4>& order) const {
-  const CommandEntry& row = editor_.Document().Rows().At(static_cast<std::size_t>(position));
-  RECT place = PlaceOf(position, column);
-  const bool description = column == Column::Description;
-  if (description && RunsOverAllColumns(row, order)) {
-    RECT whole{};
-    ListView_GetItemRect(ListView1_, position, &whole, LVIR_BOUNDS);
-    place.right = whole.right;
+frmCommandList::RowPlaces frmCommandList::PlacesOf(int position) const {
+  RowPlaces places;
+  ListView_GetItemRect(ListView1_, position, &places.Whole, LVIR_BOUNDS);
+  ListView_GetItemRect(ListView1_, position, &places.Icon, LVIR_ICON);
+  for (const Column column : AllColumns) {
+    const std::size_t index = IndexOf(column);
+    ListView_GetSubItemRect(ListView1_, position, static_cast<int>(index), LVIR_LABEL,
+                            &places.Cells[index]);
   }
+  places.Order = ColumnOrder();
+  return places;
+}
+
+RECT frmCommandList::TextPlace(const CommandEntry& row, Column column,
+                               const RowPlaces& places) const {
+  RECT place = places.Cells[IndexOf(column)];
+  const bool description = column == Column::Description;
+  if (description && RunsOverAllColumns(row, places.Order)) place.right = places.Whole.right;
   place.left += Scaled(description ? TextMarginAfterIcon : TextMargin, dpi_);
   place.right -= Scaled(TextMarginAtEnd, dpi_);
   return place;

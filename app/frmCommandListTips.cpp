@@ -34,11 +34,11 @@ void frmCommandList::SetTip(int position, int subItem) {
     tip_.Set(ListView1_, {}, {}, font_.get());
     return;
   }
-  const std::array<int, 4> order = ColumnOrder();
-  const Column column = RunsOverAllColumns(rows.At(row), order)
+  const RowPlaces places = PlacesOf(position);
+  const Column column = RunsOverAllColumns(rows.At(row), places.Order)
                             ? Column::Description
                             : AllColumns[static_cast<std::size_t>(subItem)];
-  const RECT place = TextPlace(position, column, order);
+  const RECT place = TextPlace(rows.At(row), column, places);
   const std::wstring text(CellText(rows.At(row), column));
   const LRESULT length =
       SendMessageW(ListView1_, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str()));
