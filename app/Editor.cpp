@@ -38,6 +38,7 @@ const Texts& Editor::Language() const { return texts_; }
 
 Reaction Editor::FollowUp(const Reaction& reaction) {
   if (reaction.Changed) document_.SetModified(true);
+  if (reaction.Restored) document_.SetModified(!document_.Commands().Edits.AtSaved());
   if (reaction.FollowChooser) keysList_.FollowChooser();
   if (reaction.HideKeysList) keysList_.Hide();
   return reaction;

@@ -171,7 +171,7 @@ void frmMain::HideKeysList() {
 
 void frmMain::React(const Reaction& reaction) {
   if (reaction.StartTimer) SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr);
-  if (reaction.Changed) {
+  if (reaction.Changed || reaction.Restored) {
     Sync();
   } else {
     views_.SyncKeys();

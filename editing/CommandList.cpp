@@ -142,6 +142,27 @@ Reaction CommandList::ToggleSortedList() {
   return {.HideKeysList = true};
 }
 
+Reaction CommandList::Undo() {
+  const EditHistory::Step* const step = catalogue_.Edits.ToUndo();
+  if (step == nullptr) return {};
+  catalogue_.Edits.Undo(catalogue_);
+  return ShowRestored(step->Name.Row);
+}
+
+Reaction CommandList::Redo() {
+  const EditHistory::Step* const step = catalogue_.Edits.ToRedo();
+  if (step == nullptr) return {};
+  catalogue_.Edits.Redo(catalogue_);
+  return ShowRestored(step->Name.Row);
+}
+
+/// An edit of all rows leaves the selected row.
+Reaction CommandList::ShowRestored(RowKey row) {
+  const bool selects = row != 0 && row != selectedRow_;
+  if (selects) ShowRowDetails(row);
+  return {.Restored = true, .HideKeysList = selects};
+}
+
 void CommandList::RestoreStoredSort() {
   if (settings_.SortedList != 1) return;
   RepairSortedColumn(settings_);

@@ -57,10 +57,17 @@ class CommandList : Pinned {
   /// Sorts, or goes back to file order.
   Reaction ToggleSortedList();
 
+  /// Takes the last edit back, or makes the one that was taken back last again, and selects its
+  /// row. Without one, nothing.
+  Reaction Undo();
+  Reaction Redo();
+
   /// Brings back the stored sort at the first activation of the program.
   void RestoreStoredSort();
 
  private:
+  Reaction ShowRestored(RowKey row);
+
   Catalogue& catalogue_;
   Settings& settings_;
   RowKey selectedRow_ = 0;

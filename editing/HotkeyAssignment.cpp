@@ -20,30 +20,39 @@ HotkeyAssignment::HotkeyAssignment(Catalogue& catalogue, const HotkeyNotation& n
     : catalogue_(catalogue), notation_(notation), texts_(texts), messageBoxes_(messageBoxes) {}
 
 bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
-  if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, true)) return false;
-  ReleaseCurrentKeys(catalogue_, row, notation_);
-  GiveKey(catalogue_, row, key, notation_);
-  catalogue_.ListView1.Edit(row).Icon = RowIcon::HasKey;
-  return true;
+  return catalogue_.Edits.Make(catalogue_, {EditKind::Assign, row, key}, [&] {
+    if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, true)) return false;
+    ReleaseCurrentKeys(catalogue_, row, notation_);
+    GiveKey(catalogue_, row, key, notation_);
+    catalogue_.ListView1.Edit(row).Icon = RowIcon::HasKey;
+    return true;
+  });
 }
 
 bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
-  if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, false)) return false;
-  // The key may have been the row's own last one, which the check has just taken out of the cell.
-  GiveKey(catalogue_, row, key, notation_);
-  return true;
+  return catalogue_.Edits.Make(catalogue_, {EditKind::Add, row, key}, [&] {
+    if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, false)) return false;
+    // The key may have been the row's own last one, which the check has just taken out of the cell.
+    GiveKey(catalogue_, row, key, notation_);
+    return true;
+  });
 }
 
-bool HotkeyAssignment::Delete(RowKey row) { return DeleteCurrentKeys(catalogue_, row, notation_); }
+bool HotkeyAssignment::Delete(RowKey row) {
+  return catalogue_.Edits.Make(catalogue_, {EditKind::Delete, row, {}},
+                               [&] { return DeleteCurrentKeys(catalogue_, row, notation_); });
+}
 
 bool HotkeyAssignment::DeleteAll() {
   if (!Confirmed(messageBoxes_, DeleteAllQuestion(texts_), BoxIcon::Question)) return false;
-  bool changed = false;
-  for (std::size_t position = 0; position < catalogue_.ListView1.Count(); ++position) {
-    const CommandEntry& row = catalogue_.ListView1.At(position);
-    if (!row.IsHeading()) changed |= DeleteCurrentKeys(catalogue_, row.Key, notation_);
-  }
-  return changed;
+  return catalogue_.Edits.Make(catalogue_, {EditKind::DeleteAll, 0, {}}, [&] {
+    bool changed = false;
+    for (std::size_t position = 0; position < catalogue_.ListView1.Count(); ++position) {
+      const CommandEntry& row = catalogue_.ListView1.At(position);
+      if (!row.IsHeading()) changed |= DeleteCurrentKeys(catalogue_, row.Key, notation_);
+    }
+    return changed;
+  });
 }
 
 /// False when the user keeps the key for the Start Menu. The answer about the last slot decides.

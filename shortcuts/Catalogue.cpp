@@ -34,6 +34,7 @@ void BuildDisplayTable(Catalogue& catalogue, const HotkeyNotation& notation,
 
 void BuildKeyIndexes(Catalogue& catalogue, const HotkeyNotation& notation) {
   // Edited keys of the file that was open before are gone with it.
+  catalogue.Edits.Clear();
   catalogue.lvwDefKeys.Clear();
   catalogue.lvwCurrKeys.Clear();
   for (std::size_t position = 0; position < catalogue.ListView1.Count(); ++position) {

@@ -8,6 +8,7 @@
 
 #include "shortcuts/CommandEntry.h"
 #include "shortcuts/DisplayTable.h"
+#include "shortcuts/EditHistory.h"
 #include "shortcuts/GivenKeys.h"
 #include "shortcuts/HotkeyNotation.h"
 #include "shortcuts/KeyIndex.h"
@@ -25,14 +26,16 @@ struct Catalogue {
   KeyIndex lvwDefKeys;                       ///< the default keys of the displayed rows, one by one
   KeyIndex lvwCurrKeys;                      ///< their current keys
   StartMenuKeyTable StartMenuKeys;
-  GivenKeys Given;  ///< by edits of this run, whatever files are opened meanwhile
+  GivenKeys Given;    ///< by edits of this run, whatever files are opened meanwhile
+  EditHistory Edits;  ///< of the file that is open
 };
 
 /// Copies the master rows into ListView1, in their order, and gives each its icon.
 void BuildDisplayTable(Catalogue& catalogue, const HotkeyNotation& notation,
                        const ProgressStep& step);
 
-/// Fills the two indexes anew with every single key of the displayed command rows.
+/// Fills the two indexes anew with every single key of the displayed command rows. What was edited
+/// before cannot be taken back any more.
 void BuildKeyIndexes(Catalogue& catalogue, const HotkeyNotation& notation);
 
 /// Marks every default key that is somewhere a current key: " *" on the index entry and on the

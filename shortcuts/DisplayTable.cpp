@@ -42,7 +42,13 @@ void DisplayTable::Fill(std::vector<CommandEntry> rows) {
   RestoreFileOrder();
 }
 
-CommandEntry& DisplayTable::Edit(RowKey key) { return rows_.at(key - 1); }
+CommandEntry& DisplayTable::Edit(RowKey key) {
+  CommandEntry& row = rows_.at(key - 1);
+  if (changes_ != nullptr) changes_->push_back(row);
+  return row;
+}
+
+void DisplayTable::NoteChangesIn(std::vector<CommandEntry>* changes) { changes_ = changes; }
 
 void DisplayTable::RemoveHeadings() {
   std::erase_if(order_, [this](RowKey key) { return Row(key).IsHeading(); });

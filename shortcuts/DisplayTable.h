@@ -53,6 +53,9 @@ class DisplayTable {
 
   [[nodiscard]] CommandEntry& Edit(RowKey key);
 
+  /// Each row is noted there before it is edited, until it is called with null.
+  void NoteChangesIn(std::vector<CommandEntry>* changes);
+
   void RemoveHeadings();
   void RestoreFileOrder();
 
@@ -63,7 +66,8 @@ class DisplayTable {
  private:
   void NumberPositions();
 
-  std::vector<CommandEntry> rows_;                     ///< in file order
+  std::vector<CommandEntry> rows_;  ///< in file order
+  std::vector<CommandEntry>* changes_ = nullptr;
   std::vector<RowKey> order_;                          ///< the displayed rows, from the top
   std::vector<std::optional<std::size_t>> positions_;  ///< where each of rows_ stands in order_
 };

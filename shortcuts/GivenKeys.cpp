@@ -20,7 +20,10 @@ std::size_t GivenKeys::MomentOf(RowKey row, std::wstring_view key) const {
 }
 
 void GivenKeys::Give(RowKey row, std::wstring_view key) {
-  moments_[{row, Given(key)}] = ++lastMoment_;
+  std::pair<RowKey, std::wstring> place{row, Given(key)};
+  std::size_t& moment = moments_[place];
+  if (changes_ != nullptr) changes_->emplace_back(std::move(place), moment);
+  moment = ++lastMoment_;
 }
 
 void GivenKeys::Change(RowKey row, std::span<const std::wstring> before,
@@ -28,8 +31,26 @@ void GivenKeys::Change(RowKey row, std::span<const std::wstring> before,
   std::set<std::wstring> present;
   for (const std::wstring& key : after) present.insert(Given(key));
   for (const std::wstring& key : before) {
-    if (!present.contains(Given(key))) moments_.erase({row, Given(key)});
+    if (present.contains(Given(key))) continue;
+    const auto gone = moments_.find({row, Given(key)});
+    if (gone == moments_.end()) continue;
+    if (changes_ != nullptr) changes_->emplace_back(*gone);
+    moments_.erase(gone);
   }
+}
+
+void GivenKeys::NoteChangesIn(std::vector<FormerMoment>* changes) { changes_ = changes; }
+
+void GivenKeys::Exchange(FormerMoment& former) {
+  const auto& [place, formerMoment] = former;
+  const auto found = moments_.find(place);
+  const std::size_t moment = found == moments_.end() ? 0 : found->second;
+  if (formerMoment != 0) {
+    moments_[place] = formerMoment;
+  } else if (found != moments_.end()) {
+    moments_.erase(found);
+  }
+  former.second = moment;
 }
 
 }  // namespace tessera

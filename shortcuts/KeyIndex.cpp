@@ -81,11 +81,13 @@ KeyIndex::EntryId KeyIndex::Add(std::wstring text, RowKey owner) {
   AddToGroups(id, *entries_.emplace_back(Entry{std::move(text), owner}));
   if (forEdits_) forEdits_->AddOwned(id, owner);
   ++count_;
+  Note(id, std::nullopt);
   return id;
 }
 
 void KeyIndex::SetText(EntryId id, std::wstring text) {
   Entry& entry = entries_.at(id).value();
+  Note(id, entry);
   RemoveFromGroups(id, entry);
   entry.Text = std::move(text);
   AddToGroups(id, entry);
@@ -93,6 +95,7 @@ void KeyIndex::SetText(EntryId id, std::wstring text) {
 
 void KeyIndex::SetOwner(EntryId id, RowKey owner) {
   Entry& entry = entries_.at(id).value();
+  Note(id, entry);
   std::erase(ForEdits().ByOwner.at(entry.Owner), id);
   forEdits_->AddOwned(id, owner);
   entry.Owner = owner;
@@ -102,12 +105,34 @@ void KeyIndex::RemoveOwnedBy(RowKey owner) {
   if (owner >= ForEdits().ByOwner.size()) return;
   for (const EntryId id : std::exchange(forEdits_->ByOwner[owner], {})) {
     RemoveFromGroups(id, At(id));
-    entries_[id].reset();
+    Note(id, std::exchange(entries_[id], std::nullopt));
     --count_;
   }
 }
 
 void KeyIndex::Clear() { *this = KeyIndex(); }
+
+void KeyIndex::NoteChangesIn(std::vector<FormerEntry>* changes) { changes_ = changes; }
+
+void KeyIndex::Exchange(FormerEntry& former) {
+  const EntryId id = former.first;
+  std::optional<Entry>& entry = entries_.at(id);
+  if (entry) {
+    std::erase(ForEdits().ByOwner.at(entry->Owner), id);
+    RemoveFromGroups(id, *entry);
+    --count_;
+  }
+  entry.swap(former.second);
+  if (entry) {
+    ForEdits().AddOwned(id, entry->Owner);
+    AddToGroups(id, *entry);
+    ++count_;
+  }
+}
+
+void KeyIndex::Note(EntryId id, std::optional<Entry> former) {
+  if (changes_ != nullptr) changes_->emplace_back(id, std::move(former));
+}
 
 void KeyIndex::EditIndexes::AddOwned(EntryId id, RowKey owner) {
   if (owner >= ByOwner.size()) ByOwner.resize(owner + 1);

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "shortcuts/CommandEntry.h"
@@ -22,6 +23,9 @@ class KeyIndex {
     std::wstring Text;  ///< the key, with " *" appended while it is overridden
     RowKey Owner = 0;
   };
+
+  /// An entry as it was; nothing when it was not there.
+  using FormerEntry = std::pair<EntryId, std::optional<Entry>>;
 
   // -- Queries
 
@@ -46,6 +50,12 @@ class KeyIndex {
   void RemoveOwnedBy(RowKey owner);
   void Clear();
 
+  /// Each change to come is noted there, until it is called with null.
+  void NoteChangesIn(std::vector<FormerEntry>* changes);
+
+  /// Brings back an entry as it was, and takes the one that there is in exchange.
+  void Exchange(FormerEntry& former);
+
  private:
   /// The entries whose texts have a hash in common, the first one first.
   using Groups = std::unordered_map<std::size_t, std::set<EntryId>>;
@@ -58,11 +68,13 @@ class KeyIndex {
   };
 
   EditIndexes& ForEdits() const;
+  void Note(EntryId id, std::optional<Entry> former);
   void AddToGroups(EntryId id, const Entry& entry);
   void RemoveFromGroups(EntryId id, const Entry& entry);
 
   std::vector<std::optional<Entry>> entries_;  ///< by id; nothing once removed
   std::size_t count_ = 0;
+  std::vector<FormerEntry>* changes_ = nullptr;
   Groups byWhole_;
 
   // Made when first asked for: made as keys are added, it lengthens opening 600 commands by 15 %.

@@ -143,6 +143,7 @@ FileError SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
   for (StartMenuSlot& slot : catalogue.StartMenuKeys) {
     if (IsTaken(slot)) slot = {};
   }
+  catalogue.Edits.MarkSaved();
   return FileError::None;
 }
 

@@ -19,6 +19,7 @@
 #include "tests/support/FakeEnvironment.h"
 #include "tests/support/FakeMessageBoxes.h"
 #include "tests/support/MemoryFiles.h"
+#include "tests/unit/conflict_history.h"
 #include "tests/unit/rounds.h"
 #include "text/Text.h"
 
@@ -66,7 +67,7 @@ class Session {
 /// Program and model, side by side.
 class Pair {
  public:
-  explicit Pair(unsigned seed) : engine_(seed) {
+  explicit Pair(unsigned seed, bool takesBack = false) : engine_(seed), takesBack_(takesBack) {
     session_.Notation.ReverseOrderHotkey = model_.Reversed = seed % 4 == 3;
     MakeCommands();
     MakeFile();
@@ -74,8 +75,10 @@ class Pair {
   }
 
   void Step() {
-    const std::size_t kind = Below(100);
-    if (kind < 45) {
+    const std::size_t kind = Below(takesBack_ ? 130 : 100);
+    if (kind >= 100) {
+      kind < 118 ? Undo() : Redo();
+    } else if (kind < 45) {
       Edit(true);
     } else if (kind < 75) {
       Edit(false);
@@ -92,7 +95,24 @@ class Pair {
     }
   }
 
+  [[nodiscard]] bool CanUndo() const { return history_.CanUndo(); }
+  [[nodiscard]] bool CanRedo() const { return history_.CanRedo(); }
+
+  /// Without a step both do nothing.
+  void Undo() {
+    ASSERT_EQ(session_.List.Undo().Restored, history_.CanUndo());
+    if (history_.CanUndo()) history_.Undo(model_);
+  }
+
+  void Redo() {
+    ASSERT_EQ(session_.List.Redo().Restored, history_.CanRedo());
+    if (history_.CanRedo()) history_.Redo(model_);
+  }
+
   void Compare() const {
+    ASSERT_EQ(session_.Tables.Edits.ToUndo() != nullptr, history_.CanUndo());
+    ASSERT_EQ(session_.Tables.Edits.ToRedo() != nullptr, history_.CanRedo());
+    ASSERT_EQ(session_.Tables.Edits.AtSaved(), history_.IsSaved());
     ASSERT_EQ(session_.Tables.ListView1.Count(), model_.Order.size());
     ASSERT_EQ(session_.List.SelectedRow(), model_.Selected + 1);
     for (std::size_t i = 0; i < model_.Order.size(); ++i) {
@@ -202,6 +222,7 @@ class Pair {
   void Open() {
     session_.Open(commands_);
     model_.Open(defaults_);
+    history_.Open();
   }
 
   void Save() {
@@ -209,6 +230,7 @@ class Pair {
                             session_.Clock, session_.Environment),
               FileError::None);
     model_.Save();
+    history_.Save();
     ASSERT_EQ(session_.Files.Contents[IniPath], File());
   }
 
@@ -226,9 +248,11 @@ class Pair {
       session_.MessageBoxes.Answers.push_back(Below(4) == 0 ? BoxAnswer::No : BoxAnswer::Yes);
     }
     model_.Answers = session_.MessageBoxes.Answers;
+    before_ = model_;
   }
 
-  void EndEdit(bool changed, bool expected) {
+  void EndEdit(bool changed, bool expected, bool selects = true) {
+    history_.Keep(before_, model_, expected, selects);
     ASSERT_EQ(changed, expected);
     ASSERT_EQ(session_.MessageBoxes.BeepCount, model_.Beeps);
     ASSERT_EQ(session_.MessageBoxes.Shown.size(), model_.Questions.size());
@@ -268,7 +292,7 @@ class Pair {
   void DeleteAll() {
     BeginEdit();
     const bool changed = session_.Panel.DeleteAll().Changed;
-    EndEdit(changed, model_.DeleteAll());
+    EndEdit(changed, model_.DeleteAll(), false);
   }
 
   void Order() {
@@ -286,8 +310,11 @@ class Pair {
   }
 
   std::mt19937 engine_;
+  bool takesBack_;
   Session session_;
   Model model_;
+  Model before_;  ///< the last edit
+  ModelHistory history_;
   std::string commands_;
   std::vector<Text> defaults_;  ///< of each row
 };
@@ -300,6 +327,25 @@ TEST(ConflictModel, EveryTableIsWhatTheRulesSayAfterEveryStep) {
       ASSERT_NO_FATAL_FAILURE(pair.Compare());
       pair.Step();
       if (HasFatalFailure()) return;
+    }
+  }
+}
+
+TEST(ConflictModel, EveryEditIsTakenBackAndMadeAgain) {
+  for (int seed = 0; seed < Rounds(60); ++seed) {
+    Pair pair(static_cast<unsigned>(seed), true);
+    SCOPED_TRACE(testing::Message() << "seed " << seed);
+    for (int step = 0; step < 80; ++step) {
+      pair.Step();
+      ASSERT_NO_FATAL_FAILURE(pair.Compare()) << "step " << step;
+    }
+    while (pair.CanUndo()) {
+      pair.Undo();
+      ASSERT_NO_FATAL_FAILURE(pair.Compare());
+    }
+    while (pair.CanRedo()) {
+      pair.Redo();
+      ASSERT_NO_FATAL_FAILURE(pair.Compare());
     }
   }
 }
