@@ -24,6 +24,8 @@ Document::Document(const System& system, const Texts& texts, const Settings& set
 
 const DisplayTable& Document::Rows() const { return catalogue_.ListView1; }
 
+const EditHistory& Document::Edits() const { return catalogue_.Edits; }
+
 std::wstring Document::Caption() const {
   const std::wstring title(ProgramTitle);
   return wincmdPath_.empty() ? title : wincmdPath_ + L" - " + title;

@@ -33,6 +33,7 @@ class Document : Pinned {
   // -- Queries: what the window shows
 
   [[nodiscard]] const DisplayTable& Rows() const;
+  [[nodiscard]] const EditHistory& Edits() const;
   [[nodiscard]] std::wstring Caption() const;
 
   /// There are changes that are not saved: File > Save, and the Save button, are enabled.

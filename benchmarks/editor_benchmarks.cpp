@@ -61,6 +61,33 @@ void DeleteAll(benchmark::State& state) {
   }
 }
 
+/// Takes back that all keys were deleted.
+void UndoDeleteAll(benchmark::State& state) {
+  LargeProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  program.MessageBoxes.Answers = {BoxAnswer::Yes};
+  program.Editor.Work(&HotkeyPanel::DeleteAll);
+  for (auto _ : state) {
+    program.Editor.Work(&CommandList::Undo);
+    state.PauseTiming();
+    program.Editor.Work(&CommandList::Redo);
+    state.ResumeTiming();
+  }
+}
+
+/// Takes an edit back and makes it again.
+void UndoAssign(benchmark::State& state) {
+  LargeProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  program.Editor.Work(&CommandList::SelectRow, 1);
+  program.Editor.Work(&HotkeyPanel::ChooseKey, 1);
+  program.Editor.Work(&HotkeyPanel::Assign);
+  for (auto _ : state) {
+    program.Editor.Work(&CommandList::Undo);
+    program.Editor.Work(&CommandList::Redo);
+  }
+}
+
 /// From file order into the sorted view.
 void SortView(benchmark::State& state) {
   LargeProgram program(static_cast<int>(state.range(0)));
@@ -209,6 +236,8 @@ BENCHMARK(ApplyTexts)->Apply(ForSizes);
 BENCHMARK(Assign)->Apply(ForSizes);
 BENCHMARK(Delete)->Apply(ForSizes);
 BENCHMARK(DeleteAll)->Apply(ForSizes);
+BENCHMARK(UndoDeleteAll)->Apply(ForSizes);
+BENCHMARK(UndoAssign)->Apply(ForSizes);
 BENCHMARK(SortView)->Apply(ForSizes);
 BENCHMARK(UnsortView)->Apply(ForSizes);
 BENCHMARK(SortRows)->Apply(ForColumns);
@@ -226,6 +255,10 @@ std::vector<Ratio> EditorRatios() {
       {"delete a key at 100,000 commands, against at 600", "Delete/100000", "Delete/600", 1, 10},
       {"delete all: a command among 100,000, against one among 600", "DeleteAll/100000",
        "DeleteAll/600", Growth, 2},
+      {"undo of an edit at 100,000 commands, against at 600", "UndoAssign/100000", "UndoAssign/600",
+       1, 10},
+      {"undo of delete all, against the deletion, at 100,000 commands", "UndoDeleteAll/100000",
+       "DeleteAll/100000", 1, 2},
       {"export of 600 rows, against concatenating their cells", "Export/600",
        "ConcatenateCells/600", 1, 5},
       {"export of 100,000 rows, against concatenating their cells", "Export/100000",

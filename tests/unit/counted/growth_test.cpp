@@ -118,6 +118,27 @@ TEST(Growth, DeletingAllKeysGrowsAsTheCommands) {
             Linear);
 }
 
+TEST(Growth, TakingAnEditBackCostsTheSameAmongManyCommands) {
+  const auto undo = [](LargeProgram& program) {
+    for (int key = 0; key < 60; ++key) {
+      program.Editor.Work(&CommandList::SelectRow, static_cast<std::size_t>(2 + key));
+      program.Editor.Work(&HotkeyPanel::ChooseKey, key);
+      program.Editor.Work(&HotkeyPanel::Assign);
+    }
+    for (int key = 0; key < 60; ++key) program.Editor.Work(&CommandList::Undo);
+    for (int key = 0; key < 60; ++key) program.Editor.Work(&CommandList::Redo);
+  };
+  EXPECT_LT(GrowthOf(undo), Constant);
+}
+
+TEST(Growth, TakingTheDeletionOfAllKeysBackGrowsAsTheCommands) {
+  const auto undo = [](LargeProgram& program) {
+    program.Editor.Work(&HotkeyPanel::DeleteAll);
+    program.Editor.Work(&CommandList::Undo);
+  };
+  EXPECT_LT(GrowthOf(undo), Linear);
+}
+
 TEST(Growth, ExportingGrowsAsTheRows) {
   const MemoryFiles files;
   const Texts texts(files);
