@@ -111,6 +111,7 @@ void Editor::OpenPath(const std::wstring& path, bool addToRecent, WhenUnread whe
 }
 
 void Editor::ShowOpenedFile(const std::wstring& path, bool addToRecent) {
+  list_.EndSearch();
   list_.ShowFirstRow();
   keysList_.Hide();
   if (addToRecent) {

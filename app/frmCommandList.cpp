@@ -133,7 +133,7 @@ LRESULT CALLBACK frmCommandList::ListProcedure(HWND list, UINT message, WPARAM w
 }
 
 void frmCommandList::FillCell(LVITEMW& item) const {
-  const DisplayTable& rows = editor_.Document().Rows();
+  const ShownRows& rows = editor_.List().Shown();
   const auto position = static_cast<std::size_t>(item.iItem);
   if (position >= rows.Count() || item.iSubItem < 0 || item.iSubItem >= 4) return;
   const CommandEntry& row = rows.At(position);
@@ -164,12 +164,14 @@ void frmCommandList::SelectRow(int position) const {
 LRESULT frmCommandList::FindItem(const NMLVFINDITEMW& search) const {
   if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL | SearchBySubstring)) == 0) return -1;
   const auto start = static_cast<std::size_t>(std::max(0, search.iStart));
-  const auto found = FindRow(editor_.Document().Rows(), search.lvfi.psz, start);
+  const bool isTyped = (search.lvfi.flags & (LVFI_PARTIAL | SearchBySubstring)) != 0;
+  const auto found = isTyped ? FindTypedRow(editor_.List().Shown(), search.lvfi.psz, start)
+                             : FindRow(editor_.List().Shown(), search.lvfi.psz, start);
   return found ? static_cast<LRESULT>(*found) : -1;
 }
 
 void frmCommandList::Sync() {
-  const auto count = static_cast<int>(editor_.Document().Rows().Count());
+  const auto count = static_cast<int>(editor_.List().Shown().Count());
   syncing_ = true;
   if (ListView_GetItemCount(ListView1_) != count) {
     ListView_SetItemCountEx(ListView1_, count, LVSICF_NOSCROLL);
@@ -183,7 +185,7 @@ void frmCommandList::Sync() {
 }
 
 void frmCommandList::SyncSelection() {
-  const auto position = editor_.Document().Rows().PositionOf(editor_.List().SelectedRow());
+  const auto position = editor_.List().Shown().PositionOf(editor_.List().SelectedRow());
   const int shown = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
   const int wanted = position ? static_cast<int>(*position) : -1;
   if (shown == wanted || editor_.Document().Busy()) return;

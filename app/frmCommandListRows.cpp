@@ -49,7 +49,7 @@ LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) {
     return CDRF_NOTIFYITEMDRAW;
   }
   if (draw.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
-  if (draw.dwItemSpec < editor_.Document().Rows().Count()) {
+  if (draw.dwItemSpec < editor_.List().Shown().Count()) {
     const int former = SaveDC(draw.hdc);
     DrawRow(draw);
     RestoreDC(draw.hdc, former);
@@ -59,7 +59,7 @@ LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) {
 
 void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
   const HDC context = draw.hdc;
-  const CommandEntry& row = editor_.Document().Rows().At(draw.dwItemSpec);
+  const CommandEntry& row = editor_.List().Shown().At(draw.dwItemSpec);
   const auto item = static_cast<int>(draw.dwItemSpec);
   const bool selected = ListView_GetItemState(ListView1_, item, LVIS_SELECTED) != 0;
   const CellColors rowColors = ColorsOfRow(drawnColors_, selected, GetFocus() == ListView1_);

@@ -28,18 +28,19 @@ void frmCommandList::SyncTip(const MSG& message) {
 }
 
 void frmCommandList::SetTip(int position, int subItem) {
-  const DisplayTable& rows = editor_.Document().Rows();
-  const auto row = static_cast<std::size_t>(position);
-  if (position < 0 || row >= rows.Count() || subItem < 0) {
+  const ShownRows& rows = editor_.List().Shown();
+  const auto shown = static_cast<std::size_t>(position);
+  if (position < 0 || shown >= rows.Count() || subItem < 0) {
     tip_.Set(ListView1_, {}, {}, font_.get());
     return;
   }
+  const CommandEntry& row = rows.At(shown);
   const RowPlaces places = PlacesOf(position);
-  const Column column = RunsOverAllColumns(rows.At(row), places.Order)
+  const Column column = RunsOverAllColumns(row, places.Order)
                             ? Column::Description
                             : AllColumns[static_cast<std::size_t>(subItem)];
-  const RECT place = TextPlace(rows.At(row), column, places);
-  const std::wstring text(CellText(rows.At(row), column));
+  const RECT place = TextPlace(row, column, places);
+  const std::wstring text(CellText(row, column));
   const LRESULT length =
       SendMessageW(ListView1_, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str()));
   RECT inside{};
@@ -48,9 +49,12 @@ void frmCommandList::SetTip(int position, int subItem) {
                             .TextLength = static_cast<int>(length),
                             .CellEnd = place.right,
                             .ListEnd = inside.right});
-  tip_.Set(ListView1_, place,
-           CellTip(rows, row, column, isCut, editor_.Document().Notation(), editor_.Language()),
-           font_.get());
+  const tessera::Document& document = editor_.Document();
+  const std::size_t inTable = document.Rows().PositionOf(row.Key).value();
+  tip_.Set(
+      ListView1_, place,
+      CellTip(document.Rows(), inTable, column, isCut, document.Notation(), editor_.Language()),
+      font_.get());
 }
 
 void frmCommandList::HideTip() {

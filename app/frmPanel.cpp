@@ -21,7 +21,7 @@ constexpr TextId BoxCaptions[] = {TextId::ControlBox, TextId::AltBox, TextId::Sh
 /// For 96 pixels an inch.
 constexpr int AllKeysIconSize = 16;
 
-constexpr int ShownRows = 16;
+constexpr int RowsOfOpenChooser = 16;
 
 }  // namespace
 
@@ -47,7 +47,7 @@ void frmPanel::Create(HWND window) {
   for (const std::wstring_view key : KeyVocabulary()) {
     SendMessageW(Combo1_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
   }
-  SendMessageW(Combo1_, CB_SETMINVISIBLE, ShownRows, 0);
+  SendMessageW(Combo1_, CB_SETMINVISIBLE, RowsOfOpenChooser, 0);
   cmdAllList_ =
       CreateControl(Frame1_, WC_BUTTONW, WS_VISIBLE | BS_PUSHBUTTON | BS_ICON, 0, IDC_cmdAllList);
   Toolbar2_.Create(Frame1_, IDC_Toolbar2);

@@ -69,7 +69,9 @@ void StoreColumnLayout(const ColumnLayout& layout, Settings& settings) {
 }
 
 CommandList::CommandList(Catalogue& catalogue, Settings& settings)
-    : catalogue_(catalogue), settings_(settings) {}
+    : catalogue_(catalogue), settings_(settings), shown_(catalogue.ListView1) {}
+
+const ShownRows& CommandList::Shown() const { return shown_; }
 
 RowKey CommandList::SelectedRow() const { return selectedRow_; }
 
@@ -79,17 +81,35 @@ bool CommandList::CommandSelected() const {
 
 HeaderIcon CommandList::IconOf(Column column) const { return icons_.at(IndexOf(column)); }
 
-void CommandList::ShowRowDetails(RowKey row) { selectedRow_ = row; }
+void CommandList::ShowRowDetails(RowKey row) { selectedRow_ = chosenRow_ = row; }
 
 Reaction CommandList::SelectRow(std::size_t position) {
-  if (position >= catalogue_.ListView1.Count()) return {};
-  ShowRowDetails(catalogue_.ListView1.At(position).Key);
+  if (position >= shown_.Count()) return {};
+  ShowRowDetails(shown_.At(position).Key);
   return {.HideKeysList = true};
 }
 
 void CommandList::ShowFirstRow() {
-  const DisplayTable& rows = catalogue_.ListView1;
-  ShowRowDetails(rows.Count() == 0 ? 0 : rows.At(0).Key);
+  shown_.Refresh();
+  ShowRowDetails(shown_.Count() == 0 ? 0 : shown_.At(0).Key);
+}
+
+Reaction CommandList::Search(std::wstring text) {
+  shown_.Search(std::move(text));
+  ShowFoundRow();
+  return {.HideKeysList = true};
+}
+
+Reaction CommandList::EndSearch() { return Search({}); }
+
+void CommandList::ShowFoundRow() {
+  if (selectedRow_ == 0) selectedRow_ = chosenRow_;
+  if (shown_.PositionOf(selectedRow_)) return;
+  selectedRow_ = 0;
+  for (std::size_t position = 0; position < shown_.Count() && selectedRow_ == 0; ++position) {
+    const CommandEntry& row = shown_.At(position);
+    if (!row.IsHeading()) selectedRow_ = row.Key;
+  }
 }
 
 Reaction CommandList::SortByColumn(int column) {
@@ -112,6 +132,7 @@ Reaction CommandList::SortByColumn(int column) {
   settings_.SortOrder = static_cast<short>(direction_);
   settings_.SortedColumn = static_cast<short>(column);
   catalogue_.ListView1.Sort(sortKey_, direction_);
+  shown_.Refresh();
   return {};
 }
 
@@ -159,6 +180,7 @@ Reaction CommandList::Redo() {
 /// An edit of all rows leaves the selected row.
 Reaction CommandList::ShowRestored(RowKey row) {
   const bool selects = row != 0 && row != selectedRow_;
+  if (row != 0 && !shown_.PositionOf(row)) shown_.Search({});
   if (selects) ShowRowDetails(row);
   return {.Restored = true, .HideKeysList = selects};
 }

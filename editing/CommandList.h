@@ -2,8 +2,10 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "editing/Reaction.h"
+#include "editing/ShownRows.h"
 #include "platform/Pinned.h"
 #include "settings/Settings.h"
 #include "shortcuts/Catalogue.h"
@@ -29,7 +31,9 @@ class CommandList : Pinned {
 
   // -- Queries
 
-  /// The row that edits act on; 0 while the list is empty.
+  [[nodiscard]] const ShownRows& Shown() const;
+
+  /// The row that edits act on; 0 while no row is shown.
   [[nodiscard]] RowKey SelectedRow() const;
 
   /// True for a command row; false for a heading row, or none.
@@ -41,11 +45,19 @@ class CommandList : Pinned {
 
   void ShowRowDetails(RowKey row);
 
-  /// Selects the row at a 0-based position of the list; one outside the list is ignored.
+  /// Selects the row at a 0-based position of what is shown; one outside is ignored.
   Reaction SelectRow(std::size_t position);
 
-  /// Selects the first displayed row, or none in an empty list.
+  /// Selects the first row that is shown, or none in an empty list.
   void ShowFirstRow();
+
+  /// Shows the commands in which the words of the text stand; for an empty text all. The selected
+  /// row stays if it is shown, else the first command becomes it. When there was none to be shown,
+  /// the next search begins with the row that was selected before.
+  Reaction Search(std::wstring text);
+
+  /// Shows all rows again.
+  Reaction EndSearch();
 
   /// In the sorted view sorts by the column of that 1-based index, or turns the order round when it
   /// is the one sorted by already; 0 names no column. In file order it resets the stored order.
@@ -67,11 +79,14 @@ class CommandList : Pinned {
 
  private:
   Reaction ShowRestored(RowKey row);
+  void ShowFoundRow();
 
   Catalogue& catalogue_;
   Settings& settings_;
+  ShownRows shown_;
   RowKey selectedRow_ = 0;
-  bool sorted_ = false;  ///< the rows are in sorted state; Settings::SortedList is what is wanted
+  RowKey chosenRow_ = 0;  ///< the last one that was selected otherwise than by a search
+  bool sorted_ = false;   ///< the rows are in sorted state; Settings::SortedList is what is wanted
   SortDirection direction_ = SortDirection::Ascending;
   Column sortKey_ = Column::Description;
   std::array<HeaderIcon, 4> icons_{};

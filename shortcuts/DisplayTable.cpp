@@ -37,18 +37,22 @@ std::optional<std::size_t> DisplayTable::PositionOf(RowKey key) const {
   return positions_[key - 1];
 }
 
+std::size_t DisplayTable::Changes() const { return changes_; }
+
 void DisplayTable::Fill(std::vector<CommandEntry> rows) {
+  ++changes_;
   rows_ = std::move(rows);
   RestoreFileOrder();
 }
 
 CommandEntry& DisplayTable::Edit(RowKey key) {
   CommandEntry& row = rows_.at(key - 1);
-  if (changes_ != nullptr) changes_->push_back(row);
+  if (former_ != nullptr) former_->push_back(row);
+  ++changes_;
   return row;
 }
 
-void DisplayTable::NoteChangesIn(std::vector<CommandEntry>* changes) { changes_ = changes; }
+void DisplayTable::NoteChangesIn(std::vector<CommandEntry>* former) { former_ = former; }
 
 void DisplayTable::RemoveHeadings() {
   std::erase_if(order_, [this](RowKey key) { return Row(key).IsHeading(); });

@@ -46,6 +46,15 @@ class DisplayTable {
   /// Where the row is displayed; nothing while it is left out, or for a key the table lacks.
   [[nodiscard]] std::optional<std::size_t> PositionOf(RowKey key) const;
 
+  /// Calls `visit` with each row in file order, also those that are left out.
+  template <typename Visit>
+  void ForEachRow(Visit visit) const {
+    for (const CommandEntry& row : rows_) visit(row);
+  }
+
+  /// How often rows were edited or filled in.
+  [[nodiscard]] std::size_t Changes() const;
+
   // -- Changes
 
   /// Takes all rows in file order; their keys must be 1, 2, 3 and so on.
@@ -54,7 +63,7 @@ class DisplayTable {
   [[nodiscard]] CommandEntry& Edit(RowKey key);
 
   /// Each row is noted there before it is edited, until it is called with null.
-  void NoteChangesIn(std::vector<CommandEntry>* changes);
+  void NoteChangesIn(std::vector<CommandEntry>* former);
 
   void RemoveHeadings();
   void RestoreFileOrder();
@@ -67,7 +76,8 @@ class DisplayTable {
   void NumberPositions();
 
   std::vector<CommandEntry> rows_;  ///< in file order
-  std::vector<CommandEntry>* changes_ = nullptr;
+  std::size_t changes_ = 0;
+  std::vector<CommandEntry>* former_ = nullptr;
   std::vector<RowKey> order_;                          ///< the displayed rows, from the top
   std::vector<std::optional<std::size_t>> positions_;  ///< where each of rows_ stands in order_
 };

@@ -216,5 +216,86 @@ TEST(ColumnLayout, WhatIsMissingOrImpossibleTakesItsDefault) {
   }
 }
 
+// -- Searching
+
+TEST_F(CommandListTest, TheSelectedRowStaysWhileItIsFound) {
+  list_.ShowRowDetails(Sync);
+  list_.Search(L"f9");
+  EXPECT_EQ(list_.SelectedRow(), Sync);
+}
+
+TEST_F(CommandListTest, OtherwiseTheFirstCommandThatIsFoundIsSelectedAndNoHeading) {
+  list_.ShowRowDetails(Pack);
+  EXPECT_TRUE(list_.Search(L"f9").HideKeysList);
+  EXPECT_EQ(list_.SelectedRow(), Search);
+  list_.EndSearch();
+  EXPECT_EQ(list_.SelectedRow(), Search);
+}
+
+TEST_F(CommandListTest, WhatIsFoundNowhereSelectsNothingUntilTheTextChanges) {
+  list_.ShowRowDetails(Pack);
+  list_.Search(L"f9");
+  list_.Search(L"f9 nowhere");
+  EXPECT_EQ(list_.SelectedRow(), 0U);
+  EXPECT_FALSE(list_.CommandSelected());
+  list_.Search(L"f9 nowhere else");
+  EXPECT_EQ(list_.SelectedRow(), 0U);
+  list_.EndSearch();
+  EXPECT_EQ(list_.SelectedRow(), Pack) << "as before the search";
+}
+
+TEST_F(CommandListTest, ARowThatWasSelectedWhileSearchingIsTheOneBefore) {
+  list_.ShowRowDetails(Pack);
+  list_.Search(L"f9");
+  list_.SelectRow(2);
+  list_.Search(L"nowhere");
+  list_.Search(L"f9");
+  EXPECT_EQ(list_.SelectedRow(), Sync);
+}
+
+TEST_F(CommandListTest, PositionsAreThoseOfWhatIsShown) {
+  list_.Search(L"f9");
+  list_.SelectRow(1);
+  EXPECT_EQ(list_.SelectedRow(), Search);
+  list_.SelectRow(3);
+  EXPECT_EQ(list_.SelectedRow(), Search) << "there is no such row";
+}
+
+TEST_F(CommandListTest, SortingKeepsTheSearchAndSelectsItsFirstRow) {
+  list_.Search(L"f9");
+  list_.SelectRow(2);
+  settings_.SortedColumn = 2;
+  settings_.SortOrder = 1;
+  list_.SortCommandList();
+  EXPECT_EQ(list_.Shown().Count(), 2U);
+  EXPECT_EQ(list_.SelectedRow(), Sync);
+  list_.SortByColumn(2);
+  EXPECT_EQ(list_.Shown().At(0).Key, Search);
+  EXPECT_EQ(list_.SelectedRow(), Sync) << "a click on a heading selects nothing";
+  list_.RestoreFileOrder();
+  EXPECT_EQ(list_.Shown().Count(), 3U);
+  EXPECT_EQ(list_.SelectedRow(), Heading);
+}
+
+TEST_F(CommandListTest, TheTableItselfKnowsNothingOfASearch) {
+  list_.Search(L"f9");
+  EXPECT_EQ(Order(), fileOrder);
+}
+
+TEST_F(CommandListTest, TakingAnEditOfAHiddenRowBackEndsTheSearch) {
+  const auto edit = [this] {
+    catalogue_.ListView1.Edit(Pack).CurrentKeys = L"X";
+    return true;
+  };
+  catalogue_.Edits.Make(catalogue_, {EditKind::Assign, Pack, L"X"}, edit);
+  list_.Search(L"f9");
+  list_.Undo();
+  EXPECT_FALSE(list_.Shown().Searching());
+  EXPECT_EQ(list_.SelectedRow(), Pack);
+  list_.Search(L"pack");
+  list_.Redo();
+  EXPECT_TRUE(list_.Shown().Searching()) << "its row is shown";
+}
+
 }  // namespace
 }  // namespace tessera::command_list_test

@@ -3,6 +3,7 @@
 
 #include "app/FindRow.h"
 #include "tests/support/Kept.h"
+#include "tests/unit/sample_catalogue.h"
 
 namespace tessera::find_row_test {
 namespace {
@@ -18,6 +19,11 @@ DisplayTable TableOf(const std::vector<std::wstring>& descriptions) {
   DisplayTable table;
   table.Fill(std::move(rows));
   return table;
+}
+
+std::optional<std::size_t> FindRow(const DisplayTable& table, std::wstring_view text,
+                                   std::size_t start) {
+  return tessera::FindRow(ShownRows(table), text, start);
 }
 
 TEST(FindRow, FindsTheFirstDescriptionWithThatBeginningInAnyLetterCase) {
@@ -42,6 +48,50 @@ TEST(FindRow, TheRowWhereTheSearchStartsComesFirst) {
 
 TEST(FindRow, FindsNothingInAnEmptyList) { EXPECT_EQ(FindRow(TableOf({}), L"a", 0), std::nullopt); }
 
-}  // namespace
+TEST(FindRow, FindsNoRowThatIsNotShown) {
+  const DisplayTable table = TableOf({L"Copy", L"Copy names", L"Move names"});
+  ShownRows shown(table);
+  shown.Search(L"names");
+  EXPECT_EQ(tessera::FindRow(shown, L"copy", 0), 0U);
+  EXPECT_EQ(shown.At(0).Description, L"Copy names");
+}
 
+// -- Typing
+
+class FindTypedRowTest : public testing::Test {
+ protected:
+  std::optional<std::size_t> Find(std::wstring_view text, std::size_t start = 0) {
+    return FindTypedRow(shown_, text, start);
+  }
+
+  Catalogue catalogue_ = SampleCatalogue();
+  ShownRows shown_{catalogue_.ListView1};
+};
+
+TEST_F(FindTypedRowTest, ADescriptionThatBeginsSoComesFirst) {
+  EXPECT_EQ(Find(L"[___g"), 0U);
+  EXPECT_EQ(Find(L"s"), 5U);
+  EXPECT_EQ(Find(L"s", 6), 6U);
+  catalogue_.ListView1.Edit(sample::Sync).Description = L"cm_View is something else";
+  EXPECT_EQ(Find(L"cm_view"), 6U);
+}
+
+TEST_F(FindTypedRowTest, ThenACommandWhoseNameBeginsSo) {
+  for (const RowKey row : {sample::Copy, sample::Pack}) {
+    catalogue_.ListView1.Edit(row).Description = L"Text";
+  }
+  EXPECT_EQ(Find(L"CM_pa"), 3U);
+  EXPECT_EQ(Find(L"pa"), 3U);
+  EXPECT_EQ(Find(L"co", 2), 1U) << "once round";
+}
+
+TEST_F(FindTypedRowTest, ThenARowInWhoseTextsItStandsAnywhere) {
+  EXPECT_EQ(Find(L"ctrl + r"), 4U);
+  EXPECT_EQ(Find(L"F8"), 4U);
+  EXPECT_EQ(Find(L"F9", 6), 6U);
+  EXPECT_EQ(Find(L"roup"), 0U);
+  EXPECT_EQ(Find(L"nowhere"), std::nullopt);
+}
+
+}  // namespace
 }  // namespace tessera::find_row_test
