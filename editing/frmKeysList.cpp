@@ -17,7 +17,7 @@ constexpr UINT_PTR ListSubclass = 1;
 /// For 96 pixels an inch: 90 twips on each side of the list.
 constexpr int Margin = 6;
 constexpr int ListWidth = 160;
-constexpr int ShownRows = 22;
+constexpr int VisibleRows = 22;
 
 }  // namespace
 
@@ -55,7 +55,7 @@ void frmKeysList::ApplyFont(HFONT font, int dpi) {
   const int margin = Scaled(Margin, dpi);
   const Area list{
       margin, margin, Scaled(ListWidth, dpi),
-      ShownRows * rowHeight + 2 * GetSystemMetricsForDpi(SM_CYEDGE, static_cast<UINT>(dpi))};
+      VisibleRows * rowHeight + 2 * GetSystemMetricsForDpi(SM_CYEDGE, static_cast<UINT>(dpi))};
   Place(List1_, list);
   SetWindowPos(window_, nullptr, 0, 0, list.Width + 2 * margin + 2, list.Height + 2 * margin + 2,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
