@@ -5,19 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "text/Text.h"
+#include "shortcuts/KeyHolders.h"
 
 namespace tessera {
 namespace {
-
-/// A key that ends in the mark, such as "Num *", is not taken for a marked one: its own text comes
-/// first. A cell may have been marked several times.
-bool IsKeyWithMarks(std::wstring_view piece, std::wstring_view key) {
-  if (!EqualIgnoringCase(piece.substr(0, key.size()), key)) return false;
-  piece.remove_prefix(std::min(piece.size(), key.size()));
-  while (piece.starts_with(OverriddenMark)) piece.remove_prefix(OverriddenMark.size());
-  return piece.empty();
-}
 
 void AddLine(std::wstring& tip, const std::wstring& line) {
   if (!tip.empty()) tip += L'\n';

@@ -39,9 +39,14 @@ std::optional<std::size_t> DisplayTable::PositionOf(RowKey key) const {
 
 std::size_t DisplayTable::Changes() const { return changes_; }
 
+HoldersOfKey DisplayTable::HoldersOf(std::wstring_view key, const HotkeyNotation& notation) const {
+  return holders_.Of(key, rows_, notation);
+}
+
 void DisplayTable::Fill(std::vector<CommandEntry> rows) {
   ++changes_;
   rows_ = std::move(rows);
+  holders_.Clear();
   RestoreFileOrder();
 }
 
@@ -49,6 +54,7 @@ CommandEntry& DisplayTable::Edit(RowKey key) {
   CommandEntry& row = rows_.at(key - 1);
   if (former_ != nullptr) former_->push_back(row);
   ++changes_;
+  holders_.NoteChange(key);
   return row;
 }
 

@@ -9,6 +9,7 @@
 
 #include "localisation/TextId.h"
 #include "shortcuts/CommandEntry.h"
+#include "shortcuts/KeyHolders.h"
 
 namespace tessera {
 
@@ -55,11 +56,16 @@ class DisplayTable {
   /// How often rows were edited or filled in.
   [[nodiscard]] std::size_t Changes() const;
 
+  /// Who has the key, given in display notation, by what the cells show, also those of rows that
+  /// are left out. The notation must be one and the same until the table is filled again.
+  [[nodiscard]] HoldersOfKey HoldersOf(std::wstring_view key, const HotkeyNotation& notation) const;
+
   // -- Changes
 
   /// Takes all rows in file order; their keys must be 1, 2, 3 and so on.
   void Fill(std::vector<CommandEntry> rows);
 
+  /// To be changed until the next question who holds a key.
   [[nodiscard]] CommandEntry& Edit(RowKey key);
 
   /// Each row is noted there before it is edited, until it is called with null.
@@ -80,6 +86,7 @@ class DisplayTable {
   std::vector<CommandEntry>* former_ = nullptr;
   std::vector<RowKey> order_;                          ///< the displayed rows, from the top
   std::vector<std::optional<std::size_t>> positions_;  ///< where each of rows_ stands in order_
+  mutable KeyHolders holders_;                         ///< lists rows when it is asked
 };
 
 }  // namespace tessera

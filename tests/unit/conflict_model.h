@@ -178,6 +178,43 @@ class Model {
     Order = sorted;
   }
 
+  struct Holder {
+    std::size_t Row = 0;
+    bool IsOverridden = false;
+  };
+
+  /// The rows whose default keys show the key.
+  [[nodiscard]] std::vector<Holder> DefaultHolders(const Text& key) const {
+    std::vector<Holder> holders;
+    for (std::size_t row = 0; row < Rows.size(); ++row) {
+      const TextList keys = KeysIn(Rows[row].Defaults);
+      for (const Text& shown : keys) {
+        Text marked = key;
+        while (marked.size() < shown.size()) marked += L" *";
+        if (!Same(shown, marked)) continue;
+        const bool isMarked = keys.size() == 1
+                                  ? shown.size() > key.size()
+                                  : keys.back().ends_with(L" *") && !CurrentHolders(key).empty();
+        holders.push_back({row, isMarked});
+        break;
+      }
+    }
+    return holders;
+  }
+
+  /// The rows whose current keys show the key.
+  [[nodiscard]] std::vector<std::size_t> CurrentHolders(const Text& key) const {
+    std::vector<std::size_t> holders;
+    for (std::size_t row = 0; row < Rows.size(); ++row) {
+      for (const Text& shown : KeysIn(Rows[row].Current)) {
+        if (!Same(shown, key)) continue;
+        holders.push_back(row);
+        break;
+      }
+    }
+    return holders;
+  }
+
   void Save() {
     std::vector<ModelKey> written;
     for (const std::size_t row : Order) {

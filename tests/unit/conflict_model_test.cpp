@@ -132,6 +132,7 @@ class Pair {
     }
     ASSERT_EQ(session_.Options.SortedColumn, model_.StoredColumn);
     ASSERT_EQ(session_.Options.SortOrder, model_.StoredOrder);
+    CompareHolders();
   }
 
  private:
@@ -144,6 +145,25 @@ class Pair {
       ASSERT_EQ(index.At(id).Text, expected[i].Key);
       ASSERT_EQ(index.At(id).Owner, expected[i].Owner + 1);
       ++i;
+    }
+  }
+
+  /// Of the last key, of another one, and of those of a row, of each in turn.
+  void CompareHolders() const {
+    const ModelRow& shown = model_.Rows[nextRow_++ % model_.Rows.size()];
+    TextList keys{lastKey_,
+                  Shown(nextRow_ % 8, Vocabulary[nextRow_ % Vocabulary.size()], model_.Reversed)};
+    for (const Text& key : KeysIn(shown.Defaults)) keys.push_back(key);
+    for (const Text& key : KeysIn(shown.Current)) keys.push_back(Lower(key));
+    for (const Text& key : keys) {
+      SCOPED_TRACE(Encode(key));
+      const HoldersOfKey holders = session_.Tables.ListView1.HoldersOf(key, session_.Notation);
+      HoldersOfKey expected;
+      for (const auto& [row, isOverridden] : model_.DefaultHolders(key)) {
+        expected.Defaults.push_back({row + 1, isOverridden});
+      }
+      for (const std::size_t row : model_.CurrentHolders(key)) expected.Currents.push_back(row + 1);
+      ASSERT_EQ(holders, expected);
     }
   }
 
@@ -272,7 +292,7 @@ class Pair {
     }
     session_.Panel.ChooseKey(static_cast<int>(key));
     BeginEdit();
-    const Text shown = Shown(modifiers, Vocabulary[key], model_.Reversed);
+    const Text shown = lastKey_ = Shown(modifiers, Vocabulary[key], model_.Reversed);
     if (assigns) {
       const bool changed = session_.Panel.Assign().Changed;
       EndEdit(changed, model_.Assign(shown));
@@ -311,6 +331,8 @@ class Pair {
 
   std::mt19937 engine_;
   bool takesBack_;
+  mutable unsigned nextRow_ = 0;
+  Text lastKey_;
   Session session_;
   Model model_;
   Model before_;  ///< the last edit

@@ -113,6 +113,53 @@ TEST(Growth, DeletingAKeyCostsTheSameAmongManyCommands) {
   EXPECT_LT(GrowthOf(remove), Constant);
 }
 
+TEST(Growth, TellingWhoHoldsAKeyCostsTheSameAmongManyCommands) {
+  const auto growthAfter = [](auto edit) {
+    const auto blocksFor = [&](int commands) {
+      LargeProgram program(commands);
+      program.Start();
+      const tessera::Document& document = program.Editor.Document();
+      const auto ask = [&](const std::wstring& key) {
+        return document.Rows().HoldersOf(key, document.Notation());
+      };
+      EXPECT_EQ(ask(L"Ctrl + D100").Defaults.size(), 1U);  // lists the rows
+      edit(program);
+      EXPECT_EQ(ask(L"F1").Defaults.size(), 0U);  // sees to those that have changed
+      return BlocksOf([&] {
+        for (int key = 0; key < 400; ++key) {
+          static_cast<void>(ask(L"Ctrl + D" + std::to_wstring(key)));
+          static_cast<void>(ask(L"Ctrl + Shift + K" + std::to_wstring(key)));
+        }
+      });
+    };
+    return blocksFor(Many) / blocksFor(Few);
+  };
+  EXPECT_LT(growthAfter([](LargeProgram&) {}), Constant);
+  EXPECT_LT(
+      growthAfter([](LargeProgram& program) { program.Editor.Work(&HotkeyPanel::DeleteAll); }),
+      Constant);
+}
+
+TEST(Growth, TellingWhoHoldsAKeyAfterEachEditCostsTheSameAmongManyCommands) {
+  const auto editAndAsk = [](LargeProgram& program) {
+    const tessera::Document& document = program.Editor.Document();
+    for (int key = 0; key < 60; ++key) {
+      program.Editor.Work(&CommandList::SelectRow, static_cast<std::size_t>(2 + key));
+      program.Editor.Work(&HotkeyPanel::ChooseKey, key);
+      program.Editor.Work(&HotkeyPanel::Assign);
+      const std::wstring composed = program.Editor.Panel().ComposeKey();
+      static_cast<void>(document.Rows().HoldersOf(composed, document.Notation()));
+    }
+  };
+  const auto growth = [&](int commands) {
+    LargeProgram program(commands);
+    program.Start();
+    editAndAsk(program);  // makes the indexes
+    return BlocksOf([&] { editAndAsk(program); });
+  };
+  EXPECT_LT(growth(Many) / growth(Few), Constant);
+}
+
 TEST(Growth, DeletingAllKeysGrowsAsTheCommands) {
   EXPECT_LT(GrowthOf([](LargeProgram& program) { program.Editor.Work(&HotkeyPanel::DeleteAll); }),
             Linear);
