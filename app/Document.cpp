@@ -13,6 +13,18 @@
 #include "text/Trim.h"
 
 namespace tessera {
+namespace {
+
+std::size_t RowsWithKeys(const DisplayTable& rows, const HotkeyNotation& notation) {
+  std::size_t count = 0;
+  for (std::size_t position = 0; position < rows.Count(); ++position) {
+    const CommandEntry& row = rows.At(position);
+    if (!row.IsHeading() && row.CurrentKeys != notation.UndefinedHotkey) ++count;
+  }
+  return count;
+}
+
+}  // namespace
 
 Document::Document(const System& system, const Texts& texts, const Settings& settings,
                    InputFiles& inputFiles)
@@ -38,6 +50,10 @@ bool Document::SaveAndRestartEnabled() const { return saveAndRestartEnabled_; }
 bool Document::RestartButtonEnabled() const { return restartButtonEnabled_; }
 
 bool Document::Busy() const { return busy_; }
+
+const std::optional<FailedSave>& Document::Failure() const { return failure_; }
+
+const Catalogue& Document::Commands() const { return catalogue_; }
 
 Catalogue& Document::Commands() { return catalogue_; }
 
@@ -79,6 +95,12 @@ bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const Progr
   unread_ = unread;
   LoadCatalogue(wincmd, step);
   SetModified(false);
+  failure_.reset();
+  if (!unread) {
+    news_ = {.Kind = NewsKind::Opened,
+             .File = path,
+             .Rows = RowsWithKeys(catalogue_.ListView1, notation_)};
+  }
   return true;
 }
 
@@ -162,6 +184,7 @@ void Document::Save(bool restarts) {
   if (unread_) {
     // A save would drop every key that the list does not show.
     system_.MessageBoxes.Beep();
+    failure_ = {.Unread = true};
     return;
   }
   const BusyTime busy(busy_);
@@ -171,8 +194,11 @@ void Document::Save(bool restarts) {
                                         system_.Clock, inputFiles_.CommanderVariables());
   if (error == FileError::None) {
     SetModified(false);
+    failure_.reset();
+    news_ = {.Kind = NewsKind::Saved, .File = wincmdPath_};
   } else {
     system_.MessageBoxes.Beep();
+    failure_ = {.Error = error, .KeptIn = files_.Left()};
   }
   const bool started = mayStart && Restart(false);
   // It runs on with its former keys, which it would not tell by itself.
@@ -191,6 +217,8 @@ void Document::SetModified(bool modified) {
   modified_ = modified;
   saveAndRestartEnabled_ = modified;
 }
+
+News Document::TakeNews() { return std::exchange(news_, {}); }
 
 void Document::RefreshRestartItems() {
   const bool running = FindTotalCommander(system_.Programs) != 0;

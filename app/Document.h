@@ -3,9 +3,11 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/BusyTime.h"
 #include "app/InputFiles.h"
+#include "editing/News.h"
 #include "localisation/Texts.h"
 #include "platform/Pinned.h"
 #include "platform/System.h"
@@ -23,6 +25,13 @@ namespace tessera {
 enum class WhenUnread {
   KeepsOpenFile,
   ShowsNoKeys  ///< at the start, where no file is open; nothing is saved then
+};
+
+/// Why the keys are not in the file, and where they are.
+struct FailedSave {
+  bool Unread = false;                 ///< the file could not be read when it was opened
+  FileError Error{};                   ///< otherwise
+  std::vector<std::wstring> KeptIn{};  ///< paths of files that hold what is not saved
 };
 
 class Document : Pinned {
@@ -50,8 +59,12 @@ class Document : Pinned {
   /// do nothing then.
   [[nodiscard]] bool Busy() const;
 
+  /// The last save, where it failed; nothing once a save or an open succeeds.
+  [[nodiscard]] const std::optional<FailedSave>& Failure() const;
+
   // -- What edits work on
 
+  [[nodiscard]] const Catalogue& Commands() const;
   [[nodiscard]] Catalogue& Commands();
   [[nodiscard]] const HotkeyNotation& Notation() const;
 
@@ -82,6 +95,9 @@ class Document : Pinned {
   void FileSaveAndRestart();
   void SetModified(bool modified);
 
+  /// What the last open or save did; nothing when it was taken already.
+  [[nodiscard]] News TakeNews();
+
   /// When the File menu or the Save button's menu is about to open.
   void RefreshRestartItems();
 
@@ -106,6 +122,8 @@ class Document : Pinned {
   std::optional<UnsavedFiles> kept_;
   std::wstring wincmdPath_;
   KnownContents known_;  ///< of "Wincmd.ini" and the files that its sections are redirected to
+  std::optional<FailedSave> failure_;
+  News news_;
   bool modified_ = false;
   bool unread_ = false;  ///< the file is there, and reading it failed
   bool saveAndRestartEnabled_ = false;

@@ -1,6 +1,8 @@
 // The order in which things happen at the start, when a file is opened, and at the end.
 #include "app/Editor.h"
 
+#include <array>
+
 #include "settings/ini/MissingMarker.h"
 #include "text/Numbers.h"
 
@@ -36,12 +38,31 @@ const Settings& Editor::Options() const { return settings_; }
 
 const Texts& Editor::Language() const { return texts_; }
 
+const News& Editor::LatestNews() const { return news_; }
+
 Reaction Editor::FollowUp(const Reaction& reaction) {
   if (reaction.Changed) document_.SetModified(true);
-  if (reaction.Restored) document_.SetModified(!document_.Commands().Edits.AtSaved());
+  if (reaction.Restored) {
+    document_.SetModified(!document_.Commands().Edits.AtSaved());
+    Tell({});  // what the last edit did may hold no longer
+  }
   if (reaction.FollowChooser) keysList_.FollowChooser();
   if (reaction.HideKeysList) keysList_.Hide();
+  GatherNews();
   return reaction;
+}
+
+void Editor::Tell(News news) {
+  news_ = std::move(news);
+  newsSelection_ = list_.Selections();
+}
+
+/// To be called after whatever may open, save, edit, or select a row.
+void Editor::GatherNews() {
+  if (list_.Selections() != newsSelection_) Tell({});
+  for (News& news : std::array{document_.TakeNews(), assignment_.TakeNews()}) {
+    if (news.Kind != NewsKind::None) Tell(std::move(news));
+  }
 }
 
 void Editor::HideKeysList() { keysList_.Hide(); }
@@ -65,6 +86,7 @@ void Editor::Activate() {
   const std::wstring path = inputFiles_.FindWincmdIni(fileToOpen_);
   if (!IsMissing(path)) OpenPath(path, true, WhenUnread::ShowsNoKeys);
   list_.RestoreStoredSort();
+  GatherNews();
 }
 
 bool Editor::QueryUnload() { return document_.ChangesMayGo(); }
@@ -87,18 +109,26 @@ void Editor::Unload(const WindowPlacement& placement, const ColumnLayout& column
 
 void Editor::FileOpen() { OpenShortcutFile(true, {}, true); }
 
-void Editor::FileSave() { document_.FileSave(); }
+void Editor::FileSave() {
+  document_.FileSave();
+  GatherNews();
+}
 
-void Editor::FileSaveAndRestart() { document_.FileSaveAndRestart(); }
+void Editor::FileSaveAndRestart() {
+  document_.FileSaveAndRestart();
+  GatherNews();
+}
 
 void Editor::ToggleToolbar() { settings_.ToolbarVisible = settings_.ToolbarVisible != 0 ? 0 : 1; }
 
 void Editor::RefreshRestartItems() { document_.RefreshRestartItems(); }
 
 void Editor::OpenShortcutFile(bool browse, const std::wstring& path, bool addToRecent) {
-  if (!document_.ChangesMayGo()) return;
-  const std::wstring opened = browse ? inputFiles_.BrowseForWincmdIni() : path;
-  if (!IsMissing(opened)) OpenPath(opened, addToRecent, WhenUnread::KeepsOpenFile);
+  if (document_.ChangesMayGo()) {
+    const std::wstring opened = browse ? inputFiles_.BrowseForWincmdIni() : path;
+    if (!IsMissing(opened)) OpenPath(opened, addToRecent, WhenUnread::KeepsOpenFile);
+  }
+  GatherNews();
 }
 
 void Editor::OpenPath(const std::wstring& path, bool addToRecent, WhenUnread whenUnread) {

@@ -16,6 +16,7 @@
 #include "editing/HotkeyAssignment.h"
 #include "editing/HotkeyPanel.h"
 #include "editing/KeysList.h"
+#include "editing/News.h"
 #include "editing/Reaction.h"
 #include "export/ClipboardExport.h"
 #include "localisation/Texts.h"
@@ -48,6 +49,9 @@ class Editor : Pinned {
   [[nodiscard]] const cRecentFiles& RecentFiles() const;
   [[nodiscard]] const Settings& Options() const;
   [[nodiscard]] const Texts& Language() const;
+
+  /// What the last edit, save or open did, until another row is selected.
+  [[nodiscard]] const News& LatestNews() const;
 
   // -- Work on the rows
 
@@ -114,6 +118,8 @@ class Editor : Pinned {
 
  private:
   Reaction FollowUp(const Reaction& reaction);
+  void Tell(News news);
+  void GatherNews();
   void OpenPath(const std::wstring& path, bool addToRecent, WhenUnread whenUnread);
   void ShowOpenedFile(const std::wstring& path, bool addToRecent);
   void ReadRecentFiles(const ProfileFile& stored);
@@ -135,6 +141,8 @@ class Editor : Pinned {
   OptionsSelection options_;
   cRecentFiles recentFiles_;
   LoadProgress progress_;
+  News news_;
+  std::size_t newsSelection_ = 0;  ///< how often rows had been selected when it came
   std::wstring fileToOpen_;
   bool activated_ = false;
 };

@@ -75,13 +75,23 @@ const ShownRows& CommandList::Shown() const { return shown_; }
 
 RowKey CommandList::SelectedRow() const { return selectedRow_; }
 
+std::size_t CommandList::Selections() const { return selections_; }
+
 bool CommandList::CommandSelected() const {
   return selectedRow_ != 0 && !catalogue_.ListView1.Row(selectedRow_).IsHeading();
 }
 
 HeaderIcon CommandList::IconOf(Column column) const { return icons_.at(IndexOf(column)); }
 
-void CommandList::ShowRowDetails(RowKey row) { selectedRow_ = chosenRow_ = row; }
+void CommandList::ShowRowDetails(RowKey row) {
+  chosenRow_ = row;
+  ChangeSelectedRow(row);
+}
+
+void CommandList::ChangeSelectedRow(RowKey row) {
+  if (row != selectedRow_) ++selections_;
+  selectedRow_ = row;
+}
 
 Reaction CommandList::SelectRow(std::size_t position) {
   if (position >= shown_.Count()) return {};
@@ -103,13 +113,8 @@ Reaction CommandList::Search(std::wstring text) {
 Reaction CommandList::EndSearch() { return Search({}); }
 
 void CommandList::ShowFoundRow() {
-  if (selectedRow_ == 0) selectedRow_ = chosenRow_;
-  if (shown_.PositionOf(selectedRow_)) return;
-  selectedRow_ = 0;
-  for (std::size_t position = 0; position < shown_.Count() && selectedRow_ == 0; ++position) {
-    const CommandEntry& row = shown_.At(position);
-    if (!row.IsHeading()) selectedRow_ = row.Key;
-  }
+  const RowKey former = selectedRow_ == 0 ? chosenRow_ : selectedRow_;
+  ChangeSelectedRow(shown_.PositionOf(former) ? former : shown_.FirstCommand());
 }
 
 Reaction CommandList::SortByColumn(int column) {

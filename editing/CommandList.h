@@ -36,6 +36,9 @@ class CommandList : Pinned {
   /// The row that edits act on; 0 while no row is shown.
   [[nodiscard]] RowKey SelectedRow() const;
 
+  /// How often another row was selected: a row that was left and selected again is another one.
+  [[nodiscard]] std::size_t Selections() const;
+
   /// True for a command row; false for a heading row, or none.
   [[nodiscard]] bool CommandSelected() const;
 
@@ -79,6 +82,7 @@ class CommandList : Pinned {
 
  private:
   Reaction ShowRestored(RowKey row);
+  void ChangeSelectedRow(RowKey row);
   void ShowFoundRow();
 
   Catalogue& catalogue_;
@@ -86,7 +90,8 @@ class CommandList : Pinned {
   ShownRows shown_;
   RowKey selectedRow_ = 0;
   RowKey chosenRow_ = 0;  ///< the last one that was selected otherwise than by a search
-  bool sorted_ = false;   ///< the rows are in sorted state; Settings::SortedList is what is wanted
+  std::size_t selections_ = 0;
+  bool sorted_ = false;  ///< the rows are in sorted state; Settings::SortedList is what is wanted
   SortDirection direction_ = SortDirection::Ascending;
   Column sortKey_ = Column::Description;
   std::array<HeaderIcon, 4> icons_{};

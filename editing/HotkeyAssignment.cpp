@@ -1,6 +1,8 @@
 // Assigning, adding and deleting keys.
 #include "editing/HotkeyAssignment.h"
 
+#include <utility>
+
 #include "editing/KeyConflicts.h"
 #include "editing/KeyEdits.h"
 #include "text/Text.h"
@@ -25,6 +27,7 @@ bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
     ReleaseCurrentKeys(catalogue_, row, notation_);
     GiveKey(catalogue_, row, key, notation_);
     catalogue_.ListView1.Edit(row).Icon = RowIcon::HasKey;
+    news_.Kind = NewsKind::Assigned;
     return true;
   });
 }
@@ -34,26 +37,34 @@ bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
     if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, false)) return false;
     // The key may have been the row's own last one, which the check has just taken out of the cell.
     GiveKey(catalogue_, row, key, notation_);
+    news_.Kind = NewsKind::Added;
     return true;
   });
 }
 
 bool HotkeyAssignment::Delete(RowKey row) {
-  return catalogue_.Edits.Make(catalogue_, {EditKind::Delete, row, {}},
-                               [&] { return DeleteCurrentKeys(catalogue_, row, notation_); });
+  const std::wstring keys = catalogue_.ListView1.Row(row).CurrentKeys;
+  const bool changed = catalogue_.Edits.Make(catalogue_, {EditKind::Delete, row, {}}, [&] {
+    return DeleteCurrentKeys(catalogue_, row, notation_);
+  });
+  if (changed) news_ = {.Kind = NewsKind::Deleted, .Row = row, .Keys = keys};
+  return changed;
 }
 
 bool HotkeyAssignment::DeleteAll() {
   if (!Confirmed(messageBoxes_, DeleteAllQuestion(texts_), BoxIcon::Question)) return false;
   return catalogue_.Edits.Make(catalogue_, {EditKind::DeleteAll, 0, {}}, [&] {
-    bool changed = false;
+    std::size_t changed = 0;
     for (std::size_t position = 0; position < catalogue_.ListView1.Count(); ++position) {
       const CommandEntry& row = catalogue_.ListView1.At(position);
-      if (!row.IsHeading()) changed |= DeleteCurrentKeys(catalogue_, row.Key, notation_);
+      if (!row.IsHeading() && DeleteCurrentKeys(catalogue_, row.Key, notation_)) ++changed;
     }
-    return changed;
+    if (changed > 0) news_ = {.Kind = NewsKind::DeletedAll, .Rows = changed};
+    return changed > 0;
   });
 }
+
+News HotkeyAssignment::TakeNews() { return std::exchange(news_, {}); }
 
 /// False when the user keeps the key for the Start Menu. The answer about the last slot decides.
 bool HotkeyAssignment::CheckStartMenuConflict(RowKey row, const std::wstring& key) {
@@ -90,8 +101,10 @@ bool HotkeyAssignment::CheckConflicts(RowKey row, const std::wstring& key, bool 
                             BoxIcon::Exclamation);
       break;
   }
-  if (confirmed) TakeKey(catalogue_, row, key, conflict, replace, notation_);
-  return confirmed;
+  if (!confirmed) return false;
+  TakeKey(catalogue_, row, key, conflict, replace, notation_);
+  news_ = {.Row = row, .Keys = key, .From = conflict.Owner != row ? conflict.Owner : 0};
+  return true;
 }
 
 }  // namespace tessera

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "editing/News.h"
 #include "localisation/Texts.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Pinned.h"
@@ -29,6 +30,9 @@ class HotkeyAssignment : Pinned {
   /// Takes the keys of every displayed command away, after asking.
   bool DeleteAll();
 
+  /// What the last edit did; nothing when it was taken already.
+  [[nodiscard]] News TakeNews();
+
  private:
   bool CheckStartMenuConflict(RowKey row, const std::wstring& key);
   bool CheckConflicts(RowKey row, const std::wstring& key, bool replace);
@@ -37,6 +41,7 @@ class HotkeyAssignment : Pinned {
   const HotkeyNotation& notation_;
   const Texts& texts_;
   MessageBoxes& messageBoxes_;
+  News news_;
 };
 
 }  // namespace tessera

@@ -22,6 +22,13 @@ std::optional<std::size_t> ShownRows::PositionOf(RowKey row) const {
   return static_cast<std::size_t>(found - positions_.begin());
 }
 
+RowKey ShownRows::FirstCommand() const {
+  for (std::size_t position = 0; position < Count(); ++position) {
+    if (!At(position).IsHeading()) return At(position).Key;
+  }
+  return 0;
+}
+
 const std::wstring& ShownRows::SearchText() const { return text_; }
 
 bool ShownRows::Searching() const { return !words_.empty(); }

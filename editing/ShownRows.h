@@ -24,6 +24,9 @@ class ShownRows : Pinned {
   /// Nothing for a row that is not shown, or not there.
   [[nodiscard]] std::optional<std::size_t> PositionOf(RowKey row) const;
 
+  /// The first row that is no heading; 0 for none.
+  [[nodiscard]] RowKey FirstCommand() const;
+
   /// What is looked for, as it was given.
   [[nodiscard]] const std::wstring& SearchText() const;
 

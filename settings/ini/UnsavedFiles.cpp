@@ -9,6 +9,12 @@ UnsavedFiles::UnsavedFiles(Files& files, Targets targets) : files_(files), targe
 
 bool UnsavedFiles::HoldAll() const { return !former_.empty() && pending_.empty(); }
 
+std::vector<std::wstring> UnsavedFiles::Left() const {
+  std::vector<std::wstring> paths;
+  for (const auto& [path, bytes] : former_) paths.push_back(path);
+  return paths;
+}
+
 void UnsavedFiles::TakeAway() {
   while (!former_.empty()) PutBack(std::wstring(former_.begin()->first));
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "platform/Files.h"
 
@@ -25,6 +26,9 @@ class UnsavedFiles final : public Files {
 
   /// All that was written for a save with targets left alone lies beside them; false for nothing.
   [[nodiscard]] bool HoldAll() const;
+
+  /// Where content lies beside files now.
+  [[nodiscard]] std::vector<std::wstring> Left() const;
 
   /// Takes the new content away again; what lay there before is put back.
   void TakeAway();
