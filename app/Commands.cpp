@@ -65,6 +65,10 @@ constexpr Command Commands[] = {
      .Run = Run<&HotkeyPanel::Delete>,
      .Enabled = [](const Editor& editor) { return editor.Panel().DeleteEnabled(); }},
     {.Id = IDM_delall, .Run = Run<&HotkeyPanel::DeleteAll>},
+    {.Id = IDM_show,
+     .Run = Run<&HolderTour::Show>,
+     .Enabled = [](const Editor& editor) { return editor.Holders().ShowEnabled(); },
+     .Task = WindowTask::ShowSelectedRow},
 };
 
 const Command* CommandOf(int id) {

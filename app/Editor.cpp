@@ -19,6 +19,7 @@ Editor::Editor(const System& system, std::function<void(const LoadProgress&)> sh
       panel_(document_.Commands(), list_, assignment_, document_.Notation(), settings_,
              system.MessageBoxes),
       keysList_(panel_),
+      holders_(document_.Commands(), list_, panel_, document_.Notation()),
       export_(document_.Commands(), document_.Notation(), texts_, settingsFile_),
       options_(settings_, system.Dialogs, system.Environment),
       recentFiles_(texts_, system.MessageBoxes),
@@ -31,6 +32,8 @@ const CommandList& Editor::List() const { return list_; }
 const HotkeyPanel& Editor::Panel() const { return panel_; }
 
 const KeysList& Editor::AllKeys() const { return keysList_; }
+
+const HolderTour& Editor::Holders() const { return holders_; }
 
 const cRecentFiles& Editor::RecentFiles() const { return recentFiles_; }
 

@@ -13,6 +13,7 @@
 #include "app/LoadProgress.h"
 #include "app/Placement.h"
 #include "editing/CommandList.h"
+#include "editing/HolderTour.h"
 #include "editing/HotkeyAssignment.h"
 #include "editing/HotkeyPanel.h"
 #include "editing/KeysList.h"
@@ -46,6 +47,7 @@ class Editor : Pinned {
   [[nodiscard]] const CommandList& List() const;
   [[nodiscard]] const HotkeyPanel& Panel() const;
   [[nodiscard]] const KeysList& AllKeys() const;
+  [[nodiscard]] const HolderTour& Holders() const;
   [[nodiscard]] const cRecentFiles& RecentFiles() const;
   [[nodiscard]] const Settings& Options() const;
   [[nodiscard]] const Texts& Language() const;
@@ -136,7 +138,9 @@ class Editor : Pinned {
   HotkeyAssignment assignment_;
   HotkeyPanel panel_;
   KeysList keysList_;
-  std::tuple<HotkeyPanel&, CommandList&, KeysList&> workplace_{panel_, list_, keysList_};
+  HolderTour holders_;
+  std::tuple<HotkeyPanel&, CommandList&, KeysList&, HolderTour&> workplace_{panel_, list_,
+                                                                            keysList_, holders_};
   ClipboardExport export_;
   OptionsSelection options_;
   cRecentFiles recentFiles_;

@@ -1,6 +1,10 @@
 // Looking for a key among its other uses, and the questions that follow.
 #include "editing/KeyConflicts.h"
 
+#include <algorithm>
+
+#include "text/Text.h"
+
 namespace tessera {
 namespace {
 
@@ -21,6 +25,13 @@ KeyConflict FindConflict(const Catalogue& catalogue, RowKey row, std::wstring_vi
     return {ConflictKind::CurrentKey, *entry, catalogue.lvwCurrKeys.At(*entry).Owner};
   }
   return {ConflictKind::Free};
+}
+
+const StartMenuSlot* FindStartMenuSlot(const Catalogue& catalogue, std::wstring_view key) {
+  const auto slot = std::ranges::find_if(catalogue.StartMenuKeys, [key](const StartMenuSlot& each) {
+    return EqualIgnoringCase(each.Key, key);
+  });
+  return slot != catalogue.StartMenuKeys.end() ? &*slot : nullptr;
 }
 
 std::wstring StartMenuQuestion(const Texts& texts, const StartMenuSlot& slot,

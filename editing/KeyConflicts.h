@@ -28,6 +28,10 @@ struct KeyConflict {
 [[nodiscard]] KeyConflict FindConflict(const Catalogue& catalogue, RowKey row,
                                        std::wstring_view key);
 
+/// The slot of a Start Menu entry that has the key and keeps it; null when there is none.
+[[nodiscard]] const StartMenuSlot* FindStartMenuSlot(const Catalogue& catalogue,
+                                                     std::wstring_view key);
+
 // -- The questions' texts
 
 [[nodiscard]] std::wstring StartMenuQuestion(const Texts& texts, const StartMenuSlot& slot,

@@ -14,6 +14,8 @@
 #define IDC_Toolbar2 1010
 #define IDC_ProgressBar1 1011
 #define IDC_lblListView1 1012
+#define IDC_lblStatus 1013
+#define IDC_cmdShow 1014
 
 // The keys list
 #define IDC_List1 1021
@@ -67,6 +69,7 @@
 #define IDM_new 2042
 #define IDM_delete 2043
 #define IDM_delall 2044
+#define IDM_show 2053
 
 // Entries of the recent files: numbers without a gap, 1 to 16
 #define IDM_mnuFileRecentFiles1 2101

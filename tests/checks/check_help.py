@@ -50,7 +50,8 @@ def pages(root):
 
 
 def plain(text):
-    """A text as the help writes it: no mnemonic, no dots at the end."""
+    """A text as the help writes it: no mnemonic, no dots at the end; a place for a value is a "%"."""
+    text = re.sub("<var>.*?</var>|%[1-9]", "%", text, flags=re.S)
     return " ".join(html.unescape(text).replace("&", "").removesuffix("...").split())
 
 
@@ -61,7 +62,7 @@ def texts_of_program(root):
 
 def texts_of_help(root):
     """The texts that pages explain stand in <dfn>."""
-    return {plain(re.sub("<[^>]*>", "", text))
+    return {plain(re.sub("<(?!/?var>)[^>]*>", "", text))
             for page in pages(root).values() for text in re.findall("<dfn>(.*?)</dfn>", page, re.S)}
 
 

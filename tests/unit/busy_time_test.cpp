@@ -34,6 +34,11 @@ constexpr Operation Operations[] = {
     {"Add", Run<&HotkeyPanel::Add>},
     {"Delete", Run<&HotkeyPanel::Delete>},
     {"DeleteAll", Run<&HotkeyPanel::DeleteAll>},
+    {"Show",
+     [](Editor& editor) {
+       editor.Work(&HotkeyPanel::ChooseKey, 4);  // the default key of a command
+       return editor.Work(&HolderTour::Show);
+     }},
     {"ResetPanel", Run<&HotkeyPanel::ResetPanel>},
     {"Ctrl down",
      [](Editor& editor) {
