@@ -1,7 +1,7 @@
 // The state of the panel's controls, and the keyboard of the window.
 #include "editing/HotkeyPanel.h"
 
-#include <optional>
+#include <utility>
 
 namespace tessera {
 namespace {
@@ -64,9 +64,13 @@ Reaction HotkeyPanel::ChooseKey(int index) {
   return {.FollowChooser = true};
 }
 
-Reaction HotkeyPanel::ResetPanel() {
+void HotkeyPanel::ClearModifiers() {
   boxesChecked_.fill(false);
   ModifierToggle_ = ToggleResetValues();
+}
+
+Reaction HotkeyPanel::ResetPanel() {
+  ClearModifiers();
   chosenKey_ = NoKeyChosen;
   return {.FollowChooser = true, .FocusTo = Reaction::Focus::CommandList, .Handled = true};
 }
@@ -99,6 +103,40 @@ Reaction HotkeyPanel::DeleteAll() { return {.Changed = assignment_.DeleteAll()};
 
 Reaction HotkeyPanel::KeyDown(const KeyEvent& event) {
   if (!list_.CommandSelected()) return {};
+  BeginAnew(event);
+  Reaction reaction = Act(event);
+  if (!reaction.Handled) reaction.Handled = Take(event);
+  return reaction;
+}
+
+bool HotkeyPanel::IsModifier(KeyCode code) const {
+  const bool usesContextMenuKey = settings_.UseContextMenuKey != 0;
+  return code == KeyCode::Ctrl || code == KeyCode::Shift ||
+         code == (usesContextMenuKey ? KeyCode::ContextMenu : KeyCode::Alt);
+}
+
+// Else a second press of a modifier would take its box away.
+void HotkeyPanel::BeginAnew(const KeyEvent& event) {
+  if (event.Code == KeyCode::Alt && !event.WasDown) takenWithAlt_ = false;
+  if (!pressedWithModifier_) return;
+  if (!IsModifier(event.Code)) {
+    // Who is faster than the timer is to find the box as it will be.
+    if (tick_ == Tick::Due) {
+      FlipAlt();
+      tick_ = Tick::Stale;
+    }
+    return;
+  }
+  const bool otherHeld = (event.CtrlHeld && event.Code != KeyCode::Ctrl) ||
+                         (event.AltHeld && event.Code != KeyCode::Alt) ||
+                         (event.ShiftHeld && event.Code != KeyCode::Shift);
+  if (otherHeld || event.WasDown) return;
+  ClearModifiers();
+  pressedWithModifier_ = false;
+  if (tick_ == Tick::Due) tick_ = Tick::Stale;
+}
+
+Reaction HotkeyPanel::Act(const KeyEvent& event) {
   Reaction reaction{.FollowChooser = true};
   const auto press = [&](Modifier box) {
     boxesChecked_[IndexOf(box)] = ModifierToggle_[IndexOf(box)];
@@ -125,6 +163,18 @@ Reaction HotkeyPanel::KeyDown(const KeyEvent& event) {
   return reaction;
 }
 
+// One that repeats does nothing more, wherever the focus has gone.
+bool HotkeyPanel::Take(const KeyEvent& event) {
+  if (event.WasDown) return event.Code == taken_;
+  const bool takes = event.Chooses != NoKeyChosen;
+  taken_ = takes ? event.Code : KeyCode{};
+  if (!takes) return false;
+  ChooseKey(event.Chooses);
+  pressedWithModifier_ |= AnyModifierHeld(event);
+  takenWithAlt_ |= event.AltHeld;
+  return true;
+}
+
 Reaction HotkeyPanel::KeyUp(const KeyEvent& event) {
   if (!list_.CommandSelected()) return {};
   const auto flip = [this](Modifier box) {
@@ -140,6 +190,9 @@ Reaction HotkeyPanel::KeyUp(const KeyEvent& event) {
     reaction.Handled = true;
   } else if (event.Code == KeyCode::Alt && !usesContextMenuKey) {
     reaction.StartTimer = true;
+    tick_ = Tick::Due;
+    // The system missed the key in between and would go to the menu bar.
+    reaction.Handled = std::exchange(takenWithAlt_, false);
   } else if (event.Code == KeyCode::Shift) {
     flip(Modifier::Shift);
   }
@@ -147,10 +200,15 @@ Reaction HotkeyPanel::KeyUp(const KeyEvent& event) {
 }
 
 Reaction HotkeyPanel::TimerTick() {
+  if (std::exchange(tick_, Tick::None) == Tick::Stale) return {};
+  FlipAlt();
+  return {.FocusTo = Reaction::Focus::Chooser};
+}
+
+void HotkeyPanel::FlipAlt() {
   bool& toggle = ModifierToggle_[IndexOf(Modifier::Alt)];
   toggle = !toggle;
   boxesChecked_[IndexOf(Modifier::Alt)] = toggle;
-  return {.FocusTo = Reaction::Focus::Chooser};
 }
 
 }  // namespace tessera

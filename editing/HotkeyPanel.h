@@ -7,6 +7,7 @@
 
 #include "editing/CommandList.h"
 #include "editing/HotkeyAssignment.h"
+#include "editing/KeyEvent.h"
 #include "editing/Reaction.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Pinned.h"
@@ -15,31 +16,7 @@
 
 namespace tessera {
 
-/// The virtual-key codes that the panel knows.
-enum class KeyCode : int {
-  Backspace = 8,
-  Enter = 13,
-  Shift = 16,
-  Ctrl = 17,
-  Alt = 18,
-  Escape = 27,
-  Space = 32,
-  Right = 39,
-  Delete = 46,
-  ContextMenu = 93,
-};
-
-struct KeyEvent {
-  KeyCode Code{};  ///< any virtual-key code
-  bool CtrlHeld = false;
-  bool AltHeld = false;
-  bool ShiftHeld = false;
-};
-
 inline constexpr int PanelTimerMilliseconds = 50;
-
-/// No key chosen in the chooser.
-inline constexpr int NoKeyChosen = -1;
 
 /// The three boxes, in their order on the panel.
 enum class Modifier { Ctrl, Alt, Shift };
@@ -79,6 +56,8 @@ class HotkeyPanel : Pinned {
 
   // -- Keyboard
 
+  /// What the key does in the panel, and then, unless it did all its work there, the key that it
+  /// chooses in the chooser.
   Reaction KeyDown(const KeyEvent& event);
   Reaction KeyUp(const KeyEvent& event);
   Reaction TimerTick();
@@ -86,8 +65,18 @@ class HotkeyPanel : Pinned {
  private:
   using PerModifier = std::array<bool, AllModifiers.size()>;
 
+  /// The timer that starts when Alt is released.
+  enum class Tick { None, Due, Stale };
+
   /// What the toggles are when nothing has been pressed yet.
   [[nodiscard]] PerModifier ToggleResetValues() const;
+
+  [[nodiscard]] bool IsModifier(KeyCode code) const;
+  void ClearModifiers();
+  void BeginAnew(const KeyEvent& event);
+  Reaction Act(const KeyEvent& event);
+  bool Take(const KeyEvent& event);
+  void FlipAlt();
 
   Catalogue& catalogue_;
   CommandList& list_;
@@ -98,6 +87,10 @@ class HotkeyPanel : Pinned {
   PerModifier boxesChecked_{};
   PerModifier ModifierToggle_;  ///< what each box becomes at the next press of its key
   int chosenKey_ = NoKeyChosen;
+  bool pressedWithModifier_ = false;  ///< a key was chosen so; the next press begins anew
+  KeyCode taken_{};                   ///< the key that was pressed last, if it chose itself
+  bool takenWithAlt_ = false;         ///< since Alt was pressed
+  Tick tick_ = Tick::None;
 };
 
 }  // namespace tessera

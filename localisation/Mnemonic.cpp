@@ -29,4 +29,13 @@ std::wstring WithoutMnemonic(std::wstring_view caption) {
   return plain;
 }
 
+wchar_t MnemonicOf(std::wstring_view caption) {
+  std::size_t mark = caption.find(L'&');
+  while (mark != std::wstring_view::npos && mark + 1 < caption.size()) {
+    if (caption[mark + 1] != L'&') return caption[mark + 1];
+    mark = caption.find(L'&', mark + 2);
+  }
+  return L'\0';
+}
+
 }  // namespace tessera

@@ -10,4 +10,7 @@ namespace tessera {
 /// parentheses, as in "Open(&O)...", for scripts whose letters are on no key. "&&" is one "&".
 [[nodiscard]] std::wstring WithoutMnemonic(std::wstring_view caption);
 
+/// The letter that a caption marks; 0 for none.
+[[nodiscard]] wchar_t MnemonicOf(std::wstring_view caption);
+
 }  // namespace tessera

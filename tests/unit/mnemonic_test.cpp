@@ -31,5 +31,22 @@ TEST(Mnemonic, AddedInParenthesesGoesAsAWhole) {
   for (const Case& each : Cases) EXPECT_EQ(WithoutMnemonic(each.Caption), each.Plain);
 }
 
+TEST(Mnemonic, IsTheLetterBehindTheMark) {
+  constexpr struct {
+    std::wstring_view Caption;
+    wchar_t Letter;
+  } Cases[] = {{L"&Open...", L'O'},
+               {L"E&xit", L'x'},
+               {L"\x6253(&O)...", L'O'},
+               {L"Options", L'\0'},
+               {L"", L'\0'},
+               {L"Ends in &", L'\0'},
+               {L"Fish && c", L'\0'},
+               {L"A && &B && C", L'B'},
+               {L"&&", L'\0'},
+               {L"&\x0424", L'\x0424'}};
+  for (const auto& each : Cases) EXPECT_EQ(MnemonicOf(each.Caption), each.Letter);
+}
+
 }  // namespace
 }  // namespace tessera::mnemonic_test

@@ -9,6 +9,7 @@
 #include <set>
 #include <vector>
 
+#include "localisation/Mnemonic.h"
 #include "localisation/Texts.h"
 #include "localisation/TextTable.h"
 #include "settings/ini/ProfileFile.h"
@@ -67,12 +68,6 @@ class ShippedLanguages : public testing::Test {
 
   MemoryFiles files_;
 };
-
-/// The letter behind the "&"; 0 for a text without one.
-wchar_t MnemonicOf(std::wstring_view text) {
-  const std::size_t mark = text.find(L'&');
-  return mark == std::wstring_view::npos || mark + 1 == text.size() ? L'\0' : text[mark + 1];
-}
 
 bool IsLetter(wchar_t character) {
   const bool latin =
