@@ -1,7 +1,24 @@
 // The chooser's own list comes before the panel, and the panel before everything else.
 #include "app/KeyMeaning.h"
 
+#include <algorithm>
+
 namespace tessera {
+namespace {
+
+/// A key that opens something at one place, by itself.
+struct Opener {
+  KeyCode Code{};
+  FocusPlace Focus{};
+  KeyMeaning Meaning{};
+};
+
+constexpr Opener Openers[] = {
+    {KeyCode::F1, FocusPlace::CommandList, KeyMeaning::OpensHelp},
+    {KeyCode::Down, FocusPlace::Toolbar, KeyMeaning::OpensButtonMenu},
+};
+
+}  // namespace
 
 KeyMeaning MeaningOf(KeyCode code, bool pressed, const ChooserState& chooser) {
   const bool closesChooser = code == KeyCode::Enter || code == KeyCode::Escape;
@@ -9,6 +26,18 @@ KeyMeaning MeaningOf(KeyCode code, bool pressed, const ChooserState& chooser) {
   const bool atClosedChooser = chooser.HasFocus && !chooser.Open;
   return pressed && code == KeyCode::Right && atClosedChooser ? KeyMeaning::OpensKeysList
                                                               : KeyMeaning::ForPanel;
+}
+
+KeyMeaning MeaningOf(const KeyPress& press, bool pressed) {
+  const KeyEvent& event = press.Event;
+  if (press.Focus == FocusPlace::TextBox) return KeyMeaning::ForControl;
+  const auto* const opener = std::ranges::find_if(Openers, [&](const Opener& each) {
+    return each.Code == event.Code && each.Focus == press.Focus;
+  });
+  const bool opens = pressed && !event.WasDown && !AnyModifierHeld(event);
+  if (opens && opener != std::end(Openers)) return opener->Meaning;
+  return MeaningOf(event.Code, pressed,
+                   {.HasFocus = press.Focus == FocusPlace::Chooser, .Open = press.ChooserOpen});
 }
 
 }  // namespace tessera

@@ -1,14 +1,16 @@
 // Whom a key is for that is pressed in the main window.
 #pragma once
 
-#include "editing/HotkeyPanel.h"
+#include "editing/PressedKey.h"
 
 namespace tessera {
 
 enum class KeyMeaning {
   ForControl,     ///< it is for the control that has the focus
   OpensKeysList,  ///< or closes it
-  ForPanel,       ///< the editor is told first
+  OpensHelp,
+  OpensButtonMenu,  ///< that of the toolbar's button which has the focus
+  ForPanel,         ///< the editor is told first
 };
 
 /// The key chooser, at the moment of the key.
@@ -18,5 +20,8 @@ struct ChooserState {
 };
 
 [[nodiscard]] KeyMeaning MeaningOf(KeyCode code, bool pressed, const ChooserState& chooser);
+
+/// The same for a key anywhere in the window.
+[[nodiscard]] KeyMeaning MeaningOf(const KeyPress& press, bool pressed);
 
 }  // namespace tessera

@@ -5,6 +5,7 @@
 
 #include "app/Editor.h"
 #include "app/frmViews.h"
+#include "editing/PressedKey.h"
 #include "export/frmExportToClipboard.h"
 #include "options/frmOptions.h"
 #include "platform/Pinned.h"
@@ -54,7 +55,15 @@ class frmMain : Pinned {
   void ApplyPlacement();
   [[nodiscard]] WindowPlacement CurrentPlacement() const;
 
-  // -- Commands, keys, and what they do in the views (frmMainCommands.cpp)
+  // -- Keys (frmMainKeys.cpp)
+  bool Filter(MSG& message);
+  [[nodiscard]] KeyPress PressOf(const MSG& message) const;
+  bool FilterKey(const MSG& message);
+  bool KeyDown(const KeyPress& press);
+  bool KeyUp(const KeyEvent& event);
+  bool OpenButtonMenu();
+
+  // -- Commands, and what they do in the views (frmMainCommands.cpp)
   [[nodiscard]] frmCommandList::Events ListEvents();
   [[nodiscard]] frmPanel::Events PanelEvents();
   [[nodiscard]] frmKeysList::Events KeysListEvents();
@@ -64,8 +73,6 @@ class frmMain : Pinned {
   void mnuViewOptions_Click();
   void OnInitMenu();
   void OnDropDown(const NMTOOLBARW& notification);
-  bool Filter(MSG& message);
-  bool FilterKey(const MSG& message);
   void ToggleKeysList();
   void HideKeysList();
   void React(const Reaction& reaction);

@@ -1,18 +1,7 @@
 // What the user does, as calls of the editor, and the dialogs.
 #include "app/frmMain.h"
-#include "platform/win32/Guarded.h"
 
 namespace tessera {
-namespace {
-
-bool Held(int key) { return GetKeyState(key) < 0; }
-
-bool IsKeyMessage(UINT message) {
-  return message == WM_KEYDOWN || message == WM_SYSKEYDOWN || message == WM_KEYUP ||
-         message == WM_SYSKEYUP;
-}
-
-}  // namespace
 
 frmCommandList::Events frmMain::ListEvents() {
   return {.SelectRow =
@@ -127,37 +116,6 @@ void frmMain::OnDropDown(const NMTOOLBARW& notification) {
   editor_.RefreshRestartItems();
   const Unique<HMENU> menu = MenuUnder(*button, editor_);
   ShowMenuUnderButton(notification, menu.get(), window_, editor_.Language().RightToLeft());
-}
-
-bool frmMain::FilterMessage(MSG& message) {
-  return Guarded(window_, [&] { return Filter(message); });
-}
-
-bool frmMain::Filter(MSG& message) {
-  if (window_ == nullptr || (message.hwnd != window_ && IsChild(window_, message.hwnd) == FALSE)) {
-    return false;
-  }
-  if (IsKeyMessage(message.message) && FilterKey(message)) return true;
-  if (views_.Panel().ChooserWouldLose(message)) message.hwnd = window_;
-  return IsDialogMessageW(window_, &message) != FALSE;
-}
-
-bool frmMain::FilterKey(const MSG& message) {
-  const KeyEvent event{.Code = static_cast<KeyCode>(message.wParam),
-                       .CtrlHeld = Held(VK_CONTROL),
-                       .AltHeld = Held(VK_MENU),
-                       .ShiftHeld = Held(VK_SHIFT)};
-  const bool pressed = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
-  const KeyMeaning meaning = MeaningOf(event.Code, pressed, views_.Panel().Chooser());
-  if (!AcceptsInput() || meaning == KeyMeaning::ForControl) return false;
-  if (meaning == KeyMeaning::OpensKeysList) {
-    ToggleKeysList();
-    return true;
-  }
-  const Reaction reaction =
-      editor_.Work(pressed ? &HotkeyPanel::KeyDown : &HotkeyPanel::KeyUp, event);
-  React(reaction);
-  return reaction.Handled;
 }
 
 void frmMain::ToggleKeysList() {

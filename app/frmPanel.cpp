@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "app/MnemonicLetters.h"
 #include "localisation/Mnemonic.h"
 #include "platform/win32/Guarded.h"
 #include "platform/win32/Icons.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr wchar_t FrameClass[] = L"frmMain.Frame1";
 constexpr int BoxIds[] = {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2};
-constexpr TextId BoxCaptions[] = {TextId::ControlBox, TextId::AltBox, TextId::ShiftBox};
 
 /// For 96 pixels an inch.
 constexpr int AllKeysIconSize = 16;

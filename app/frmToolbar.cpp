@@ -87,6 +87,14 @@ int frmToolbar::Height(int dpi) const {
   return HIWORD(buttonSize) + frame.bottom - frame.top;
 }
 
+int frmToolbar::HotButton() const {
+  const LRESULT place = SendMessageW(toolbar_, TB_GETHOTITEM, 0, 0);
+  if (place < 0 || static_cast<std::size_t>(place) >= buttons_.size()) return 0;
+  const int command = buttons_[static_cast<std::size_t>(place)].Command;
+  const auto enabled = SendMessageW(toolbar_, TB_ISBUTTONENABLED, static_cast<WPARAM>(command), 0);
+  return enabled != 0 ? command : 0;
+}
+
 void frmToolbar::ApplyLanguage(const Texts& texts) const {
   for (const ToolbarButton& button : buttons_) {
     if (button.Style == ToolbarStyle::Separator) continue;

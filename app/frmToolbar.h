@@ -26,6 +26,9 @@ class frmToolbar {
   /// What a button takes, and the border.
   [[nodiscard]] int Height(int dpi) const;
 
+  /// The command of the button that the keyboard works on, if it is enabled; else 0.
+  [[nodiscard]] int HotButton() const;
+
   void ApplyLanguage(const Texts& texts) const;
   void ApplyDpi(int dpi);
 

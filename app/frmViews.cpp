@@ -37,6 +37,28 @@ void frmViews::Create(HWND window, int dpi) {
   progressBar_.Create(window);
 }
 
+FocusPlace frmViews::Focus() const {
+  const HWND focus = GetFocus();
+  if (focus == list_.Control()) return FocusPlace::CommandList;
+  if (panel_.Chooser().HasFocus) return FocusPlace::Chooser;
+  if (FocusedToolbar() != nullptr) return FocusPlace::Toolbar;
+  if (keysList_.HasFocus()) return FocusPlace::KeysList;
+  return IsTextBox(focus) ? FocusPlace::TextBox : FocusPlace::Elsewhere;
+}
+
+const frmToolbar* frmViews::FocusedToolbar() const {
+  const HWND focus = GetFocus();
+  for (const frmToolbar* const toolbar : {&Toolbar1_, &panel_.Toolbar()}) {
+    if (toolbar->Control() == focus) return toolbar;
+  }
+  return nullptr;
+}
+
+int frmViews::FocusedButton() const {
+  const frmToolbar* const toolbar = FocusedToolbar();
+  return toolbar != nullptr ? toolbar->HotButton() : 0;
+}
+
 SIZE frmViews::SmallestSize() const {
   const Size inside = SmallestInside(panel_.WholeSize(), dpi_);
   RECT frame{0, 0, inside.Width, inside.Height};

@@ -24,6 +24,10 @@ class frmViews {
 
   [[nodiscard]] const frmCommandList& List() const { return list_; }
   [[nodiscard]] const frmPanel& Panel() const { return panel_; }
+  [[nodiscard]] FocusPlace Focus() const;
+
+  /// The command of the button that has the keyboard's focus, if it is enabled; else 0.
+  [[nodiscard]] int FocusedButton() const;
   [[nodiscard]] bool IsMainToolbar(HWND control) const { return control == Toolbar1_.Control(); }
 
   /// The smallest size of the main window that leaves room for everything.
@@ -68,6 +72,7 @@ class frmViews {
   void Forget();
 
  private:
+  [[nodiscard]] const frmToolbar* FocusedToolbar() const;
   void SyncCommands() const;
   void SyncKeysList();
   void CreateKeysList();

@@ -72,6 +72,8 @@ Area frmKeysList::Size() const { return WindowArea(window_); }
 
 bool frmKeysList::Visible() const { return IsWindowVisible(window_) != FALSE; }
 
+bool frmKeysList::HasFocus() const { return Created() && GetFocus() == List1_; }
+
 void frmKeysList::Select(int index) {
   if (ListBox_GetCurSel(List1_) != index) ListBox_SetCurSel(List1_, index);
 }

@@ -38,6 +38,7 @@ class frmKeysList {
   /// Its size; where it stands does not matter.
   [[nodiscard]] Area Size() const;
   [[nodiscard]] bool Visible() const;
+  [[nodiscard]] bool HasFocus() const;
 
   void Select(int index);
   void MoveTo(const Area& area);

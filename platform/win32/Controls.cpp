@@ -5,6 +5,8 @@
 #include <shellscalingapi.h>
 #include <uxtheme.h>
 
+#include <array>
+
 #include "platform/win32/Components.h"
 #include "platform/win32/SystemFunction.h"
 
@@ -67,6 +69,12 @@ HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD ext
   return CreateWindowExW(extendedStyle, className, L"", WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 0,
                          0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                          GetModuleHandleW(nullptr), nullptr);
+}
+
+bool IsTextBox(HWND window) {
+  std::array<wchar_t, 8> name{};
+  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return lstrcmpiW(name.data(), WC_EDITW) == 0;
 }
 
 std::wstring TextOf(HWND window) {

@@ -39,6 +39,9 @@ void GiveFont(HWND control, HFONT font);
 /// A child of `parent`, without text, not yet placed.
 HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD extendedStyle, int id);
 
+/// False for no window, too.
+[[nodiscard]] bool IsTextBox(HWND window);
+
 [[nodiscard]] std::wstring TextOf(HWND window);
 
 /// Does nothing when it is so already.

@@ -3,20 +3,13 @@
 
 #include <imm.h>
 
-#include <array>
-
+#include "platform/win32/Controls.h"
 #include "platform/win32/SystemFunction.h"
 
 namespace tessera {
 namespace {
 
 using Associate = decltype(ImmAssociateContext);
-
-bool IsTextBox(HWND window) {
-  std::array<wchar_t, 8> name{};
-  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-  return lstrcmpiW(name.data(), L"Edit") == 0;
-}
 
 BOOL CALLBACK TurnOff(HWND window, LPARAM function) {
   if (!IsTextBox(window)) (*reinterpret_cast<Associate*>(function))(window, nullptr);

@@ -4,22 +4,29 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <vector>
 
 #include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e {
 namespace {
 
-constexpr std::array ExtendedKeys{VK_INSERT, VK_DELETE, VK_HOME, VK_END,   VK_PRIOR, VK_NEXT,
-                                  VK_LEFT,   VK_UP,     VK_DOWN, VK_RIGHT, VK_APPS};
+constexpr std::array ExtendedKeys{VK_INSERT, VK_DELETE, VK_HOME, VK_END,  VK_PRIOR,
+                                  VK_NEXT,   VK_LEFT,   VK_UP,   VK_DOWN, VK_RIGHT,
+                                  VK_APPS,   VK_DIVIDE, VK_RMENU};
 
-void SendKey(WORD key, DWORD flags) {
+INPUT KeyInput(WORD key, DWORD flags) {
   INPUT input{};
   input.type = INPUT_KEYBOARD;
   input.ki.wVk = key;
   input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
   const bool extended = std::ranges::find(ExtendedKeys, int{key}) != ExtendedKeys.end();
   input.ki.dwFlags = flags | (extended ? KEYEVENTF_EXTENDEDKEY : 0);
+  return input;
+}
+
+void SendKey(WORD key, DWORD flags) {
+  INPUT input = KeyInput(key, flags);
   SendInput(1, &input, sizeof input);
 }
 
@@ -80,6 +87,15 @@ void Press(WORD key) {
 void KeyDown(WORD key) { SendKey(key, 0); }
 
 void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
+
+void PressTogether(std::span<const WORD> keys) {
+  std::vector<INPUT> inputs;
+  for (const WORD key : keys) inputs.push_back(KeyInput(key, 0));
+  for (std::size_t left = keys.size(); left > 0; --left) {
+    inputs.push_back(KeyInput(keys[left - 1], KEYEVENTF_KEYUP));
+  }
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
 
 void Type(std::wstring_view text) {
   for (const wchar_t character : text) {

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <span>
 #include <string_view>
 
 namespace tessera::e2e {
@@ -11,6 +12,9 @@ namespace tessera::e2e {
 void Press(WORD key);
 void KeyDown(WORD key);
 void KeyUp(WORD key);
+
+/// Presses the keys in that order and releases them in the reverse one, faster than any hand.
+void PressTogether(std::span<const WORD> keys);
 
 /// Types characters, whatever keys the keyboard has.
 void Type(std::wstring_view text);

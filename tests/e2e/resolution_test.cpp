@@ -13,6 +13,7 @@
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/RemoteMemory.h"
+#include "tests/e2e/StartResolution.h"
 #include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e::resolution_test {
@@ -66,21 +67,6 @@ std::vector<HWND> ControlsOf(const Window& window) {
   EnumChildWindows(window.Handle(), AddWindow, reinterpret_cast<LPARAM>(&controls));
   return controls;
 }
-
-/// The resolution at which programs start; the usual one again at the end.
-class StartResolution {
- public:
-  explicit StartResolution(DWORD dpi) { Set(dpi); }
-  ~StartResolution() { Set(96); }
-  StartResolution(const StartResolution&) = delete;
-  StartResolution& operator=(const StartResolution&) = delete;
-
- private:
-  static void Set(DWORD dpi) {
-    RegSetKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"LogPixels", REG_DWORD, &dpi,
-                    sizeof dpi);
-  }
-};
 
 class ResolutionTest : public EndToEndTest {
  protected:

@@ -32,6 +32,55 @@ TEST(KeyMeaning, EveryOtherKeyIsForThePanel) {
   EXPECT_EQ(MeaningOf(KeyCode::Space, true, Closed), KeyMeaning::ForPanel);
 }
 
+KeyPress PressIn(FocusPlace focus, KeyCode code) {
+  return {.Event = {.Code = code}, .Focus = focus};
+}
+
+TEST(KeyMeaning, F1InTheCommandListOpensTheHelp) {
+  const KeyPress press = PressIn(FocusPlace::CommandList, KeyCode::F1);
+  EXPECT_EQ(MeaningOf(press, true), KeyMeaning::OpensHelp);
+  EXPECT_EQ(MeaningOf(press, false), KeyMeaning::ForPanel);
+  for (const FocusPlace focus : {FocusPlace::Chooser, FocusPlace::Toolbar, FocusPlace::Elsewhere}) {
+    EXPECT_EQ(MeaningOf(PressIn(focus, KeyCode::F1), true), KeyMeaning::ForPanel);
+  }
+}
+
+TEST(KeyMeaning, DownOnAToolbarOpensTheMenuOfItsButton) {
+  const KeyPress press = PressIn(FocusPlace::Toolbar, KeyCode::Down);
+  EXPECT_EQ(MeaningOf(press, true), KeyMeaning::OpensButtonMenu);
+  EXPECT_EQ(MeaningOf(press, false), KeyMeaning::ForPanel);
+  EXPECT_EQ(MeaningOf(PressIn(FocusPlace::CommandList, KeyCode::Down), true), KeyMeaning::ForPanel);
+}
+
+TEST(KeyMeaning, NothingOpensByAKeyThatRepeatsOrWithAModifier) {
+  for (KeyPress press : {PressIn(FocusPlace::CommandList, KeyCode::F1),
+                         PressIn(FocusPlace::Toolbar, KeyCode::Down)}) {
+    press.Event.WasDown = true;
+    EXPECT_EQ(MeaningOf(press, true), KeyMeaning::ForPanel);
+    press.Event.WasDown = false;
+    press.Event.ShiftHeld = true;
+    EXPECT_EQ(MeaningOf(press, true), KeyMeaning::ForPanel);
+  }
+}
+
+TEST(KeyMeaning, EveryKeyInATextBoxIsForIt) {
+  for (int code = 0; code < 256; ++code) {
+    for (const bool pressed : {true, false}) {
+      EXPECT_EQ(MeaningOf(PressIn(FocusPlace::TextBox, KeyCode{code}), pressed),
+                KeyMeaning::ForControl);
+    }
+  }
+}
+
+TEST(KeyMeaning, ThePlaceOfAPressTellsTheChooser) {
+  KeyPress press = PressIn(FocusPlace::Chooser, KeyCode::Right);
+  EXPECT_EQ(MeaningOf(press, true), KeyMeaning::OpensKeysList);
+  press.ChooserOpen = true;
+  EXPECT_EQ(MeaningOf(press, true), KeyMeaning::ForPanel);
+  press.Event.Code = KeyCode::Escape;
+  EXPECT_EQ(MeaningOf(press, true), KeyMeaning::ForControl);
+}
+
 }  // namespace
 
 }  // namespace tessera::key_meaning_test

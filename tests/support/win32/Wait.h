@@ -13,10 +13,10 @@ inline constexpr std::chrono::seconds UsualLimit{10};
 
 /// Looks at `condition` until its result is true, and gives that result. Throws std::runtime_error
 /// with `what` in its text when that takes longer than `limit`.
+/// `pause` is the time between two looks, in milliseconds.
 template <typename Condition>
 auto WaitFor(const std::string& what, Condition condition,
-             std::chrono::milliseconds limit = UsualLimit) {
-  constexpr DWORD Pause = 10;  // milliseconds between two looks
+             std::chrono::milliseconds limit = UsualLimit, DWORD pause = 10) {
   const auto end = std::chrono::steady_clock::now() + limit;
   for (;;) {
     auto result = condition();
@@ -25,7 +25,7 @@ auto WaitFor(const std::string& what, Condition condition,
       throw std::runtime_error("Waited " + std::to_string(limit.count()) + " ms in vain for " +
                                what);
     }
-    Sleep(Pause);
+    Sleep(pause);
   }
 }
 
