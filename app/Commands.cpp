@@ -11,6 +11,8 @@ namespace {
 bool Always(const Editor& /*editor*/) { return true; }
 bool Never(const Editor& /*editor*/) { return false; }
 
+bool CommandSelected(const Editor& editor) { return editor.List().CommandSelected(); }
+
 /// Runs an operation of the editor, or of a part that it lets work.
 template <auto Operation>
 void Run(Editor& editor) {
@@ -69,6 +71,9 @@ constexpr Command Commands[] = {
      .Run = Run<&HolderTour::Show>,
      .Enabled = [](const Editor& editor) { return editor.Holders().ShowEnabled(); },
      .Task = WindowTask::ShowSelectedRow},
+    {.Id = IDM_copycommand, .Run = Run<&Editor::CopyCommandName>, .Enabled = CommandSelected},
+    {.Id = IDM_copyrow, .Run = Run<&Editor::CopyRow>, .Enabled = CommandSelected},
+    {.Id = IDM_copytable, .Run = Run<&Editor::CopyTable>},
 };
 
 const Command* CommandOf(int id) {

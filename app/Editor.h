@@ -109,6 +109,13 @@ class Editor : Pinned {
   /// Opens the help file, or tells that it is missing.
   void ShowHelpTopics();
 
+  // -- Copies to the clipboard, of the selected row and of the whole list; a beep tells that it did
+  // not take one
+
+  void CopyCommandName();
+  void CopyRow();
+  void CopyTable();
+
   // -- The dialogs: what one shows and edits, with the texts of the language in use, and what
   // follows when it has closed, by whichever button
 
@@ -127,6 +134,9 @@ class Editor : Pinned {
   void ReadRecentFiles(const ProfileFile& stored);
   void SaveRecentFiles();
   void ApplyLanguage();
+  [[nodiscard]] bool MayCopyRow() const;
+  [[nodiscard]] const CommandEntry& SelectedEntry() const;
+  void BeepUnless(bool taken);
 
   System system_;
   SettingsFile settingsFile_;

@@ -41,9 +41,7 @@ ClipboardExport& Editor::BeginExport() {
   return export_;
 }
 
-void Editor::EndExport() {
-  if (!export_.CopyTo(system_.Clipboard, document_.Modified())) system_.MessageBoxes.Beep();
-}
+void Editor::EndExport() { BeepUnless(export_.CopyTo(system_.Clipboard, document_.Modified())); }
 
 OptionsSelection& Editor::BeginOptions() {
   options_.RememberLanguage();

@@ -161,6 +161,26 @@ void frmCommandList::SelectRow(int position) const {
   if (position >= 0) events_.SelectRow(static_cast<std::size_t>(position));
 }
 
+bool frmCommandList::SelectRowAt(POINT place) {
+  LVHITTESTINFO hit{};
+  hit.pt = place;
+  ScreenToClient(ListView1_, &hit.pt);
+  const int position = ListView_SubItemHitTest(ListView1_, &hit);
+  SelectRow(position);
+  SyncSelection();
+  return position >= 0;
+}
+
+POINT frmCommandList::MenuPlace() {
+  ShowSelectedRow();
+  RECT row{};
+  const int selected = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
+  if (selected >= 0) ListView_GetItemRect(ListView1_, selected, &row, LVIR_ICON);
+  POINT place{row.left, row.bottom};
+  ClientToScreen(ListView1_, &place);
+  return place;
+}
+
 LRESULT frmCommandList::FindItem(const NMLVFINDITEMW& search) const {
   if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL | SearchBySubstring)) == 0) return -1;
   const auto start = static_cast<std::size_t>(std::max(0, search.iStart));

@@ -42,6 +42,13 @@ class frmCommandList : Pinned {
   /// Answers a notification of the list.
   LRESULT OnNotify(NMHDR& header);
 
+  /// Selects the row at that place of the screen; false when there is none.
+  bool SelectRowAt(POINT place);
+
+  /// Scrolls to the selected row, and tells where a menu for it begins, on the screen: below its
+  /// icon.
+  [[nodiscard]] POINT MenuPlace();
+
   void Show();
   void Sync();
   void ShowSelectedRow();

@@ -165,6 +165,9 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
       // would have it painted once more.
       views_.ShowList();
       break;
+    case WM_CONTEXTMENU:
+      if (OnContextMenu(reinterpret_cast<HWND>(wParam), lParam)) return 0;
+      break;
     case WM_DPICHANGED:
       OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;

@@ -73,6 +73,7 @@ class frmMain : Pinned {
   void mnuViewOptions_Click();
   void OnInitMenu();
   void OnDropDown(const NMTOOLBARW& notification);
+  bool OnContextMenu(HWND control, LPARAM place);
   void ToggleKeysList();
   void HideKeysList();
   void React(const Reaction& reaction);

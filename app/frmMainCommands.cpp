@@ -118,6 +118,22 @@ void frmMain::OnDropDown(const NMTOOLBARW& notification) {
   ShowMenuUnderButton(notification, menu.get(), window_, editor_.Language().RightToLeft());
 }
 
+// By keyboard it is the list's wherever the focus is: Shift, of Shift+F10, goes to the chooser.
+bool frmMain::OnContextMenu(HWND control, LPARAM place) {
+  const bool byKeyboard = place == -1;
+  if (!AcceptsInput() || (!byKeyboard && control != views_.List().Control())) return false;
+  POINT corner{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+  if (byKeyboard) {
+    corner = views_.MenuPlace();
+  } else if (!views_.SelectRowAt(corner)) {
+    return true;
+  }
+  const Unique<HMENU> menu = ContextMenu(editor_);
+  const UINT direction = editor_.Language().RightToLeft() ? TPM_LAYOUTRTL : 0;
+  TrackPopupMenuEx(menu.get(), TPM_RIGHTBUTTON | direction, corner.x, corner.y, window_, nullptr);
+  return true;
+}
+
 void frmMain::ToggleKeysList() {
   if (AcceptsInput()) React(editor_.Work(&KeysList::ToggleKeysList));
 }

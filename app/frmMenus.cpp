@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "app/MenuBar.h"
+#include "app/ListMenu.h"
 #include "resources/resource.h"
 
 namespace tessera {
@@ -35,6 +35,22 @@ Unique<HMENU> MenuUnder(const ToolbarButton& button, const Editor& editor) {
   } else {
     Append(menu.get(), button.MenuCommand, editor.Language().GetLangText(button.MenuCaption),
            CommandEnabled(editor, button.MenuCommand));
+  }
+  return menu;
+}
+
+Unique<HMENU> ContextMenu(const Editor& editor) {
+  Unique<HMENU> menu(CreatePopupMenu());
+  for (const MenuEntry& entry : ListMenu()) {
+    if (entry.Kind == MenuEntryKind::Separator) {
+      AppendMenuW(menu.get(), MF_SEPARATOR, 0, nullptr);
+      continue;
+    }
+    const ToolbarButton* const button = ButtonOf(entry.Command);
+    std::wstring caption = editor.Language().GetLangText(entry.Caption);
+    // The key that does the same stands at the other edge.
+    if (button != nullptr) caption.append(1, L'\t').append(button->Key);
+    Append(menu.get(), entry.Command, caption, CommandEnabled(editor, entry.Command));
   }
   return menu;
 }

@@ -10,6 +10,9 @@ namespace tessera {
 /// The menu under a drop-down button.
 [[nodiscard]] Unique<HMENU> MenuUnder(const ToolbarButton& button, const Editor& editor);
 
+/// The context menu of the command list.
+[[nodiscard]] Unique<HMENU> ContextMenu(const Editor& editor);
+
 class frmMenus {
  public:
   /// `editor` must outlive it.

@@ -66,6 +66,8 @@ class frmViews {
   void Show(const LoadProgress& progress) const { progressBar_.Show(progress); }
   void ShowList() { list_.Show(); }
   void ShowSelectedRow() { list_.ShowSelectedRow(); }
+  bool SelectRowAt(POINT place) { return list_.SelectRowAt(place); }
+  [[nodiscard]] POINT MenuPlace() { return list_.MenuPlace(); }
   LRESULT OnListNotify(NMHDR& header) { return list_.OnNotify(header); }
 
   /// To be called once its windows are destroyed: their numbers may become those of others.

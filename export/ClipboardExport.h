@@ -46,12 +46,19 @@ class ClipboardExport {
   /// was one, and the clipboard did not take it.
   [[nodiscard]] bool CopyTo(Clipboard& clipboard, bool modified) const;
 
+  // -- Without the dialog
+
+  /// Copies the displayed rows in the columns of the last OK, as text and as HTML. False when the
+  /// clipboard did not take them.
+  [[nodiscard]] bool CopyTable(Clipboard& clipboard) const;
+
  private:
   const Catalogue& catalogue_;
   const HotkeyNotation& notation_;
   const Texts& texts_;
   SettingsFile& settingsFile_;
   ExportSelection selection_;
+  ExportColumns exported_ = selection_.Columns();  ///< those of the last OK, or the stored ones
   std::wstring exportText_;
 };
 

@@ -15,12 +15,6 @@ void AppendCell(std::wstring& text, std::wstring_view cell, std::size_t width) {
       .append(1, L'\t');
 }
 
-bool HasKey(const CommandEntry& row, const ExportColumns& columns,
-            const std::wstring& undefinedHotkey) {
-  return (columns[IndexOf(Column::Defaults)] && row.DefaultKeys != undefinedHotkey) ||
-         (columns[IndexOf(Column::Current)] && row.CurrentKeys != undefinedHotkey);
-}
-
 std::wstring HeadingLine(const ExportColumns& columns, const std::array<std::size_t, 4>& widths,
                          const Texts& texts) {
   std::wstring line;
@@ -45,6 +39,13 @@ std::size_t ColumnMaxLength(const DisplayTable& rows, Column column) {
   return longest;
 }
 
+bool IsExported(const CommandEntry& row, const ExportColumns& columns,
+                const std::wstring& undefinedHotkey) {
+  const bool hasDefault = columns[IndexOf(Column::Defaults)] && row.DefaultKeys != undefinedHotkey;
+  const bool hasCurrent = columns[IndexOf(Column::Current)] && row.CurrentKeys != undefinedHotkey;
+  return !row.IsHeading() && (hasDefault || hasCurrent);
+}
+
 std::wstring BuildExportText(const DisplayTable& rows, const ExportColumns& columns,
                              const Texts& texts, const std::wstring& undefinedHotkey) {
   std::array<std::size_t, 4> widths{};
@@ -54,7 +55,7 @@ std::wstring BuildExportText(const DisplayTable& rows, const ExportColumns& colu
   text.append(text.size() + 2, L'=').append(LineEnd);
   for (std::size_t position = 0; position < rows.Count(); ++position) {
     const CommandEntry& row = rows.At(position);
-    if (row.IsHeading() || !HasKey(row, columns, undefinedHotkey)) continue;
+    if (!IsExported(row, columns, undefinedHotkey)) continue;
     for (std::size_t i = 0; i < AllColumns.size(); ++i) {
       if (columns[i]) AppendCell(text, CellText(row, AllColumns[i]), widths[i]);
     }

@@ -16,6 +16,10 @@ using ExportColumns = std::array<bool, 4>;
 /// The greatest length, in characters, of a column's texts over the command rows; 0 without any.
 [[nodiscard]] std::size_t ColumnMaxLength(const DisplayTable& rows, Column column);
 
+/// True for a command that has a key in a chosen key column.
+[[nodiscard]] bool IsExported(const CommandEntry& row, const ExportColumns& columns,
+                              const std::wstring& undefinedHotkey);
+
 /// The heading, the rule below it, and one line for each command that has a key in a chosen key
 /// column, in the order of the list.
 [[nodiscard]] std::wstring BuildExportText(const DisplayTable& rows, const ExportColumns& columns,

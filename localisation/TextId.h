@@ -109,6 +109,11 @@ enum class TextId : int {
   TakenFrom = 3325,
   KeysAreDeleted = 3326,
   AllKeysAreDeleted = 3327,
+  AssignHotkey = 3340,
+  DeleteHotkeys = 3341,
+  CopyCommandName = 3342,
+  CopyRow = 3343,
+  CopyAsTable = 3344,
 };
 
 /// The number that stands for a text in a language file.

@@ -113,6 +113,11 @@ constexpr BuiltInText Table[] = {
     {TextId::TakenFrom, L"%1 It was taken from %2."},
     {TextId::KeysAreDeleted, L"%1 has lost %2."},
     {TextId::AllKeysAreDeleted, L"All keys are deleted. Commands that have lost theirs: %1"},
+    {TextId::AssignHotkey, L"Assign Hotkey"},
+    {TextId::DeleteHotkeys, L"Delete Current Hotkeys"},
+    {TextId::CopyCommandName, L"Copy Command Name"},
+    {TextId::CopyRow, L"Copy Row"},
+    {TextId::CopyAsTable, L"Copy as Table"},
 };
 
 }  // namespace

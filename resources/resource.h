@@ -71,6 +71,11 @@
 #define IDM_delall 2044
 #define IDM_show 2053
 
+// Commands of the list's context menu alone
+#define IDM_copycommand 2061
+#define IDM_copyrow 2062
+#define IDM_copytable 2063
+
 // Entries of the recent files: numbers without a gap, 1 to 16
 #define IDM_mnuFileRecentFiles1 2101
 #define IDM_mnuFileRecentFiles2 2102

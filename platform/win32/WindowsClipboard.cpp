@@ -39,14 +39,23 @@ class OpenedClipboard {
 };
 
 /// The text with its terminator in movable memory; empty when there is no memory for it.
-UniqueGlobal ToGlobal(const std::wstring& text) {
+template <typename Text>
+UniqueGlobal ToGlobal(const Text& text) {
+  using Character = typename Text::value_type;
   const std::size_t length = text.size() + 1;
-  UniqueGlobal memory(GlobalAlloc(GMEM_MOVEABLE, length * sizeof(wchar_t)));
-  auto* target = memory ? static_cast<wchar_t*>(GlobalLock(memory.get())) : nullptr;
+  UniqueGlobal memory(GlobalAlloc(GMEM_MOVEABLE, length * sizeof(Character)));
+  auto* target = memory ? static_cast<Character*>(GlobalLock(memory.get())) : nullptr;
   if (target == nullptr) return nullptr;
   std::copy_n(text.c_str(), length, target);
   GlobalUnlock(memory.get());
   return memory;
+}
+
+/// What the clipboard has taken belongs to the system.
+bool Put(UINT format, UniqueGlobal& memory) {
+  if (SetClipboardData(format, memory.get()) == nullptr) return false;
+  static_cast<void>(memory.release());
+  return true;
 }
 
 }  // namespace
@@ -57,11 +66,19 @@ bool WindowsClipboard::SetText(const std::wstring& text) {
   UniqueGlobal memory = ToGlobal(text);
   if (!memory) return false;
   const OpenedClipboard clipboard(owner_.Current());
+  return clipboard.IsOpen() && EmptyClipboard() != FALSE && Put(CF_UNICODETEXT, memory);
+}
+
+bool WindowsClipboard::SetTextAndHtml(const std::wstring& text, const std::string& html) {
+  const UINT htmlFormat = RegisterClipboardFormatW(L"HTML Format");
+  UniqueGlobal textMemory = ToGlobal(text);
+  UniqueGlobal htmlMemory = ToGlobal(html);
+  if (!textMemory || !htmlMemory || htmlFormat == 0) return false;
+  const OpenedClipboard clipboard(owner_.Current());
   if (!clipboard.IsOpen() || EmptyClipboard() == FALSE) return false;
-  // Text that the clipboard has taken belongs to the system.
-  if (SetClipboardData(CF_UNICODETEXT, memory.get()) == nullptr) return false;
-  static_cast<void>(memory.release());
-  return true;
+  if (Put(htmlFormat, htmlMemory) && Put(CF_UNICODETEXT, textMemory)) return true;
+  EmptyClipboard();
+  return false;
 }
 
 }  // namespace tessera

@@ -11,6 +11,7 @@ class WindowsClipboard final : public Clipboard {
   explicit WindowsClipboard(const OwnerWindow& owner);
 
   bool SetText(const std::wstring& text) override;
+  bool SetTextAndHtml(const std::wstring& text, const std::string& html) override;
 
  private:
   const OwnerWindow& owner_;

@@ -34,6 +34,17 @@ std::wstring ClipboardText() {
   return copy;
 }
 
+std::string ClipboardHtml() {
+  const OpenedClipboard clipboard;
+  const HANDLE memory = GetClipboardData(RegisterClipboardFormatW(L"HTML Format"));
+  const auto* const html =
+      static_cast<const char*>(memory == nullptr ? nullptr : GlobalLock(memory));
+  if (html == nullptr) return {};
+  std::string copy = html;
+  GlobalUnlock(memory);
+  return copy;
+}
+
 void SetClipboardText(const std::wstring& text) {
   const OpenedClipboard clipboard;
   EmptyClipboard();

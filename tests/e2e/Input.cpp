@@ -120,6 +120,12 @@ void Click(POINT place) {
   SendMouse(place, MOUSEEVENTF_LEFTUP);
 }
 
+void RightClick(POINT place) {
+  MoveTo(place);
+  SendMouse(place, MOUSEEVENTF_RIGHTDOWN);
+  SendMouse(place, MOUSEEVENTF_RIGHTUP);
+}
+
 void BringToFront(HWND window) {
   DWORD wanted = 0;
   GetWindowThreadProcessId(window, &wanted);

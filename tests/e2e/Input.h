@@ -37,6 +37,7 @@ void MoveTo(POINT place);
 /// Clicks with the left button at a place of the screen. Two clicks on one spot are never a double
 /// click.
 void Click(POINT place);
+void RightClick(POINT place);
 
 /// Waits until windows of that process get what is typed, bringing `window` to the front if needed.
 void BringToFront(HWND window);

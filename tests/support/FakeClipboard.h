@@ -1,4 +1,4 @@
-// A clipboard that remembers every text that was put there.
+// A clipboard that remembers all that was put there.
 #pragma once
 
 #include <string>
@@ -12,11 +12,18 @@ class FakeClipboard final : public Clipboard {
  public:
   std::vector<std::wstring> Texts;  ///< the last one is on the clipboard
 
+  std::vector<std::string> Htmls;  ///< likewise
+
   bool IsHeld = false;  ///< by another program
 
   bool SetText(const std::wstring& text) override {
     if (!IsHeld) Texts.push_back(text);
     return !IsHeld;
+  }
+
+  bool SetTextAndHtml(const std::wstring& text, const std::string& html) override {
+    if (!IsHeld) Htmls.push_back(html);
+    return SetText(text);
   }
 };
 

@@ -76,6 +76,9 @@ constexpr Operation Operations[] = {
      }},
     {"mnuFileRecentFiles_Click", Run<&Editor::mnuFileRecentFiles_Click, 2>},
     {"ClearRecentFiles", Run<&Editor::ClearRecentFiles>},
+    {"CopyCommandName", Run<&Editor::CopyCommandName>},
+    {"CopyRow", Run<&Editor::CopyRow>},
+    {"CopyTable", Run<&Editor::CopyTable>},
     {"QueryUnload", Run<&Editor::QueryUnload>},
 };
 
@@ -128,7 +131,7 @@ class BusyTimeTest : public EditorTest {
           keys.Selection(), static_cast<int>(keys.PanelToolbarEnabled()),
           int{Editor.Options().SortOrder}, static_cast<int>(MessageBoxes.Shown.size()),
           MessageBoxes.BeepCount, static_cast<int>(Dialogs.OpenRequests.size()),
-          static_cast<int>(Calls.size()), Files.Writes}) {
+          static_cast<int>(Calls.size()), static_cast<int>(Clipboard.Texts.size()), Files.Writes}) {
       state.push_back(std::to_wstring(number));
     }
     return state;

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "export/ClipboardExport.h"
+#include "export/HtmlFormat.h"
+#include "export/HtmlTable.h"
 #include "tests/support/FakeClipboard.h"
 #include "tests/support/FakeClock.h"
 #include "tests/support/FakeEnvironment.h"
@@ -106,6 +108,42 @@ TEST_F(ClipboardExportTest, EachExportOfUnsavedChangesWarnsAndNoneAfterASave) {
   EXPECT_NE(clipboard_.Texts[0].find(L"=   Important   ="), std::wstring::npos);
   EXPECT_EQ(clipboard_.Texts[1], clipboard_.Texts[0]);
   EXPECT_EQ(clipboard_.Texts[2].find(L"Important"), std::wstring::npos);
+}
+
+TEST_F(ClipboardExportTest, TheTableIsCopiedAsTextAndAsHtml) {
+  export_.Load(settingsFile_.Read());
+  EXPECT_TRUE(export_.CopyTable(clipboard_));
+  const ExportColumns columns{false, true, true, true};
+  const DisplayTable& rows = catalogue_.ListView1;
+  EXPECT_EQ(clipboard_.Texts,
+            (std::vector<std::wstring>{BuildExportText(rows, columns, texts_, L"---")}));
+  EXPECT_EQ(clipboard_.Htmls,
+            (std::vector<std::string>{HtmlFormat(BuildHtmlTable(rows, columns, texts_, L"---"))}));
+  EXPECT_FALSE(files_.Contents.contains(SettingsName)) << "nothing is stored";
+}
+
+TEST_F(ClipboardExportTest, TheTableHasTheColumnsOfTheLastOk) {
+  files_.Contents[SettingsName] = "[Tessera]\r\nClipOptions=1,1,1,1\r\n";
+  export_.Load(settingsFile_.Read());
+  export_.Click(Column::Defaults);
+  export_.Cancel();
+  EXPECT_TRUE(export_.CopyTable(clipboard_));
+  EXPECT_NE(clipboard_.Htmls.back().find("Default Hotkey"), std::string::npos);
+  export_.Ok();
+  EXPECT_TRUE(export_.CopyTable(clipboard_));
+  EXPECT_EQ(clipboard_.Htmls.back().find("Default Hotkey"), std::string::npos);
+}
+
+TEST_F(ClipboardExportTest, AClipboardThatIsHeldTakesNoTable) {
+  clipboard_.IsHeld = true;
+  EXPECT_FALSE(export_.CopyTable(clipboard_));
+  EXPECT_TRUE(clipboard_.Htmls.empty());
+}
+
+TEST_F(ClipboardExportTest, ExportStaysPlainText) {
+  Ok();
+  EXPECT_TRUE(export_.CopyTo(clipboard_, false));
+  EXPECT_TRUE(clipboard_.Htmls.empty());
 }
 
 TEST_F(ClipboardExportTest, ASettingsFileThatCannotBeWrittenSpoilsNoExport) {

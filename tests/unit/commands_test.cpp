@@ -95,6 +95,36 @@ TEST_F(CommandsTest, OpenKeysListDisablesThePanelToolbarAlone) {
   EXPECT_TRUE(StateOf(IDM_delete).Enabled);
 }
 
+TEST_F(CommandsTest, CopiesAreOfTheSelectedCommand) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, View);
+  RunCommand(Editor, IDM_copycommand);
+  EXPECT_EQ(Clipboard.Texts.back(), L"cm_View");
+  RunCommand(Editor, IDM_copyrow);
+  EXPECT_NE(Clipboard.Texts.back().find(L"\tcm_View\t"), std::wstring::npos);
+  EXPECT_EQ(Clipboard.Texts.back().find(L'\n'), std::wstring::npos);
+  RunCommand(Editor, IDM_copytable);
+  EXPECT_EQ(Clipboard.Htmls.size(), 1U);
+  EXPECT_EQ(Clipboard.Texts.size(), 3U);
+  EXPECT_EQ(MessageBoxes.BeepCount, 0);
+  Clipboard.IsHeld = true;
+  for (const int id : {IDM_copycommand, IDM_copyrow, IDM_copytable}) RunCommand(Editor, id);
+  EXPECT_EQ(MessageBoxes.BeepCount, 3);
+}
+
+TEST_F(CommandsTest, OfAHeadingThereIsNothingToCopy) {
+  Start();
+  ASSERT_FALSE(Editor.List().CommandSelected());
+  for (const int id : {IDM_copycommand, IDM_copyrow}) {
+    EXPECT_FALSE(StateOf(id).Enabled);
+    RunCommand(Editor, id);
+  }
+  Editor.CopyCommandName();
+  Editor.CopyRow();
+  EXPECT_TRUE(Clipboard.Texts.empty());
+  EXPECT_TRUE(StateOf(IDM_copytable).Enabled);
+}
+
 TEST_F(CommandsTest, OtherNumbersAreNoCommands) {
   EXPECT_TRUE(IsCommand(IDM_mnuFileRecentFiles16));
   for (const int id : {0, IDC_Combo1, IDM_mnuFileRecentFiles16 + 1}) {

@@ -132,6 +132,11 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3325}, L"%1 It was taken from %2."},
       {TextId{3326}, L"%1 has lost %2."},
       {TextId{3327}, L"All keys are deleted. Commands that have lost theirs: %1"},
+      {TextId{3340}, L"Assign Hotkey"},
+      {TextId{3341}, L"Delete Current Hotkeys"},
+      {TextId{3342}, L"Copy Command Name"},
+      {TextId{3343}, L"Copy Row"},
+      {TextId{3344}, L"Copy as Table"},
   };
   for (const BuiltInText& text : texts) {
     EXPECT_EQ(BuiltInTextOf(text.Id), text.Text) << NumberOf(text.Id);

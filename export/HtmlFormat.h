@@ -1,0 +1,13 @@
+// The format in which the clipboard holds a piece of HTML.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessera {
+
+/// A page around the piece, in UTF-8, behind a header that says at which bytes page and piece begin
+/// and end.
+[[nodiscard]] std::string HtmlFormat(std::wstring_view piece);
+
+}  // namespace tessera
