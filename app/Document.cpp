@@ -92,6 +92,7 @@ bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const Progr
   ReadModifierNames();
   wincmdPath_ = path;
   known_ = std::move(known);
+  seen_ = known_;
   unread_ = unread;
   LoadCatalogue(wincmd, step);
   SetModified(false);
@@ -172,7 +173,7 @@ void Document::DropUnsaved() {
 }
 
 SaveRequest Document::SaveRequestOfNow(KnownContents& known) const {
-  return {wincmdPath_, settings_.KeepUnknownShortcuts != 0, &known};
+  return {wincmdPath_, settings_.KeepUnknownShortcuts != 0, &known, &seen_};
 }
 
 void Document::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
@@ -190,9 +191,10 @@ void Document::Save(bool restarts) {
   const BusyTime busy(busy_);
   const bool mayStart = restarts && Restart(true);
   kept_.reset();  // a save that succeeds takes it away, and one that fails writes its own
-  const FileError error = SaveShortcuts(catalogue_, notation_, SaveRequestOfNow(known_), files_,
-                                        system_.Clock, inputFiles_.CommanderVariables());
-  if (error == FileError::None) {
+  const SaveOutcome outcome = SaveShortcuts(catalogue_, notation_, SaveRequestOfNow(known_), files_,
+                                            system_.Clock, inputFiles_.CommanderVariables());
+  if (outcome.Error == FileError::None) {
+    seen_ = known_;
     SetModified(false);
     failure_.reset();
     news_ = {.Kind = NewsKind::Saved, .File = wincmdPath_};

@@ -124,6 +124,7 @@ class Document : Pinned {
   KnownContents known_;  ///< of "Wincmd.ini" and the files that its sections are redirected to
   std::optional<FailedSave> failure_;
   News news_;
+  KnownContents seen_;   ///< the same, when they were last opened or saved
   bool modified_ = false;
   bool unread_ = false;  ///< the file is there, and reading it failed
   bool saveAndRestartEnabled_ = false;

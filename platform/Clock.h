@@ -5,9 +5,21 @@
 
 namespace tessera {
 
+struct DateAndTime {
+  int Year = 0;
+  int Month = 0;  ///< from 1, as is the day
+  int Day = 0;
+  int Hour = 0;
+  int Minute = 0;
+  int Second = 0;
+};
+
 class Clock {
  public:
   virtual ~Clock() = default;
+
+  /// Local date and time.
+  [[nodiscard]] virtual DateAndTime Now() const = 0;
 
   /// Seconds since midnight, local time.
   [[nodiscard]] virtual float SecondsSinceMidnight() const = 0;

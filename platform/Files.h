@@ -57,6 +57,10 @@ class Files {
   /// file system can tell. On an error a part of the content may stand there.
   [[nodiscard]] virtual FileError Write(const std::wstring& path, std::string_view bytes) = 0;
 
+  /// Writes behind what the file holds, creating it when it is missing, and returns as Write does.
+  /// After an error nothing of the bytes stands there, where the file system can take them back.
+  [[nodiscard]] virtual FileError Append(const std::wstring& path, std::string_view bytes) = 0;
+
   /// Puts `replacement` in the place of `target`, which keeps its attributes and security, and
   /// leaves the former target under the name `backup`, replacing what was there. After
   /// UnableToMoveReplacement2 the former target stands under `backup` and nothing under `target`;

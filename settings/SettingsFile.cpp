@@ -11,6 +11,7 @@ class ClockWithoutSleep final : public Clock {
  public:
   explicit ClockWithoutSleep(Clock& clock) : clock_(clock) {}
 
+  [[nodiscard]] DateAndTime Now() const override { return clock_.Now(); }
   [[nodiscard]] float SecondsSinceMidnight() const override {
     return clock_.SecondsSinceMidnight();
   }

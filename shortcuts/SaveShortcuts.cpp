@@ -3,24 +3,20 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
-#include "platform/Pinned.h"
-#include "shortcuts/CommandFinder.h"
+#include "shortcuts/FormerLines.h"
 #include "shortcuts/NativeKey.h"
 #include "shortcuts/ReadKeys.h"
 #include "shortcuts/RedirectSection.h"
 #include "shortcuts/WincmdIni.h"
 #include "text/Text.h"
-#include "text/TextHash.h"
 
 namespace tessera {
 namespace {
-
-using Lines = std::vector<std::pair<std::wstring, std::wstring>>;
 
 struct CatalogueLine {
   std::wstring Name;
@@ -74,10 +70,10 @@ void LeaveKeysToEditedRows(std::vector<CatalogueLine>& lines, const GivenKeys& g
   std::erase_if(lines, [](const CatalogueLine& line) { return line.Name.empty(); });
 }
 
-Lines LinesOfCatalogue(const Catalogue& catalogue, const HotkeyNotation& notation) {
+ShortcutLines LinesOfCatalogue(const Catalogue& catalogue, const HotkeyNotation& notation) {
   std::vector<CatalogueLine> rows = LinesOfRows(catalogue.ListView1, notation);
   LeaveKeysToEditedRows(rows, catalogue.Given);
-  Lines lines;
+  ShortcutLines lines;
   lines.reserve(rows.size());
   for (CatalogueLine& line : rows) {
     lines.emplace_back(std::move(line.Name), std::move(line.Command));
@@ -85,73 +81,74 @@ Lines LinesOfCatalogue(const Catalogue& catalogue, const HotkeyNotation& notatio
   return lines;
 }
 
-/// The lines of a file whose commands are not in the catalogue.
-class UnknownCommands : Pinned {
- public:
-  /// `written` takes the place of the file's lines.
-  UnknownCommands(const ProfileFile& file, const Lines& written,
-                  const std::vector<CommandEntry>& catalogueRows)
-      : linesInForce_(file.Entries(ShortcutsSection)), finder_(catalogueRows, linesInForce_) {
-    for (const auto& [name, value] : written) writtenKeys_.insert(CanonicalKey(name));
-  }
-
-  /// To be asked about each line of the file once, in their order. False also for a line that is
-  /// not in force, and for one whose key is written.
-  bool HaveLine(const std::wstring& name, const std::wstring& value) {
-    // A known command takes the name as well: a later line of that name is not in force.
-    const bool isInForce = names_.insert(name).second;
-    return isInForce && !finder_.Find(value) && !writtenKeys_.contains(CanonicalKey(name));
-  }
-
- private:
-  Lines linesInForce_;
-  CommandFinder finder_;
-  std::unordered_set<std::wstring> writtenKeys_;
-  std::unordered_set<std::wstring, HashIgnoringCase, EqualsIgnoringCase> names_;
-};
-
 bool IsTaken(const StartMenuSlot& slot) { return slot.Key.ends_with(L'*'); }
+
+/// What the user knows of the file's lines; null where that is what the save finds.
+std::shared_ptr<const std::string> SeenContent(const SaveRequest& request,
+                                               const std::wstring& path) {
+  if (request.Seen == nullptr) return nullptr;
+  const auto found = request.Seen->find(path);
+  return found == request.Seen->end() ? std::make_shared<const std::string>() : found->second;
+}
+
+/// Gives the lines that are dropped.
+std::vector<std::string> ReplaceLines(const Catalogue& catalogue, const HotkeyNotation& notation,
+                                      const SaveRequest& request, ProfileFile& file) {
+  const ShortcutLines lines = LinesOfCatalogue(catalogue, notation);
+  FormerLines former(file, lines, catalogue.lvwHidden, SeenContent(request, file.Path()));
+  return file.ReplaceEntries(ShortcutsSection, lines,
+                             [&](const std::wstring& name, const std::wstring& value) {
+                               if (EqualIgnoringCase(name, RedirectSectionKey))
+                                 return FormerLine::Stays;
+                               return former.FateOf(name, value, request.KeepUnknownShortcuts);
+                             });
+}
 
 /// Reads the files afresh and writes what the catalogue says.
 FileError WriteKeys(const Catalogue& catalogue, const HotkeyNotation& notation,
                     const SaveRequest& request, Files& files, Clock& clock,
-                    const Environment& environment) {
+                    const Environment& environment, SaveOutcome& outcome) {
   WincmdIni wincmdIni(files, clock, environment, request.Path, request.Known);
-
-  const Lines lines = LinesOfCatalogue(catalogue, notation);
-  UnknownCommands unknown(wincmdIni.Shortcuts(), lines, catalogue.lvwHidden);
-  wincmdIni.Shortcuts().ReplaceEntries(
-      ShortcutsSection, lines, [&](const std::wstring& name, const std::wstring& value) {
-        if (EqualIgnoringCase(name, RedirectSectionKey)) return FormerLine::Stays;
-        const bool isKept = request.KeepUnknownShortcuts && unknown.HaveLine(name, value);
-        return isKept ? FormerLine::Follows : FormerLine::Goes;
-      });
+  ProfileFile& shortcuts = wincmdIni.Shortcuts();
+  outcome.Path = shortcuts.Path();
+  std::vector<std::string> dropped = ReplaceLines(catalogue, notation, request, shortcuts);
   for (const StartMenuSlot& slot : catalogue.StartMenuKeys) {
     if (IsTaken(slot)) wincmdIni.StartMenu().DeleteValue(StartMenuSection, slot.ValueName);
+  }
+  // Nothing leaves a file that is not going to be written.
+  if (wincmdIni.Unread() == nullptr) {
+    PutAside(std::move(dropped), shortcuts, files, clock, outcome.Dropped);
   }
   return wincmdIni.Save(files, clock, request.Known);
 }
 
+SaveOutcome Save(const Catalogue& catalogue, const HotkeyNotation& notation,
+                 const SaveRequest& request, Files& files, Clock& clock,
+                 const Environment& environment) {
+  SaveOutcome outcome;
+  outcome.Error = SaveFromTheStart(
+      [&] { return WriteKeys(catalogue, notation, request, files, clock, environment, outcome); });
+  return outcome;
+}
+
 }  // namespace
 
-FileError SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
-                        const SaveRequest& request, Files& files, Clock& clock,
-                        const Environment& environment) {
-  const FileError error = SaveFromTheStart(
-      [&] { return WriteKeys(catalogue, notation, request, files, clock, environment); });
-  if (error != FileError::None) return error;
+SaveOutcome SaveShortcuts(Catalogue& catalogue, const HotkeyNotation& notation,
+                          const SaveRequest& request, Files& files, Clock& clock,
+                          const Environment& environment) {
+  SaveOutcome outcome = Save(catalogue, notation, request, files, clock, environment);
+  if (outcome.Error != FileError::None) return outcome;
   for (StartMenuSlot& slot : catalogue.StartMenuKeys) {
     if (IsTaken(slot)) slot = {};
   }
   catalogue.Edits.MarkSaved();
-  return FileError::None;
+  return outcome;
 }
 
 FileError WriteUnsavedShortcuts(const Catalogue& catalogue, const HotkeyNotation& notation,
                                 const SaveRequest& request, UnsavedFiles& files, Clock& clock,
                                 const Environment& environment) {
-  return SaveFromTheStart(
-      [&] { return WriteKeys(catalogue, notation, request, files, clock, environment); });
+  return Save(catalogue, notation, request, files, clock, environment).Error;
 }
 
 }  // namespace tessera

@@ -5,6 +5,12 @@
 
 namespace tessera {
 
+DateAndTime WindowsClock::Now() const {
+  SYSTEMTIME now{};
+  GetLocalTime(&now);
+  return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
+}
+
 float WindowsClock::SecondsSinceMidnight() const {
   SYSTEMTIME now{};
   GetLocalTime(&now);

@@ -15,6 +15,7 @@ using MessageFilter = std::function<bool(MSG& message)>;
 
 class WindowsClock final : public Clock {
  public:
+  [[nodiscard]] DateAndTime Now() const override;
   [[nodiscard]] float SecondsSinceMidnight() const override;
   [[nodiscard]] std::uint64_t Milliseconds() const override;
 

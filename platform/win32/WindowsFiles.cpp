@@ -108,6 +108,19 @@ DWORD NextStep(std::size_t remaining) {
   return static_cast<DWORD>(std::min(remaining, LargestStep));
 }
 
+FileError WriteAndFlush(HANDLE file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    DWORD count = 0;
+    if (WriteFile(file, bytes.data(), NextStep(bytes.size()), &count, nullptr) == FALSE) {
+      return LastError();
+    }
+    if (count == 0) return FileError::Other;
+    bytes.remove_prefix(count);
+  }
+  const FileError flushed = ResultOf(FlushFileBuffers(file));
+  return flushed == FileError::NotSupported ? FileError::None : flushed;
+}
+
 }  // namespace
 
 bool WindowsFiles::Exists(const std::wstring& path) const {
@@ -170,17 +183,19 @@ std::wstring WindowsFiles::Resolve(const std::wstring& path) const {
 FileError WindowsFiles::Write(const std::wstring& path, std::string_view bytes) {
   const UniqueHandle file = Own(CreateFileW(SystemPath(path).c_str(), GENERIC_WRITE, 0, nullptr,
                                             CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-  if (!file) return LastError();
-  while (!bytes.empty()) {
-    DWORD count = 0;
-    if (WriteFile(file.get(), bytes.data(), NextStep(bytes.size()), &count, nullptr) == FALSE) {
-      return LastError();
-    }
-    if (count == 0) return FileError::Other;
-    bytes.remove_prefix(count);
-  }
-  const FileError flushed = ResultOf(FlushFileBuffers(file.get()));
-  return flushed == FileError::NotSupported ? FileError::None : flushed;
+  return file ? WriteAndFlush(file.get(), bytes) : LastError();
+}
+
+FileError WindowsFiles::Append(const std::wstring& path, std::string_view bytes) {
+  const UniqueHandle file =
+      Own(CreateFileW(SystemPath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                      OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  LARGE_INTEGER end{};
+  if (!file || SetFilePointerEx(file.get(), {}, &end, FILE_END) == FALSE) return LastError();
+  const FileError error = WriteAndFlush(file.get(), bytes);
+  if (error == FileError::None) return error;
+  if (SetFilePointerEx(file.get(), end, nullptr, FILE_BEGIN) != FALSE) SetEndOfFile(file.get());
+  return error;
 }
 
 FileError WindowsFiles::Replace(const std::wstring& target, const std::wstring& replacement,

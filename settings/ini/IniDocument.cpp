@@ -37,6 +37,10 @@ std::string HeaderLine(std::string_view section) {
   return std::string("[").append(section).append("]").append(IniLineEnd);
 }
 
+std::string_view WithoutLineEnd(std::string_view line) {
+  return line.substr(0, line.find_last_not_of(IniLineEnd) + 1);
+}
+
 /// The line with another value. Everything up to the "=" stays, and so does the line's end.
 std::string WithValue(std::string_view line, std::string_view value) {
   const std::size_t end = line.find_last_not_of(IniLineEnd) + 1;
@@ -130,8 +134,10 @@ std::vector<std::string> IniDocument::Lines(std::string_view section) const {
   return lines;
 }
 
-std::string IniDocument::Bytes() const {
-  return encoding_ == Encoding::Ansi ? Text() : Utf16LeFromUtf8(Text()) + oddByte_;
+std::string IniDocument::Bytes() const { return Encoded(Text()) + oddByte_; }
+
+std::string IniDocument::Encoded(std::string text) const {
+  return encoding_ == Encoding::Ansi ? std::move(text) : Utf16LeFromUtf8(text);
 }
 
 void IniDocument::Set(std::string_view section, std::string_view key, std::string_view value) {
@@ -169,16 +175,17 @@ void IniDocument::RemoveSection(std::string_view section) {
   PutLines(*found, lines);
 }
 
-void IniDocument::ReplaceEntries(std::string_view section,
-                                 const std::vector<std::pair<std::string, std::string>>& entries,
-                                 const std::function<FormerLine(const Entry& line)>& becomes) {
+std::vector<std::string> IniDocument::ReplaceEntries(
+    std::string_view section, const std::vector<std::pair<std::string, std::string>>& entries,
+    const std::function<FormerLine(const Entry& line)>& becomes) {
+  std::vector<std::string> dropped;
   std::string added = KeyLines(entries, NameCodePage());
   const IniSection* const found = Section(section);
   if (found == nullptr) {
-    if (added.empty()) return;
+    if (added.empty()) return dropped;
     AppendSection(HeaderLine(TrimSpaces(section)) + added);
     Reset(Text());  // a name or value with a line break has made lines of its own
-    return;
+    return dropped;
   }
   LineList lines = found->Lines();
   std::optional<std::size_t> firstReplaced;
@@ -188,22 +195,32 @@ void IniDocument::ReplaceEntries(std::string_view section,
     const FormerLine fate = becomes(*entry);
     if (fate == FormerLine::Stays) continue;
     if (fate == FormerLine::Follows) added += lines[i];
+    if (fate == FormerLine::Dropped) dropped.emplace_back(WithoutLineEnd(lines[i]));
     lines[i] = {};
     if (!firstReplaced) firstReplaced = i;
   }
+  PutLines(*found, WithAdded(*found, std::move(lines), firstReplaced, added));
+  return dropped;
+}
+
+/// The lines of a section with `added` in the place of the first that it replaces. The views are of
+/// `added` too.
+IniDocument::LineList IniDocument::WithAdded(const IniSection& section, LineList lines,
+                                             std::optional<std::size_t> firstReplaced,
+                                             std::string& added) const {
   const auto isBlank = [](std::string_view line) { return TrimIniBlanks(line).empty(); };
   if (!added.empty()) {
-    const std::size_t place = firstReplaced.value_or(found->AfterLastKey());
+    const std::size_t place = firstReplaced.value_or(section.AfterLastKey());
     if (!HasLineEnd(lines[place - 1]) && !lines[place - 1].empty()) added.insert(0, IniLineEnd);
     // The last line of a file may have moved before others.
     const auto isNothing = [](std::string_view line) { return line.empty(); };
     const auto behind = lines.begin() + static_cast<std::ptrdiff_t>(place);
     if (!HasLineEnd(added) && !std::all_of(behind, lines.end(), isNothing)) added += IniLineEnd;
     lines.insert(behind, added);
-  } else if (IsOnlyOne(*found) && std::all_of(lines.begin() + 1, lines.end(), isBlank)) {
+  } else if (IsOnlyOne(section) && std::all_of(lines.begin() + 1, lines.end(), isBlank)) {
     lines.front() = {};
   }
-  PutLines(*found, lines);
+  return lines;
 }
 
 /// False while another section of that name follows, which the first one hides.

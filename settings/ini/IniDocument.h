@@ -21,8 +21,9 @@ namespace tessera {
 /// What becomes of a key line of a section whose entries are replaced.
 enum class FormerLine {
   Goes,
-  Stays,   ///< where it is
-  Follows  ///< moves behind the new entries, with its bytes
+  Dropped,  ///< goes, and is given back
+  Stays,    ///< where it is
+  Follows   ///< moves behind the new entries, with its bytes
 };
 
 class IniDocument {
@@ -69,6 +70,9 @@ class IniDocument {
   /// The bytes of the file as it now is.
   [[nodiscard]] std::string Bytes() const;
 
+  /// A text, in the encoding of names and values, as bytes of the file.
+  [[nodiscard]] std::string Encoded(std::string text) const;
+
   // -- Changes. Removing what is absent changes nothing.
 
   /// Sets a key to a value, written verbatim; creates section and line as needed.
@@ -82,10 +86,11 @@ class IniDocument {
   /// replace stood. A section left with nothing at all goes; one that was missing is appended. Of
   /// equal keys in `entries` the last value counts, in the place of the first. An entry whose key
   /// begins with ";" or "[" or holds a line break is left out: it would be read as another kind of
-  /// line, and every later key of the section might be lost with it.
-  void ReplaceEntries(std::string_view section,
-                      const std::vector<std::pair<std::string, std::string>>& entries,
-                      const std::function<FormerLine(const Entry& line)>& becomes);
+  /// line, and every later key of the section might be lost with it. Gives the dropped lines, whole
+  /// but for their ends.
+  std::vector<std::string> ReplaceEntries(
+      std::string_view section, const std::vector<std::pair<std::string, std::string>>& entries,
+      const std::function<FormerLine(const Entry& line)>& becomes);
 
  private:
   using SectionIndex = std::unordered_map<std::string_view, std::size_t, IniNameHash, IniNameEqual>;
@@ -117,6 +122,10 @@ class IniDocument {
 
   /// Gives line `number` an end when it has none.
   void EndLine(IniSection& section, std::size_t number);
+
+  [[nodiscard]] LineList WithAdded(const IniSection& section, LineList lines,
+                                   std::optional<std::size_t> firstReplaced,
+                                   std::string& added) const;
 
   /// Makes `lines` all that there is of a section.
   void PutLines(const IniSection& section, const LineList& lines);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "settings/ini/IniText.h"
 #include "settings/ini/MissingMarker.h"
 #include "text/Numbers.h"
 #include "text/Trim.h"
@@ -44,6 +45,8 @@ ProfileFile::ProfileFile(const Files& files, Clock& clock, std::wstring path)
   readError_ = ReadWhenFree(files, clock, path_, bytes);
   Take(std::make_shared<const std::string>(std::move(bytes)));
 }
+
+ProfileFile::ProfileFile(std::shared_ptr<const std::string> content) { Take(std::move(content)); }
 
 const std::wstring& ProfileFile::Path() const { return path_; }
 
@@ -98,6 +101,16 @@ std::vector<std::wstring> ProfileFile::Lines(std::wstring_view section) const {
   return lines;
 }
 
+std::string ProfileFile::CommentedLines(std::wstring_view comment,
+                                        const std::vector<std::string>& lines,
+                                        bool beginsFile) const {
+  std::string text;
+  if (beginsFile && IsUtf16()) text += Utf8Mark;
+  text.append("; ").append(EncodeValue(comment)).append(IniLineEnd);
+  for (const std::string& line : lines) text.append(line).append(IniLineEnd);
+  return document_.Encoded(std::move(text));
+}
+
 void ProfileFile::PassOverMark() {
   const std::string_view bytes = *former_.Bytes;
   if (bytes.starts_with(Utf8Mark)) document_ = IniDocument(bytes.substr(Utf8Mark.size()));
@@ -134,7 +147,7 @@ void ProfileFile::DeleteSection(std::wstring_view section) {
   isChanged_ = true;
 }
 
-void ProfileFile::ReplaceEntries(
+std::vector<std::string> ProfileFile::ReplaceEntries(
     std::wstring_view section, const std::vector<std::pair<std::wstring, std::wstring>>& entries,
     const std::function<FormerLine(const std::wstring& key, const std::wstring& value)>& becomes) {
   std::vector<std::pair<std::string, std::string>> encoded;
@@ -142,10 +155,11 @@ void ProfileFile::ReplaceEntries(
   for (const auto& [name, value] : entries) {
     encoded.emplace_back(EncodeName(name), EncodeValue(TrimSpaces(value)));
   }
-  document_.ReplaceEntries(EncodeName(section), encoded, [&](const IniDocument::Entry& line) {
-    return becomes(DecodeName(line.Name), DecodeValue(WithoutQuotes(line.Value)));
-  });
   isChanged_ = true;
+  return document_.ReplaceEntries(
+      EncodeName(section), encoded, [&](const IniDocument::Entry& line) {
+        return becomes(DecodeName(line.Name), DecodeValue(WithoutQuotes(line.Value)));
+      });
 }
 
 FileError ProfileFile::Save(Files& files, Clock& clock, KeepCopies copies) {

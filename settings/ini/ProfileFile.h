@@ -56,6 +56,9 @@ class ProfileFile {
   /// program.
   ProfileFile(const Files& files, Clock& clock, std::wstring path);
 
+  /// What a file once held, for look-ups alone; not null.
+  explicit ProfileFile(std::shared_ptr<const std::string> content);
+
   // -- Queries
 
   [[nodiscard]] const std::wstring& Path() const;
@@ -92,6 +95,12 @@ class ProfileFile {
   [[nodiscard]] std::vector<std::pair<std::wstring, std::wstring>> Entries(
       std::wstring_view section) const;
 
+  /// Dropped lines below a comment, as bytes of another file in this one's encoding, each with its
+  /// end; what begins a file has the byte order mark, where there is one.
+  [[nodiscard]] std::string CommentedLines(std::wstring_view comment,
+                                           const std::vector<std::string>& lines,
+                                           bool beginsFile) const;
+
   // -- How the file is read
 
   /// Passes over a UTF-8 byte order mark, which else hides a header that the file begins with. For
@@ -118,8 +127,9 @@ class ProfileFile {
   void DeleteValue(std::wstring_view section, std::wstring_view key);
   void DeleteSection(std::wstring_view section);
 
-  /// As IniDocument::ReplaceEntries; `becomes` gets the value without its quotes.
-  void ReplaceEntries(
+  /// As IniDocument::ReplaceEntries; `becomes` gets the value without its quotes. The lines that
+  /// are given back are for CommentedLines.
+  std::vector<std::string> ReplaceEntries(
       std::wstring_view section, const std::vector<std::pair<std::wstring, std::wstring>>& entries,
       const std::function<FormerLine(const std::wstring& key, const std::wstring& value)>& becomes);
 

@@ -151,6 +151,11 @@ FileError ReadWhenFree(const Files& files, Clock& clock, const std::wstring& pat
   return Patience(clock).Try([&] { return files.Read(path, bytes); });
 }
 
+FileError AppendWhenFree(Files& files, Clock& clock, const std::wstring& path,
+                         std::string_view bytes) {
+  return Patience(clock).Try([&] { return files.Append(path, bytes); });
+}
+
 FileError SaveFromTheStart(const std::function<FileError()>& save) {
   FileError error = save();
   for (int saves = 1; error == FileError::ChangedMeanwhile && saves < MostSaves; ++saves) {

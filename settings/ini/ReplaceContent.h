@@ -25,6 +25,10 @@ enum class KeepCopies {
 [[nodiscard]] FileError ReadWhenFree(const Files& files, Clock& clock, const std::wstring& path,
                                      std::string& bytes);
 
+/// Appends to a file; one that is held by another program is tried again likewise.
+[[nodiscard]] FileError AppendWhenFree(Files& files, Clock& clock, const std::wstring& path,
+                                       std::string_view bytes);
+
 /// Runs a save, which reads its file and then replaces it, again from its start when it gives
 /// ChangedMeanwhile; three times at most. Gives the last result.
 [[nodiscard]] FileError SaveFromTheStart(const std::function<FileError()>& save);

@@ -42,6 +42,10 @@ FileError UnsavedFiles::Write(const std::wstring& path, std::string_view bytes) 
   return files_.Write(path, bytes);
 }
 
+FileError UnsavedFiles::Append(const std::wstring& path, std::string_view bytes) {
+  return targets_ == Targets::Replaced ? files_.Append(path, bytes) : FileError::None;
+}
+
 FileError UnsavedFiles::Replace(const std::wstring& target, const std::wstring& replacement,
                                 const std::wstring& backup) {
   if (targets_ == Targets::Replaced) return files_.Replace(target, replacement, backup);

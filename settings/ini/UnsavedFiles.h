@@ -39,6 +39,8 @@ class UnsavedFiles final : public Files {
   [[nodiscard]] FileStamp Stamp(const std::wstring& path) const override;
   [[nodiscard]] std::wstring Resolve(const std::wstring& path) const override;
   [[nodiscard]] FileError Write(const std::wstring& path, std::string_view bytes) override;
+  /// Nothing is added where targets are left alone, and nothing is lost by that.
+  [[nodiscard]] FileError Append(const std::wstring& path, std::string_view bytes) override;
   [[nodiscard]] FileError Replace(const std::wstring& target, const std::wstring& replacement,
                                   const std::wstring& backup) override;
   [[nodiscard]] FileError Move(const std::wstring& from, const std::wstring& to) override;

@@ -108,10 +108,12 @@ void RunCommands(std::string_view bytes) {
   BuildKeyIndexes(catalogue, notation);
   MarkOverriddenDefaults(catalogue);
   const SaveRequest request{path, true};
-  Require(SaveShortcuts(catalogue, notation, request, files, clock, environment) == FileError::None,
+  Require(SaveShortcuts(catalogue, notation, request, files, clock, environment).Error ==
+              FileError::None,
           "a save failed");
   const std::string saved = files.Contents[path];
-  Require(SaveShortcuts(catalogue, notation, request, files, clock, environment) == FileError::None,
+  Require(SaveShortcuts(catalogue, notation, request, files, clock, environment).Error ==
+              FileError::None,
           "a second save failed");
   Require(files.Contents[path] == saved, "a second save changed the file");
 }

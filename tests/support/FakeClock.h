@@ -15,13 +15,16 @@ class FakeClock final : public Clock {
   FakeClock() = default;
   explicit FakeClock(Log& log) : log_(&log) {}
 
-  mutable double Seconds = 36000;  ///< since the first midnight
-  double SetBackBy = 0;            ///< seconds that the time of day was set back by
-  float StepPerReading = 0;        ///< seconds that pass after each reading
-  int SleptMilliseconds = 0;       ///< in total
+  DateAndTime Today{2026, 3, 7, 9, 5, 0};  ///< stands still
+  mutable double Seconds = 36000;          ///< since the first midnight
+  double SetBackBy = 0;                    ///< seconds that the time of day was set back by
+  float StepPerReading = 0;                ///< seconds that pass after each reading
+  int SleptMilliseconds = 0;               ///< in total
   int SleepCount = 0;
   int DoEventsCount = 0;
   std::function<void()> OnDoEvents;
+
+  [[nodiscard]] DateAndTime Now() const override { return Today; }
 
   [[nodiscard]] float SecondsSinceMidnight() const override {
     constexpr double SecondsPerDay = 86400;

@@ -25,7 +25,7 @@ class FaultyFiles final : public Files {
 
   // Results of the next calls of each operation; None lets a call through, as an empty script does.
   mutable std::deque<FileError> ReadErrors;
-  std::deque<FileError> WriteErrors, ReplaceErrors, MoveErrors, RemoveErrors;
+  std::deque<FileError> WriteErrors, AppendErrors, ReplaceErrors, MoveErrors, RemoveErrors;
 
   // The fault of one call, counted over all operations from 0: that call alone, every later call of
   // its operation too, or every later call. It does not hit Resolve, which gives no error.
@@ -34,6 +34,8 @@ class FaultyFiles final : public Files {
   FileError Fault = FileError::None;
   FaultLasts FaultStays = FaultLasts::Once;
   mutable int CallCount = 0;
+
+  FileError LastAppend = FileError::None;  ///< what the last append gave
 
   int StepsUntilKilled = -1;  ///< elementary changes before Killed is thrown; negative: never
 
@@ -84,6 +86,19 @@ class FaultyFiles final : public Files {
     return FileError::None;
   }
 
+  [[nodiscard]] FileError Append(const std::wstring& path, std::string_view bytes) override {
+    Calls.push_back(L"Append " + path);
+    const FileError error = LastAppend = Next(AppendErrors, Operation::Append);
+    const bool isPartWritten = error == FileError::Other;  // and could not be taken back
+    if (error != FileError::None && !isPartWritten) return error;
+    Step();
+    Contents[path] += bytes.substr(0, bytes.size() / 2);
+    if (isPartWritten) return error;
+    Step();
+    Contents[path] += bytes.substr(bytes.size() / 2);
+    return FileError::None;
+  }
+
   [[nodiscard]] FileError Replace(const std::wstring& target, const std::wstring& replacement,
                                   const std::wstring& backup) override {
     Calls.push_back(L"Replace " + target);
@@ -116,7 +131,7 @@ class FaultyFiles final : public Files {
   }
 
  private:
-  enum class Operation { Exists, Read, Write, Replace, Move, Remove };
+  enum class Operation { Exists, Read, Write, Append, Replace, Move, Remove };
 
   FileError Next(std::deque<FileError>& errors, Operation operation) const {
     const int call = CallCount++;

@@ -20,6 +20,7 @@ class MemoryFiles : public Files {
   // The errors of the next calls, one for each call; None lets a call succeed.
   mutable std::deque<FileError> ReadErrors;
   std::deque<FileError> WriteErrors;
+  std::deque<FileError> AppendErrors;
   std::deque<FileError> ReplaceErrors;
   std::deque<FileError> MoveErrors;
 
@@ -61,6 +62,12 @@ class MemoryFiles : public Files {
     const FileError error = Next(WriteErrors);
     // A write that fails may leave a part of the content behind.
     Contents[path] = bytes.substr(0, error == FileError::None ? bytes.size() : bytes.size() / 2);
+    return error;
+  }
+
+  [[nodiscard]] FileError Append(const std::wstring& path, std::string_view bytes) override {
+    const FileError error = Next(AppendErrors);
+    if (error == FileError::None) Contents[path] += bytes;
     return error;
   }
 

@@ -247,7 +247,8 @@ class Pair {
 
   void Save() {
     ASSERT_EQ(SaveShortcuts(session_.Tables, session_.Notation, {IniPath, false}, session_.Files,
-                            session_.Clock, session_.Environment),
+                            session_.Clock, session_.Environment)
+                  .Error,
               FileError::None);
     model_.Save();
     history_.Save();
@@ -391,7 +392,8 @@ TEST(ConflictModel, EveryKeyIsSavedAndReadBackAsItWasShown) {
         ASSERT_TRUE(session.Panel.Assign().Changed);
         ASSERT_EQ(session.Tables.ListView1.Row(1 + key % 2).CurrentKeys, shown);
         ASSERT_EQ(SaveShortcuts(session.Tables, session.Notation, {IniPath, false}, session.Files,
-                                session.Clock, session.Environment),
+                                session.Clock, session.Environment)
+                      .Error,
                   FileError::None);
         Session next;
         next.Notation = session.Notation;

@@ -191,7 +191,7 @@ class UntouchedSave {
     ReadShortcuts(catalogue_.lvwHidden, Ini().Shortcuts(), notation_, [] {});
     BuildDisplayTable(catalogue_, notation_, [] {});
     content.clear();
-    EXPECT_EQ(SaveShortcuts(catalogue_, notation_, {Path}, files_, clock_, environment_),
+    EXPECT_EQ(SaveShortcuts(catalogue_, notation_, {Path}, files_, clock_, environment_).Error,
               FileError::None);
     std::set<Line> keys;
     for (const auto& [name, command] : Ini().Shortcuts().Entries(L"Shortcuts")) {

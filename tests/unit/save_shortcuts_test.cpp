@@ -40,7 +40,7 @@ class SaveShortcutsTest : public testing::Test {
   }
 
   FileError Save() {
-    return SaveShortcuts(Shown, Notation, {Path, KeepUnknown}, Files, Clock, Environment);
+    return SaveShortcuts(Shown, Notation, {Path, KeepUnknown}, Files, Clock, Environment).Error;
   }
 
   /// The content that a save of these current keys gives an empty file.

@@ -91,7 +91,7 @@ TEST_F(ShippedData, EveryKeyIsShownAsTheSameKeyOfAUser) {
   BuildDisplayTable(catalogue, notation_, [] {});
   FakeClock clock;
   const FakeEnvironment environment;
-  ASSERT_EQ(SaveShortcuts(catalogue, notation_, {WincmdPath}, files_, clock, environment),
+  ASSERT_EQ(SaveShortcuts(catalogue, notation_, {WincmdPath}, files_, clock, environment).Error,
             FileError::None);
 
   std::vector<CommandEntry> again = rows_;

@@ -23,6 +23,21 @@ TEST(WindowsClock, SecondsSinceMidnightFollowTheLocalTime) {
   EXPECT_LT(seconds - expected, 5.0F);
 }
 
+TEST(WindowsClock, DateAndTimeAreLocal) {
+  SYSTEMTIME before{};
+  GetLocalTime(&before);
+  const DateAndTime now = WindowsClock().Now();
+  if (now.Day != before.wDay) {
+    GTEST_SKIP() << "midnight passed just now";
+  }
+  EXPECT_EQ(now.Year, before.wYear);
+  EXPECT_EQ(now.Month, before.wMonth);
+  const int start = (before.wHour * 60 + before.wMinute) * 60 + before.wSecond;
+  const int seconds = (now.Hour * 60 + now.Minute) * 60 + now.Second - start;
+  EXPECT_GE(seconds, 0);
+  EXPECT_LT(seconds, 5);
+}
+
 TEST(WindowsClock, FilterSeesPendingMessagesInOrder) {
   WindowsClock clock;
   std::vector<UINT> seen;

@@ -102,6 +102,28 @@ TEST_F(WindowsFilesTest, MissingFileAndMissingFolderAreNotFound) {
   EXPECT_EQ(files_.Move(At(L"b"), At(L"c")), FileError::NotFound);
 }
 
+TEST_F(WindowsFilesTest, AppendedBytesComeBehindWhatTheFileHolds) {
+  EXPECT_EQ(files_.Append(At(L"a"), "one"), FileError::None);
+  EXPECT_EQ(files_.Append(At(L"a"), ""), FileError::None);
+  EXPECT_EQ(files_.Append(At(L"a"), std::string("\0two", 4)), FileError::None);
+  EXPECT_EQ(ContentOf(L"a"), std::string("one\0two", 7));
+}
+
+TEST_F(WindowsFilesTest, AppendingWhereThatIsRefusedChangesNothing) {
+  Put(L"a", "x");
+  ASSERT_TRUE(SetFileAttributesW(At(L"a").c_str(), FILE_ATTRIBUTE_READONLY));
+  EXPECT_EQ(files_.Append(At(L"a"), "y"), FileError::AccessDenied);
+  EXPECT_EQ(ContentOf(L"a"), "x");
+  Put(L"b", "x");
+  {
+    const UniqueHandle held = Hold(L"b");
+    EXPECT_EQ(files_.Append(At(L"b"), "y"), FileError::SharingViolation);
+  }
+  EXPECT_EQ(ContentOf(L"b"), "x");
+  EXPECT_NE(files_.Append(folder_, "y"), FileError::None);
+  EXPECT_EQ(files_.Append(At(L"none\\b"), "y"), FileError::NotFound);
+}
+
 TEST_F(WindowsFilesTest, ReplaceLeavesTheFormerFileAsBackup) {
   Put(L"a", "old");
   Put(L"b", "new");
