@@ -1,7 +1,9 @@
 // Opening and saving "Wincmd.ini", and the question about unsaved changes.
 #include "app/Document.h"
 
+#include <iterator>
 #include <memory>
+#include <span>
 #include <utility>
 
 #include "localisation/TextTable.h"
@@ -10,6 +12,7 @@
 #include "shortcuts/InternalCommands.h"
 #include "shortcuts/ReadKeys.h"
 #include "shortcuts/SaveShortcuts.h"
+#include "shortcuts/UserCommands.h"
 #include "text/Trim.h"
 
 namespace tessera {
@@ -94,6 +97,8 @@ bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const Progr
   known_ = std::move(known);
   seen_ = known_;
   unread_ = unread;
+  keepsUnknownShortcuts_ = settings_.KeepUnknownShortcuts != 0;
+  showsUserCommands_ = settings_.ShowUserCommands != 0;
   LoadCatalogue(wincmd, step);
   SetModified(false);
   failure_.reset();
@@ -120,23 +125,46 @@ bool Document::AskToRetry(const std::wstring& path) {
 }
 
 void Document::LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step) {
+  // Until the table is built anew, the list shows the rows that hold views of them.
+  const std::shared_ptr<const UserCommandTexts> shownTexts = catalogue_.UserTexts;
   catalogue_.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation_);
-  if (catalogue_.lvwHidden.empty()) ReadMasterRows(step);
+  if (catalogue_.lvwHidden.size() == catalogue_.UserRows) ReadMasterRows(step);
+  if (settings_.ForgetKeysAtOpen != 0) ForgetFormerKeys();
+  ReadUserRows();
   inputFiles_.FindDefaultHotkeys();
   const ProfileFile defaults(system_.Files, settings_.DefaultHotKeysDataFile);
-  FillDefaultKeys(catalogue_.lvwHidden, defaults, notation_, step);
+  const std::size_t masterRows = catalogue_.lvwHidden.size() - catalogue_.UserRows;
+  FillDefaultKeys(std::span(catalogue_.lvwHidden).first(masterRows), defaults, notation_, step);
   ReadShortcuts(catalogue_.lvwHidden, wincmd.Shortcuts(), notation_, step);
   BuildDisplayTable(catalogue_, notation_, step);
   BuildKeyIndexes(catalogue_, notation_);
   MarkOverriddenDefaults(catalogue_);
 }
 
+/// Else the rows keep the keys of the files that were opened before, deliberately.
+void Document::ForgetFormerKeys() {
+  for (CommandEntry& row : catalogue_.lvwHidden) {
+    if (!row.IsHeading()) ForgetAllKeys(row, notation_);
+  }
+}
+
 void Document::ReadMasterRows(const ProgressStep& step) {
   std::string bytes;
   if (system_.Files.Read(inputFiles_.TotalcmdInc(), bytes) == FileError::None) {
     catalogue_.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(bytes));
-    catalogue_.lvwHidden = ReadInternalCommands(*catalogue_.Text, notation_.UndefinedHotkey, step);
+    std::vector<CommandEntry> rows =
+        ReadInternalCommands(*catalogue_.Text, notation_.UndefinedHotkey, step);
+    // Rows of user commands may stand there, when the file could not be read at an earlier open.
+    catalogue_.lvwHidden.insert(catalogue_.lvwHidden.begin(), std::make_move_iterator(rows.begin()),
+                                std::make_move_iterator(rows.end()));
   }
+}
+
+void Document::ReadUserRows() {
+  UserCommandFile file;
+  if (showsUserCommands_) file = ReadUserCommands(system_.Files, system_.Clock, wincmdPath_);
+  ReplaceUserRows(catalogue_, std::move(file.Commands), texts_.GetLangText(TextId::OwnCommands),
+                  notation_);
 }
 
 bool Document::ChangesMayGo() {
@@ -173,7 +201,7 @@ void Document::DropUnsaved() {
 }
 
 SaveRequest Document::SaveRequestOfNow(KnownContents& known) const {
-  return {wincmdPath_, settings_.KeepUnknownShortcuts != 0, &known, &seen_};
+  return {wincmdPath_, keepsUnknownShortcuts_, showsUserCommands_, &known, &seen_};
 }
 
 void Document::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
@@ -200,7 +228,7 @@ void Document::Save(bool restarts) {
     news_ = {.Kind = NewsKind::Saved, .File = wincmdPath_};
   } else {
     system_.MessageBoxes.Beep();
-    failure_ = {.Error = error, .KeptIn = files_.Left()};
+    failure_ = {.Error = outcome.Error, .KeptIn = files_.Left()};
   }
   const bool started = mayStart && Restart(false);
   // It runs on with its former keys, which it would not tell by itself.

@@ -107,6 +107,8 @@ class Document : Pinned {
   [[nodiscard]] bool AskToRetry(const std::wstring& path);
   void LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step);
   void ReadMasterRows(const ProgressStep& step);
+  void ForgetFormerKeys();
+  void ReadUserRows();
   [[nodiscard]] BoxAnswer AskToSaveChanges();
   [[nodiscard]] SaveRequest SaveRequestOfNow(KnownContents& known) const;
   void Save(bool restarts);
@@ -125,6 +127,8 @@ class Document : Pinned {
   std::optional<FailedSave> failure_;
   News news_;
   KnownContents seen_;   ///< the same, when they were last opened or saved
+  bool keepsUnknownShortcuts_ = false;  ///< the settings at the last open, where they act
+  bool showsUserCommands_ = false;
   bool modified_ = false;
   bool unread_ = false;  ///< the file is there, and reading it failed
   bool saveAndRestartEnabled_ = false;

@@ -51,7 +51,7 @@ void ShownRows::Refresh() {
     const CommandEntry& row = rows_.At(position);
     if (row.IsHeading()) {
       heading = position;
-    } else if (matches[row.Key - 1]) {
+    } else if (matches[rows_.PlaceOf(row.Key)]) {
       if (heading) positions_.push_back(*std::exchange(heading, std::nullopt));
       positions_.push_back(position);
       ++foundCount_;

@@ -114,6 +114,10 @@ enum class TextId : int {
   CopyCommandName = 3342,
   CopyRow = 3343,
   CopyAsTable = 3344,
+  KeepUnknownKeys = 3370,
+  ForgetKeys = 3371,
+  ShowOwnCommands = 3372,
+  OwnCommands = 3373,
 };
 
 /// The number that stands for a text in a language file.

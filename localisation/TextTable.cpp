@@ -118,6 +118,10 @@ constexpr BuiltInText Table[] = {
     {TextId::CopyCommandName, L"Copy Command Name"},
     {TextId::CopyRow, L"Copy Row"},
     {TextId::CopyAsTable, L"Copy as Table"},
+    {TextId::KeepUnknownKeys, L"Keep keys of unknown commands. (from the next open)"},
+    {TextId::ForgetKeys, L"Forget the keys of former files. (from the next open)"},
+    {TextId::ShowOwnCommands, L"Show own commands of usercmd.ini. (from the next open)"},
+    {TextId::OwnCommands, L"Own commands (usercmd.ini)"},
 };
 
 }  // namespace

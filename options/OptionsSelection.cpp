@@ -13,9 +13,10 @@ namespace tessera {
 namespace {
 
 /// The settings behind the boxes, in the order of OptionBox.
-constexpr std::array<short Settings::*, 6> BoxSettings{
+constexpr std::array<short Settings::*, 9> BoxSettings{
     &Settings::CommandListShowLines, &Settings::FixedBorders,      &Settings::FlatUserInterface,
     &Settings::AlwaysRestartTC,      &Settings::UseContextMenuKey, &Settings::ReverseOrderHotkey,
+    &Settings::KeepUnknownShortcuts, &Settings::ForgetKeysAtOpen,  &Settings::ShowUserCommands,
 };
 
 int Settings::*ColorSetting(OptionColor swatch) {

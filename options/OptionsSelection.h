@@ -19,6 +19,9 @@ enum class OptionBox {
   AlwaysRestartTC,
   UseContextMenuKey,
   ReverseOrderHotkey,
+  KeepUnknownShortcuts,
+  ForgetKeysAtOpen,
+  ShowUserCommands,
 };
 
 /// The colour swatches.
@@ -72,7 +75,7 @@ class OptionsSelection {
   Settings& settings_;
   Dialogs& dialogs_;
   const Environment& environment_;
-  std::array<bool, 6> boxes_{};
+  std::array<bool, 9> boxes_{};
   bool usesDefaultLanguage_ = true;
   std::wstring languageFilePath_;
   bool applyEnabled_ = false;

@@ -28,6 +28,9 @@ constexpr DialogControl Controls[] = {
     {IDC_chkAlwaysRestartTC, ControlKind::CheckBox, TextId::AutoRestart, Operation},
     {IDC_chkUseContextMenuKey, ControlKind::CheckBox, TextId::UseContextMenuKey, Operation},
     {IDC_chkReverseOrderHotkey, ControlKind::CheckBox, TextId::ReverseOrder, Operation},
+    {IDC_chkKeepUnknownShortcuts, ControlKind::CheckBox, TextId::KeepUnknownKeys, Operation},
+    {IDC_chkForgetKeysAtOpen, ControlKind::CheckBox, TextId::ForgetKeys, Operation},
+    {IDC_chkShowUserCommands, ControlKind::CheckBox, TextId::ShowOwnCommands, Operation},
     {IDC_Frame4, ControlKind::Frame, TextId::ChangeLanguage, Language},
     {IDC_optUseDefaultLanguage, ControlKind::OptionButton, TextId::DefaultLanguage, Language},
     {IDC_optUseOtheLanguage, ControlKind::OptionButton, TextId::OtherLanguage, Language},
@@ -62,6 +65,9 @@ constexpr Box Boxes[] = {
     {IDC_chkAlwaysRestartTC, OptionBox::AlwaysRestartTC},
     {IDC_chkUseContextMenuKey, OptionBox::UseContextMenuKey},
     {IDC_chkReverseOrderHotkey, OptionBox::ReverseOrderHotkey},
+    {IDC_chkKeepUnknownShortcuts, OptionBox::KeepUnknownShortcuts},
+    {IDC_chkForgetKeysAtOpen, OptionBox::ForgetKeysAtOpen},
+    {IDC_chkShowUserCommands, OptionBox::ShowUserCommands},
 };
 
 OptionColor SwatchOf(int swatchId) {

@@ -51,6 +51,9 @@
 #define IDC_optUseOtheLanguage 1067
 #define IDC_txtLanguageFilePath 1068
 #define IDC_cmdBrowseForLangFile 1069
+#define IDC_chkKeepUnknownShortcuts 1080
+#define IDC_chkForgetKeysAtOpen 1081
+#define IDC_chkShowUserCommands 1082
 
 // Commands of the menus and the main toolbar
 #define IDM_mnuFileOpen 2001

@@ -61,6 +61,8 @@ constexpr std::array Fields{
     Field{ProgramSection, L"MultiHotkeySeparator", &Settings::MultiHotkeySeparator},
     Field{ProgramSection, L"UndefinedHotkey", &Settings::UndefinedHotkey},
     Field{ProgramSection, L"KeepUnknownShortcuts", &Settings::KeepUnknownShortcuts},
+    Field{ProgramSection, L"ForgetKeysAtOpen", &Settings::ForgetKeysAtOpen},
+    Field{ProgramSection, L"ShowUserCommands", &Settings::ShowUserCommands},
 };
 
 /// The stored settings, in the order in which they are written.
@@ -92,6 +94,10 @@ constexpr std::array<Member, 28> StoredSettings{&Settings::FixedBorders,
                                                 &Settings::MultiHotkeySeparator,
                                                 &Settings::UndefinedHotkey,
                                                 &Settings::ReverseOrderHotkey};
+
+/// These follow once they were used: a file without them stays without them while they are 0.
+constexpr std::array StoredOnceUsed{&Settings::KeepUnknownShortcuts, &Settings::ForgetKeysAtOpen,
+                                    &Settings::ShowUserCommands};
 
 /// The settings that a maximised window leaves as they are.
 constexpr std::array<Member, 4> PlacementSettings{
@@ -172,6 +178,11 @@ void WriteSettings(const Settings& settings, ProfileFile& file) {
     const bool isPlacement =
         std::ranges::find(PlacementSettings, setting) != PlacementSettings.end();
     if (!isPlacement || !maximised) Write(setting, settings, file);
+  }
+  for (const auto setting : StoredOnceUsed) {
+    const Field& field = *FieldOf(setting);
+    const bool isStored = file.Section(field.Section).Find(field.Key).has_value();
+    if (isStored || settings.*setting != 0) Write(setting, settings, file);
   }
 }
 

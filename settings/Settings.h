@@ -45,7 +45,9 @@ struct Settings {
   short ReverseOrderHotkey = 0;
   std::wstring MultiHotkeySeparator = L" = ";  ///< with one blank on each side
   std::wstring UndefinedHotkey = L"---";
-  short KeepUnknownShortcuts = 0;  ///< only read
+  short KeepUnknownShortcuts = 0;
+  short ForgetKeysAtOpen = 0;
+  short ShowUserCommands = 0;
 };
 
 /// Takes all settings from what was read at the start, each with its default; when there is no

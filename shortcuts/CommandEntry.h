@@ -8,8 +8,8 @@
 
 namespace tessera {
 
-/// Names a row for as long as the catalogue lives: its ordinal in "Totalcmd.inc", from 1. 0 is
-/// none.
+/// Names a row for as long as the catalogue lives: its ordinal in "Totalcmd.inc", from 1; rows of
+/// user commands follow, at each open with numbers that no row has had. 0 is none.
 using RowKey = std::size_t;
 
 enum class RowIcon { None, CommentBlock, HasKey };

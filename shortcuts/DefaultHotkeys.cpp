@@ -9,7 +9,7 @@ constexpr std::size_t BufferLength = 500;
 
 }  // namespace
 
-void FillDefaultKeys(std::vector<CommandEntry>& rows, const ProfileFile& dataFile,
+void FillDefaultKeys(std::span<CommandEntry> rows, const ProfileFile& dataFile,
                      const HotkeyNotation& notation, const ProgressStep& step) {
   const ProfileSection section = dataFile.Section(Section);
   // What stands for an absent value takes the same way as a value does.

@@ -1,7 +1,7 @@
 // The data file that says which keys Total Commander binds by default.
 #pragma once
 
-#include <vector>
+#include <span>
 
 #include "settings/ini/ProfileFile.h"
 #include "shortcuts/Catalogue.h"
@@ -11,7 +11,7 @@ namespace tessera {
 
 /// Fills the default keys of every command row, replacing what was there; a code that the file
 /// lacks gives the undefined marker.
-void FillDefaultKeys(std::vector<CommandEntry>& rows, const ProfileFile& dataFile,
+void FillDefaultKeys(std::span<CommandEntry> rows, const ProfileFile& dataFile,
                      const HotkeyNotation& notation, const ProgressStep& step);
 
 }  // namespace tessera

@@ -2,7 +2,6 @@
 #include "shortcuts/DisplayTable.h"
 
 #include <algorithm>
-#include <numeric>
 #include <string_view>
 #include <utility>
 
@@ -30,17 +29,26 @@ const CommandEntry& DisplayTable::At(std::size_t position) const {
   return Row(order_.at(position));
 }
 
-const CommandEntry& DisplayTable::Row(RowKey key) const { return rows_.at(key - 1); }
+const CommandEntry& DisplayTable::Row(RowKey key) const { return rows_.at(PlaceOf(key)); }
 
 std::optional<std::size_t> DisplayTable::PositionOf(RowKey key) const {
-  if (key == 0 || key > positions_.size()) return std::nullopt;
-  return positions_[key - 1];
+  const std::size_t place = PlaceOf(key);
+  if (place == rows_.size() || rows_[place].Key != key) return std::nullopt;
+  return positions_[place];
+}
+
+std::size_t DisplayTable::PlaceOf(RowKey key) const {
+  // Master rows stand where their keys tell. Those of user commands, which each open replaces, do
+  // not.
+  if (key != 0 && key <= rows_.size() && rows_[key - 1].Key == key) return key - 1;
+  const auto found = std::ranges::lower_bound(rows_, key, {}, &CommandEntry::Key);
+  return static_cast<std::size_t>(found - rows_.begin());
 }
 
 std::size_t DisplayTable::Changes() const { return changes_; }
 
 HoldersOfKey DisplayTable::HoldersOf(std::wstring_view key, const HotkeyNotation& notation) const {
-  return holders_.Of(key, rows_, notation);
+  return holders_.Of(key, *this, notation);
 }
 
 void DisplayTable::Fill(std::vector<CommandEntry> rows) {
@@ -51,7 +59,7 @@ void DisplayTable::Fill(std::vector<CommandEntry> rows) {
 }
 
 CommandEntry& DisplayTable::Edit(RowKey key) {
-  CommandEntry& row = rows_.at(key - 1);
+  CommandEntry& row = rows_.at(PlaceOf(key));
   if (former_ != nullptr) former_->push_back(row);
   ++changes_;
   holders_.NoteChange(key);
@@ -67,7 +75,7 @@ void DisplayTable::RemoveHeadings() {
 
 void DisplayTable::RestoreFileOrder() {
   order_.resize(rows_.size());
-  std::iota(order_.begin(), order_.end(), RowKey{1});
+  std::ranges::transform(rows_, order_.begin(), &CommandEntry::Key);
   NumberPositions();
 }
 
@@ -95,7 +103,7 @@ void DisplayTable::Sort(Column column, SortDirection direction) {
 void DisplayTable::NumberPositions() {
   positions_.assign(rows_.size(), std::nullopt);
   for (std::size_t position = 0; position < order_.size(); ++position) {
-    positions_[order_[position] - 1] = position;
+    positions_[PlaceOf(order_[position])] = position;
   }
 }
 

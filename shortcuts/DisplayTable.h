@@ -47,6 +47,9 @@ class DisplayTable {
   /// Where the row is displayed; nothing while it is left out, or for a key the table lacks.
   [[nodiscard]] std::optional<std::size_t> PositionOf(RowKey key) const;
 
+  /// Where the row of that key, or of the next higher one, stands in file order, from 0.
+  [[nodiscard]] std::size_t PlaceOf(RowKey key) const;
+
   /// Calls `visit` with each row in file order, also those that are left out.
   template <typename Visit>
   void ForEachRow(Visit visit) const {
@@ -62,7 +65,7 @@ class DisplayTable {
 
   // -- Changes
 
-  /// Takes all rows in file order; their keys must be 1, 2, 3 and so on.
+  /// Takes all rows in file order; their keys must ascend.
   void Fill(std::vector<CommandEntry> rows);
 
   /// To be changed until the next question who holds a key.

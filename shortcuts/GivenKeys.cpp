@@ -53,4 +53,13 @@ void GivenKeys::Exchange(FormerMoment& former) {
   former.second = moment;
 }
 
+void GivenKeys::Move(RowKey from, RowKey to) {
+  auto next = moments_.lower_bound({from, {}});
+  while (next != moments_.end() && next->first.first == from) {
+    auto moment = moments_.extract(next++);
+    moment.key().first = to;
+    if (to != 0) moments_.insert(std::move(moment));
+  }
+}
+
 }  // namespace tessera

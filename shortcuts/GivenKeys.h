@@ -34,6 +34,9 @@ class GivenKeys {
   /// Brings back a moment as it was, and takes the one that there is in exchange.
   void Exchange(FormerMoment& former);
 
+  /// Lets the row `to`, 0 for none, follow in the place of the row `from`, which goes.
+  void Move(RowKey from, RowKey to);
+
  private:
   std::map<std::pair<RowKey, std::wstring>, std::size_t> moments_;
   std::size_t lastMoment_ = 0;

@@ -2,8 +2,10 @@
 #include "shortcuts/KeyHolders.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
+#include "shortcuts/DisplayTable.h"
 #include "text/Text.h"
 
 namespace tessera {
@@ -68,19 +70,19 @@ void KeyHolders::NoteChange(RowKey row) {
   if (made_) changed_.push_back(row);
 }
 
-HoldersOfKey KeyHolders::Of(std::wstring_view key, std::span<const CommandEntry> rows,
+HoldersOfKey KeyHolders::Of(std::wstring_view key, const DisplayTable& rows,
                             const HotkeyNotation& notation) {
   if (!std::exchange(made_, true)) {
-    for (const CommandEntry& row : rows) ListRow(row, notation);
+    rows.ForEachRow([&](const CommandEntry& row) { ListRow(row, notation); });
   }
-  for (const RowKey row : std::exchange(changed_, {})) ListRow(rows[row - 1], notation);
+  for (const RowKey row : std::exchange(changed_, {})) ListRow(rows.Row(row), notation);
 
   HoldersOfKey holders;
   std::vector<std::size_t> inMarkedCells;
   const auto group = rows_.find(WithoutMarks(key));
   if (group == rows_.end()) return holders;
   std::erase_if(group->second, [&](RowKey row) {
-    const RowHolds holds = HoldsOf(rows[row - 1], key, notation);
+    const RowHolds holds = HoldsOf(rows.Row(row), key, notation);
     if (holds.DefaultMark == Mark::OnCell) inMarkedCells.push_back(holders.Defaults.size());
     if (holds.Default) holders.Defaults.push_back({row, holds.DefaultMark == Mark::OnKey});
     if (holds.Current) holders.Currents.push_back(row);

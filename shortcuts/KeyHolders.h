@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <set>
-#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -15,6 +14,8 @@
 #include "text/TextHash.h"
 
 namespace tessera {
+
+class DisplayTable;
 
 /// True for a piece of a default-keys cell that is the key, or the key and marks: a cell may have
 /// been marked several times. A key that ends in the mark, such as "Num *", is not taken for a
@@ -51,7 +52,7 @@ class KeyHolders {
 
   /// `rows` are those of a table in file order, whose changes have been told; `key` is in display
   /// notation. The notation must stay the same until the next Clear.
-  [[nodiscard]] HoldersOfKey Of(std::wstring_view key, std::span<const CommandEntry> rows,
+  [[nodiscard]] HoldersOfKey Of(std::wstring_view key, const DisplayTable& rows,
                                 const HotkeyNotation& notation);
 
  private:

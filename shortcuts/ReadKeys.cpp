@@ -117,6 +117,11 @@ void ForgetKey(CommandEntry& row, std::wstring_view key, const HotkeyNotation& n
   row.ReadKeys = std::move(left);
 }
 
+void ForgetAllKeys(CommandEntry& row, const HotkeyNotation& notation) {
+  row.CurrentKeys = notation.UndefinedHotkey;
+  row.ReadKeys.clear();
+}
+
 void RememberKeys(CommandEntry& row, const HotkeyNotation& notation) {
   if (!row.ReadKeys.empty() || ReadsAsNone(row.CurrentKeys, notation)) return;
   row.ReadKeys = KeysByCell(row.CurrentKeys, notation);

@@ -31,6 +31,9 @@ void AddComposedKey(CommandEntry& row, std::wstring_view key, const HotkeyNotati
 /// the cell goes when one of them does.
 void ForgetKey(CommandEntry& row, std::wstring_view key, const HotkeyNotation& notation);
 
+/// Leaves a command row without any key.
+void ForgetAllKeys(CommandEntry& row, const HotkeyNotation& notation);
+
 /// Remembers how `notation` writes the row's keys, for when another way to write or to split its
 /// cell comes in force. Rows that remember their keys already stay as they are.
 void RememberKeys(CommandEntry& row, const HotkeyNotation& notation);

@@ -12,6 +12,7 @@
 #include "shortcuts/NativeKey.h"
 #include "shortcuts/ReadKeys.h"
 #include "shortcuts/RedirectSection.h"
+#include "shortcuts/UserCommands.h"
 #include "shortcuts/WincmdIni.h"
 #include "text/Text.h"
 
@@ -96,12 +97,13 @@ std::vector<std::string> ReplaceLines(const Catalogue& catalogue, const HotkeyNo
                                       const SaveRequest& request, ProfileFile& file) {
   const ShortcutLines lines = LinesOfCatalogue(catalogue, notation);
   FormerLines former(file, lines, catalogue.lvwHidden, SeenContent(request, file.Path()));
-  return file.ReplaceEntries(ShortcutsSection, lines,
-                             [&](const std::wstring& name, const std::wstring& value) {
-                               if (EqualIgnoringCase(name, RedirectSectionKey))
-                                 return FormerLine::Stays;
-                               return former.FateOf(name, value, request.KeepUnknownShortcuts);
-                             });
+  return file.ReplaceEntries(
+      ShortcutsSection, lines, [&](const std::wstring& name, const std::wstring& value) {
+        if (EqualIgnoringCase(name, RedirectSectionKey)) return FormerLine::Stays;
+        const bool isKept =
+            request.KeepUnknownShortcuts || (request.KeepUserCommands && IsUserCommand(value));
+        return former.FateOf(name, value, isKept);
+      });
 }
 
 /// Reads the files afresh and writes what the catalogue says.

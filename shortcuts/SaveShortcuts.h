@@ -17,6 +17,7 @@ namespace tessera {
 struct SaveRequest {
   std::wstring Path;                  ///< of "Wincmd.ini"
   bool KeepUnknownShortcuts = false;  ///< keep lines whose command is not in the catalogue
+  bool KeepUserCommands = false;      ///< of those, lines of the user's own commands at least
   KnownContents* Known = nullptr;     ///< as WincmdIni takes it; may be null
 
   /// What the files held at the last open or save; null stands for what the save finds.

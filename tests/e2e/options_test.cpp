@@ -37,7 +37,13 @@ const std::vector<BoxCase> Boxes{
     {IDC_chkUseContextMenuKey, Operation, L"Use ContextMenu key instead of Alt key.",
      "UseContextMenuKey", false},
     {IDC_chkReverseOrderHotkey, Operation,
-     L"Show Hotkeys in Reverse Order. (requires program restart)", "ReverseOrderHotkey", false}};
+     L"Show Hotkeys in Reverse Order. (requires program restart)", "ReverseOrderHotkey", false},
+    {IDC_chkKeepUnknownShortcuts, Operation, L"Keep keys of unknown commands. (from the next open)",
+     "KeepUnknownShortcuts", false},
+    {IDC_chkForgetKeysAtOpen, Operation, L"Forget the keys of former files. (from the next open)",
+     "ForgetKeysAtOpen", false},
+    {IDC_chkShowUserCommands, Operation, L"Show own commands of usercmd.ini. (from the next open)",
+     "ShowUserCommands", false}};
 
 class OptionsTest : public EndToEndTest {
  protected:

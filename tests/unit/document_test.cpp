@@ -340,6 +340,59 @@ TEST_F(EditorTest, ShortcutsOfUnknownCommandsStayWhereTheSettingIsNotZero) {
   }
 }
 
+// -- Options that act at the next open
+
+/// Ticks or clears one box of the options, and closes them by OK.
+void Toggle(Editor& editor, OptionBox box) {
+  OptionsSelection& options = editor.BeginOptions();
+  options.Click(box);
+  options.Apply();
+  editor.EndOptions();
+}
+
+TEST_F(EditorTest, KeepingUnknownShortcutsActsAtTheNextOpen) {
+  const std::string kept = "A+F5=em_own\r\n";
+  Ini() = "[Shortcuts]\r\n" + kept;
+  Start();
+  Toggle(Editor, OptionBox::KeepUnknownShortcuts);
+  Editor.OpenShortcutFile(false, IniFile, false);
+  Assign(Pack, L"X");
+  Toggle(Editor, OptionBox::KeepUnknownShortcuts);
+  Editor.FileSave();
+  EXPECT_EQ(Ini(), "[Shortcuts]\r\nX=cm_Pack\r\n" + kept);
+  Editor.OpenShortcutFile(false, IniFile, false);
+  Assign(Pack, L"Y");
+  Toggle(Editor, OptionBox::KeepUnknownShortcuts);
+  Editor.FileSave();
+  EXPECT_EQ(Ini().find(kept), std::string::npos);
+}
+
+TEST_F(EditorTest, AFurtherOpenShowsTheKeysOfItsFileAloneWhereFormerOnesAreForgotten) {
+  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nF9=cm_View\r\nW+Q=cm_Copy\r\n";
+  Start();
+  const auto keysOf = [this](std::size_t row) {
+    return Editor.Document().Rows().At(row).CurrentKeys;
+  };
+  Toggle(Editor, OptionBox::ForgetKeysAtOpen);
+  EXPECT_EQ(keysOf(View), L"Ctrl + F3");
+  Editor.OpenShortcutFile(false, OtherIniFile, false);
+  EXPECT_EQ(keysOf(View), L"F9");
+  EXPECT_EQ(keysOf(Copy), L"Q");
+  Editor.OpenShortcutFile(false, IniFile, false);
+  EXPECT_EQ(keysOf(View), L"Ctrl + F3");
+  EXPECT_EQ(keysOf(Copy), L"F3");
+  Assign(Pack, L"X");
+  Editor.FileSave();
+  EXPECT_NE(Ini().find("[Shortcuts]\r\nF3=cm_Copy\r\nC+F3=cm_View\r\nX=cm_Pack\r\n"),
+            std::string::npos);
+  EXPECT_FALSE(Files.Contents.contains(IniFile + L".dropped"));
+
+  Toggle(Editor, OptionBox::ForgetKeysAtOpen);
+  Editor.OpenShortcutFile(false, OtherIniFile, false);
+  EXPECT_EQ(keysOf(View), L"Ctrl + F3 = F9");
+  EXPECT_EQ(keysOf(Heading), L"");
+}
+
 // -- Keys that two rows hold
 
 /// F3, a default of View, is Pack's, and then Copy's: the question names the default alone, so both

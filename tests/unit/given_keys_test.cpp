@@ -41,5 +41,21 @@ TEST(GivenKeys, AKeyThatAnEditTakesEndsForThatRow) {
   EXPECT_NE(given.MomentOf(2, L"F7"), 0U) << "the edit did not concern a key that was not there";
 }
 
+TEST(GivenKeys, GoOverToTheRowThatFollows) {
+  GivenKeys given;
+  given.Give(7, L"F1");
+  given.Give(7, L"C+F2");
+  given.Give(8, L"F1");
+  given.Move(7, 9);
+  EXPECT_EQ(given.MomentOf(7, L"F1"), 0U);
+  EXPECT_EQ(given.MomentOf(9, L"F1"), 1U);
+  EXPECT_EQ(given.MomentOf(9, L"C+F2"), 2U);
+  EXPECT_EQ(given.MomentOf(8, L"F1"), 3U);
+  given.Move(8, 0);
+  given.Move(1, 2);
+  EXPECT_EQ(given.MomentOf(8, L"F1"), 0U);
+  EXPECT_EQ(given.MomentOf(0, L"F1"), 0U);
+}
+
 }  // namespace
 }  // namespace tessera::given_keys_test

@@ -48,7 +48,9 @@ TEST(HostileValues, SettingsOutOfRangeAndNoNumbersLeaveAWorkingProgram) {
                             "SortOrder",
                             "SortedColumn",
                             "ReverseOrderHotkey",
-                            "KeepUnknownShortcuts"}) {
+                            "KeepUnknownShortcuts",
+                            "ForgetKeysAtOpen",
+                            "ShowUserCommands"}) {
       content.append(key).append("=").append(value).append("\r\n");
     }
     World world;

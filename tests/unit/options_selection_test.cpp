@@ -11,9 +11,10 @@
 namespace tessera::options_selection_test {
 namespace {
 
-constexpr std::array AllBoxes{OptionBox::ShowGridLines,     OptionBox::FixedBorders,
-                              OptionBox::FlatUserInterface, OptionBox::AlwaysRestartTC,
-                              OptionBox::UseContextMenuKey, OptionBox::ReverseOrderHotkey};
+constexpr std::array AllBoxes{
+    OptionBox::ShowGridLines,        OptionBox::FixedBorders,      OptionBox::FlatUserInterface,
+    OptionBox::AlwaysRestartTC,      OptionBox::UseContextMenuKey, OptionBox::ReverseOrderHotkey,
+    OptionBox::KeepUnknownShortcuts, OptionBox::ForgetKeysAtOpen,  OptionBox::ShowUserCommands};
 
 class OptionsSelectionTest : public testing::Test {
  protected:
@@ -22,7 +23,8 @@ class OptionsSelectionTest : public testing::Test {
     std::string digits;
     for (const short setting :
          {settings_.CommandListShowLines, settings_.FixedBorders, settings_.FlatUserInterface,
-          settings_.AlwaysRestartTC, settings_.UseContextMenuKey, settings_.ReverseOrderHotkey}) {
+          settings_.AlwaysRestartTC, settings_.UseContextMenuKey, settings_.ReverseOrderHotkey,
+          settings_.KeepUnknownShortcuts, settings_.ForgetKeysAtOpen, settings_.ShowUserCommands}) {
       digits += std::to_string(setting);
     }
     return digits;
@@ -42,9 +44,10 @@ TEST_F(OptionsSelectionTest, ShowsTheSettings) {
   settings_.LanguageFile = L"C:\\a.lng";
   options_.Load();
   EXPECT_TRUE(options_.Checked(OptionBox::ShowGridLines));
-  for (const OptionBox box :
-       {OptionBox::FixedBorders, OptionBox::FlatUserInterface, OptionBox::AlwaysRestartTC,
-        OptionBox::UseContextMenuKey, OptionBox::ReverseOrderHotkey}) {
+  for (const OptionBox box : {OptionBox::FixedBorders, OptionBox::FlatUserInterface,
+                              OptionBox::AlwaysRestartTC, OptionBox::UseContextMenuKey,
+                              OptionBox::ReverseOrderHotkey, OptionBox::KeepUnknownShortcuts,
+                              OptionBox::ForgetKeysAtOpen, OptionBox::ShowUserCommands}) {
     EXPECT_FALSE(options_.Checked(box)) << static_cast<int>(box);
   }
   EXPECT_EQ(options_.Color(OptionColor::Foreground), 255);
@@ -84,18 +87,19 @@ TEST_F(OptionsSelectionTest, ApplyIsDisabledAfterLoadAndAfterEachApply) {
 
 TEST_F(OptionsSelectionTest, EveryBoxEditsItsOwnSetting) {
   settings_.FixedBorders = 0;
-  const std::array expected{"100000", "010000", "001000", "000100", "000010", "000001"};
+  const std::array expected{"100000000", "010000000", "001000000", "000100000", "000010000",
+                            "000001000", "000000100", "000000010", "000000001"};
   for (std::size_t i = 0; i < AllBoxes.size(); ++i) {
     options_.Load();
     options_.Click(AllBoxes[i]);
     EXPECT_TRUE(options_.Checked(AllBoxes[i]));
     EXPECT_TRUE(options_.ApplyEnabled());
-    EXPECT_EQ(BoxSettings(), "000000") << "before Apply";
+    EXPECT_EQ(BoxSettings(), "000000000") << "before Apply";
     options_.Apply();
     EXPECT_EQ(BoxSettings(), expected[i]);
     options_.Click(AllBoxes[i]);
     options_.Apply();
-    EXPECT_EQ(BoxSettings(), "000000");
+    EXPECT_EQ(BoxSettings(), "000000000");
   }
 }
 
@@ -104,7 +108,7 @@ TEST_F(OptionsSelectionTest, WithoutApplyBoxesAndLanguageStayAsTheyWere) {
   for (const OptionBox box : AllBoxes) options_.Click(box);
   options_.UseDefaultLanguage(false);
   options_.EditLanguageFilePath(L"C:\\a.lng");
-  EXPECT_EQ(BoxSettings(), "010000");
+  EXPECT_EQ(BoxSettings(), "010000000");
   EXPECT_EQ(settings_.UseDefaultLanguage, 1);
   EXPECT_TRUE(IsMissing(settings_.LanguageFile));
   options_.Load();

@@ -109,6 +109,8 @@ TEST_F(SettingsTest, FileWithoutTheKeysGivesTheDefaultsOfTheKeys) {
   EXPECT_EQ(settings.UndefinedHotkey, L"---");
   EXPECT_EQ(settings.ShowControlsBackColor, 0);
   EXPECT_EQ(settings.KeepUnknownShortcuts, 0);
+  EXPECT_EQ(settings.ForgetKeysAtOpen, 0);
+  EXPECT_EQ(settings.ShowUserCommands, 0);
   EXPECT_EQ(files_.Contents[Path], "[Tessera]\r\n");
 }
 
@@ -123,7 +125,8 @@ TEST_F(SettingsTest, EveryKeyIsReadFromItsSection) {
       "[Common]\r\nLanguageFile=%lang%\\de.lng\r\nTCInstallDir=D:\\TC\r\n"
       "UserDefinedWincmd=D:\\w.ini\r\nNumberOfRecentFiles=5\r\nShowControlsBackColor=1\r\n"
       "FontSize=99\r\n[Tessera]\r\nFontSize=12\r\nFontName=Tahoma\r\nForegroundColor=255\r\n"
-      "AlwaysRestartTC=1\r\nKeepUnknownShortcuts=1\r\nNumberOfRecentFiles=7\r\n";
+      "AlwaysRestartTC=1\r\nKeepUnknownShortcuts=1\r\nForgetKeysAtOpen=3\r\n"
+      "ShowUserCommands=99999\r\nNumberOfRecentFiles=7\r\n";
   environment_.Variables[L"lang"] = L"C:\\Languages";
   const Settings settings = Load();
   EXPECT_EQ(settings.LanguageFile, L"%lang%\\de.lng");
@@ -137,6 +140,8 @@ TEST_F(SettingsTest, EveryKeyIsReadFromItsSection) {
   EXPECT_EQ(settings.ForegroundColor, 255);
   EXPECT_EQ(settings.AlwaysRestartTC, 1);
   EXPECT_EQ(settings.KeepUnknownShortcuts, 1);
+  EXPECT_EQ(settings.ForgetKeysAtOpen, 3);
+  EXPECT_EQ(settings.ShowUserCommands, 32767);
 }
 
 TEST_F(SettingsTest, EveryStoredKeyIsWrittenBackAsItWasRead) {
@@ -274,8 +279,37 @@ TEST_F(SettingsTest, OnlyReadKeysAreNotWritten) {
   settings.UserDefinedWincmd = L"C:\\w.ini";
   EXPECT_EQ(Save(settings), FileError::None);
   for (const char* const key : {"TCInstallDir", "UserDefinedWincmd", "ShowControlsBackColor",
-                                "DefaultHotKeysDataFile", "KeepUnknownShortcuts", "LanguageFile"})
+                                "DefaultHotKeysDataFile", "LanguageFile"})
     EXPECT_EQ(ValueOf(key), "(absent)") << key;
+}
+
+TEST_F(SettingsTest, KeysThatAreStoredOnceTheyWereUsedFollowAllOthers) {
+  Settings settings = LoadLines("");
+  EXPECT_EQ(Save(settings), FileError::None);
+  const std::vector<std::string> unused = Lines();
+  EXPECT_EQ(unused[unused.size() - 3], "ReverseOrderHotkey=0");
+  settings.ShowUserCommands = 1;
+  settings.KeepUnknownShortcuts = 2;
+  EXPECT_EQ(Save(settings), FileError::None);
+  std::vector<std::string> used = unused;
+  const std::vector<std::string> added{"KeepUnknownShortcuts=2", "ShowUserCommands=1"};
+  used.insert(used.end() - 2, added.begin(), added.end());
+  EXPECT_EQ(Lines(), used);
+}
+
+TEST_F(SettingsTest, KeysThatAreThereAreStoredWhateverTheyAre) {
+  Settings settings =
+      LoadLines("forgetkeysatopen=0\r\nKeepUnknownShortcuts=1\r\nShowUserCommands=x\r\n");
+  EXPECT_EQ(Save(settings), FileError::None);
+  EXPECT_EQ(ValueOf("forgetkeysatopen"), "0");
+  EXPECT_EQ(ValueOf("KeepUnknownShortcuts"), "1");
+  EXPECT_EQ(ValueOf("ShowUserCommands"), "0");
+  settings.KeepUnknownShortcuts = 0;
+  settings.ForgetKeysAtOpen = 1;
+  EXPECT_EQ(Save(settings), FileError::None);
+  EXPECT_EQ(ValueOf("forgetkeysatopen"), "1");
+  EXPECT_EQ(ValueOf("KeepUnknownShortcuts"), "0");
+  EXPECT_EQ(ValueOf("ForgetKeysAtOpen"), "(absent)") << "twice";
 }
 
 TEST_F(SettingsTest, WhatOtherToolsStoreStays) {

@@ -248,7 +248,7 @@ TEST_F(ShippedLanguages, UseNoMnemonicTwiceInOnePlace) {
        TextId::FlatUserInterface},
       {TextId::Ok, TextId::Cancel, TextId::Apply, TextId::ChangeFont},
       {TextId::Ok, TextId::Cancel, TextId::Apply, TextId::AutoRestart, TextId::UseContextMenuKey,
-       TextId::ReverseOrder},
+       TextId::ReverseOrder, TextId::KeepUnknownKeys, TextId::ForgetKeys, TextId::ShowOwnCommands},
       {TextId::Ok, TextId::Cancel, TextId::Apply, TextId::DefaultLanguage, TextId::OtherLanguage},
   };
   ForEach([&](const std::wstring&, const Texts& texts) {

@@ -137,6 +137,10 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3342}, L"Copy Command Name"},
       {TextId{3343}, L"Copy Row"},
       {TextId{3344}, L"Copy as Table"},
+      {TextId{3370}, L"Keep keys of unknown commands. (from the next open)"},
+      {TextId{3371}, L"Forget the keys of former files. (from the next open)"},
+      {TextId{3372}, L"Show own commands of usercmd.ini. (from the next open)"},
+      {TextId{3373}, L"Own commands (usercmd.ini)"},
   };
   for (const BuiltInText& text : texts) {
     EXPECT_EQ(BuiltInTextOf(text.Id), text.Text) << NumberOf(text.Id);
