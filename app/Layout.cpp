@@ -18,6 +18,9 @@ constexpr int PanelMargin = 10;
 constexpr int ItemGap = 12;
 constexpr int ChooserWidth = 150;
 constexpr int RoomAroundControls = 16;
+constexpr int ButtonGap = 6;
+constexpr int RoomBelowStatusRow = 6;
+constexpr Size RoomInButtons{24, 8};
 
 /// Where the chooser grows less than the resolution, it stands in its middle.
 Area PlaceAllKeysButton(const Area& chooser, int dpi) {
@@ -63,6 +66,23 @@ PanelLayout LayOutPanel(const PanelSizes& sizes, int dpi) {
   layout.AllKeysButton = PlaceAllKeysButton(layout.Chooser, dpi);
   layout.Whole = {right + scaled(PanelMargin), height};
   return layout;
+}
+
+StatusRow LayOutStatusRow(const StatusRowSizes& sizes, int width, int top, int dpi) {
+  const auto scaled = [dpi](int pixels) { return Scaled(pixels, dpi); };
+  const int height = sizes.TextHeight + scaled(RoomInButtons.Height);
+  StatusRow row;
+  row.Buttons.resize(sizes.Captions.size());
+  int end = width;
+  for (std::size_t i = row.Buttons.size(); i-- > 0;) {
+    const int buttonWidth = sizes.Captions[i].Width + scaled(RoomInButtons.Width);
+    row.Buttons[i] = {end - buttonWidth, top, buttonWidth, height};
+    end -= buttonWidth + scaled(ButtonGap);
+  }
+  const int left = scaled(PanelMargin);
+  row.Line = {left, top, std::max(0, end - left), height};
+  row.Height = height + scaled(RoomBelowStatusRow);
+  return row;
 }
 
 Size SmallestInside(const Size& panel, int dpi) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "platform/Area.h"
 
@@ -42,6 +43,22 @@ struct PanelLayout {
 
 /// Places the panel's controls side by side, each in the middle of the panel's height.
 [[nodiscard]] PanelLayout LayOutPanel(const PanelSizes& sizes, int dpi);
+
+/// How large the texts of the row below the panel's controls want to be.
+struct StatusRowSizes {
+  int TextHeight = 0;
+  std::vector<Size> Captions{};  ///< of its buttons, in their order
+};
+
+struct StatusRow {
+  Area Line;
+  std::vector<Area> Buttons;
+  int Height = 0;
+};
+
+/// The row from `top` on: its buttons stand at the end, and the line takes what they leave of the
+/// width.
+[[nodiscard]] StatusRow LayOutStatusRow(const StatusRowSizes& sizes, int width, int top, int dpi);
 
 /// The room that the window is to have inside at least, below its menu bar.
 [[nodiscard]] Size SmallestInside(const Size& panel, int dpi);

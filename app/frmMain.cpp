@@ -205,6 +205,7 @@ void frmMain::OnActivate(WPARAM wParam) {
 
 void frmMain::OnTimer() {
   KillTimer(window_, Timer1);
+  timerRuns_ = false;
   // The released Alt key has put the menu bar into its keyboard mode, where it would take the keys.
   if (MenuIsOpen()) EndMenu();
   React(editor_.Work(&HotkeyPanel::TimerTick));
@@ -292,6 +293,7 @@ void frmMain::Sync() {
   if (GetDlgItem(window_, IDC_ListView1) == nullptr) return;
   SetText(window_, editor_.Document().Caption());
   views_.Sync();
+  TellStatus();
 }
 
 }  // namespace tessera

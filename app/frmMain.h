@@ -81,6 +81,10 @@ class frmMain : Pinned {
   /// Shows the state of the editor in every control.
   void Sync();
 
+  /// As Sync, where the rows of the list did not change.
+  void SyncKeys();
+  void TellStatus();
+
   static constexpr UINT_PTR Timer1 = 1;
 
   WindowsSystem& windowsSystem_;
@@ -92,6 +96,7 @@ class frmMain : Pinned {
   HWND window_ = nullptr;
   int dpi_ = 96;
   HWND lastFocus_ = nullptr;  ///< the control that had the focus when the window was left
+  bool timerRuns_ = false;    ///< Timer1
   bool failed_ = false;       ///< an exception has reached a window procedure
   Area placed_;               ///< where the stored placement has put the window
   Unique<HICON> icon_;

@@ -8,7 +8,7 @@ frmCommandList::Events frmMain::ListEvents() {
               [this](std::size_t position) {
                 if (AcceptsInput()) {
                   editor_.Work(&CommandList::SelectRow, position);
-                  views_.SyncKeys();
+                  SyncKeys();
                 }
               },
           .ClickColumn =
@@ -24,17 +24,17 @@ frmPanel::Events frmMain::PanelEvents() {
   return {.SetBox =
               [this](Modifier box, bool checked) {
                 if (AcceptsInput()) editor_.Work(&HotkeyPanel::SetBox, box, checked);
-                views_.SyncKeys();
+                SyncKeys();
               },
           .ChooseKey =
               [this](int index) {
                 if (AcceptsInput()) editor_.Work(&HotkeyPanel::ChooseKey, index);
-                views_.SyncKeys();
+                SyncKeys();
               },
           .ChooserDropsDown =
               [this] {
                 editor_.Work(&KeysList::ChooserDropsDown);
-                views_.SyncKeys();
+                SyncKeys();
               },
           .ToggleKeysList = [this] { ToggleKeysList(); },
           .GiveFocusAway = [this] { SetFocus(views_.List().Control()); }};
@@ -140,15 +140,26 @@ void frmMain::ToggleKeysList() {
 
 void frmMain::HideKeysList() {
   editor_.HideKeysList();
+  SyncKeys();
+}
+
+void frmMain::SyncKeys() {
   views_.SyncKeys();
+  TellStatus();
+}
+
+void frmMain::TellStatus() {
+  views_.TellStatus(Held(VK_CONTROL) || Held(VK_MENU) || Held(VK_SHIFT), timerRuns_);
 }
 
 void frmMain::React(const Reaction& reaction) {
-  if (reaction.StartTimer) SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr);
+  if (reaction.StartTimer) {
+    timerRuns_ = SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr) != 0;
+  }
   if (reaction.Changed || reaction.Restored) {
     Sync();
   } else {
-    views_.SyncKeys();
+    SyncKeys();
   }
   if (!AcceptsInput() || reaction.FocusTo == Reaction::Focus::Unchanged) return;
   if (reaction.FocusTo == Reaction::Focus::Chooser) {

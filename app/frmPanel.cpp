@@ -51,6 +51,7 @@ void frmPanel::Create(HWND window) {
   cmdAllList_ =
       CreateControl(Frame1_, WC_BUTTONW, WS_VISIBLE | BS_PUSHBUTTON | BS_ICON, 0, IDC_cmdAllList);
   Toolbar2_.Create(Frame1_, IDC_Toolbar2);
+  statusRow_.Create(Frame1_);
 }
 
 HWND frmPanel::Control() const { return Frame1_; }
@@ -81,6 +82,7 @@ void frmPanel::ApplyLanguage() {
     SetText(chkCtrlAlt_[box], texts.GetLangText(BoxCaptions[box]));
   }
   SetText(cmdAllList_, WithoutMnemonic(texts.GetLangText(TextId::Hotkey)));
+  statusRow_.ApplyLanguage(texts);
 }
 
 void frmPanel::ApplyDpi(int dpi) {
@@ -118,14 +120,15 @@ void frmPanel::LayOut(HFONT font, int dpi) {
   const Area& button = layout.AllKeysButton;
   SetWindowPos(cmdAllList_, HWND_TOP, button.Left, button.Top, button.Width, button.Height,
                SWP_NOACTIVATE);
-  wholeSize_ = layout.Whole;
+  controlsHeight_ = layout.Whole.Height;
+  wholeSize_ = {layout.Whole.Width, controlsHeight_ + statusRow_.ApplyFont(font, dpi)};
+  statusRow_.LayOut(controlsHeight_);
 }
 
 void frmPanel::Sync() {
   const HotkeyPanel& panel = editor_.Panel();
   const bool enabled = panel.InputsEnabled();
-  const HWND focus = GetFocus();
-  if (!enabled && focus != nullptr && IsChild(Frame1_, focus) != FALSE) events_.GiveFocusAway();
+  KeepFocusEnabled(enabled);
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
     const bool checked = panel.BoxChecked(AllModifiers[box]);
     if ((Button_GetCheck(chkCtrlAlt_[box]) == BST_CHECKED) != checked) {
@@ -139,6 +142,16 @@ void frmPanel::Sync() {
   SetEnabled(Combo1_, enabled);
   SetEnabled(cmdAllList_, enabled);
   SetEnabled(Toolbar2_.Control(), editor_.AllKeys().PanelToolbarEnabled());
+  statusRow_.Sync(editor_);
+}
+
+/// A control that is about to be disabled must not keep the focus, where no key would reach it.
+void frmPanel::KeepFocusEnabled(bool inputsEnabled) const {
+  const HWND focus = GetFocus();
+  if (focus == nullptr || IsChild(Frame1_, focus) == FALSE) return;
+  const bool staysEnabled =
+      focus == statusRow_.ShowButton() ? editor_.Holders().ShowEnabled() : inputsEnabled;
+  if (!staysEnabled) events_.GiveFocusAway();
 }
 
 void frmPanel::ShowState(const CommandState& state) const {
@@ -159,6 +172,17 @@ LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
                  : SendMessageW(GetParent(Frame1_), message, wParam, lParam);
     case WM_NOTIFY:
       return SendMessageW(GetParent(Frame1_), message, wParam, lParam);
+    case WM_SIZE:
+      statusRow_.LayOut(controlsHeight_);
+      return 0;
+    case WM_MOUSEMOVE:
+      statusRow_.FollowPointer({.hwnd = Frame1_,
+                                .message = message,
+                                .wParam = wParam,
+                                .lParam = lParam,
+                                .time = 0,
+                                .pt = {}});
+      return 0;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
       if (editor_.Options().ShowControlsBackColor != 0 &&
@@ -184,6 +208,8 @@ bool frmPanel::OnCommand(int id, int notification) {
     events_.ChooserDropsDown();
   } else if (id == IDC_cmdAllList && notification == BN_CLICKED) {
     events_.ToggleKeysList();
+  } else if (id == IDC_cmdShow && notification == BN_CLICKED) {
+    SendMessageW(GetParent(Frame1_), WM_COMMAND, IDM_show, 0);
   } else {
     return false;
   }
@@ -191,11 +217,13 @@ bool frmPanel::OnCommand(int id, int notification) {
 }
 
 bool frmPanel::IsTranslatorsControl(HWND control) const {
-  return control == lblHotkey_ || std::ranges::find(chkCtrlAlt_, control) != chkCtrlAlt_.end();
+  return control == lblHotkey_ || control == statusRow_.Line() ||
+         std::ranges::find(chkCtrlAlt_, control) != chkCtrlAlt_.end();
 }
 
 void frmPanel::Forget() {
   Toolbar2_.Forget();
+  statusRow_.Forget();
   chkCtrlAlt_.fill(nullptr);
   Frame1_ = lblHotkey_ = Combo1_ = cmdAllList_ = nullptr;
 }

@@ -6,6 +6,7 @@
 
 #include "app/Commands.h"
 #include "app/Editor.h"
+#include "app/frmStatusRow.h"
 #include "app/frmToolbar.h"
 #include "app/KeyMeaning.h"
 #include "app/Layout.h"
@@ -54,6 +55,9 @@ class frmPanel : Pinned {
   void Sync();
   void ShowState(const CommandState& state) const;
 
+  /// Tells screen readers what the line below the controls says, unless it is too early.
+  void TellStatus(bool modifierHeld, bool timerRuns) { statusRow_.Tell(modifierHeld, timerRuns); }
+
   /// To be called once its windows are destroyed: their numbers may become those of others.
   void Forget();
 
@@ -61,6 +65,7 @@ class frmPanel : Pinned {
   static LRESULT CALLBACK FrameProcedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   bool OnCommand(int id, int notification);
+  void KeepFocusEnabled(bool inputsEnabled) const;
   [[nodiscard]] bool IsTranslatorsControl(HWND control) const;
   void LayOut(HFONT font, int dpi);
 
@@ -72,7 +77,9 @@ class frmPanel : Pinned {
   HWND Combo1_ = nullptr;
   HWND cmdAllList_ = nullptr;
   frmToolbar Toolbar2_;
+  frmStatusRow statusRow_;
   Size wholeSize_;
+  int controlsHeight_ = 0;  ///< above the status row
   Unique<HICON> allKeysIcon_;
   Unique<HBRUSH> translatorsBrush_;
 };

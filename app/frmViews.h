@@ -60,6 +60,9 @@ class frmViews {
   /// As Sync, where the rows of the list did not change.
   void SyncKeys();
 
+  /// Tells screen readers what the line under the panel says, unless it is too early.
+  void TellStatus(bool modifierHeld, bool timerRuns) { panel_.TellStatus(modifierHeld, timerRuns); }
+
   /// Before a menu opens.
   void SyncMenus() const;
 

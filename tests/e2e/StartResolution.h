@@ -1,4 +1,4 @@
-// A screen of another resolution.
+// The resolution of the screen, as programs take it at their start.
 #pragma once
 
 #include <windows.h>

@@ -45,6 +45,19 @@ TEST(Layout, PanelControlsStandSideBySideInTheMiddleOfThePanel) {
   EXPECT_EQ(layout.Whole.Height, 40);
 }
 
+TEST(Layout, LineTakesWhatTheButtonsBesideItLeave) {
+  const StatusRow row =
+      LayOutStatusRow({.TextHeight = 16, .Captions = {{30, 16}, {50, 16}}}, 500, 40, 96);
+  EXPECT_EQ(row.Line, (Area{10, 40, 350, 24}));
+  EXPECT_EQ(row.Buttons, (std::vector{Area{366, 40, 54, 24}, Area{426, 40, 74, 24}}));
+  EXPECT_EQ(row.Height, 30);
+  EXPECT_EQ(LayOutStatusRow({.TextHeight = 32}, 500, 40, 192).Line, (Area{20, 40, 480, 48}));
+}
+
+TEST(Layout, LineHasNoNegativeWidth) {
+  EXPECT_EQ(LayOutStatusRow({.TextHeight = 16, .Captions = {{30, 16}}}, 40, 0, 96).Line.Width, 0);
+}
+
 TEST(Layout, AllKeysButtonStandsOverTheRightEndOfTheChooser) {
   const PanelLayout layout = LayOutPanel({.ChooserHeight = 21}, 96);
   EXPECT_EQ(layout.Chooser, (Area{124, 8, 150, 21}));

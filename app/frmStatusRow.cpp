@@ -1,0 +1,92 @@
+// The line is a label, through which the pointer is the frame's.
+#include "app/frmStatusRow.h"
+
+#include "resources/resource.h"
+
+namespace tessera {
+namespace {
+
+SIZE SizeOnOneLine(HWND control, HFONT font, const std::wstring& text) {
+  const HDC context = GetDC(control);
+  const HGDIOBJ former = SelectObject(context, font);
+  RECT room{};
+  DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
+            DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX);
+  SelectObject(context, former);
+  ReleaseDC(control, context);
+  return {room.right, room.bottom};
+}
+
+Size SizeOf(const SIZE& size) { return {size.cx, size.cy}; }
+
+}  // namespace
+
+void frmStatusRow::Create(HWND frame) {
+  frame_ = frame;
+  // A group of their own: arrow keys do not lead from the button to the chooser.
+  lblStatus_ = CreateControl(frame, WC_STATICW,
+                             WS_VISIBLE | WS_GROUP | SS_NOPREFIX | SS_ENDELLIPSIS | SS_CENTERIMAGE,
+                             0, IDC_lblStatus);
+  cmdShow_ =
+      CreateControl(frame, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, IDC_cmdShow);
+}
+
+void frmStatusRow::ApplyLanguage(const Texts& texts) {
+  SetText(cmdShow_, texts.GetLangText(TextId::ShowHolder));
+}
+
+int frmStatusRow::ApplyFont(HFONT font, int dpi) {
+  font_ = font;
+  dpi_ = dpi;
+  GiveFont(lblStatus_, font);
+  GiveFont(cmdShow_, font);
+  return RowIn(0, 0).Height;
+}
+
+void frmStatusRow::LayOut(int top) {
+  RECT inside{};
+  GetClientRect(frame_, &inside);
+  const StatusRow row = RowIn(inside.right, top);
+  Place(lblStatus_, row.Line);
+  Place(cmdShow_, row.Buttons.front());
+}
+
+StatusRow frmStatusRow::RowIn(int width, int top) const {
+  const Size caption = SizeOf(TextSize(cmdShow_, font_, TextOf(cmdShow_)));
+  return LayOutStatusRow({.TextHeight = caption.Height, .Captions = {caption}}, width, top, dpi_);
+}
+
+void frmStatusRow::Sync(const Editor& editor) {
+  SetText(lblStatus_, StatusText(editor));
+  SetEnabled(cmdShow_, editor.Holders().ShowEnabled());
+}
+
+void frmStatusRow::Tell(bool modifierHeld, bool timerRuns) {
+  if (lblStatus_ == nullptr || !telling_.IsDue(TextOf(lblStatus_), modifierHeld, timerRuns)) return;
+  NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, lblStatus_, OBJID_CLIENT, CHILDID_SELF);
+}
+
+bool frmStatusRow::LineIsCut(const std::wstring& text) const {
+  return SizeOnOneLine(lblStatus_, font_, text).cx > WindowArea(lblStatus_).Width;
+}
+
+void frmStatusRow::FollowPointer(const MSG& message) {
+  const POINT pointer{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+  RECT place{};
+  GetWindowRect(lblStatus_, &place);
+  MapWindowPoints(nullptr, frame_, reinterpret_cast<POINT*>(&place), 2);
+  std::wstring text = PtInRect(&place, pointer) != FALSE ? TextOf(lblStatus_) : L"";
+  if (!text.empty() && !LineIsCut(text)) text.clear();
+  if (text != tipText_) {
+    tip_.Set(frame_, place, text, font_);
+    tipText_ = text;
+  }
+  tip_.Follow(message);
+}
+
+void frmStatusRow::Forget() {
+  tip_.Forget();
+  frame_ = lblStatus_ = cmdShow_ = nullptr;
+}
+
+}  // namespace tessera

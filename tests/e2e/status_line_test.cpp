@@ -1,0 +1,140 @@
+// The line that tells who has a key, and the button that leads there, worked by the keyboard.
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "resources/resource.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Input.h"
+#include "tests/e2e/StartResolution.h"
+#include "tests/support/win32/Wait.h"
+
+namespace tessera::e2e::status_line_test {
+namespace {
+
+bool Contains(std::wstring_view text, std::wstring_view part) {
+  return text.find(part) != std::wstring_view::npos;
+}
+
+class StatusLineTest : public EndToEndTest {
+ protected:
+  /// `language` is the name of a shipped language file; empty for the built-in texts.
+  void StartWith(const std::wstring& language, DWORD dpi) {
+    resolution_.emplace(dpi);
+    if (!language.empty()) {
+      WriteBytes(folder_.SettingsFile(),
+                 "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
+                     Utf8(folder_.Program() + L"Languages\\" + language) + "\r\n");
+    }
+    StartAndLoad();
+  }
+
+  [[nodiscard]] std::wstring Line() const { return window_->ControlText(IDC_lblStatus); }
+
+  void WaitForLine(std::wstring_view begin, std::wstring_view part) const {
+    WaitFor("a line with " + Utf8(begin) + " and " + Utf8(part), [&] {
+      const std::wstring line = Line();
+      return line.starts_with(begin) && Contains(line, part);
+    });
+  }
+
+  /// Ctrl and F1, the default key of cm_SrcShort.
+  void ComposeByKeyboard() const {
+    Press(VK_CONTROL);
+    WaitFor("the box and the focus",
+            [&] { return window_->BoxChecked(IDC_chkCtrlAlt0) && window_->HasFocus(IDC_Combo1); });
+    Press(VK_DOWN);
+    WaitFor("the key", [&] { return window_->ChosenKey() == L"F1"; });
+  }
+
+  void GoToShow() const {
+    Press(VK_TAB);
+    WaitFor("the panel's toolbar", [&] { return window_->HasFocus(IDC_Toolbar2); });
+    Press(VK_TAB);
+    WaitFor("the button", [&] { return window_->HasFocus(IDC_cmdShow); });
+  }
+
+  /// Composes a key, goes to its holder and back, and clears the panel.
+  void UseLineAndButton();
+
+  std::optional<StartResolution> resolution_;
+};
+
+void StatusLineTest::UseLineAndButton() {
+  EXPECT_TRUE(Contains(Line(), L"Wincmd.ini")) << Utf8(Line());
+  Select(L"cm_SrcTree");
+  const int row = window_->FindCommand(L"cm_SrcTree");
+  const std::wstring description = window_->Row(row)[0];
+  WaitForLine(description, L"");
+  EXPECT_FALSE(window_->Enabled(IDC_cmdShow));
+
+  ComposeByKeyboard();
+  WaitForLine(L"Ctrl + F1", L"cm_SrcShort");
+  EXPECT_TRUE(window_->Enabled(IDC_cmdShow));
+  GoToShow();
+  const int holder = window_->FindCommand(L"cm_SrcShort");
+  Press(VK_SPACE);
+  WaitFor("the row of the holder", [&] { return window_->SelectedRow() == holder; });
+  EXPECT_FALSE(Contains(Line(), L"cm_SrcShort")) << "it is the selected command now";
+  EXPECT_EQ(window_->ChosenKey(), L"F1");
+  EXPECT_TRUE(window_->HasFocus(IDC_cmdShow));
+  Press(VK_SPACE);
+  WaitFor("the row before", [&] { return window_->SelectedRow() == row; });
+  WaitForLine(L"Ctrl + F1", L"cm_SrcShort");
+
+  Press(VK_ESCAPE);
+  WaitForLine(description, L"");
+  EXPECT_FALSE(window_->Enabled(IDC_cmdShow));
+  WaitFor("the list to have the focus", [&] { return window_->HasFocus(IDC_ListView1); });
+}
+
+TEST_F(StatusLineTest, TellsWhoHasAKeyAndShowLeadsThereAndBack) {
+  StartWith(L"", 96);
+  UseLineAndButton();
+}
+
+TEST_F(StatusLineTest, WorksInGermanAtTwiceTheResolution) {
+  StartWith(L"German.lng", 192);
+  UseLineAndButton();
+}
+
+TEST_F(StatusLineTest, WorksFromRightToLeftAtTwiceTheResolution) {
+  StartWith(L"Arabic.lng", 192);
+  UseLineAndButton();
+}
+
+TEST_F(StatusLineTest, AHeadingDoesNotTakeTheFocusFromShow) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  window_->ChooseKey(L"F1");
+  WaitFor("a holder", [&] { return window_->Enabled(IDC_cmdShow); });
+  window_->ClickControl(IDC_cmdShow);
+  WaitFor("the focus", [&] { return window_->HasFocus(IDC_cmdShow); });
+  window_->SelectByAutomation(0);
+  WaitFor("the panel to be disabled", [&] { return !window_->Enabled(IDC_Combo1); });
+  EXPECT_TRUE(window_->HasFocus(IDC_cmdShow));
+  Press(VK_SPACE);
+  WaitFor("the panel to be enabled", [&] { return window_->Enabled(IDC_Combo1); });
+  EXPECT_TRUE(window_->HasFocus(IDC_cmdShow));
+}
+
+TEST_F(StatusLineTest, StandsBelowThePanelsControlsOverItsWholeWidth) {
+  StartAndLoad();
+  const RECT panel = RectangleOf(window_->Control(IDC_Frame1));
+  const RECT line = RectangleOf(window_->Control(IDC_lblStatus));
+  const RECT button = RectangleOf(window_->Control(IDC_cmdShow));
+  EXPECT_GE(line.top, RectangleOf(window_->Control(IDC_Toolbar2)).bottom);
+  EXPECT_GE(line.top, RectangleOf(window_->Control(IDC_Combo1)).bottom);
+  EXPECT_LE(line.right, button.left);
+  EXPECT_EQ(button.right, panel.right);
+  EXPECT_LE(button.bottom, panel.bottom);
+  SetWindowPos(window_->Handle(), nullptr, 0, 0, 900, 600, SWP_NOMOVE | SWP_NOZORDER);
+  WaitFor("the button at the end", [&] {
+    const RECT now = RectangleOf(window_->Control(IDC_Frame1));
+    return now.right != panel.right &&
+           RectangleOf(window_->Control(IDC_cmdShow)).right == now.right;
+  });
+}
+
+}  // namespace
+}  // namespace tessera::e2e::status_line_test
