@@ -190,6 +190,7 @@ void frmViews::SyncKeysList() {
   const KeysList& list = editor_.AllKeys();
   if (list.Visible() && !keysList_.Created()) CreateKeysList();
   keysList_.Select(list.Selection());
+  if (list.Visible()) keysList_.ShowTaken(list.TakenKeys());
   // While the window is minimised the system hides the list with it.
   if (list.Visible() == keysList_.Visible() || IsIconic(window_) != FALSE) return;
   if (list.Visible()) {

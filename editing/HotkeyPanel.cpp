@@ -1,7 +1,11 @@
 // The state of the panel's controls, and the keyboard of the window.
 #include "editing/HotkeyPanel.h"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
+
+#include "editing/KeyConflicts.h"
 
 namespace tessera {
 namespace {
@@ -42,13 +46,22 @@ bool HotkeyPanel::AddEnabled() const {
          catalogue_.ListView1.Row(list_.SelectedRow()).CurrentKeys != notation_.UndefinedHotkey;
 }
 
-std::wstring HotkeyPanel::ComposeKey() const {
+std::wstring HotkeyPanel::ComposeKey() const { return ComposeWith(chosenKey_); }
+
+bool HotkeyPanel::IsTaken(int key) const {
+  const std::wstring composed = ComposeWith(key);
+  const HoldersOfKey holders = catalogue_.ListView1.HoldersOf(composed, notation_);
+  return !holders.Currents.empty() || FindStartMenuSlot(catalogue_, composed) != nullptr ||
+         !std::ranges::all_of(holders.Defaults, &HoldersOfKey::Default::Overridden);
+}
+
+std::wstring HotkeyPanel::ComposeWith(int chosenKey) const {
   std::wstring key;
   if (BoxChecked(Modifier::Ctrl)) key += notation_.CtrlName + L" + ";
   if (BoxChecked(Modifier::Alt)) key += notation_.AltName + L" + ";
   if (BoxChecked(Modifier::Shift)) key += notation_.ShiftName + L" + ";
-  if (chosenKey_ != NoKeyChosen) {
-    key += WithNum(KeyVocabulary()[static_cast<std::size_t>(chosenKey_)]);
+  if (chosenKey != NoKeyChosen) {
+    key += WithNum(KeyVocabulary()[static_cast<std::size_t>(chosenKey)]);
   }
   return notation_.ApplyReverseOrder(key.empty() ? notation_.UndefinedHotkey : key);
 }

@@ -38,6 +38,10 @@ class HotkeyPanel : Pinned {
   [[nodiscard]] bool AddEnabled() const;
   [[nodiscard]] std::wstring ComposeKey() const;
 
+  /// Somebody has the key of that index of the vocabulary, with the modifiers that are checked, by
+  /// what the cells show.
+  [[nodiscard]] bool IsTaken(int key) const;
+
   // -- Changes by the controls
 
   Reaction SetBox(Modifier box, bool checked);
@@ -70,6 +74,7 @@ class HotkeyPanel : Pinned {
 
   /// What the toggles are when nothing has been pressed yet.
   [[nodiscard]] PerModifier ToggleResetValues() const;
+  [[nodiscard]] std::wstring ComposeWith(int chosenKey) const;
 
   [[nodiscard]] bool IsModifier(KeyCode code) const;
   void ClearModifiers();

@@ -9,6 +9,14 @@ bool KeysList::Visible() const { return visible_; }
 
 int KeysList::Selection() const { return moved_.value_or(panel_.ChosenKey()); }
 
+std::vector<bool> KeysList::TakenKeys() const {
+  std::vector<bool> taken;
+  for (std::size_t key = 0; key < KeyVocabulary().size(); ++key) {
+    taken.push_back(panel_.IsTaken(static_cast<int>(key)));
+  }
+  return taken;
+}
+
 bool KeysList::PanelToolbarEnabled() const { return panelToolbarEnabled_; }
 
 Reaction KeysList::ToggleKeysList() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "editing/HotkeyPanel.h"
 #include "editing/Reaction.h"
@@ -19,6 +20,9 @@ class KeysList : Pinned {
 
   /// The index selected in List1, or NoKeyChosen.
   [[nodiscard]] int Selection() const;
+
+  /// Of each key in the list, whether somebody has it with the modifiers that are checked.
+  [[nodiscard]] std::vector<bool> TakenKeys() const;
 
   /// False while the panel toolbar is disabled as a whole, which an open list does.
   [[nodiscard]] bool PanelToolbarEnabled() const;

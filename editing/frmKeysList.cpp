@@ -18,6 +18,27 @@ constexpr UINT_PTR ListSubclass = 1;
 constexpr int Margin = 6;
 constexpr int ListWidth = 160;
 constexpr int VisibleRows = 22;
+constexpr int TextMargin = 2;
+constexpr int MarkSize = 5;
+constexpr int MarkMargin = 8;
+
+/// Between the text and its background, and still easy to read.
+COLORREF QuietColor(COLORREF text, COLORREF back) {
+  const auto mixed = [](int one, int other) { return static_cast<BYTE>((2 * one + other) / 3); };
+  return RGB(mixed(GetRValue(text), GetRValue(back)), mixed(GetGValue(text), GetGValue(back)),
+             mixed(GetBValue(text), GetBValue(back)));
+}
+
+void DrawMark(HDC context, const RECT& row, int dpi, COLORREF color) {
+  const int size = Scaled(MarkSize, dpi);
+  const int left = row.right - Scaled(MarkMargin, dpi) - size;
+  const int top = (row.top + row.bottom - size) / 2;
+  SelectObject(context, GetStockObject(DC_BRUSH));
+  SelectObject(context, GetStockObject(DC_PEN));
+  SetDCBrushColor(context, color);
+  SetDCPenColor(context, color);
+  Ellipse(context, left, top, left + size, top + size);
+}
 
 }  // namespace
 
@@ -36,7 +57,8 @@ void frmKeysList::Create(HWND owner) {
                             owner, nullptr, GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   List1_ = CreateControl(window_, WC_LISTBOXW,
-                         WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+                         WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT |
+                             LBS_OWNERDRAWFIXED | LBS_HASSTRINGS,
                          WS_EX_CLIENTEDGE, IDC_List1);
   for (const std::wstring_view key : KeyVocabulary()) {
     SendMessageW(List1_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
@@ -78,6 +100,35 @@ void frmKeysList::Select(int index) {
   if (ListBox_GetCurSel(List1_) != index) ListBox_SetCurSel(List1_, index);
 }
 
+void frmKeysList::ShowTaken(std::vector<bool> taken) {
+  if (taken == taken_) return;
+  taken_ = std::move(taken);
+  InvalidateRect(List1_, nullptr, FALSE);
+}
+
+void frmKeysList::DrawKey(const DRAWITEMSTRUCT& draw) const {
+  const int former = SaveDC(draw.hDC);
+  const bool selected = (draw.itemState & ODS_SELECTED) != 0;
+  FillRect(draw.hDC, &draw.rcItem, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  const auto keys = KeyVocabulary();
+  if (draw.itemID < keys.size()) {
+    const bool taken = draw.itemID < taken_.size() && taken_[draw.itemID];
+    const COLORREF text = GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
+    const COLORREF color = taken && !selected ? QuietColor(text, GetSysColor(COLOR_WINDOW)) : text;
+    const int dpi = static_cast<int>(GetDpiForWindow(window_));
+    RECT place = draw.rcItem;
+    place.left += Scaled(TextMargin, dpi);
+    SetBkMode(draw.hDC, TRANSPARENT);
+    SetTextColor(draw.hDC, color);
+    const std::wstring_view key = keys[draw.itemID];
+    DrawTextW(draw.hDC, key.data(), static_cast<int>(key.size()), &place,
+              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    if (taken) DrawMark(draw.hDC, draw.rcItem, dpi, color);
+  }
+  RestoreDC(draw.hDC, former);
+  if ((draw.itemState & ODS_FOCUS) != 0) DrawFocusRect(draw.hDC, &draw.rcItem);
+}
+
 void frmKeysList::MoveTo(const Area& area) { Place(window_, area); }
 
 void frmKeysList::BringToFront() {
@@ -105,6 +156,9 @@ LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND:
       if (HIWORD(wParam) == LBN_SELCHANGE) events_.Select(ListBox_GetCurSel(List1_));
       return 0;
+    case WM_DRAWITEM:
+      DrawKey(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      return TRUE;
     case WM_ACTIVATE: {
       // It takes the focus, but is part of its owner, whose title is to stay an active one.
       const WPARAM active = LOWORD(wParam) != WA_INACTIVE ? TRUE : FALSE;

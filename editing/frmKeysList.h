@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "editing/HotkeyPanel.h"
 #include "platform/win32/Controls.h"
@@ -41,6 +42,9 @@ class frmKeysList {
   [[nodiscard]] bool HasFocus() const;
 
   void Select(int index);
+
+  /// Shows which keys, by index, somebody has: they look quieter and bear a mark.
+  void ShowTaken(std::vector<bool> taken);
   void MoveTo(const Area& area);
 
   /// Puts it before the window that it belongs to.
@@ -55,10 +59,12 @@ class frmKeysList {
   static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
                                         UINT_PTR id, DWORD_PTR self);
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void DrawKey(const DRAWITEMSTRUCT& draw) const;
 
   Events events_;
   HWND window_ = nullptr;
   HWND List1_ = nullptr;
+  std::vector<bool> taken_;
 };
 
 }  // namespace tessera

@@ -237,6 +237,34 @@ TEST_F(KeysListTest, IsBeforeTheWindowWhenThatIsRestored) {
   WaitFor("the list before the window", [&] { return TakePicture(place).Pixels == shown.Pixels; });
 }
 
+TEST_F(KeysListTest, KeysThatSomebodyHasLookQuieterAndBearAMark) {
+  constexpr int A = 12;
+  constexpr int G = 18;
+  const auto placeOf = [](const Dialog& list, int index) {
+    RECT place{};
+    const HWND entries = list.Control(IDC_List1);
+    Send(entries, LB_GETITEMRECT, static_cast<WPARAM>(index), &place);
+    return OnScreen(entries, place);
+  };
+  const auto bearsMark = [&](const Dialog& list, int index) {
+    RECT end = placeOf(list, index);
+    end.left = (end.left + end.right) / 2;
+    const int all = static_cast<int>((end.right - end.left) * (end.bottom - end.top));
+    return CountPixels(end, GetSysColor(COLOR_WINDOW)) < all;
+  };
+  const auto isPlain = [&](const Dialog& list, int index) {
+    return CountPixels(placeOf(list, index), GetSysColor(COLOR_WINDOWTEXT)) > 0;
+  };
+  window_->ClickControl(IDC_chkCtrlAlt0);
+  const Dialog list = OpenList();
+  WaitFor("Ctrl + A, which is taken", [&] { return bearsMark(list, A) && !isPlain(list, A); });
+  WaitFor("Ctrl + G, which is free", [&] { return !bearsMark(list, G) && isPlain(list, G); });
+  // Checked as a key does it, without the focus.
+  Send(window_->Control(IDC_chkCtrlAlt1), BM_SETCHECK, BST_CHECKED);
+  Send(window_->Control(IDC_Frame1), WM_COMMAND, MAKEWPARAM(IDC_chkCtrlAlt1, BN_CLICKED));
+  WaitFor("Ctrl + Alt + A, which is free", [&] { return !bearsMark(list, A) && isPlain(list, A); });
+}
+
 TEST_F(KeysListTest, ChosenKeyCanBeAssigned) {
   window_->ClickControl(IDC_chkCtrlAlt0);
   window_->ClickControl(IDC_chkCtrlAlt1);

@@ -37,6 +37,32 @@ class KeysListTest : public testing::Test {
   KeysList keys_{panel_};
 };
 
+TEST_F(KeysListTest, KnowsWhichKeysAreTakenWithTheModifiersThatAreChecked) {
+  const auto taken = [this] {
+    const std::vector<bool> flags = keys_.TakenKeys();
+    EXPECT_EQ(flags.size(), KeyVocabulary().size());
+    std::vector<std::wstring_view> names;
+    for (std::size_t key = 0; key < flags.size(); ++key) {
+      if (flags[key]) names.push_back(KeyVocabulary()[key]);
+    }
+    return names;
+  };
+  using Keys = std::vector<std::wstring_view>;
+  EXPECT_EQ(taken(), (Keys{L"F2", L"F5", L"F6", L"F7", L"F8", L"F9"}));
+  panel_.SetBox(Modifier::Ctrl, true);
+  EXPECT_EQ(taken(), Keys{L"R"});
+  panel_.SetBox(Modifier::Alt, true);
+  catalogue_.StartMenuKeys[2].Key = L"Ctrl + Alt + F3";
+  EXPECT_EQ(taken(), Keys{L"F3"});
+  catalogue_.StartMenuKeys[2].Key += OverriddenMark;
+  EXPECT_EQ(taken(), Keys{});
+}
+
+TEST_F(KeysListTest, ADefaultKeyThatNobodyHasAnyMoreIsNotTaken) {
+  catalogue_.ListView1.Edit(sample::Sync).CurrentKeys = notation_.UndefinedHotkey;
+  EXPECT_FALSE(panel_.IsTaken(8)) << "F9 is marked, and nobody has it";
+}
+
 TEST_F(KeysListTest, IsClosedAtFirst) {
   EXPECT_FALSE(keys_.Visible());
   EXPECT_TRUE(keys_.PanelToolbarEnabled());
