@@ -84,6 +84,7 @@ void HotkeyPanel::ClearModifiers() {
 
 Reaction HotkeyPanel::ResetPanel() {
   ClearModifiers();
+  pressedWithModifier_ = false;
   chosenKey_ = NoKeyChosen;
   return {.FollowChooser = true, .FocusTo = Reaction::Focus::CommandList, .Handled = true};
 }
@@ -169,10 +170,18 @@ Reaction HotkeyPanel::Act(const KeyEvent& event) {
   if (event.ShiftHeld) press(Modifier::Shift);
   if (event.Code == KeyCode::Enter && chosenKey_ != NoKeyChosen) {
     const bool changed = Assign().Changed;
-    reaction = ResetPanel();
+    reaction = ResetBy(event);
     reaction.Changed = changed;
   }
-  if (event.Code == KeyCode::Backspace || event.Code == KeyCode::Escape) reaction = ResetPanel();
+  if (event.Code == KeyCode::Backspace || event.Code == KeyCode::Escape) reaction = ResetBy(event);
+  return reaction;
+}
+
+// A modifier that is still held flips its toggle once more when it is released.
+Reaction HotkeyPanel::ResetBy(const KeyEvent& event) {
+  const bool beginsAnew = pressedWithModifier_ && AnyModifierHeld(event);
+  const Reaction reaction = ResetPanel();
+  pressedWithModifier_ = beginsAnew;
   return reaction;
 }
 

@@ -80,6 +80,7 @@ class HotkeyPanel : Pinned {
   void ClearModifiers();
   void BeginAnew(const KeyEvent& event);
   Reaction Act(const KeyEvent& event);
+  Reaction ResetBy(const KeyEvent& event);
   bool Take(const KeyEvent& event);
   void FlipAlt();
 

@@ -200,6 +200,17 @@ TEST_F(KeyEventTest, EnterWhileTheModifierIsStillHeldDoesNotSpoilTheNextOne) {
   EXPECT_EQ(Composed(), L"Ctrl + F8");
 }
 
+TEST_F(KeyEventTest, BoxesThatAreTickedAfterAResetStay) {
+  for (const KeyCode reset : {Escape, Backspace, Enter}) {
+    Press({Ctrl, F7});
+    Tap(reset);
+    panel_.SetBox(Modifier::Shift, true);
+    Press({Ctrl, F8});
+    EXPECT_EQ(Composed(), L"Ctrl + Shift + F8");
+    Tap(Escape);
+  }
+}
+
 TEST_F(KeyEventTest, AKeyThatRepeatsChangesNothing) {
   Down(Ctrl);
   Down(LetterQ);
