@@ -13,7 +13,9 @@
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/HotkeyNotation.h"
 #include "shortcuts/InternalCommands.h"
+#include "shortcuts/ReadKeys.h"
 #include "shortcuts/SaveShortcuts.h"
+#include "shortcuts/UserCommands.h"
 #include "shortcuts/WincmdIni.h"
 #include "tests/support/FakeClock.h"
 #include "tests/support/FakeEnvironment.h"
@@ -88,6 +90,23 @@ std::vector<CommandEntry> Commands(std::wstring_view text) {
   return rows;
 }
 
+/// Saves twice: the second time nothing is left to change or to drop.
+void CheckSaves(Catalogue& catalogue, const SaveRequest& request, MemoryFiles& files) {
+  FakeClock clock;
+  const FakeEnvironment environment;
+  const SaveOutcome first = SaveShortcuts(catalogue, {}, request, files, clock, environment);
+  Require(first.Error == FileError::None, "a save failed");
+  const std::string saved = files.Contents[first.Path];
+  const std::string dropped = files.Contents[first.Dropped.Path];
+  Require(first.Dropped.Error == FileError::None, "dropped lines were lost");
+  Require(first.Dropped.Lines.empty() == dropped.empty(), "a file of dropped lines without any");
+  const SaveOutcome second = SaveShortcuts(catalogue, {}, request, files, clock, environment);
+  Require(second.Error == FileError::None, "a second save failed");
+  Require(second.Dropped.Lines.empty(), "a second save dropped lines");
+  Require(files.Contents[first.Path] == saved, "a second save changed the file");
+  Require(files.Contents[first.Dropped.Path] == dropped, "dropped lines were touched");
+}
+
 /// The input: "Totalcmd.inc", the default keys, then "Wincmd.ini".
 void RunCommands(std::string_view bytes) {
   const HotkeyNotation notation;
@@ -107,15 +126,53 @@ void RunCommands(std::string_view bytes) {
   BuildDisplayTable(catalogue, notation, [] {});
   BuildKeyIndexes(catalogue, notation);
   MarkOverriddenDefaults(catalogue);
-  const SaveRequest request{path, true};
-  Require(SaveShortcuts(catalogue, notation, request, files, clock, environment).Error ==
-              FileError::None,
-          "a save failed");
-  const std::string saved = files.Contents[path];
-  Require(SaveShortcuts(catalogue, notation, request, files, clock, environment).Error ==
-              FileError::None,
-          "a second save failed");
-  Require(files.Contents[path] == saved, "a second save changed the file");
+  CheckSaves(catalogue, {path, true}, files);
+}
+
+/// Opens "Wincmd.ini" with the commands of "usercmd.ini" beside it, as a further open does.
+void OpenWithUserCommands(Catalogue& catalogue, const std::wstring& path, MemoryFiles& files) {
+  const HotkeyNotation notation;
+  FakeClock clock;
+  const FakeEnvironment environment;
+  const RowKey lastKey = catalogue.LastKey;
+  ReplaceUserRows(catalogue, ReadUserCommands(files, clock, path).Commands, L"Own", notation);
+  const WincmdIni wincmd(files, clock, environment, path);
+  ReadShortcuts(catalogue.lvwHidden, wincmd.Shortcuts(), notation, [] {});
+  BuildDisplayTable(catalogue, notation, [] {});
+  const DisplayTable& table = catalogue.ListView1;
+  for (std::size_t row = table.Count() - catalogue.UserRows; row < table.Count(); ++row) {
+    Require(table.At(row).Key > lastKey, "a row has the key of an earlier one");
+    Require(table.At(row).IsHeading() || IsUserCommand(table.At(row).CommandName), "no command");
+    Require(table.PositionOf(table.At(row).Key) == row, "a row is not found");
+  }
+}
+
+/// The input: "Wincmd.ini", then "usercmd.ini".
+void RunUserCommands(std::string_view bytes) {
+  const HotkeyNotation notation;
+  MemoryFiles files;
+  const std::wstring path = L"C:\\Wincmd.ini";
+  files.Contents[path] = Take(bytes);
+  files.Contents[L"C:\\usercmd.ini"] = bytes;
+  Catalogue catalogue;
+  catalogue.Text = std::make_shared<const std::wstring>(L"cm_Copy=1;Copy\r\n");
+  catalogue.lvwHidden = Commands(*catalogue.Text);
+  OpenWithUserCommands(catalogue, path, files);
+  if (catalogue.UserRows != 0) {
+    const CommandEntry& last = catalogue.ListView1.At(catalogue.ListView1.Count() - 1);
+    const std::wstring name(last.CommandName);
+    const std::wstring key = L"Alt + F12";
+    AddComposedKey(catalogue.ListView1.Edit(last.Key), key, notation);
+    catalogue.Given.Give(last.Key, L"A+F12");
+    CheckSaves(catalogue, {path, false, true}, files);
+    OpenWithUserCommands(catalogue, path, files);
+    const CommandEntry& again = catalogue.ListView1.At(catalogue.ListView1.Count() - 1);
+    Require(again.CommandName == name, "a command reads back differently");
+    const auto keys = notation.KeysOf(again.CurrentKeys);
+    Require(std::ranges::find(keys, key) != keys.end(), "a command has lost its key");
+  } else {
+    CheckSaves(catalogue, {path, false, false}, files);
+  }
 }
 
 std::wstring WithoutNum(std::wstring text) {
@@ -201,11 +258,9 @@ void RunSettings(std::string_view bytes) {
           "a number reads back differently");
 }
 
-constexpr Target AllTargets[] = {{"ini", RunIni},
-                                 {"commands", RunCommands},
-                                 {"notation", RunNotation},
-                                 {"language", RunLanguage},
-                                 {"settings", RunSettings}};
+constexpr Target AllTargets[] = {
+    {"ini", RunIni},           {"commands", RunCommands}, {"usercommands", RunUserCommands},
+    {"notation", RunNotation}, {"language", RunLanguage}, {"settings", RunSettings}};
 
 }  // namespace
 
