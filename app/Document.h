@@ -126,7 +126,7 @@ class Document : Pinned {
   KnownContents known_;  ///< of "Wincmd.ini" and the files that its sections are redirected to
   std::optional<FailedSave> failure_;
   News news_;
-  KnownContents seen_;   ///< the same, when they were last opened or saved
+  KnownContents seen_;                  ///< the same, when they were last opened or saved
   bool keepsUnknownShortcuts_ = false;  ///< the settings at the last open, where they act
   bool showsUserCommands_ = false;
   bool modified_ = false;

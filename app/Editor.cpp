@@ -63,7 +63,7 @@ void Editor::Tell(News news) {
 /// To be called after whatever may open, save, edit, or select a row.
 void Editor::GatherNews() {
   if (list_.Selections() != newsSelection_) Tell({});
-  for (News& news : std::array{document_.TakeNews(), assignment_.TakeNews()}) {
+  for (News& news : std::array{document_.TakeNews(), assignment_.TakeNews(), list_.TakeNews()}) {
     if (news.Kind != NewsKind::None) Tell(std::move(news));
   }
 }

@@ -1,6 +1,9 @@
 // What the panel's toolbar does, and more that concerns the selected row.
 #include "app/ListMenu.h"
 
+#include "app/StepNames.h"
+#include "app/ToolbarButtons.h"
+#include "localisation/Mnemonic.h"
 #include "resources/resource.h"
 
 namespace tessera {
@@ -15,6 +18,11 @@ constexpr MenuEntry Entries[] = {
     {Command, TextId::DeleteHotkeys, IDM_delete},
     {Command, TextId::DeleteAllHotkeys, IDM_delall},
     {Separator},
+    {Command, TextId::Undo, IDM_undo},
+    {Command, TextId::Redo, IDM_redo},
+    {Separator},
+    {Command, TextId::ShowHolder, IDM_show},
+    {Separator},
     {Command, TextId::CopyCommandName, IDM_copycommand},
     {Command, TextId::CopyRow, IDM_copyrow},
     {Command, TextId::CopyAsTable, IDM_copytable},
@@ -23,5 +31,15 @@ constexpr MenuEntry Entries[] = {
 }  // namespace
 
 std::span<const MenuEntry> ListMenu() { return Entries; }
+
+std::wstring ListMenuCaption(const MenuEntry& entry, const Editor& editor) {
+  if (entry.Command == IDM_undo) return DoubleAmpersands(UndoCaption(editor));
+  if (entry.Command == IDM_redo) return DoubleAmpersands(RedoCaption(editor));
+  std::wstring caption = editor.Language().GetLangText(entry.Caption);
+  // The key that does the same stands at the other edge.
+  const ToolbarButton* const button = ButtonOf(entry.Command);
+  if (button != nullptr) caption.append(1, L'\t').append(button->Key);
+  return caption;
+}
 
 }  // namespace tessera

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/StepNames.h"
 #include "editing/KeyConflicts.h"
 #include "localisation/Placeholders.h"
 
@@ -69,6 +70,7 @@ class Teller {
   [[nodiscard]] std::wstring WithQuestion(const std::wstring& told, const std::wstring& key,
                                           const HoldersOfKey& holders,
                                           const StartMenuSlot* slot) const;
+  [[nodiscard]] std::wstring Restored(TextId id, const News& news) const;
   [[nodiscard]] std::wstring Reason(const FailedSave& failure) const;
 
   const Editor& editor_;
@@ -155,6 +157,13 @@ std::wstring Teller::Failure(const FailedSave& failure) const {
   return Say(TextId::NotSavedButKept, {Reason(failure), Joined(failure.KeptIn)});
 }
 
+std::wstring Teller::Restored(TextId id, const News& news) const {
+  const std::wstring told =
+      Say(id, {AsValue(StepName({news.Step, news.Row, news.Keys}, editor_.Document().Rows(),
+                                editor_.Language()))});
+  return news.StartMenuKeyIsGone ? Say(TextId::StartMenuKeyIsGone, {told}) : told;
+}
+
 std::wstring Teller::Tell(const News& news) const {
   // "This command" tells too little of what is done.
   const std::wstring name = news.Row != 0 ? AsValue(Row(news.Row).CommandName) : L"";
@@ -175,6 +184,10 @@ std::wstring Teller::Tell(const News& news) const {
       return Say(TextId::KeysAreDeleted, {name, news.Keys});
     case NewsKind::DeletedAll:
       return Say(TextId::AllKeysAreDeleted, {rows});
+    case NewsKind::Undone:
+      return Restored(TextId::IsUndone, news);
+    case NewsKind::Redone:
+      return Restored(TextId::IsRedone, news);
     case NewsKind::None:
       break;
   }

@@ -46,11 +46,8 @@ Unique<HMENU> ContextMenu(const Editor& editor) {
       AppendMenuW(menu.get(), MF_SEPARATOR, 0, nullptr);
       continue;
     }
-    const ToolbarButton* const button = ButtonOf(entry.Command);
-    std::wstring caption = editor.Language().GetLangText(entry.Caption);
-    // The key that does the same stands at the other edge.
-    if (button != nullptr) caption.append(1, L'\t').append(button->Key);
-    Append(menu.get(), entry.Command, caption, CommandEnabled(editor, entry.Command));
+    Append(menu.get(), entry.Command, ListMenuCaption(entry, editor),
+           CommandEnabled(editor, entry.Command));
   }
   return menu;
 }

@@ -149,8 +149,10 @@ void frmPanel::Sync() {
 void frmPanel::KeepFocusEnabled(bool inputsEnabled) const {
   const HWND focus = GetFocus();
   if (focus == nullptr || IsChild(Frame1_, focus) == FALSE) return;
-  const bool staysEnabled =
-      focus == statusRow_.ShowButton() ? editor_.Holders().ShowEnabled() : inputsEnabled;
+  bool staysEnabled = inputsEnabled;
+  if (focus == statusRow_.ShowButton()) staysEnabled = editor_.Holders().ShowEnabled();
+  if (focus == statusRow_.UndoButton())
+    staysEnabled = editor_.Document().Edits().ToUndo() != nullptr;
   if (!staysEnabled) events_.GiveFocusAway();
 }
 
@@ -210,6 +212,8 @@ bool frmPanel::OnCommand(int id, int notification) {
     events_.ToggleKeysList();
   } else if (id == IDC_cmdShow && notification == BN_CLICKED) {
     SendMessageW(GetParent(Frame1_), WM_COMMAND, IDM_show, 0);
+  } else if (id == IDC_cmdUndo && notification == BN_CLICKED) {
+    SendMessageW(GetParent(Frame1_), WM_COMMAND, IDM_undo, 0);
   } else {
     return false;
   }

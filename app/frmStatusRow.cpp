@@ -1,6 +1,7 @@
 // The line is a label, through which the pointer is the frame's.
 #include "app/frmStatusRow.h"
 
+#include "app/StepNames.h"
 #include "resources/resource.h"
 
 namespace tessera {
@@ -29,10 +30,13 @@ void frmStatusRow::Create(HWND frame) {
                              0, IDC_lblStatus);
   cmdShow_ =
       CreateControl(frame, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, IDC_cmdShow);
+  cmdUndo_ =
+      CreateControl(frame, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, IDC_cmdUndo);
 }
 
 void frmStatusRow::ApplyLanguage(const Texts& texts) {
   SetText(cmdShow_, texts.GetLangText(TextId::ShowHolder));
+  SetText(cmdUndo_, texts.GetLangText(TextId::Undo));
 }
 
 int frmStatusRow::ApplyFont(HFONT font, int dpi) {
@@ -40,6 +44,7 @@ int frmStatusRow::ApplyFont(HFONT font, int dpi) {
   dpi_ = dpi;
   GiveFont(lblStatus_, font);
   GiveFont(cmdShow_, font);
+  GiveFont(cmdUndo_, font);
   return RowIn(0, 0).Height;
 }
 
@@ -48,17 +53,43 @@ void frmStatusRow::LayOut(int top) {
   GetClientRect(frame_, &inside);
   const StatusRow row = RowIn(inside.right, top);
   Place(lblStatus_, row.Line);
-  Place(cmdShow_, row.Buttons.front());
+  Place(cmdShow_, row.Buttons[0]);
+  Place(cmdUndo_, row.Buttons[1]);
 }
 
 StatusRow frmStatusRow::RowIn(int width, int top) const {
-  const Size caption = SizeOf(TextSize(cmdShow_, font_, TextOf(cmdShow_)));
-  return LayOutStatusRow({.TextHeight = caption.Height, .Captions = {caption}}, width, top, dpi_);
+  const Size show = SizeOf(TextSize(cmdShow_, font_, TextOf(cmdShow_)));
+  const Size undo = SizeOf(TextSize(cmdUndo_, font_, TextOf(cmdUndo_)));
+  return LayOutStatusRow({.TextHeight = show.Height, .Captions = {show, undo}}, width, top, dpi_);
 }
 
 void frmStatusRow::Sync(const Editor& editor) {
   SetText(lblStatus_, StatusText(editor));
   SetEnabled(cmdShow_, editor.Holders().ShowEnabled());
+  const bool canUndo = editor.Document().Edits().ToUndo() != nullptr;
+  SetEnabled(cmdUndo_, canUndo);
+  SetUndoTip(canUndo ? UndoCaption(editor) : L"");
+}
+
+/// The tip has the button's messages itself. It is made when there is something to say.
+void frmStatusRow::SetUndoTip(const std::wstring& text) {
+  if (text == undoTipText_) return;
+  undoTipText_ = text;
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = frame_;
+  tool.uId = reinterpret_cast<UINT_PTR>(cmdUndo_);
+  tool.lpszText = undoTipText_.data();
+  const auto parameter = reinterpret_cast<LPARAM>(&tool);
+  if (undoTip_ == nullptr) {
+    undoTip_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0,
+                               0, 0, 0, GetAncestor(frame_, GA_ROOT), nullptr,
+                               GetModuleHandleW(nullptr), nullptr);
+    SendMessageW(undoTip_, TTM_ADDTOOLW, 0, parameter);
+  } else {
+    SendMessageW(undoTip_, TTM_UPDATETIPTEXTW, 0, parameter);
+  }
 }
 
 void frmStatusRow::Tell(bool modifierHeld, bool timerRuns) {
@@ -86,7 +117,7 @@ void frmStatusRow::FollowPointer(const MSG& message) {
 
 void frmStatusRow::Forget() {
   tip_.Forget();
-  frame_ = lblStatus_ = cmdShow_ = nullptr;
+  frame_ = lblStatus_ = cmdShow_ = cmdUndo_ = undoTip_ = nullptr;
 }
 
 }  // namespace tessera

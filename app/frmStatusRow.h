@@ -1,4 +1,4 @@
-// The row below the panel's controls: the line that tells, and the button beside it.
+// The row below the panel's controls: the line that tells, and the buttons beside it.
 #pragma once
 
 #include <string>
@@ -18,6 +18,7 @@ class frmStatusRow : Pinned {
   void Create(HWND frame);
 
   [[nodiscard]] HWND ShowButton() const { return cmdShow_; }
+  [[nodiscard]] HWND UndoButton() const { return cmdUndo_; }
   [[nodiscard]] HWND Line() const { return lblStatus_; }
 
   void ApplyLanguage(const Texts& texts);
@@ -42,15 +43,19 @@ class frmStatusRow : Pinned {
  private:
   [[nodiscard]] StatusRow RowIn(int width, int top) const;
   [[nodiscard]] bool LineIsCut(const std::wstring& text) const;
+  void SetUndoTip(const std::wstring& text);
 
   HWND frame_ = nullptr;
   HWND lblStatus_ = nullptr;
   HWND cmdShow_ = nullptr;
+  HWND cmdUndo_ = nullptr;
   HFONT font_ = nullptr;
   int dpi_ = 96;
   StatusTelling telling_;
   frmCellTip tip_;
   std::wstring tipText_;
+  HWND undoTip_ = nullptr;
+  std::wstring undoTipText_;
 };
 
 }  // namespace tessera

@@ -2,6 +2,7 @@
 #include "editing/CommandList.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "shortcuts/HotkeyNotation.h"
 #include "text/Numbers.h"
@@ -171,24 +172,31 @@ Reaction CommandList::ToggleSortedList() {
 Reaction CommandList::Undo() {
   const EditHistory::Step* const step = catalogue_.Edits.ToUndo();
   if (step == nullptr) return {};
-  catalogue_.Edits.Undo(catalogue_);
-  return ShowRestored(step->Name.Row);
+  const bool isComplete = catalogue_.Edits.Undo(catalogue_);
+  return ShowRestored(NewsKind::Undone, step->Name, !isComplete);
 }
 
 Reaction CommandList::Redo() {
   const EditHistory::Step* const step = catalogue_.Edits.ToRedo();
   if (step == nullptr) return {};
-  catalogue_.Edits.Redo(catalogue_);
-  return ShowRestored(step->Name.Row);
+  const bool isComplete = catalogue_.Edits.Redo(catalogue_);
+  return ShowRestored(NewsKind::Redone, step->Name, !isComplete);
 }
 
 /// An edit of all rows leaves the selected row.
-Reaction CommandList::ShowRestored(RowKey row) {
-  const bool selects = row != 0 && row != selectedRow_;
-  if (row != 0 && !shown_.PositionOf(row)) shown_.Search({});
-  if (selects) ShowRowDetails(row);
+Reaction CommandList::ShowRestored(NewsKind kind, const EditName& step, bool startMenuKeyIsGone) {
+  news_ = {.Kind = kind,
+           .Row = step.Row,
+           .Keys = step.Key,
+           .Step = step.Kind,
+           .StartMenuKeyIsGone = startMenuKeyIsGone};
+  const bool selects = step.Row != 0 && step.Row != selectedRow_;
+  if (step.Row != 0 && !shown_.PositionOf(step.Row)) shown_.Search({});
+  if (selects) ShowRowDetails(step.Row);
   return {.Restored = true, .HideKeysList = selects};
 }
+
+News CommandList::TakeNews() { return std::exchange(news_, {}); }
 
 void CommandList::RestoreStoredSort() {
   if (settings_.SortedList != 1) return;

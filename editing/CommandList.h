@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "editing/News.h"
 #include "editing/Reaction.h"
 #include "editing/ShownRows.h"
 #include "platform/Pinned.h"
@@ -77,11 +78,14 @@ class CommandList : Pinned {
   Reaction Undo();
   Reaction Redo();
 
+  /// What Undo or Redo did since this was last called; NewsKind::None for nothing.
+  [[nodiscard]] News TakeNews();
+
   /// Brings back the stored sort at the first activation of the program.
   void RestoreStoredSort();
 
  private:
-  Reaction ShowRestored(RowKey row);
+  Reaction ShowRestored(NewsKind kind, const EditName& step, bool startMenuKeyIsGone);
   void ChangeSelectedRow(RowKey row);
   void ShowFoundRow();
 
@@ -95,6 +99,7 @@ class CommandList : Pinned {
   SortDirection direction_ = SortDirection::Ascending;
   Column sortKey_ = Column::Description;
   std::array<HeaderIcon, 4> icons_{};
+  News news_;
 };
 
 }  // namespace tessera

@@ -16,8 +16,9 @@ namespace tessera {
 /// Holds the texts of all rows once more, from its first question on.
 class RowSearch {
  public:
-  /// For each row in file order, true for a command in whose description, command name, code, default keys and current keys
-  /// each of the words stands somewhere. `rows` must be the same table each time.
+  /// For each row in file order, true for a command in whose description, command name, code,
+  /// default keys and current keys each of the words stands somewhere. `rows` must be the same
+  /// table each time.
   [[nodiscard]] std::vector<bool> Match(const DisplayTable& rows,
                                         const std::vector<std::wstring>& words);
 

@@ -38,4 +38,10 @@ wchar_t MnemonicOf(std::wstring_view caption) {
   return L'\0';
 }
 
+std::wstring DoubleAmpersands(std::wstring_view text) {
+  std::wstring doubled;
+  for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
+  return doubled;
+}
+
 }  // namespace tessera

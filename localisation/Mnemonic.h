@@ -13,4 +13,7 @@ namespace tessera {
 /// The letter that a caption marks; 0 for none.
 [[nodiscard]] wchar_t MnemonicOf(std::wstring_view caption);
 
+/// A text as a caption that marks no letter: a doubled "&" is shown as itself.
+[[nodiscard]] std::wstring DoubleAmpersands(std::wstring_view text);
+
 }  // namespace tessera

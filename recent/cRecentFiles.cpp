@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "localisation/Mnemonic.h"
 #include "settings/ini/MissingMarker.h"
 #include "text/Text.h"
 
@@ -20,13 +21,6 @@ std::wstring FirstHalf(const std::wstring& name) { return name.substr(0, HalfNam
 
 std::wstring LastHalf(const std::wstring& name) {
   return name.substr(name.size() - std::min(name.size(), HalfName));
-}
-
-/// A caption's "&" marks a mnemonic; a doubled one is shown as itself.
-std::wstring DoubleAmpersands(std::wstring_view text) {
-  std::wstring doubled;
-  for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
-  return doubled;
 }
 
 std::vector<std::wstring> PartsOf(std::wstring_view path) {

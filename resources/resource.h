@@ -16,6 +16,9 @@
 #define IDC_lblListView1 1012
 #define IDC_lblStatus 1013
 #define IDC_cmdShow 1014
+#define IDC_cmdUndo 1015
+#define IDC_txtFind 1016
+#define IDC_lblFind 1017
 
 // The keys list
 #define IDC_List1 1021
@@ -72,9 +75,12 @@
 #define IDM_new 2042
 #define IDM_delete 2043
 #define IDM_delall 2044
+#define IDM_undo 2051
+#define IDM_redo 2052
 #define IDM_show 2053
 
 // Commands of the list's context menu alone
+#define IDM_find 2060
 #define IDM_copycommand 2061
 #define IDM_copyrow 2062
 #define IDM_copytable 2063

@@ -107,7 +107,11 @@ bool EditHistory::Make(Catalogue& catalogue, EditName name, const std::function<
     recording.NoteStartMenuKeys();
   }
   if (IsEmpty(step.Values)) return changed;
-  if (changed) step.Version = ++lastVersion_;
+  if (changed) {
+    step.Version = ++lastVersion_;
+  } else {
+    step.Name.Kind = EditKind::TakeFromStartMenu;
+  }
   steps_.resize(made_);
   steps_.push_back(std::move(step));
   ++made_;

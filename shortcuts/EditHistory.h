@@ -15,12 +15,18 @@ namespace tessera {
 
 struct Catalogue;
 
-enum class EditKind { Assign, Add, Delete, DeleteAll };
+enum class EditKind {
+  Assign,
+  Add,
+  Delete,
+  DeleteAll,
+  TakeFromStartMenu  ///< all that is left of an edit that was cancelled at a later question
+};
 
 struct EditName {
   EditKind Kind = EditKind::Assign;
-  RowKey Row = 0;    ///< 0 for DeleteAll
-  std::wstring Key;  ///< in display notation; empty for keys that are deleted
+  RowKey Row = 0;      ///< 0 for DeleteAll
+  std::wstring Key{};  ///< in display notation; empty for keys that are deleted
 };
 
 /// Former values, in the order in which they were changed; what changed twice stands there twice.
