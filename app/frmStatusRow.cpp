@@ -64,6 +64,8 @@ StatusRow frmStatusRow::RowIn(int width, int top) const {
 }
 
 void frmStatusRow::Sync(const Editor& editor) {
+  // Rows and what is known of them may not go together while a file is loaded.
+  if (editor.Document().Busy()) return;
   SetText(lblStatus_, StatusText(editor));
   SetEnabled(cmdShow_, editor.Holders().ShowEnabled());
   const bool canUndo = editor.Document().Edits().ToUndo() != nullptr;

@@ -57,6 +57,9 @@ class MainWindow : public Window {
   /// What the tip says that is shown over the list; empty while there is none.
   [[nodiscard]] std::wstring CellTip() const;
 
+  /// What the tip says that is shown over a part of a control; empty while there is none.
+  [[nodiscard]] std::wstring TipIn(int control) const;
+
   void ClickRow(int position);
 
   /// Selects a row without input, as assistive programs do.

@@ -148,11 +148,13 @@ RECT MainWindow::IconRectangle(int position) const {
                      {LVIR_ICON, 0, 0, 0});
 }
 
-std::wstring MainWindow::CellTip() const {
+std::wstring MainWindow::CellTip() const { return TipIn(IDC_ListView1); }
+
+std::wstring MainWindow::TipIn(int control) const {
   for (const HWND tip : VisibleWindows(ProcessId(), TOOLTIPS_CLASSW)) {
     TTTOOLINFOW tool{};
     tool.cbSize = sizeof tool;
-    tool.hwnd = Control(IDC_ListView1);
+    tool.hwnd = Control(control);
     tool.uId = 1;
     tool.lpszText = static_cast<wchar_t*>(memory_.At(TextsAt));
     memory_.Put(tool);

@@ -136,5 +136,18 @@ TEST_F(StatusLineTest, StandsBelowThePanelsControlsOverItsWholeWidth) {
   });
 }
 
+TEST_F(StatusLineTest, ShowsAllOfItInATipWhereItIsCut) {
+  const std::string description = "Does this & that" + std::string(180, 'x') + " and more";
+  WriteBytes(folder_.TotalcmdInc(), ReadBytes(folder_.TotalcmdInc()) +
+                                        "\r\n[Long]\r\ncm_Long=9999;" + description + "\r\n");
+  StartAndLoad();
+  Select(L"cm_Long");
+  WaitForLine(L"Does this & that", L"and more");
+  MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblStatus))));
+  WaitFor("the tip", [&] { return window_->TipIn(IDC_Frame1) == Line(); });
+  MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblHotkey))));
+  WaitFor("the tip to go", [&] { return window_->TipIn(IDC_Frame1).empty(); });
+}
+
 }  // namespace
 }  // namespace tessera::e2e::status_line_test

@@ -187,6 +187,16 @@ TEST_F(ShippedLanguages, KeepTheNamesOfProgramsAndFiles) {
   });
 }
 
+TEST_F(ShippedLanguages, HaveThePlacesForValuesOfTheEnglishTexts) {
+  ForEachText([](const BuiltInText& english, const std::wstring& text) {
+    for (const std::wstring_view place : {L"%1", L"%2", L"%3"}) {
+      const std::size_t at = text.find(place);
+      EXPECT_EQ(at != std::wstring::npos, english.Text.find(place) != std::wstring_view::npos);
+      EXPECT_TRUE(at == std::wstring::npos || text.find(place, at + 1) == std::wstring::npos);
+    }
+  });
+}
+
 TEST_F(ShippedLanguages, NameTheProgramThatIsRestarted) {
   ForEach([](const std::wstring& name, const Texts& texts) {
     if (name == Template) return;
