@@ -17,15 +17,18 @@ namespace {
 /// More than the line and its tip can show.
 constexpr std::size_t MostNames = 20;
 
+bool IsWithin(wchar_t character, wchar_t first, wchar_t last) {
+  return character >= first && character <= last;
+}
+
 bool IsControl(wchar_t character) {
-  const auto code = static_cast<unsigned>(character);
-  return code < 0x20 || (code >= 0x7F && code < 0xA0) || code == 0x2028 || code == 0x2029;
+  return character < L' ' || IsWithin(character, L'\x7F', L'\x9F') ||
+         IsWithin(character, L'\x2028', L'\x2029');
 }
 
 /// A mark that turns the direction of all that follows it.
 bool TurnsDirection(wchar_t character) {
-  const auto code = static_cast<unsigned>(character);
-  return (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+  return IsWithin(character, L'\x202A', L'\x202E') || IsWithin(character, L'\x2066', L'\x2069');
 }
 
 std::wstring OnOneLine(std::wstring text) {
