@@ -123,6 +123,9 @@ bool frmMain::OnContextMenu(HWND control, LPARAM place) {
   const bool byKeyboard = place == -1;
   if (!AcceptsInput() || (!byKeyboard && control != views_.List().Control())) return false;
   POINT corner{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+  // Some systems send it for a key that the window has taken; with Shift it is that of Shift+F10.
+  const bool isAlt = editor_.Panel().ContextMenuKeyIsAlt() && GetKeyState(VK_SHIFT) >= 0;
+  if (byKeyboard && isAlt) return true;
   if (byKeyboard) {
     corner = views_.MenuPlace();
   } else if (!views_.SelectRowAt(corner)) {

@@ -66,6 +66,10 @@ std::wstring HotkeyPanel::ComposeWith(int chosenKey) const {
   return notation_.ApplyReverseOrder(key.empty() ? notation_.UndefinedHotkey : key);
 }
 
+bool HotkeyPanel::ContextMenuKeyIsAlt() const {
+  return settings_.UseContextMenuKey != 0 && list_.CommandSelected();
+}
+
 Reaction HotkeyPanel::SetBox(Modifier box, bool checked) {
   boxesChecked_[IndexOf(box)] = checked;
   return {};

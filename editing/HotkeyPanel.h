@@ -42,6 +42,9 @@ class HotkeyPanel : Pinned {
   /// what the cells show.
   [[nodiscard]] bool IsTaken(int key) const;
 
+  /// The context menu key works on the box Alt, and opens no menu.
+  [[nodiscard]] bool ContextMenuKeyIsAlt() const;
+
   // -- Changes by the controls
 
   Reaction SetBox(Modifier box, bool checked);

@@ -116,6 +116,8 @@ TEST_F(ListMenuTest, WhereTheContextMenuKeyStandsForAltItOpensForHeadingsOnly) {
   Select(L"cm_SrcComments");
   Press(VK_APPS);
   WaitFor("box Alt to be checked", [&] { return window_->BoxChecked(IDC_chkCtrlAlt1); });
+  Press(VK_F7);
+  WaitFor("the key after it to be chosen", [&] { return window_->ChosenKey() == L"F7"; });
   EXPECT_FALSE(window_->InMenu());
 }
 

@@ -182,6 +182,14 @@ TEST_F(HotkeyPanelTest, WithTheOptionTheContextMenuKeyTogglesTheAltBoxAndAltDoes
   }
 }
 
+TEST_F(HotkeyPanelTest, TheContextMenuKeyIsAltForCommandsAndWithTheOptionOnly) {
+  EXPECT_FALSE(panel_.ContextMenuKeyIsAlt());
+  settings_.UseContextMenuKey = 1;
+  EXPECT_TRUE(panel_.ContextMenuKeyIsAlt());
+  list_.ShowRowDetails(Heading);
+  EXPECT_FALSE(panel_.ContextMenuKeyIsAlt());
+}
+
 TEST_F(HotkeyPanelTest, WithoutTheOptionTheContextMenuKeyIsLeftToTheControlAndToNoToggle) {
   EXPECT_FALSE(panel_.KeyDown(ContextMenu).Handled);
   EXPECT_FALSE(panel_.KeyUp(ContextMenu).Handled);

@@ -42,6 +42,20 @@ TEST_F(WindowsClipboardTest, TextReplacesWhatWasThere) {
   EXPECT_EQ(ClipboardText(), L"a\tb\r\n\x017C\x3042");
 }
 
+TEST_F(WindowsClipboardTest, TextAndHtmlAreThereTogetherUntilTheNextText) {
+  const UINT htmlFormat = RegisterClipboardFormatW(L"HTML Format");
+  EXPECT_TRUE(clipboard_.SetTextAndHtml(L"text", "<b>\xC3\x9C</b>"));
+  EXPECT_EQ(ClipboardText(), L"text");
+  ASSERT_TRUE(OpenClipboard(window_));
+  const HANDLE memory = GetClipboardData(htmlFormat);
+  ASSERT_NE(memory, nullptr);
+  EXPECT_STREQ(static_cast<const char*>(GlobalLock(memory)), "<b>\xC3\x9C</b>");
+  GlobalUnlock(memory);
+  CloseClipboard();
+  clipboard_.SetText(L"next");
+  EXPECT_FALSE(IsClipboardFormatAvailable(htmlFormat));
+}
+
 TEST_F(WindowsClipboardTest, AClipboardThatIsHeldForAMomentIsWaitedFor) {
   const HANDLE held = CreateEventW(nullptr, TRUE, FALSE, nullptr);
   std::thread holder([held] {
