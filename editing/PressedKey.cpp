@@ -85,7 +85,7 @@ constexpr KeptKey KeptKeys[] = {
 /// By its code, or by the character that it has in a layout of other letters.
 bool IsMnemonic(const KeyPress& press, std::wstring_view mnemonics) {
   const std::wstring_view typed(&press.Character, press.Character != L'\0' ? 1 : 0);
-  const wchar_t code = static_cast<wchar_t>(press.Event.Code);
+  const auto code = static_cast<wchar_t>(press.Event.Code);
   return std::ranges::any_of(mnemonics, [&](const wchar_t& mnemonic) {
     const std::wstring_view letter(&mnemonic, 1);
     return EqualIgnoringCase(letter, typed) || EqualIgnoringCase(letter, {&code, 1});
