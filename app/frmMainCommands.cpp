@@ -151,10 +151,6 @@ void frmMain::SyncKeys() {
   TellStatus();
 }
 
-void frmMain::TellStatus() {
-  views_.TellStatus(Held(VK_CONTROL) || Held(VK_MENU) || Held(VK_SHIFT), timerRuns_);
-}
-
 void frmMain::React(const Reaction& reaction) {
   if (reaction.StartTimer) {
     timerRuns_ = SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr) != 0;

@@ -109,4 +109,8 @@ bool frmMain::OpenButtonMenu() {
   return true;
 }
 
+void frmMain::TellStatus() {
+  views_.TellStatus(Held(VK_CONTROL) || Held(VK_MENU) || Held(VK_SHIFT), timerRuns_);
+}
+
 }  // namespace tessera
