@@ -146,6 +146,7 @@ void Editor::OpenPath(const std::wstring& path, bool addToRecent, WhenUnread whe
 void Editor::ShowOpenedFile(const std::wstring& path, bool addToRecent) {
   list_.EndSearch();
   list_.ShowFirstRow();
+  Tell({});  // what was told before may be of rows that are gone
   keysList_.Hide();
   if (addToRecent) {
     recentFiles_.AddFile(path);

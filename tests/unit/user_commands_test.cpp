@@ -2,6 +2,7 @@
 #include <set>
 #include <utility>
 
+#include "app/StatusLine.h"
 #include "shortcuts/UserCommands.h"
 #include "tests/unit/editor_fixture.h"
 #include "text/Utf8.h"
@@ -280,6 +281,23 @@ TEST_F(UserRowsTest, TakeKeysAreAskedAboutAndSaved) {
   EXPECT_FALSE(Files.Contents.contains(IniFile + L".dropped"));
 }
 
+TEST_F(UserRowsTest, AreFoundAsHoldersOfTheirKeysAfterAFurtherOpen) {
+  Start();
+  Reopen();
+  const RowKey mine = Rows().At(Mine).Key;
+  const HotkeyNotation notation;
+  EXPECT_EQ(Rows().HoldersOf(L"Alt + F5", notation).Currents, std::vector{mine});
+  Editor.Work(&CommandList::SelectRow, std::size_t{Mine});
+  Editor.Work(&HotkeyPanel::Delete);
+  EXPECT_TRUE(Rows().HoldersOf(L"Alt + F5", notation).Currents.empty());
+  Assign(Mine, L"X");
+  EXPECT_EQ(Rows().HoldersOf(L"X", notation).Currents, std::vector{mine});
+  Editor.Work(&CommandList::Undo);
+  Editor.Work(&CommandList::Undo);
+  EXPECT_EQ(Keys(Mine), L"Alt + F5");
+  EXPECT_EQ(Rows().HoldersOf(L"Alt + F5", notation).Currents, std::vector{mine});
+}
+
 TEST_F(UserRowsTest, AreSavedAsTheyWereReadWhateverElseChanges) {
   Start();
   Assign(Pack, L"X");
@@ -369,6 +387,24 @@ TEST_F(UserRowsTest, TheirTextsLiveAsLongAsTheyAreShown) {
   Reopen();
   EXPECT_EQ(shown.size(), 9U) << "events came while the former rows were shown";
   EXPECT_EQ(Rows().At(Mine).Description.size(), 2000U);
+}
+
+TEST_F(UserRowsTest, AreNotToldOfOnceTheyAreGone) {
+  std::wstring told;
+  bool isLoaded = false;
+  tessera::Editor editor(Seams, [&](const LoadProgress&) {
+    if (isLoaded) told = StatusText(editor);
+  });
+  editor.Load();
+  editor.Activate();
+  editor.Work(&CommandList::SelectRow, std::size_t{Mine});
+  editor.Work(&HotkeyPanel::Delete);
+  isLoaded = true;
+  EXPECT_NE(StatusText(editor).find(L"em_Mine"), std::wstring::npos);
+  UserCommands().clear();
+  MessageBoxes.Answers = {BoxAnswer::No};
+  editor.OpenShortcutFile(false, IniFile, false);
+  EXPECT_EQ(told.find(L"em_Mine"), std::wstring::npos);
 }
 
 TEST_F(UserRowsTest, ThousandsOfCommandsAreRowsLikeAny) {
