@@ -1,6 +1,7 @@
 // Opening and saving "Wincmd.ini", and the question about unsaved changes.
 #include "app/Document.h"
 
+#include <algorithm>
 #include <iterator>
 #include <memory>
 #include <span>
@@ -13,10 +14,26 @@
 #include "shortcuts/ReadKeys.h"
 #include "shortcuts/SaveShortcuts.h"
 #include "shortcuts/UserCommands.h"
+#include "text/Text.h"
 #include "text/Trim.h"
 
 namespace tessera {
 namespace {
+
+bool HasCurrentKeys(const std::vector<CommandEntry>& rows, const HotkeyNotation& notation) {
+  return std::ranges::any_of(rows, [&](const CommandEntry& row) {
+    return !row.IsHeading() && row.CurrentKeys != notation.UndefinedHotkey;
+  });
+}
+
+News NewsOf(const SaveOutcome& outcome, const std::wstring& wincmdPath) {
+  News news{.Kind = NewsKind::Saved, .File = wincmdPath};
+  if (!EqualIgnoringCase(outcome.Path, wincmdPath)) news.KeysFile = outcome.Path;
+  news.DroppedLines = outcome.Dropped.Lines.size();
+  news.DroppedLost = outcome.Dropped.Error != FileError::None;
+  news.DroppedIn = news.DroppedLost ? outcome.Path + L".bak" : outcome.Dropped.Path;
+  return news;
+}
 
 std::size_t RowsWithKeys(const DisplayTable& rows, const HotkeyNotation& notation) {
   std::size_t count = 0;
@@ -99,13 +116,14 @@ bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const Progr
   unread_ = unread;
   keepsUnknownShortcuts_ = settings_.KeepUnknownShortcuts != 0;
   showsUserCommands_ = settings_.ShowUserCommands != 0;
-  LoadCatalogue(wincmd, step);
+  News news = LoadCatalogue(wincmd, step);
   SetModified(false);
   failure_.reset();
   if (!unread) {
-    news_ = {.Kind = NewsKind::Opened,
-             .File = path,
-             .Rows = RowsWithKeys(catalogue_.ListView1, notation_)};
+    news.Kind = NewsKind::Opened;
+    news.File = path;
+    news.Rows = RowsWithKeys(catalogue_.ListView1, notation_);
+    news_ = std::move(news);
   }
   return true;
 }
@@ -124,13 +142,16 @@ bool Document::AskToRetry(const std::wstring& path) {
          BoxAnswer::Retry;
 }
 
-void Document::LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step) {
+/// Gives what there is to tell of the keys and the commands.
+News Document::LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step) {
+  News news;
   // Until the table is built anew, the list shows the rows that hold views of them.
   const std::shared_ptr<const UserCommandTexts> shownTexts = catalogue_.UserTexts;
   catalogue_.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), notation_);
   if (catalogue_.lvwHidden.size() == catalogue_.UserRows) ReadMasterRows(step);
   if (settings_.ForgetKeysAtOpen != 0) ForgetFormerKeys();
-  ReadUserRows();
+  news.UnreadFile = ReadUserRows();
+  news.HasFormerKeys = HasCurrentKeys(catalogue_.lvwHidden, notation_);
   inputFiles_.FindDefaultHotkeys();
   const ProfileFile defaults(system_.Files, settings_.DefaultHotKeysDataFile);
   const std::size_t masterRows = catalogue_.lvwHidden.size() - catalogue_.UserRows;
@@ -139,6 +160,7 @@ void Document::LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step) 
   BuildDisplayTable(catalogue_, notation_, step);
   BuildKeyIndexes(catalogue_, notation_);
   MarkOverriddenDefaults(catalogue_);
+  return news;
 }
 
 /// Else the rows keep the keys of the files that were opened before, deliberately.
@@ -160,11 +182,14 @@ void Document::ReadMasterRows(const ProgressStep& step) {
   }
 }
 
-void Document::ReadUserRows() {
+/// Gives the path of a file that is there and could not be read.
+std::wstring Document::ReadUserRows() {
   UserCommandFile file;
   if (showsUserCommands_) file = ReadUserCommands(system_.Files, system_.Clock, wincmdPath_);
   ReplaceUserRows(catalogue_, std::move(file.Commands), texts_.GetLangText(TextId::OwnCommands),
                   notation_);
+  const bool isUnread = file.Error != FileError::None && file.Error != FileError::NotFound;
+  return isUnread ? std::move(file.Path) : std::wstring();
 }
 
 bool Document::ChangesMayGo() {
@@ -225,7 +250,7 @@ void Document::Save(bool restarts) {
     seen_ = known_;
     SetModified(false);
     failure_.reset();
-    news_ = {.Kind = NewsKind::Saved, .File = wincmdPath_};
+    news_ = NewsOf(outcome, wincmdPath_);
   } else {
     system_.MessageBoxes.Beep();
     failure_ = {.Error = outcome.Error, .KeptIn = files_.Left()};

@@ -105,10 +105,10 @@ class Document : Pinned {
   void ReadModifierNames();
   [[nodiscard]] WincmdIni ReadWincmdIni(const std::wstring& path, KnownContents& known);
   [[nodiscard]] bool AskToRetry(const std::wstring& path);
-  void LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step);
+  [[nodiscard]] News LoadCatalogue(const WincmdIni& wincmd, const ProgressStep& step);
   void ReadMasterRows(const ProgressStep& step);
   void ForgetFormerKeys();
-  void ReadUserRows();
+  [[nodiscard]] std::wstring ReadUserRows();
   [[nodiscard]] BoxAnswer AskToSaveChanges();
   [[nodiscard]] SaveRequest SaveRequestOfNow(KnownContents& known) const;
   void Save(bool restarts);

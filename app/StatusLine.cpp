@@ -75,6 +75,8 @@ class Teller {
                                           const StartMenuSlot* slot) const;
   [[nodiscard]] std::wstring Restored(TextId id, const News& news) const;
   [[nodiscard]] std::wstring Reason(const FailedSave& failure) const;
+  [[nodiscard]] std::wstring Opened(const News& news) const;
+  [[nodiscard]] std::wstring Saved(const News& news) const;
 
   const Editor& editor_;
 };
@@ -160,6 +162,22 @@ std::wstring Teller::Failure(const FailedSave& failure) const {
   return Say(TextId::NotSavedButKept, {Reason(failure), Joined(failure.KeptIn)});
 }
 
+std::wstring Teller::Opened(const News& news) const {
+  std::wstring told =
+      Say(TextId::FileIsOpened, {FileNameOf(news.File), std::to_wstring(news.Rows)});
+  if (news.HasFormerKeys) told = Say(TextId::FormerKeysAreShown, {told});
+  if (news.UnreadFile.empty()) return told;
+  return Say(TextId::OwnCommandsUnread, {told, FileNameOf(news.UnreadFile)});
+}
+
+std::wstring Teller::Saved(const News& news) const {
+  std::wstring told = Say(TextId::FileIsSaved, {FileNameOf(news.File)});
+  if (!news.KeysFile.empty()) told = Say(TextId::KeysAreIn, {told, news.KeysFile});
+  if (news.DroppedLines == 0) return told;
+  const TextId id = news.DroppedLost ? TextId::LinesAreOnlyIn : TextId::LinesAreIn;
+  return Say(id, {told, std::to_wstring(news.DroppedLines), FileNameOf(news.DroppedIn)});
+}
+
 std::wstring Teller::Restored(TextId id, const News& news) const {
   const std::wstring told =
       Say(id, {AsValue(StepName({news.Step, news.Row, news.Keys}, editor_.Document().Rows(),
@@ -176,9 +194,9 @@ std::wstring Teller::Tell(const News& news) const {
   };
   switch (news.Kind) {
     case NewsKind::Opened:
-      return Say(TextId::FileIsOpened, {FileNameOf(news.File), rows});
+      return Opened(news);
     case NewsKind::Saved:
-      return Say(TextId::FileIsSaved, {FileNameOf(news.File)});
+      return Saved(news);
     case NewsKind::Assigned:
       return withLoser(Say(TextId::KeyIsAssigned, {name, news.Keys}));
     case NewsKind::Added:

@@ -20,6 +20,16 @@ struct News {
   EditKind Step{};                  ///< of that row and key, which was taken back or made again
   bool StartMenuKeyIsGone = false;  ///< it had one that a save has taken out of the file
   std::size_t Rows{};  ///< how many rows have current keys after an open, or lost theirs
+
+  // Of an open
+  bool HasFormerKeys = false;  ///< keys of files that were opened before are shown too
+  std::wstring UnreadFile{};   ///< of own commands; empty unless it is there and could not be read
+
+  // Of a save
+  std::wstring KeysFile{};     ///< where the keys are, if in another file; else empty
+  std::size_t DroppedLines{};  ///< how many lines were left out
+  std::wstring DroppedIn{};    ///< the file that they are in now
+  bool DroppedLost = false;    ///< they are there only until the next save
 };
 
 }  // namespace tessera

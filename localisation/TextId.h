@@ -134,6 +134,11 @@ enum class TextId : int {
   ForgetKeys = 3371,
   ShowOwnCommands = 3372,
   OwnCommands = 3373,
+  KeysAreIn = 3374,
+  LinesAreIn = 3375,
+  LinesAreOnlyIn = 3376,
+  FormerKeysAreShown = 3377,
+  OwnCommandsUnread = 3378,
 };
 
 /// The number that stands for a text in a language file.

@@ -139,6 +139,11 @@ constexpr BuiltInText Table[] = {
     {TextId::ForgetKeys, L"Forget the keys of former files. (from the next open)"},
     {TextId::ShowOwnCommands, L"Show own commands of usercmd.ini. (from the next open)"},
     {TextId::OwnCommands, L"Own commands (usercmd.ini)"},
+    {TextId::KeysAreIn, L"%1 The keys are in %2."},
+    {TextId::LinesAreIn, L"%1 Lines that were left out: %2, added to %3."},
+    {TextId::LinesAreOnlyIn, L"%1 Lines that were left out: %2, to be found only in %3."},
+    {TextId::FormerKeysAreShown, L"%1. Keys of former files are still shown"},
+    {TextId::OwnCommandsUnread, L"%1. Own commands are missing: %2 could not be read"},
 };
 
 }  // namespace

@@ -93,10 +93,10 @@ bool IsUserCommand(std::wstring_view command) {
 UserCommandFile ReadUserCommands(const Files& files, Clock& clock, const std::wstring& wincmdPath) {
   const std::wstring folder = DirectoryOf(wincmdPath);
   const std::wstring path = (folder.empty() ? folder : AddBackslash(folder)) + L"usercmd.ini";
-  if (files.Stamp(path).Length > LargestFile) return {{}, FileError::Other};
+  if (files.Stamp(path).Length > LargestFile) return {path, {}, FileError::Other};
   const ProfileFile read(files, clock, path);
   const ProfileFile file = Decoded(read.Content());
-  UserCommandFile result{{}, read.ReadError()};
+  UserCommandFile result{path, {}, read.ReadError()};
   std::unordered_set<std::wstring, HashIgnoringCase, EqualsIgnoringCase> names;
   for (std::wstring& name : file.SectionNames()) {
     if (!IsUsable(name) || !names.insert(name).second) continue;

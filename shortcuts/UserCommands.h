@@ -16,6 +16,7 @@ namespace tessera {
 [[nodiscard]] bool IsUserCommand(std::wstring_view command);
 
 struct UserCommandFile {
+  std::wstring Path;
   std::vector<UserCommand> Commands;
   FileError Error = FileError::None;  ///< NotFound without a file; Other also for one over 4 MB
 };

@@ -56,6 +56,69 @@ TEST_F(StatusLineTest, TellsWhatAnEditDid) {
   EXPECT_EQ(Line(), L"Wincmd.ini is saved.");
 }
 
+TEST_F(StatusLineTest, AfterAFurtherOpenSaysThatFormerKeysAreShown) {
+  Editor.OpenShortcutFile(false, IniFile, false);
+  const std::wstring opened = L"Wincmd.ini is open. Commands with keys of your own: 2";
+  EXPECT_EQ(Line(), opened + L". Keys of former files are still shown");
+  OptionsSelection& options = Editor.BeginOptions();
+  options.Click(OptionBox::ForgetKeysAtOpen);
+  options.Apply();
+  Editor.EndOptions();
+  Editor.OpenShortcutFile(false, IniFile, false);
+  EXPECT_EQ(Line(), opened);
+}
+
+TEST_F(StatusLineTest, AfterAFurtherOpenWithoutFormerKeysSaysNothingOfThem) {
+  Ini() = "[Shortcuts]\r\n";
+  tessera::Editor editor(Seams, [](const LoadProgress&) {});
+  editor.Load();
+  editor.Activate();
+  editor.OpenShortcutFile(false, IniFile, false);
+  EXPECT_EQ(StatusText(editor), L"Wincmd.ini is open. Commands with keys of your own: 0");
+}
+
+TEST_F(StatusLineTest, OfOwnCommandsThatCouldNotBeReadNamesTheFile) {
+  OptionsSelection& options = Editor.BeginOptions();
+  options.Click(OptionBox::ShowUserCommands);
+  options.Click(OptionBox::ForgetKeysAtOpen);
+  options.Apply();
+  Editor.EndOptions();
+  const std::wstring opened = L"Wincmd.ini is open. Commands with keys of your own: 2";
+  Editor.OpenShortcutFile(false, IniFile, false);
+  EXPECT_EQ(Line(), opened) << "there is none";
+  Files.Contents[L"C:\\TC\\usercmd.ini"] = std::string(5 << 20, ' ');
+  Editor.OpenShortcutFile(false, IniFile, false);
+  EXPECT_EQ(Line(), opened + L". Own commands are missing: usercmd.ini could not be read");
+}
+
+TEST_F(StatusLineTest, OfDroppedLinesSaysHowManyAndWhereTheyAre) {
+  Ini() += "[Shortcuts]\r\n";
+  Ini().insert(Ini().find("C+F3="), "F6=em_a\r\nF7=em_b\r\n");
+  Assign(Pack, L"F9");
+  Editor.Work(&HotkeyPanel::ResetPanel);
+  Editor.FileSave();
+  EXPECT_EQ(Line(),
+            L"Wincmd.ini is saved. Lines that were left out: 2, added to Wincmd.ini.dropped.");
+  Ini().insert(Ini().find("C+F3="), "F6=em_a\r\n");
+  Files.AppendErrors.assign(100, FileError::AccessDenied);
+  Assign(Pack, L"F8");
+  Editor.Work(&HotkeyPanel::ResetPanel);
+  Editor.FileSave();
+  EXPECT_EQ(
+      Line(),
+      L"Wincmd.ini is saved. Lines that were left out: 1, to be found only in Wincmd.ini.bak.");
+}
+
+TEST_F(StatusLineTest, OfASaveNamesTheOtherFileThatHoldsTheKeys) {
+  Ini() = "[Shortcuts]\r\nRedirectSection=Other.ini\r\n";
+  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nF6=em_a\r\n";
+  Assign(Pack, L"F9");
+  Editor.Work(&HotkeyPanel::ResetPanel);
+  Editor.FileSave();
+  EXPECT_EQ(Line(), L"Wincmd.ini is saved. The keys are in " + OtherIniFile +
+                        L". Lines that were left out: 1, added to Other.ini.dropped.");
+}
+
 TEST_F(StatusLineTest, OfAFailedSaveSaysWhyAndWhereTheKeysAre) {
   Assign(Pack, L"F9");
   Editor.Work(&HotkeyPanel::ResetPanel);

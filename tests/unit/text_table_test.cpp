@@ -157,6 +157,11 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3371}, L"Forget the keys of former files. (from the next open)"},
       {TextId{3372}, L"Show own commands of usercmd.ini. (from the next open)"},
       {TextId{3373}, L"Own commands (usercmd.ini)"},
+      {TextId{3374}, L"%1 The keys are in %2."},
+      {TextId{3375}, L"%1 Lines that were left out: %2, added to %3."},
+      {TextId{3376}, L"%1 Lines that were left out: %2, to be found only in %3."},
+      {TextId{3377}, L"%1. Keys of former files are still shown"},
+      {TextId{3378}, L"%1. Own commands are missing: %2 could not be read"},
   };
   for (const BuiltInText& text : texts) {
     EXPECT_EQ(BuiltInTextOf(text.Id), text.Text) << NumberOf(text.Id);
