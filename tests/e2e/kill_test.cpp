@@ -1,4 +1,5 @@
-// The program killed while it saves: the file is the old one or the new one, whole.
+// The program killed while it saves: the file is the old one or the new one, whole, and a line that
+// the new one lacks stands beside it.
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
@@ -17,12 +18,35 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+constexpr const char* DroppedLine = "A+F9=em_Mine\r\n";
+
 class KillTest : public EndToEndTest {
  protected:
   struct Change {
     int Row = 0;
     std::string Saved;  ///< the file that a save is to write
   };
+
+  /// Puts a line into the file that the next save is to drop.
+  void AddDroppedLine() const {
+    const std::string header = "[Shortcuts]\r\n";
+    std::string content = ReadBytes(folder_.WincmdIni());
+    content.insert(content.find(header) + header.size(), DroppedLine);
+    WriteBytes(folder_.WincmdIni(), content);
+  }
+
+  /// How often that line stands, whole, beside the file.
+  [[nodiscard]] int DroppedLines() const {
+    const std::wstring path = folder_.WincmdIni() + L".dropped";
+    const std::string dropped = Exists(path) ? ReadBytes(path) : "";
+    const std::string line = std::string("\r\n") + DroppedLine;
+    int count = 0;
+    for (std::size_t at = dropped.find(line); at != std::string::npos;
+         at = dropped.find(line, at + 1)) {
+      ++count;
+    }
+    return count;
+  }
 
   /// The first command that has keys of the user's loses them.
   Change TakeKeysAway() {
@@ -42,6 +66,7 @@ class KillTest : public EndToEndTest {
 
   /// How long a whole save takes, from the command to the end.
   Clock::duration TimeOfASave() {
+    AddDroppedLine();
     const std::string wanted = TakeKeysAway().Saved;
     const Clock::time_point start = Clock::now();
     window_->Command(IDM_mnuFileSave);
@@ -101,6 +126,8 @@ TEST_F(KillTest, FileIsOldOrNewWheneverTheProgramIsKilled) {
   int news = 0;
   int leftOvers = 0;
   for (int kill = 0; kill < kills; ++kill) {
+    AddDroppedLine();
+    const int dropped = DroppedLines();
     const std::string old = ReadBytes(folder_.WincmdIni());
     const auto [row, changed] = TakeKeysAway();
     const std::chrono::microseconds delay(delays(random));
@@ -118,6 +145,7 @@ TEST_F(KillTest, FileIsOldOrNewWheneverTheProgramIsKilled) {
     const std::vector<RowTexts> expected = ExpectedRows(folder_);
     ASSERT_EQ(window_->RowCount(), static_cast<int>(expected.size())) << moment;
     ASSERT_EQ(window_->Row(row), expected.at(static_cast<std::size_t>(row))) << moment;
+    ASSERT_TRUE(found == old || DroppedLines() > dropped) << moment << ": a line is lost";
     news += found == changed ? 1 : 0;
     if (SectionLines(found, "Shortcuts").size() < KeysToSpare) {
       WriteBytes(folder_.WincmdIni(), original);
