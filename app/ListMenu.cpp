@@ -21,7 +21,7 @@ constexpr MenuEntry Entries[] = {
     {Command, TextId::Undo, IDM_undo},
     {Command, TextId::Redo, IDM_redo},
     {Separator},
-    {Command, TextId::ShowHolder, IDM_show},
+    {Command, TextId::ShowWhoHasTheKey, IDM_show},
     {Separator},
     {Command, TextId::CopyCommandName, IDM_copycommand},
     {Command, TextId::CopyRow, IDM_copyrow},

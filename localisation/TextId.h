@@ -114,6 +114,7 @@ enum class TextId : int {
   CopyCommandName = 3342,
   CopyRow = 3343,
   CopyAsTable = 3344,
+  ShowWhoHasTheKey = 3345,
   Undo = 3350,
   Redo = 3351,
   UndoStep = 3352,

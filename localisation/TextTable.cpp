@@ -118,6 +118,7 @@ constexpr BuiltInText Table[] = {
     {TextId::CopyCommandName, L"Copy Command Name"},
     {TextId::CopyRow, L"Copy Row"},
     {TextId::CopyAsTable, L"Copy as Table"},
+    {TextId::ShowWhoHasTheKey, L"Show Who Has the Key"},
     {TextId::Undo, L"Undo"},
     {TextId::Redo, L"Redo"},
     {TextId::UndoStep, L"Undo: %1"},

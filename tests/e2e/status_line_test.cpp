@@ -122,17 +122,19 @@ TEST_F(StatusLineTest, StandsBelowThePanelsControlsOverItsWholeWidth) {
   StartAndLoad();
   const RECT panel = RectangleOf(window_->Control(IDC_Frame1));
   const RECT line = RectangleOf(window_->Control(IDC_lblStatus));
-  const RECT button = RectangleOf(window_->Control(IDC_cmdShow));
+  const RECT show = RectangleOf(window_->Control(IDC_cmdShow));
+  const RECT undo = RectangleOf(window_->Control(IDC_cmdUndo));
   EXPECT_GE(line.top, RectangleOf(window_->Control(IDC_Toolbar2)).bottom);
   EXPECT_GE(line.top, RectangleOf(window_->Control(IDC_Combo1)).bottom);
-  EXPECT_LE(line.right, button.left);
-  EXPECT_EQ(button.right, panel.right);
-  EXPECT_LE(button.bottom, panel.bottom);
+  EXPECT_LE(line.right, show.left);
+  EXPECT_LE(show.right, undo.left);
+  EXPECT_EQ(undo.right, panel.right);
+  EXPECT_LE(undo.bottom, panel.bottom);
   SetWindowPos(window_->Handle(), nullptr, 0, 0, 900, 600, SWP_NOMOVE | SWP_NOZORDER);
-  WaitFor("the button at the end", [&] {
+  WaitFor("the buttons at the end", [&] {
     const RECT now = RectangleOf(window_->Control(IDC_Frame1));
     return now.right != panel.right &&
-           RectangleOf(window_->Control(IDC_cmdShow)).right == now.right;
+           RectangleOf(window_->Control(IDC_cmdUndo)).right == now.right;
   });
 }
 

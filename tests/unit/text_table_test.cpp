@@ -137,6 +137,7 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3342}, L"Copy Command Name"},
       {TextId{3343}, L"Copy Row"},
       {TextId{3344}, L"Copy as Table"},
+      {TextId{3345}, L"Show Who Has the Key"},
       {TextId{3350}, L"Undo"},
       {TextId{3351}, L"Redo"},
       {TextId{3352}, L"Undo: %1"},

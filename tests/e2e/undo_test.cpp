@@ -1,0 +1,108 @@
+// Taking edits back by the button beside the line and by the menu of the list.
+#include "resources/resource.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Input.h"
+#include "tests/e2e/MenuPicture.h"
+#include "tests/e2e/StartResolution.h"
+#include "tests/support/win32/Wait.h"
+
+namespace tessera::e2e::undo_test {
+namespace {
+
+class UndoTest : public EndToEndTest {
+ protected:
+  void Assign(const std::wstring& command, const std::wstring& key) {
+    Select(command);
+    if (!window_->ChosenKey().empty()) Press(VK_ESCAPE);  // else the chooser begins there
+    WaitFor("no key", [&] { return window_->ChosenKey().empty(); });
+    window_->ChooseKey(key);
+    window_->Command(IDM_assign);
+    WaitForKeys(command, key);
+  }
+
+  void ClickUndo() const { window_->ClickControl(IDC_cmdUndo); }
+
+  void WaitForLine(const std::wstring& line) const {
+    WaitFor("the line " + Utf8(line), [&] { return window_->ControlText(IDC_lblStatus) == line; });
+  }
+};
+
+TEST_F(UndoTest, TheButtonTakesOneEditAfterTheOtherBack) {
+  StartAndLoad();
+  EXPECT_FALSE(window_->Enabled(IDC_cmdUndo));
+  const std::wstring former = RowOf(L"cm_SrcTree")[3];
+  Assign(L"cm_SrcTree", L"K");
+  Assign(L"cm_SrcComments", L"J");
+  window_->Command(IDM_undo);
+  WaitFor("one step less", [&] { return RowOf(L"cm_SrcComments")[3] != L"J"; });
+  EXPECT_TRUE(Modified());
+  Select(L"cm_SrcShort");
+  ClickUndo();
+  WaitFor("the row to be selected",
+          [&] { return window_->SelectedRow() == window_->FindCommand(L"cm_SrcTree"); });
+  EXPECT_EQ(RowOf(L"cm_SrcTree")[3], former);
+  WaitFor("nothing to save", [&] { return !Modified(); });
+  WaitFor("the button to be disabled", [&] { return !window_->Enabled(IDC_cmdUndo); });
+  WaitFor("the focus to leave it", [&] { return window_->HasFocus(IDC_ListView1); });
+}
+
+TEST_F(UndoTest, TheLineAndTheMenuNameTheStep) {
+  StartAndLoad();
+  Assign(L"cm_SrcTree", L"K");
+  Press(VK_ESCAPE);
+  ClickUndo();
+  WaitForLine(L"Taken back: K to cm_SrcTree.");
+  RightClick(CenterOf(window_->CellRectangle(window_->SelectedRow(), 1)));
+  WaitFor("the menu", [&] { return !window_->OpenMenus().empty(); });
+  const HWND menu = window_->OpenMenus().front();
+  EXPECT_TRUE(WaitForMenuEntry(menu, L"Redo: K to cm_SrcTree").Enabled);
+  EXPECT_FALSE(WaitForMenuEntry(menu, L"Undo").Enabled);
+  window_->CloseMenus();
+  window_->Command(IDM_redo);
+  WaitForLine(L"Made again: K to cm_SrcTree.");
+  EXPECT_EQ(RowOf(L"cm_SrcTree")[3], L"K");
+}
+
+TEST_F(UndoTest, AfterDeleteAllAndUndoTheFileIsSavedAsItWas) {
+  StartAndLoad();
+  Assign(L"cm_SrcTree", L"K");
+  Save();
+  const std::string saved = ReadBytes(folder_.WincmdIni());
+  const std::vector<RowTexts> rows = window_->Rows();
+  PostMessageW(window_->Handle(), WM_COMMAND, IDM_delall, 0);
+  Answer(NextBox(), IDYES);
+  WaitForKeys(L"cm_SrcTree", L"---");
+  ClickUndo();
+  WaitForKeys(L"cm_SrcTree", L"K");
+  EXPECT_EQ(window_->Rows(), rows);
+  EXPECT_FALSE(Modified());
+  Assign(L"cm_SrcTree", L"J");
+  Assign(L"cm_SrcTree", L"K");
+  Save();
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni()), saved);
+}
+
+TEST_F(UndoTest, StandsBesideShowAtTwiceTheResolutionFromRightToLeft) {
+  const StartResolution resolution(192);
+  WriteBytes(folder_.SettingsFile(),
+             "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
+                 Utf8(folder_.Program() + L"Languages\\Arabic.lng") + "\r\n");
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  {
+    const HeldKey control(VK_CONTROL);
+    const HeldKey alt(VK_MENU);
+    Press('K');
+  }
+  Press(VK_RETURN);
+  WaitFor("a step", [&] { return window_->Enabled(IDC_cmdUndo); });
+  const RECT undo = RectangleOf(window_->Control(IDC_cmdUndo));
+  const RECT show = RectangleOf(window_->Control(IDC_cmdShow));
+  EXPECT_LE(undo.right, show.left);
+  EXPECT_EQ(undo.top, show.top);
+  ClickUndo();
+  WaitFor("the button to be disabled", [&] { return !window_->Enabled(IDC_cmdUndo); });
+}
+
+}  // namespace
+}  // namespace tessera::e2e::undo_test
