@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "localisation/TextTable.h"
-#include "settings/commander/RestartTotalCommander.h"
 #include "shortcuts/DefaultHotkeys.h"
 #include "shortcuts/InternalCommands.h"
 #include "shortcuts/ReadKeys.h"
@@ -242,7 +241,9 @@ void Document::Save(bool restarts) {
     return;
   }
   const BusyTime busy(busy_);
-  const bool mayStart = restarts && Restart(true);
+  const bool wasRunning = restarts && FindTotalCommander(system_.Programs) != 0;
+  const std::wstring commander = wasRunning ? RunningTotalCommander(system_.Programs) : L"";
+  const bool mayStart = restarts && Restart(true) != RestartResult::NotAllowed;
   kept_.reset();  // a save that succeeds takes it away, and one that fails writes its own
   const SaveOutcome outcome = SaveShortcuts(catalogue_, notation_, SaveRequestOfNow(known_), files_,
                                             system_.Clock, inputFiles_.CommanderVariables());
@@ -254,18 +255,25 @@ void Document::Save(bool restarts) {
   } else {
     system_.MessageBoxes.Beep();
     failure_ = {.Error = outcome.Error, .KeptIn = files_.Left()};
+    news_ = {.Kind = NewsKind::NotSaved};
   }
-  const bool started = mayStart && Restart(false);
   // It runs on with its former keys, which it would not tell by itself.
-  if (restarts && !started) system_.MessageBoxes.Beep();
+  if (restarts && !mayStart) system_.MessageBoxes.Beep();
+  const bool isMissed = mayStart && Restart(false) == RestartResult::NotStarted;
+  news_.CommanderIsClosed = isMissed && wasRunning;
+  if (news_.CommanderIsClosed) news_.Commander = commander;
 }
 
-/// Closes Total Commander before the save, or starts it after that. False when it cannot be closed.
+/// Closes Total Commander before the save, or starts it after that.
 /// One that may be closed, and whose user then chose otherwise, is started a second time,
 /// deliberately: its window cannot tell that from a close that takes long.
-bool Document::Restart(bool closeIt) {
+RestartResult Document::Restart(bool closeIt) {
   return RestartTotalCommander(system_.Programs, system_.Clock, system_.Files, system_.Environment,
                                {.WincmdPath = wincmdPath_, .CloseIt = closeIt});
+}
+
+bool Document::StartCommander(const std::wstring& program) {
+  return StartTotalCommander(system_.Programs, program, {.WincmdPath = wincmdPath_});
 }
 
 void Document::SetModified(bool modified) {

@@ -11,6 +11,7 @@
 #include "localisation/Texts.h"
 #include "platform/Pinned.h"
 #include "platform/System.h"
+#include "settings/commander/RestartTotalCommander.h"
 #include "settings/ini/ProfileFile.h"
 #include "settings/ini/UnsavedFiles.h"
 #include "settings/Settings.h"
@@ -93,6 +94,9 @@ class Document : Pinned {
 
   void FileSave();
   void FileSaveAndRestart();
+
+  /// Starts that program, a Total Commander, as a save with restart does; false when that fails.
+  bool StartCommander(const std::wstring& program);
   void SetModified(bool modified);
 
   /// What the last open or save did; nothing when it was taken already.
@@ -112,7 +116,7 @@ class Document : Pinned {
   [[nodiscard]] BoxAnswer AskToSaveChanges();
   [[nodiscard]] SaveRequest SaveRequestOfNow(KnownContents& known) const;
   void Save(bool restarts);
-  [[nodiscard]] bool Restart(bool closeIt);
+  [[nodiscard]] RestartResult Restart(bool closeIt);
 
   System system_;
   const Texts& texts_;

@@ -122,6 +122,20 @@ void Editor::FileSaveAndRestart() {
   GatherNews();
 }
 
+bool Editor::ShowEnabled() const { return holders_.ShowEnabled() || ShowStartsCommander(); }
+
+bool Editor::ShowStartsCommander() const {
+  return panel_.ChosenKey() == NoKeyChosen && !news_.Commander.empty();
+}
+
+void Editor::Show() {
+  if (!ShowStartsCommander()) {
+    Work(&HolderTour::Show);
+  } else if (!document_.Busy() && document_.StartCommander(news_.Commander)) {
+    Tell({});
+  }
+}
+
 void Editor::ToggleToolbar() { settings_.ToolbarVisible = settings_.ToolbarVisible != 0 ? 0 : 1; }
 
 void Editor::RefreshRestartItems() { document_.RefreshRestartItems(); }

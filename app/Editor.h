@@ -55,6 +55,11 @@ class Editor : Pinned {
   /// What the last edit, save or open did, until another row is selected.
   [[nodiscard]] const News& LatestNews() const;
 
+  [[nodiscard]] bool ShowEnabled() const;
+
+  /// Show would start Total Commander.
+  [[nodiscard]] bool ShowStartsCommander() const;
+
   // -- Work on the rows
 
   /// Runs an operation of the panel, the command list or the keys list, and does what follows from
@@ -95,6 +100,10 @@ class Editor : Pinned {
   void FileSave();
   void FileSaveAndRestart();
   void ToggleToolbar();
+
+  /// What the button beside the line does: it leads to the command that has the composed key; with
+  /// no key composed it starts the Total Commander that a save has closed and not found again.
+  void Show();
 
   /// When the File menu or the Save button's menu is about to open.
   void RefreshRestartItems();

@@ -209,10 +209,16 @@ std::wstring Teller::Tell(const News& news) const {
       return Restored(TextId::IsUndone, news);
     case NewsKind::Redone:
       return Restored(TextId::IsRedone, news);
+    case NewsKind::NotSaved:
     case NewsKind::None:
       break;
   }
   return {};
+}
+
+std::wstring WithCommander(const Editor& editor, const std::wstring& told) {
+  if (!editor.LatestNews().CommanderIsClosed) return told;
+  return WithValues(editor.Language().GetLangText(TextId::CommanderIsClosed), {told});
 }
 
 }  // namespace
@@ -221,10 +227,10 @@ std::wstring StatusText(const Editor& editor) {
   const Teller teller(editor);
   if (editor.Panel().ChosenKey() != NoKeyChosen) return OnOneLine(teller.Key());
   if (const auto& failure = editor.Document().Failure()) {
-    return OnOneLine(teller.Failure(*failure));
+    return OnOneLine(WithCommander(editor, teller.Failure(*failure)));
   }
   if (editor.LatestNews().Kind != NewsKind::None) {
-    return OnOneLine(teller.Tell(editor.LatestNews()));
+    return OnOneLine(WithCommander(editor, teller.Tell(editor.LatestNews())));
   }
   const RowKey row = editor.List().SelectedRow();
   if (row == 0) return {};

@@ -150,7 +150,7 @@ void frmPanel::KeepFocusEnabled(bool inputsEnabled) const {
   const HWND focus = GetFocus();
   if (focus == nullptr || IsChild(Frame1_, focus) == FALSE) return;
   bool staysEnabled = inputsEnabled;
-  if (focus == statusRow_.ShowButton()) staysEnabled = editor_.Holders().ShowEnabled();
+  if (focus == statusRow_.ShowButton()) staysEnabled = editor_.ShowEnabled();
   if (focus == statusRow_.UndoButton())
     staysEnabled = editor_.Document().Edits().ToUndo() != nullptr;
   if (!staysEnabled) events_.GiveFocusAway();

@@ -49,6 +49,7 @@ int frmStatusRow::ApplyFont(HFONT font, int dpi) {
 }
 
 void frmStatusRow::LayOut(int top) {
+  top_ = top;
   RECT inside{};
   GetClientRect(frame_, &inside);
   const StatusRow row = RowIn(inside.right, top);
@@ -67,7 +68,13 @@ void frmStatusRow::Sync(const Editor& editor) {
   // Rows and what is known of them may not go together while a file is loaded.
   if (editor.Document().Busy()) return;
   SetText(lblStatus_, StatusText(editor));
-  SetEnabled(cmdShow_, editor.Holders().ShowEnabled());
+  const TextId caption = editor.ShowStartsCommander() ? TextId::StartCommander : TextId::ShowHolder;
+  const std::wstring& shown = editor.Language().GetLangText(caption);
+  if (TextOf(cmdShow_) != shown) {
+    SetText(cmdShow_, shown);
+    LayOut(top_);
+  }
+  SetEnabled(cmdShow_, editor.ShowEnabled());
   const bool canUndo = editor.Document().Edits().ToUndo() != nullptr;
   SetEnabled(cmdUndo_, canUndo);
   SetUndoTip(canUndo ? UndoCaption(editor) : L"");

@@ -51,6 +51,7 @@ class frmStatusRow : Pinned {
   HWND cmdUndo_ = nullptr;
   HFONT font_ = nullptr;
   int dpi_ = 96;
+  int top_ = 0;
   StatusTelling telling_;
   frmCellTip tip_;
   std::wstring tipText_;

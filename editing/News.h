@@ -9,7 +9,7 @@
 
 namespace tessera {
 
-enum class NewsKind { None, Opened, Saved, Assigned, Added, Deleted, DeletedAll, Undone, Redone };
+enum class NewsKind { None, Opened, Saved, Assigned, Added, Deleted, DeletedAll, Undone, Redone, NotSaved };
 
 struct News {
   NewsKind Kind = NewsKind::None;
@@ -30,6 +30,10 @@ struct News {
   std::size_t DroppedLines{};  ///< how many lines were left out
   std::wstring DroppedIn{};    ///< the file that they are in now
   bool DroppedLost = false;    ///< they are there only until the next save
+
+  // Of a save, failed or not
+  bool CommanderIsClosed = false;  ///< and was not found to be started again
+  std::wstring Commander{};        ///< the program that was closed; empty for an unknown one
 };
 
 }  // namespace tessera

@@ -140,6 +140,8 @@ enum class TextId : int {
   LinesAreOnlyIn = 3376,
   FormerKeysAreShown = 3377,
   OwnCommandsUnread = 3378,
+  CommanderIsClosed = 3379,
+  StartCommander = 3380,
 };
 
 /// The number that stands for a text in a language file.

@@ -145,6 +145,8 @@ constexpr BuiltInText Table[] = {
     {TextId::LinesAreOnlyIn, L"%1 Lines that were left out: %2, to be found only in %3."},
     {TextId::FormerKeysAreShown, L"%1. Keys of former files are still shown"},
     {TextId::OwnCommandsUnread, L"%1. Own commands are missing: %2 could not be read"},
+    {TextId::CommanderIsClosed, L"%1 Total Commander is closed and was not found again."},
+    {TextId::StartCommander, L"Start It"},
 };
 
 }  // namespace

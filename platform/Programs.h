@@ -16,6 +16,9 @@ class Programs {
   /// A top-level window of that class, whatever its title; 0 when there is none.
   [[nodiscard]] virtual WindowId FindWindowOfClass(const std::wstring& className) const = 0;
 
+  /// The full path of the program that the window belongs to; empty when the system does not tell.
+  [[nodiscard]] virtual std::wstring PathOf(WindowId window) const = 0;
+
   virtual void SetForeground(WindowId window) = 0;
 
   /// Sends the close request, and does not wait. False when the system forbids it, as it does to a

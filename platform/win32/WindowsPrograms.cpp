@@ -15,6 +15,7 @@ namespace tessera {
 namespace {
 
 constexpr DWORD ElevationRequired = 740;    // an error of the system; the headers do not name it
+constexpr std::size_t LongestPath = 32767;  // characters, as the system counts
 constexpr std::uint64_t HangsAfter = 5000;  // milliseconds, as the system counts
 constexpr std::intptr_t LargestShellExecuteError = 32;  // as that function counts its results
 
@@ -54,6 +55,17 @@ WindowsPrograms::WindowsPrograms(const OwnerWindow& owner) : owner_(owner) {}
 
 WindowId WindowsPrograms::FindWindowOfClass(const std::wstring& className) const {
   return reinterpret_cast<WindowId>(FindWindowW(className.c_str(), nullptr));
+}
+
+std::wstring WindowsPrograms::PathOf(WindowId window) const {
+  DWORD id = 0;
+  GetWindowThreadProcessId(ToHandle(window), &id);
+  const auto process = Own(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+  std::wstring path(LongestPath, L'\0');
+  auto length = static_cast<DWORD>(path.size());
+  if (QueryFullProcessImageNameW(process.get(), 0, path.data(), &length) == FALSE) return {};
+  path.resize(length);
+  return path;
 }
 
 void WindowsPrograms::SetForeground(WindowId window) { SetForegroundWindow(ToHandle(window)); }

@@ -15,6 +15,7 @@ class WindowsPrograms final : public Programs {
   explicit WindowsPrograms(const OwnerWindow& owner);
 
   [[nodiscard]] WindowId FindWindowOfClass(const std::wstring& className) const override;
+  [[nodiscard]] std::wstring PathOf(WindowId window) const override;
   void SetForeground(WindowId window) override;
   bool SendClose(WindowId window) override;
   [[nodiscard]] bool AwaitsAnswer() const override;

@@ -2,9 +2,13 @@
 #include "settings/commander/RestartTotalCommander.h"
 
 #include "settings/Paths.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {
+
+constexpr const wchar_t* UsualProgram = L"Totalcmd.exe";
+constexpr const wchar_t* Program64Bit = L"Totalcmd64.exe";
 
 constexpr float PauseLength = 0.5F;               // seconds
 constexpr std::uint64_t PauseMilliseconds = 500;  // the same
@@ -17,8 +21,8 @@ std::wstring ExecutablePath(const Files& files, const Environment& environment) 
   // Deliberate: an unset variable gives "\", so no other place is ever looked at.
   const std::wstring directory = AddBackslash(environment.Variable(L"Commander_Path"));
   const std::wstring folder = AddBackslash(ExpandPath(environment, directory));
-  const std::wstring usual = folder + L"Totalcmd.exe";
-  const std::wstring only64Bit = folder + L"Totalcmd64.exe";
+  const std::wstring usual = folder + UsualProgram;
+  const std::wstring only64Bit = folder + Program64Bit;
   const bool use64Bit = !FileExists(files, usual, false) && FileExists(files, only64Bit, false);
   return use64Bit ? only64Bit : usual;
 }
@@ -51,8 +55,8 @@ void Pause(Clock& clock) {
   }
 }
 
-bool RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
-                           const Environment& environment, const RestartRequest& request) {
+RestartResult RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
+                                    const Environment& environment, const RestartRequest& request) {
   const std::wstring executable = ExecutablePath(files, environment);
   const WindowId window = FindTotalCommander(programs);
   bool allowed = true;
@@ -64,11 +68,25 @@ bool RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
     }
   }
   Pause(clock);
-  if (request.CloseIt) return allowed;
+  if (!allowed) return RestartResult::NotAllowed;
+  if (request.CloseIt) return RestartResult::Done;
+  const bool started = StartTotalCommander(programs, executable, request);
+  return started ? RestartResult::Done : RestartResult::NotStarted;
+}
+
+std::wstring RunningTotalCommander(const Programs& programs) {
+  const WindowId window = FindTotalCommander(programs);
+  const std::wstring path = window != 0 ? programs.PathOf(window) : L"";
+  const std::wstring_view name = std::wstring_view(path).substr(path.rfind(L'\\') + 1);
+  const bool isKnown =
+      EqualIgnoringCase(name, UsualProgram) || EqualIgnoringCase(name, Program64Bit);
+  return isKnown ? path : L"";
+}
+
+bool StartTotalCommander(Programs& programs, const std::wstring& executable,
+                         const RestartRequest& request) {
   const std::wstring arguments = request.ArgPrefix + L'"' + request.WincmdPath + L'"';
-  // The user's keys are saved by now; that Total Commander does not start is plain to see.
-  static_cast<void>(programs.Start(request.WithIni ? executable + arguments : executable));
-  return true;
+  return programs.Start(request.WithIni ? executable + arguments : executable);
 }
 
 }  // namespace tessera

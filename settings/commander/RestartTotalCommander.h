@@ -24,13 +24,28 @@ struct RestartRequest {
   std::wstring ArgPrefix = L" /i=";
 };
 
+enum class RestartResult {
+  Done,
+  NotAllowed,  ///< to ask it to close: it stays, and another one must not be started
+  NotStarted   ///< its program is not there, or cannot be started
+};
+
 /// Closes or starts Total Commander. The program that is started is "Totalcmd.exe" in the folder
 /// that Commander_Path names ("\" when it is not set, deliberately), or "Totalcmd64.exe" there when
-/// only that one exists. A start that fails is ignored. Until Total Commander has answered the
+/// only that one exists. Until Total Commander has answered the
 /// request to close, which may take it a question to its user, events are handled, for ten minutes
-/// at most. False when it may not be asked: it stays, and another one must not be started.
-[[nodiscard]] bool RestartTotalCommander(Programs& programs, Clock& clock, const Files& files,
-                                         const Environment& environment,
-                                         const RestartRequest& request);
+/// at most.
+[[nodiscard]] RestartResult RestartTotalCommander(Programs& programs, Clock& clock,
+                                                  const Files& files,
+                                                  const Environment& environment,
+                                                  const RestartRequest& request);
+
+/// The program of Total Commander's main window; empty when it is not running, or when the program
+/// has another name than Total Commander's.
+[[nodiscard]] std::wstring RunningTotalCommander(const Programs& programs);
+
+/// Starts that program with the arguments of the request; false when that fails.
+bool StartTotalCommander(Programs& programs, const std::wstring& executable,
+                         const RestartRequest& request);
 
 }  // namespace tessera

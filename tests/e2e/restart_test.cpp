@@ -202,5 +202,31 @@ TEST_F(RestartOf64BitTest, TheOnlyExecutableThereIsStarted) {
   EXPECT_EQ(Log(), "start " + CommandLineAfterRestart() + "\n");
 }
 
+class RestartElsewhereTest : public RestartTest {
+ protected:
+  [[nodiscard]] std::wstring StandInPath() const override {
+    return folder_.Program() + L"TOTALCMD64.EXE";
+  }
+};
+
+TEST_F(RestartElsewhereTest, OneThatIsNotFoundAgainIsStartedByTheButtonBesideTheLine) {
+  StartStandIn();
+  StartAndLoad();
+  EXPECT_EQ(window_->ControlText(IDC_cmdShow), L"Show");
+  MakeAChange();
+  window_->ChooseFromButtonMenu(IDC_Toolbar1, IDM_mnuFileSave, 1);
+  WaitFor("the save to end", [&] { return !Modified(); });
+  standIn_->WaitForEnd();
+  Press(VK_ESCAPE);  // the composed key
+  WaitFor("the button", [&] { return window_->ControlText(IDC_cmdShow) == L"Start It"; });
+  EXPECT_EQ(window_->ControlText(IDC_lblStatus),
+            L"Wincmd.ini is saved. Total Commander is closed and was not found again.");
+  window_->ClickControl(IDC_cmdShow);
+  static_cast<void>(WaitForStandIn());
+  EXPECT_TRUE(ReadBytes(folder_.Program() + L"stand-in.log")
+                  .ends_with("close\nstart " + CommandLineAfterRestart() + "\n"));
+  WaitFor("the button again", [&] { return window_->ControlText(IDC_cmdShow) == L"Show"; });
+}
+
 }  // namespace
 }  // namespace tessera::e2e::restart_test

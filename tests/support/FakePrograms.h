@@ -15,6 +15,7 @@ class FakePrograms final : public Programs {
   explicit FakePrograms(Log& log) : log_(log) {}
 
   std::map<std::wstring, WindowId> Windows;  ///< by class name
+  std::map<WindowId, std::wstring> Paths;    ///< of the programs they belong to
   bool CloseIsAllowed = true;
   mutable int PollsBeforeAnswer = 0;  ///< how often one is still awaited; negative: for ever
   bool StartSucceeds = true;
@@ -24,6 +25,10 @@ class FakePrograms final : public Programs {
   [[nodiscard]] WindowId FindWindowOfClass(const std::wstring& className) const override {
     const auto found = Windows.find(className);
     return found == Windows.end() ? 0 : found->second;
+  }
+  [[nodiscard]] std::wstring PathOf(WindowId window) const override {
+    const auto found = Paths.find(window);
+    return found == Paths.end() ? L"" : found->second;
   }
   void SetForeground(WindowId window) override {
     log_.push_back(L"SetForeground " + std::to_wstring(window));

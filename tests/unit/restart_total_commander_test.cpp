@@ -21,7 +21,8 @@ class RestartTotalCommanderTest : public testing::Test {
     return Run(request);
   }
   bool Run(const RestartRequest& request) {
-    return RestartTotalCommander(programs_, clock_, files_, environment_, request);
+    return RestartTotalCommander(programs_, clock_, files_, environment_, request) !=
+           RestartResult::NotAllowed;
   }
 
   Log log_;
@@ -144,6 +145,27 @@ TEST(Pause, LastsHalfASecondWhenTheTimeIsSetBack) {
   };
   Pause(clock);
   EXPECT_EQ(clock.SleptMilliseconds, 500);
+}
+
+TEST_F(RestartTotalCommanderTest, AStartThatFailsIsTold) {
+  programs_.StartSucceeds = false;
+  EXPECT_EQ(RestartTotalCommander(programs_, clock_, files_, environment_, {.WincmdPath = L"x"}),
+            RestartResult::NotStarted);
+}
+
+TEST_F(RestartTotalCommanderTest, TheRunningProgramIsThatOfItsWindow) {
+  EXPECT_EQ(RunningTotalCommander(programs_), L"");
+  programs_.Windows[L"TTOTAL_CMD"] = 7;
+  EXPECT_EQ(RunningTotalCommander(programs_), L"") << "the system does not tell";
+  for (const wchar_t* const path : {L"D:\\TC\\TOTALCMD.EXE", L"D:\\TC\\totalcmd64.exe"}) {
+    programs_.Paths[7] = path;
+    EXPECT_EQ(RunningTotalCommander(programs_), path);
+  }
+  for (const wchar_t* const path :
+       {L"D:\\TC\\other.exe", L"D:\\Totalcmd.exe\\x.exe", L"Totalcmd"}) {
+    programs_.Paths[7] = path;
+    EXPECT_EQ(RunningTotalCommander(programs_), L"");
+  }
 }
 
 }  // namespace

@@ -262,5 +262,70 @@ TEST(StatusTelling, TellsEachTextOnceWhenNothingIsHeld) {
   EXPECT_FALSE(telling.IsDue(L"c", false, false));
 }
 
+// -- Total Commander, closed by a save and not found again
+
+class LostCommanderTest : public StatusLineTest {
+ protected:
+  LostCommanderTest() {
+    Programs.Windows[L"TTOTAL_CMD"] = 7;
+    Programs.Paths[7] = L"D:\\TC\\TOTALCMD64.EXE";
+    Programs.StartSucceeds = false;
+  }
+
+  void SaveAndRestart() {
+    Assign(Pack, L"F9");
+    Editor.Work(&HotkeyPanel::ResetPanel);
+    Editor.FileSaveAndRestart();
+  }
+};
+
+TEST_F(LostCommanderTest, IsToldAndShowStartsIt) {
+  SaveAndRestart();
+  EXPECT_EQ(Line(), L"Wincmd.ini is saved. Total Commander is closed and was not found again.");
+  EXPECT_TRUE(Editor.ShowStartsCommander());
+  Programs.StartSucceeds = true;
+  Calls.clear();
+  Editor.Show();
+  EXPECT_EQ(Calls, Log({L"Start D:\\TC\\TOTALCMD64.EXE /i=\"" + IniFile + L"\""}));
+  EXPECT_FALSE(Editor.ShowEnabled());
+  EXPECT_EQ(Line(), L"Pack files");
+}
+
+TEST_F(LostCommanderTest, IsToldAfterAFailedSaveToo) {
+  Files.WriteErrors.assign(100, FileError::DiskFull);
+  SaveAndRestart();
+  EXPECT_TRUE(Line().starts_with(L"Not saved: the disk is full"));
+  EXPECT_TRUE(Line().ends_with(L"Total Commander is closed and was not found again."));
+  EXPECT_TRUE(Editor.ShowStartsCommander());
+}
+
+TEST_F(LostCommanderTest, AProgramOfAnotherNameIsNotStarted) {
+  Programs.Paths[7] = L"D:\\TC\\viewer.exe";
+  SaveAndRestart();
+  EXPECT_TRUE(Line().ends_with(L"Total Commander is closed and was not found again."));
+  EXPECT_FALSE(Editor.ShowEnabled());
+}
+
+TEST_F(LostCommanderTest, NothingIsToldOfOneThatWasNotRunning) {
+  Programs.Windows.clear();
+  SaveAndRestart();
+  EXPECT_EQ(Line(), L"Wincmd.ini is saved.");
+  EXPECT_FALSE(Editor.ShowEnabled());
+}
+
+TEST_F(LostCommanderTest, AComposedKeyComesFirst) {
+  SaveAndRestart();
+  Choose(L"F9");
+  EXPECT_FALSE(Editor.ShowStartsCommander());
+  EXPECT_FALSE(Editor.ShowEnabled()) << "the selected command itself has it";
+}
+
+TEST_F(LostCommanderTest, AnotherRowEndsIt) {
+  SaveAndRestart();
+  Select(View);
+  EXPECT_EQ(Line(), L"View a file");
+  EXPECT_FALSE(Editor.ShowEnabled());
+}
+
 }  // namespace
 }  // namespace tessera::status_line_test

@@ -163,6 +163,8 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3376}, L"%1 Lines that were left out: %2, to be found only in %3."},
       {TextId{3377}, L"%1. Keys of former files are still shown"},
       {TextId{3378}, L"%1. Own commands are missing: %2 could not be read"},
+      {TextId{3379}, L"%1 Total Commander is closed and was not found again."},
+      {TextId{3380}, L"Start It"},
   };
   for (const BuiltInText& text : texts) {
     EXPECT_EQ(BuiltInTextOf(text.Id), text.Text) << NumberOf(text.Id);

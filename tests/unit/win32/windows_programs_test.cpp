@@ -54,6 +54,18 @@ LRESULT CALLBACK CountCloseRequestsLate(HWND window, UINT message, WPARAM wParam
   return CountCloseRequests(window, message, wParam, lParam);
 }
 
+TEST(WindowsPrograms, PathIsThatOfTheWindowsProgram) {
+  const OwnerWindow owner;
+  const WindowsPrograms programs(owner);
+  const HWND window = CreateWindowW(L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 9, 9, nullptr,
+                                    nullptr, nullptr, nullptr);
+  std::wstring own(MAX_PATH, L'\0');
+  own.resize(GetModuleFileNameW(nullptr, own.data(), MAX_PATH));
+  EXPECT_EQ(programs.PathOf(reinterpret_cast<WindowId>(window)), own);
+  DestroyWindow(window);
+  EXPECT_EQ(programs.PathOf(reinterpret_cast<WindowId>(window)), L"");
+}
+
 TEST(WindowsPrograms, ProgramIsGivenTimeToClose) {
   const std::wstring name = L"TesseraTestLate" + std::to_wstring(GetCurrentProcessId());
   WNDCLASSW windowClass{};
