@@ -8,7 +8,15 @@
 namespace tessera {
 
 /// What is left to the window after a command, once it shows the editor's new state.
-enum class WindowTask { None, LayOut, ShowSelectedRow, ShowExport, ShowOptions, Close };
+enum class WindowTask {
+  None,
+  LayOut,
+  ShowSelectedRow,
+  FocusFindBox,
+  ShowExport,
+  ShowOptions,
+  Close
+};
 
 struct CommandState {
   int Id = 0;

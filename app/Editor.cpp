@@ -49,6 +49,7 @@ Reaction Editor::FollowUp(const Reaction& reaction) {
     document_.SetModified(!document_.Commands().Edits.AtSaved());
     Tell({});  // what the last edit did may hold no longer
   }
+  if (reaction.Searched) Tell({});  // how much was found is newer
   if (reaction.FollowChooser) keysList_.FollowChooser();
   if (reaction.HideKeysList) keysList_.Hide();
   GatherNews();

@@ -57,6 +57,7 @@ OptionsOutcome Editor::EndOptions() {
   if (languageChanged) {
     ApplyLanguage();
     recentFiles_.ChangeLanguage();
+    list_.RefreshSearch();
   }
   return {panel, languageChanged};
 }

@@ -21,6 +21,7 @@ constexpr int RoomAroundControls = 16;
 constexpr int ButtonGap = 6;
 constexpr int RoomBelowStatusRow = 6;
 constexpr Size RoomInButtons{24, 8};
+constexpr Size RoomInFindBox{24, 6};
 
 /// Where the chooser grows less than the resolution, it stands in its middle.
 Area PlaceAllKeysButton(const Area& chooser, int dpi) {
@@ -87,6 +88,14 @@ StatusRow LayOutStatusRow(const StatusRowSizes& sizes, int width, int top, int d
 
 Size SmallestInside(const Size& panel, int dpi) {
   return {panel.Width + Scaled(10, dpi), panel.Height + Scaled(160, dpi)};
+}
+
+Area PlaceFindBox(const Area& toolbar, int buttonsWidth, const Size& cue, int dpi) {
+  const int width = cue.Width + Scaled(RoomInFindBox.Width, dpi);
+  const int height = cue.Height + Scaled(RoomInFindBox.Height, dpi);
+  const int left = toolbar.Width - SideGap - width;
+  if (height > toolbar.Height || left < buttonsWidth + Scaled(ItemGap, dpi)) return {};
+  return {toolbar.Left + left, toolbar.Top + (toolbar.Height - height) / 2, width, height};
 }
 
 Area PlaceProgressBar(const Area& list, int dpi) {

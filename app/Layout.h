@@ -63,6 +63,10 @@ struct StatusRow {
 /// The room that the window is to have inside at least, below its menu bar.
 [[nodiscard]] Size SmallestInside(const Size& panel, int dpi);
 
+/// The find box, over the end of the toolbar's line, where it leaves room for the toolbar's buttons
+/// and for all of the text that invites to type; else of no size.
+[[nodiscard]] Area PlaceFindBox(const Area& toolbar, int buttonsWidth, const Size& cue, int dpi);
+
 /// The progress bar, in the middle of the list.
 [[nodiscard]] Area PlaceProgressBar(const Area& list, int dpi);
 

@@ -22,6 +22,7 @@ constexpr MenuEntry Entries[] = {
     {Command, TextId::Redo, IDM_redo},
     {Separator},
     {Command, TextId::ShowWhoHasTheKey, IDM_show},
+    {Command, TextId::FindCommand, IDM_find},
     {Separator},
     {Command, TextId::CopyCommandName, IDM_copycommand},
     {Command, TextId::CopyRow, IDM_copyrow},

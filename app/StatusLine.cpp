@@ -55,6 +55,7 @@ class Teller {
   [[nodiscard]] std::wstring Key() const;
   [[nodiscard]] std::wstring Failure(const FailedSave& failure) const;
   [[nodiscard]] std::wstring Tell(const News& news) const;
+  [[nodiscard]] std::wstring Found() const;
 
  private:
   [[nodiscard]] std::wstring Say(TextId id, std::initializer_list<std::wstring_view> values) const {
@@ -216,6 +217,10 @@ std::wstring Teller::Tell(const News& news) const {
   return {};
 }
 
+std::wstring Teller::Found() const {
+  return Say(TextId::CommandsFound, {std::to_wstring(editor_.List().Shown().FoundCount())});
+}
+
 std::wstring WithCommander(const Editor& editor, const std::wstring& told) {
   if (!editor.LatestNews().CommanderIsClosed) return told;
   return WithValues(editor.Language().GetLangText(TextId::CommanderIsClosed), {told});
@@ -232,6 +237,7 @@ std::wstring StatusText(const Editor& editor) {
   if (editor.LatestNews().Kind != NewsKind::None) {
     return OnOneLine(WithCommander(editor, teller.Tell(editor.LatestNews())));
   }
+  if (editor.List().Shown().Searching()) return OnOneLine(teller.Found());
   const RowKey row = editor.List().SelectedRow();
   if (row == 0) return {};
   return OnOneLine(std::wstring(editor.Document().Rows().Row(row).Description));

@@ -8,8 +8,8 @@
 namespace tessera {
 
 /// The first of these that there is: the composed key and who holds it; why the last save failed;
-/// what the last edit, save or open did; the description of the selected row. On one line, whatever
-/// the texts in it hold.
+/// what the last edit, save or open did; while searching, how many commands were found; the
+/// description of the selected row. On one line, whatever the texts in it hold.
 [[nodiscard]] std::wstring StatusText(const Editor& editor);
 
 /// When screen readers are told what the line says: not while a key is still being composed.

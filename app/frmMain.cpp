@@ -44,7 +44,7 @@ frmMain::frmMain(WindowsSystem& windowsSystem)
               [this](const LoadProgress& progress) { views_.Show(progress); }),
       frmExportToClipboard_(editor_.Language(), editor_.Options()),
       frmOptions_(editor_.Language(), editor_.Options()),
-      views_(editor_, ListEvents(), PanelEvents(), KeysListEvents()) {
+      views_(editor_, FindEvents(), ListEvents(), PanelEvents(), KeysListEvents()) {
   windowsSystem_.SetMessageFilter([this](MSG& message) { return FilterMessage(message); });
 }
 
@@ -89,7 +89,7 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       views_.MoveKeysList();
       return 0;
     case WM_COMMAND:
-      OnCommand(LOWORD(wParam), reinterpret_cast<HWND>(lParam));
+      OnControl(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
       return 0;
     case WM_NOTIFY:
       return OnNotify(*reinterpret_cast<NMHDR*>(lParam));

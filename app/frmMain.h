@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/Editor.h"
+#include "app/FindBoxKeys.h"
 #include "app/frmViews.h"
 #include "editing/PressedKey.h"
 #include "export/frmExportToClipboard.h"
@@ -59,15 +60,19 @@ class frmMain : Pinned {
   bool Filter(MSG& message);
   [[nodiscard]] KeyPress PressOf(const MSG& message) const;
   bool FilterKey(const MSG& message);
+  bool FilterFindKey(FindBoxKey meaning);
   bool KeyDown(const KeyPress& press);
   bool KeyUp(const KeyEvent& event);
   bool OpenButtonMenu();
 
   // -- Commands, and what they do in the views (frmMainCommands.cpp)
+  [[nodiscard]] frmFindBox::Events FindEvents();
   [[nodiscard]] frmCommandList::Events ListEvents();
   [[nodiscard]] frmPanel::Events PanelEvents();
   [[nodiscard]] frmKeysList::Events KeysListEvents();
+  void OnControl(WORD id, WORD notification, HWND control);
   void OnCommand(int id, HWND control);
+  void Search(const std::wstring& text);
   void Do(WindowTask task);
   void mnuFileExportToClipboard_Click();
   void mnuViewOptions_Click();
@@ -96,9 +101,10 @@ class frmMain : Pinned {
   HWND window_ = nullptr;
   int dpi_ = 96;
   HWND lastFocus_ = nullptr;  ///< the control that had the focus when the window was left
-  bool timerRuns_ = false;    ///< Timer1
-  bool failed_ = false;       ///< an exception has reached a window procedure
-  Area placed_;               ///< where the stored placement has put the window
+  FindBoxKeys findKeys_;
+  bool timerRuns_ = false;  ///< Timer1
+  bool failed_ = false;     ///< an exception has reached a window procedure
+  Area placed_;             ///< where the stored placement has put the window
   Unique<HICON> icon_;
   Unique<HICON> smallIcon_;
 };

@@ -3,6 +3,16 @@
 
 namespace tessera {
 
+frmFindBox::Events frmMain::FindEvents() {
+  return {.Search = [this](const std::wstring& text) { Search(text); },
+          .SetCanSearch =
+              [this](bool canSearch) {
+                editor_.Work(&CommandList::SetCanSearch, canSearch);
+                Sync();
+              },
+          .GiveFocusAway = [this] { SetFocus(views_.List().Control()); }};
+}
+
 frmCommandList::Events frmMain::ListEvents() {
   return {.SelectRow =
               [this](std::size_t position) {
@@ -47,6 +57,20 @@ frmKeysList::Events frmMain::KeysListEvents() {
           .Close = [this] { React(editor_.Work(&KeysList::KeyDown, KeyCode::Escape)); }};
 }
 
+void frmMain::OnControl(WORD id, WORD notification, HWND control) {
+  if (control == nullptr || control != views_.FindBox().Control()) {
+    OnCommand(id, control);
+  } else if (notification == EN_CHANGE) {
+    views_.FindBox().OnChange();
+  }
+}
+
+void frmMain::Search(const std::wstring& text) {
+  if (AcceptsInput()) editor_.Work(&CommandList::Search, text);
+  Sync();
+  views_.ShowSelectedRow();
+}
+
 void frmMain::OnCommand(int id, HWND control) {
   if (!IsCommand(id) || !AcceptsInput()) return;
   if (views_.IsMainToolbar(control)) windowsSystem_.Seams().Clock.DoEvents();
@@ -63,6 +87,9 @@ void frmMain::Do(WindowTask task) {
       break;
     case WindowTask::ShowSelectedRow:
       views_.ShowSelectedRow();
+      break;
+    case WindowTask::FocusFindBox:
+      views_.FindBox().TakeFocus();
       break;
     case WindowTask::ShowExport:
       mnuFileExportToClipboard_Click();

@@ -44,7 +44,12 @@ bool frmMain::Filter(MSG& message) {
   if (window_ == nullptr || (message.hwnd != window_ && IsChild(window_, message.hwnd) == FALSE)) {
     return false;
   }
+  // Those that come to a disabled box do nothing there.
+  if (editor_.Document().Busy()) views_.SyncFindBox();
   if (IsKeyMessage(message.message) && FilterKey(message)) return true;
+  // Else letters with Alt would reach the panel's boxes.
+  const bool movesFocus = IsPress(message.message) && message.wParam == VK_TAB;
+  if (views_.FindBox().HasFocus() && !movesFocus) return false;
   if (views_.Panel().ChooserWouldLose(message)) message.hwnd = window_;
   return IsDialogMessageW(window_, &message) != FALSE;
 }
@@ -67,6 +72,8 @@ bool frmMain::FilterKey(const MSG& message) {
   if (!AcceptsInput()) return false;
   const bool pressed = IsPress(message.message);
   const KeyPress press = PressOf(message);
+  const FindBoxKey inFindBox = findKeys_.MeaningOf(press, pressed, views_.FindBox().IsEmpty());
+  if (inFindBox != FindBoxKey::IsElsewhere) return FilterFindKey(inFindBox);
   switch (MeaningOf(press, pressed)) {
     case KeyMeaning::ForControl:
       return false;
@@ -82,6 +89,12 @@ bool frmMain::FilterKey(const MSG& message) {
       break;
   }
   return pressed ? KeyDown(press) : KeyUp(press.Event);
+}
+
+bool frmMain::FilterFindKey(FindBoxKey meaning) {
+  if (meaning == FindBoxKey::EmptiesBox) views_.FindBox().Empty();
+  if (meaning == FindBoxKey::GoesToList) views_.FindBox().GiveFocusAway();
+  return meaning != FindBoxKey::ForBox && meaning != FindBoxKey::MovesFocus;
 }
 
 bool frmMain::KeyDown(const KeyPress& press) {

@@ -18,11 +18,13 @@ void PlaceLater(HDWP& places, HWND control, const Area& area) {
 
 }  // namespace
 
-frmViews::frmViews(const Editor& editor, frmCommandList::Events listEvents,
-                   frmPanel::Events panelEvents, frmKeysList::Events keysListEvents)
+frmViews::frmViews(const Editor& editor, frmFindBox::Events findEvents,
+                   frmCommandList::Events listEvents, frmPanel::Events panelEvents,
+                   frmKeysList::Events keysListEvents)
     : editor_(editor),
       menus_(editor),
       Toolbar1_(MainToolbar()),
+      findBox_(editor, std::move(findEvents)),
       list_(editor, std::move(listEvents)),
       panel_(editor, std::move(panelEvents)),
       keysList_(std::move(keysListEvents)) {}
@@ -30,7 +32,9 @@ frmViews::frmViews(const Editor& editor, frmCommandList::Events listEvents,
 void frmViews::Create(HWND window, int dpi) {
   window_ = window;
   dpi_ = dpi;
-  // Tab goes through them in the order in which they are made.
+  // Tab goes through them in the order in which they are made, and round: the find box comes after
+  // the toolbar, and lies above it.
+  findBox_.Create(window);
   list_.Create(window, dpi);
   panel_.Create(window);
   Toolbar1_.Create(window, IDC_Toolbar1);
@@ -73,6 +77,7 @@ void frmViews::ApplyLanguage() {
   SetRightToLeft(window_, editor_.Language().RightToLeft());
   menus_.Build(window_);
   Toolbar1_.ApplyLanguage(editor_.Language());
+  findBox_.ApplyLanguage();
   list_.ApplyLanguage();
   panel_.ApplyLanguage();
   keysList_.ApplyLanguage(KeysListName(), editor_.Language().RightToLeft());
@@ -93,6 +98,7 @@ void frmViews::ApplyFonts() {
   Unique<HFONT> font(CreateFontIndirectW(&messageFont));
   panel_.ApplyFont(font.get(), dpi_);
   GiveFont(Toolbar1_.Control(), font.get());
+  findBox_.ApplyFont(font.get());
   keysList_.ApplyFont(font.get(), dpi_);
   font_ = std::move(font);
   list_.ApplyFont();
@@ -124,6 +130,8 @@ void frmViews::LayOut() {
   PlaceLater(places, panel_.Control(), layout.Frame1);
   PlaceLater(places, progressBar_.Control(), PlaceProgressBar(layout.ListView1, dpi_));
   EndDeferWindowPos(places);
+  findBox_.PlaceAt(
+      PlaceFindBox(layout.Toolbar1, Toolbar1_.ButtonsSize().Width, findBox_.CueSize(), dpi_));
 }
 
 void frmViews::MoveKeysList() {
@@ -142,7 +150,13 @@ void frmViews::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
   }
 }
 
+void frmViews::Show(const LoadProgress& progress) {
+  findBox_.SyncEnabled();
+  progressBar_.Show(progress);
+}
+
 void frmViews::Sync() {
+  findBox_.Sync();
   list_.Sync();
   SyncKeys();
 }
@@ -161,6 +175,7 @@ void frmViews::SyncMenus() const {
 void frmViews::Forget() {
   menus_.Forget();
   Toolbar1_.Forget();
+  findBox_.Forget();
   list_.Forget();
   panel_.Forget();
   progressBar_.Forget();

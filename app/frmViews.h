@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/frmCommandList.h"
+#include "app/frmFindBox.h"
 #include "app/frmMenus.h"
 #include "app/frmPanel.h"
 #include "app/frmProgressBar.h"
@@ -14,8 +15,8 @@ namespace tessera {
 class frmViews {
  public:
   /// `editor` must outlive the views.
-  frmViews(const Editor& editor, frmCommandList::Events listEvents, frmPanel::Events panelEvents,
-           frmKeysList::Events keysListEvents);
+  frmViews(const Editor& editor, frmFindBox::Events findEvents, frmCommandList::Events listEvents,
+           frmPanel::Events panelEvents, frmKeysList::Events keysListEvents);
 
   /// Makes them in the main window, without texts, fonts and places.
   void Create(HWND window, int dpi);
@@ -24,6 +25,7 @@ class frmViews {
 
   [[nodiscard]] const frmCommandList& List() const { return list_; }
   [[nodiscard]] const frmPanel& Panel() const { return panel_; }
+  [[nodiscard]] const frmFindBox& FindBox() const { return findBox_; }
   [[nodiscard]] FocusPlace Focus() const;
 
   /// The command of the button that has the keyboard's focus, if it is enabled; else 0.
@@ -66,7 +68,8 @@ class frmViews {
   /// Before a menu opens.
   void SyncMenus() const;
 
-  void Show(const LoadProgress& progress) const { progressBar_.Show(progress); }
+  void Show(const LoadProgress& progress);
+  void SyncFindBox() { findBox_.SyncEnabled(); }
   void ShowList() { list_.Show(); }
   void ShowSelectedRow() { list_.ShowSelectedRow(); }
   bool SelectRowAt(POINT place) { return list_.SelectRowAt(place); }
@@ -86,6 +89,7 @@ class frmViews {
   const Editor& editor_;
   frmMenus menus_;
   frmToolbar Toolbar1_;
+  frmFindBox findBox_;
   frmCommandList list_;
   frmPanel panel_;
   frmKeysList keysList_;

@@ -82,6 +82,8 @@ bool CommandList::CommandSelected() const {
   return selectedRow_ != 0 && !catalogue_.ListView1.Row(selectedRow_).IsHeading();
 }
 
+bool CommandList::CanSearch() const { return canSearch_; }
+
 HeaderIcon CommandList::IconOf(Column column) const { return icons_.at(IndexOf(column)); }
 
 void CommandList::ShowRowDetails(RowKey row) {
@@ -106,12 +108,22 @@ void CommandList::ShowFirstRow() {
 }
 
 Reaction CommandList::Search(std::wstring text) {
-  shown_.Search(std::move(text));
+  shown_.Search(canSearch_ ? std::move(text) : std::wstring());
   ShowFoundRow();
-  return {.HideKeysList = true};
+  return {.Searched = true, .HideKeysList = true};
 }
 
 Reaction CommandList::EndSearch() { return Search({}); }
+
+Reaction CommandList::SetCanSearch(bool canSearch) {
+  canSearch_ = canSearch;
+  return canSearch || shown_.SearchText().empty() ? Reaction{} : EndSearch();
+}
+
+void CommandList::RefreshSearch() {
+  shown_.Refresh();
+  ShowFoundRow();
+}
 
 void CommandList::ShowFoundRow() {
   const RowKey former = selectedRow_ == 0 ? chosenRow_ : selectedRow_;

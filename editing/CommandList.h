@@ -43,6 +43,9 @@ class CommandList : Pinned {
   /// True for a command row; false for a heading row, or none.
   [[nodiscard]] bool CommandSelected() const;
 
+  /// False while there is nowhere to type what is looked for.
+  [[nodiscard]] bool CanSearch() const;
+
   [[nodiscard]] HeaderIcon IconOf(Column column) const;
 
   // -- Changes
@@ -57,11 +60,17 @@ class CommandList : Pinned {
 
   /// Shows the commands in which the words of the text stand; for an empty text all. The selected
   /// row stays if it is shown, else the first command becomes it. When there was none to be shown,
-  /// the next search begins with the row that was selected before.
+  /// the next search begins with the row that was selected before. Without CanSearch it shows all.
   Reaction Search(std::wstring text);
 
   /// Shows all rows again.
   Reaction EndSearch();
+
+  /// Whether there is somewhere to type; without it a search ends.
+  Reaction SetCanSearch(bool canSearch);
+
+  /// Looks at the rows anew, after their texts may have become others.
+  void RefreshSearch();
 
   /// In the sorted view sorts by the column of that 1-based index, or turns the order round when it
   /// is the one sorted by already; 0 names no column. In file order it resets the stored order.
@@ -95,6 +104,7 @@ class CommandList : Pinned {
   RowKey selectedRow_ = 0;
   RowKey chosenRow_ = 0;  ///< the last one that was selected otherwise than by a search
   std::size_t selections_ = 0;
+  bool canSearch_ = true;
   bool sorted_ = false;  ///< the rows are in sorted state; Settings::SortedList is what is wanted
   SortDirection direction_ = SortDirection::Ascending;
   Column sortKey_ = Column::Description;

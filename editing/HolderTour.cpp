@@ -12,10 +12,11 @@ HolderTour::HolderTour(const Catalogue& catalogue, CommandList& list, const Hotk
 bool HolderTour::ShowEnabled() const { return Target() != 0; }
 
 Reaction HolderTour::Show() {
-  const auto position = catalogue_.ListView1.PositionOf(Target());
-  if (!position) return {};
+  const RowKey target = Target();
+  if (!catalogue_.ListView1.PositionOf(target)) return {};
   from_ = IsWhereShowLed() ? 0 : list_.SelectedRow();
-  const Reaction reaction = list_.SelectRow(*position);
+  if (!list_.Shown().PositionOf(target)) list_.EndSearch();
+  const Reaction reaction = list_.SelectRow(*list_.Shown().PositionOf(target));
   there_ = list_.Selections();
   shownKey_ = panel_.ComposeKey();
   return reaction;

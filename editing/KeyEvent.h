@@ -6,6 +6,7 @@ namespace tessera {
 /// The virtual-key codes that the program knows by name.
 enum class KeyCode : int {
   Backspace = 8,
+  Tab = 9,
   Enter = 13,
   Shift = 16,
   Ctrl = 17,

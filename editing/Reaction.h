@@ -9,6 +9,7 @@ struct Reaction {
   // -- For the editor
   bool Changed = false;        ///< the keys of a command changed
   bool Restored = false;       ///< they became what they were at another time
+  bool Searched = false;       ///< the list shows other rows
   bool FollowChooser = false;  ///< the keys list selects the key that the chooser shows
   bool HideKeysList = false;
 

@@ -26,6 +26,17 @@ Reaction Run(Editor& editor) {
 /// Everything that events can set off, where the window shows no dialog.
 constexpr Operation Operations[] = {
     {"SelectRow", Run<&CommandList::SelectRow, View>},
+    {"Search", [](Editor& editor) { return editor.Work(&CommandList::Search, L"copy"); }},
+    {"EndSearch",
+     [](Editor& editor) {
+       editor.Work(&CommandList::Search, L"copy");
+       return editor.Work(&CommandList::EndSearch);
+     }},
+    {"SetCanSearch",
+     [](Editor& editor) {
+       editor.Work(&CommandList::Search, L"copy");
+       return editor.Work(&CommandList::SetCanSearch, false);
+     }},
     {"SortByColumn", Run<&CommandList::SortByColumn, 2>},
     {"ToggleSortedList", Run<&CommandList::ToggleSortedList>},
     {"SetBox", Run<&HotkeyPanel::SetBox, Modifier::Ctrl, true>},

@@ -297,5 +297,21 @@ TEST_F(CommandListTest, TakingAnEditOfAHiddenRowBackEndsTheSearch) {
   EXPECT_TRUE(list_.Shown().Searching()) << "its row is shown";
 }
 
+TEST_F(CommandListTest, WithoutAPlaceToTypeASearchEndsAndNoneBegins) {
+  list_.Search(L"f9");
+  EXPECT_FALSE(list_.SetCanSearch(true).Searched);
+  EXPECT_TRUE(list_.Shown().Searching());
+  EXPECT_TRUE(list_.SetCanSearch(false).Searched);
+  EXPECT_FALSE(list_.CanSearch());
+  EXPECT_EQ(list_.Shown().SearchText(), L"");
+  EXPECT_FALSE(list_.SetCanSearch(false).Searched);
+  list_.Search(L"f9");
+  EXPECT_EQ(list_.Shown().SearchText(), L"");
+  list_.SetCanSearch(true);
+  list_.Search(L" ");
+  EXPECT_TRUE(list_.SetCanSearch(false).Searched) << "blanks go, too";
+  EXPECT_EQ(list_.Shown().SearchText(), L"");
+}
+
 }  // namespace
 }  // namespace tessera::command_list_test

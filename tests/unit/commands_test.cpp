@@ -134,6 +134,15 @@ TEST_F(CommandsTest, OtherNumbersAreNoCommands) {
   }
 }
 
+TEST_F(CommandsTest, FindNeedsABoxToTypeIn) {
+  Start();
+  EXPECT_TRUE(StateOf(IDM_find).Enabled);
+  EXPECT_EQ(RunCommand(Editor, IDM_find), WindowTask::FocusFindBox);
+  Editor.Work(&CommandList::SetCanSearch, false);
+  EXPECT_FALSE(StateOf(IDM_find).Enabled);
+  EXPECT_EQ(RunCommand(Editor, IDM_find), WindowTask::None);
+}
+
 }  // namespace
 
 }  // namespace tessera::commands_test

@@ -356,5 +356,23 @@ TEST_F(EditorTest, AnotherLanguageNamesTheModifiersFromTheNextOpenOn) {
   EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Strg + X");
 }
 
+TEST_F(EditorTest, AfterAChangeOfTheLanguageTheSearchLooksAtTheRowsAnew) {
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
+  Start();
+  Editor.Work(&CommandList::SelectRow, View);
+  Editor.Work(&CommandList::Search, L"ctrl+f3");
+  ASSERT_EQ(Editor.List().Shown().FoundCount(), 1U);
+  Editor.Work(&HotkeyPanel::Delete);
+  EXPECT_EQ(Editor.List().Shown().FoundCount(), 1U) << "an edited row stays in view";
+  OptionsSelection& options = Editor.BeginOptions();
+  options.UseDefaultLanguage(false);
+  options.EditLanguageFilePath(L"C:\\de.lng");
+  options.Apply();
+  ASSERT_TRUE(Editor.EndOptions().LanguageChanged);
+  EXPECT_EQ(Editor.List().Shown().SearchText(), L"ctrl+f3");
+  EXPECT_EQ(Editor.List().Shown().FoundCount(), 0U);
+  EXPECT_FALSE(Editor.List().CommandSelected());
+}
+
 }  // namespace
 }  // namespace tessera::editor_dialogs_test

@@ -110,5 +110,25 @@ TEST_F(HolderTourTest, HidesTheKeysListAsAnySelectionDoes) {
   EXPECT_FALSE(Editor.AllKeys().Visible());
 }
 
+TEST_F(HolderTourTest, EndsASearchThatHidesTheHolder) {
+  Choose(L"F5");
+  Editor.Work(&CommandList::Search, L"pack");
+  Show();
+  EXPECT_FALSE(Editor.List().Shown().Searching());
+  EXPECT_EQ(Selected(), Copy);
+  Show();
+  EXPECT_EQ(Selected(), Pack);
+}
+
+TEST_F(HolderTourTest, KeepsASearchThatShowsTheHolder) {
+  Choose(L"F5");
+  Editor.Work(&CommandList::Search, L"files");
+  Show();
+  EXPECT_TRUE(Editor.List().Shown().Searching());
+  EXPECT_EQ(Selected(), Copy);
+  Show();
+  EXPECT_EQ(Selected(), Pack);
+}
+
 }  // namespace
 }  // namespace tessera::holder_tour_test

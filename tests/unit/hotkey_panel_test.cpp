@@ -265,5 +265,20 @@ TEST_F(HotkeyPanelTest, NoKeyDoesAnythingOnAHeadingRow) {
   EXPECT_EQ(messageBoxes_.BeepCount, 0);
 }
 
+TEST_F(HotkeyPanelTest, NoKeyDoesAnythingWhereASearchFoundNothing) {
+  panel_.ChooseKey(3);
+  list_.Search(L"is nowhere");
+  EXPECT_FALSE(panel_.InputsEnabled() || panel_.AssignEnabled() || panel_.AddEnabled() ||
+               panel_.DeleteEnabled());
+  for (const KeyEvent& event :
+       {CtrlPressed, KeyEvent{.Code = KeyCode::Enter}, KeyEvent{.Code = KeyCode::Delete}}) {
+    const Reaction reaction = panel_.KeyDown(event);
+    EXPECT_FALSE(reaction.Handled || reaction.Changed);
+  }
+  for (const Reaction& reaction : {panel_.Assign(), panel_.Add(), panel_.Delete()}) {
+    EXPECT_FALSE(reaction.Changed);
+  }
+}
+
 }  // namespace
 }  // namespace tessera::hotkey_panel_test

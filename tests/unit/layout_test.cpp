@@ -133,6 +133,24 @@ TEST(Layout, KeysListLargerThanItsScreenStartsAtTheScreensCorner) {
   EXPECT_EQ(PlaceKeysList({panel, button, screen, true}, 300, 300), (Area{100, 100, 300, 300}));
 }
 
+TEST(Layout, FindBoxStandsAtTheEndOfTheToolbarFlushWithTheList) {
+  const Area toolbar{0, 0, 800, 30};
+  const Area box = PlaceFindBox(toolbar, 250, {120, 16}, 96);
+  EXPECT_EQ(box, (Area{651, 4, 144, 22}));
+  const Area list = LayOutMainWindow(800, 600, 30, 50).ListView1;
+  EXPECT_EQ(box.Left + box.Width, list.Left + list.Width);
+  EXPECT_EQ(PlaceFindBox({0, 0, 1600, 60}, 500, {240, 32}, 192), (Area{1307, 8, 288, 44}));
+}
+
+TEST(Layout, FindBoxHasNoSizeWhereTheToolbarHasNoRoomForIt) {
+  const Size cue{120, 16};
+  EXPECT_GT(PlaceFindBox({0, 0, 411, 30}, 250, cue, 96).Width, 0);
+  EXPECT_EQ(PlaceFindBox({0, 0, 410, 30}, 250, cue, 96), Area{});
+  EXPECT_GT(PlaceFindBox({0, 0, 800, 22}, 250, cue, 96).Width, 0);
+  EXPECT_EQ(PlaceFindBox({0, 0, 800, 21}, 250, cue, 96), Area{}) << "too low";
+  EXPECT_EQ(PlaceFindBox({0, 0, 800, 0}, 250, cue, 96), Area{}) << "the toolbar is hidden";
+}
+
 }  // namespace
 
 }  // namespace tessera::layout_test

@@ -12,8 +12,8 @@ namespace {
 TEST(ListMenu, EntriesStandInTheirOrder) {
   std::vector<int> captions;
   for (const MenuEntry& entry : ListMenu()) captions.push_back(static_cast<int>(entry.Caption));
-  EXPECT_EQ(captions,
-            (std::vector{3340, 3202, 0, 3341, 3205, 0, 3350, 3351, 0, 3345, 0, 3342, 3343, 3344}));
+  EXPECT_EQ(captions, (std::vector{3340, 3202, 0, 3341, 3205, 0, 3350, 3351, 0, 3345, 3367, 0, 3342,
+                                   3343, 3344}));
 }
 
 TEST(ListMenu, EntriesAreCommandsOrLines) {

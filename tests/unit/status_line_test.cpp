@@ -119,6 +119,24 @@ TEST_F(StatusLineTest, OfASaveNamesTheOtherFileThatHoldsTheKeys) {
                         L". Lines that were left out: 1, added to Other.ini.dropped.");
 }
 
+TEST_F(StatusLineTest, WhileSearchingCountsTheCommandsAndTellsOfEditsFirst) {
+  Editor.Work(&CommandList::Search, L"file");
+  EXPECT_EQ(Line(), L"Commands found: 3") << "and no longer that the file is open";
+  Select(Copy);
+  EXPECT_EQ(Line(), L"Commands found: 3");
+  Choose(L"F9");
+  EXPECT_EQ(Line(), L"F9: free");
+  Editor.Work(&HotkeyPanel::Assign);
+  Editor.Work(&HotkeyPanel::ResetPanel);
+  EXPECT_EQ(Line(), L"cm_Copy has the key F9 now.");
+  Editor.Work(&CommandList::Search, L"files");
+  EXPECT_EQ(Line(), L"Commands found: 2");
+  Editor.Work(&CommandList::Search, L"nowhere");
+  EXPECT_EQ(Line(), L"Commands found: 0");
+  Editor.Work(&CommandList::Search, L"  ");
+  EXPECT_EQ(Line(), L"Copy files");
+}
+
 TEST_F(StatusLineTest, OfAFailedSaveSaysWhyAndWhereTheKeysAre) {
   Assign(Pack, L"F9");
   Editor.Work(&HotkeyPanel::ResetPanel);
