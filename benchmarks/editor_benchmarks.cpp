@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 
 #include "benchmarks/Tables.h"
@@ -109,6 +110,45 @@ void UnsortView(benchmark::State& state) {
     program.Editor.Work(&CommandList::ToggleSortedList);
     state.ResumeTiming();
     program.Editor.Work(&CommandList::ToggleSortedList);
+  }
+}
+
+/// One of few commands, of all of them, and of none.
+constexpr std::array<const wchar_t*, 3> SearchedWords{L"k1230", L"command", L"nowhere"};
+
+const wchar_t* WordOf(const benchmark::State& state) {
+  return SearchedWords.at(static_cast<std::size_t>(state.range(1)));
+}
+
+/// A letter is typed into the find box, which then holds the word.
+void TypeInFindBox(benchmark::State& state) {
+  LargeProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  const std::wstring word = WordOf(state);
+  program.Editor.Work(&CommandList::Search, word);
+  for (auto _ : state) program.Editor.Work(&CommandList::Search, word);
+}
+
+/// The word alone is looked for in the same texts, which are in one letter case already.
+void FindInTexts(benchmark::State& state) {
+  LargeProgram program(static_cast<int>(state.range(0)));
+  program.Start();
+  std::vector<std::wstring> texts;
+  program.Editor.Document().Rows().ForEachRow([&texts](const CommandEntry& row) {
+    if (row.IsHeading()) return;
+    std::wstring text;
+    for (const std::wstring_view part :
+         {row.Description, row.CommandName, row.Tag, std::wstring_view(row.DefaultKeys),
+          std::wstring_view(row.CurrentKeys)}) {
+      text.append(part).append(1, L' ');
+    }
+    texts.push_back(ToUpper(text));
+  });
+  const std::wstring word = ToUpper(WordOf(state));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(std::ranges::count_if(texts, [&word](const std::wstring& text) {
+      return text.find(word) != std::wstring::npos;
+    }));
   }
 }
 
@@ -231,6 +271,11 @@ void ForColumns(benchmark::internal::Benchmark* benchmark) {
   benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
 }
 
+void ForWords(benchmark::internal::Benchmark* benchmark) {
+  benchmark->ArgsProduct({{FewCommands, ManyCommands}, {0, 1, 2}});
+  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
+}
+
 // First, as it takes up to twice as long on a heap that the others have left in pieces.
 BENCHMARK(ApplyTexts)->Apply(ForSizes);
 BENCHMARK(Assign)->Apply(ForSizes);
@@ -242,6 +287,8 @@ BENCHMARK(SortView)->Apply(ForSizes);
 BENCHMARK(UnsortView)->Apply(ForSizes);
 BENCHMARK(SortRows)->Apply(ForColumns);
 BENCHMARK(StableSort)->Apply(ForColumns);
+BENCHMARK(TypeInFindBox)->Apply(ForWords);
+BENCHMARK(FindInTexts)->Apply(ForWords);
 BENCHMARK(Save)->Apply(ForSizes);
 BENCHMARK(Export)->Apply(ForSizes);
 BENCHMARK(ConcatenateCells)->Apply(ForSizes);
@@ -270,6 +317,12 @@ std::vector<Ratio> EditorRatios() {
   };
   for (const auto& [size, count] : {std::pair{"600", "600"}, {"100000", "100,000"}}) {
     const std::string rows = std::string(count) + " rows";
+    for (const auto& [word, name] : {std::pair{"0", "few"}, {"1", "all"}, {"2", "none"}}) {
+      const std::string arguments = std::string("/") + size + "/" + word;
+      ratios.push_back({"find a word of " + std::string(name) + " of " + rows +
+                            ", against one search in their texts",
+                        "TypeInFindBox" + arguments, "FindInTexts" + arguments, 1, 3});
+    }
     for (const auto& [column, name] : {std::pair{"1", "description"},
                                        {"2", "command"},
                                        {"3", "default keys"},
