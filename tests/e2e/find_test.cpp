@@ -85,6 +85,9 @@ class FindTest : public EndToEndTest {
   /// Types, goes to the list and back, and empties the box.
   void UseBox();
 
+  /// By the options.
+  void ChooseLanguage(const std::wstring& language);
+
   std::optional<StartResolution> resolution_;
   std::vector<RowTexts> all_;
 };
@@ -120,11 +123,35 @@ void FindTest::UseBox() {
   WaitFor("the list", [&] { return window_->HasFocus(IDC_ListView1); });
 }
 
+void FindTest::ChooseLanguage(const std::wstring& language) {
+  window_->Command(IDM_mnuViewOptions);
+  Dialog dialog = NextDialog(L"frmOptions");
+  dialog.ClickTab(IDC_tbsOptions, 3);
+  dialog.ClickControl(IDC_txtLanguageFilePath);
+  WaitFor("the focus", [&] { return dialog.HasFocus(IDC_txtLanguageFilePath); });
+  SendMessageW(dialog.Control(IDC_txtLanguageFilePath), WM_SETTEXT, 0,
+               reinterpret_cast<LPARAM>(Shipped(language).c_str()));
+  dialog.CloseBy(IDC_cmdOK);
+}
+
 TEST_F(FindTest, ShowsWhatIsTypedAndGoesToTheList) {
   StartWith(L"", 96);
   UseBox();
   EXPECT_EQ(RectangleOf(window_->Control(IDC_txtFind)).right,
             RectangleOf(window_->Control(IDC_ListView1)).right);
+  // By Tab, after the toolbar and before the list.
+  GoToBox();
+  Press(VK_TAB);
+  WaitFor("the list", [&] { return window_->HasFocus(IDC_ListView1); });
+  GoToBox();
+  {
+    const HeldKey shift(VK_SHIFT);
+    Press(VK_TAB);
+  }
+  WaitFor("the toolbar", [&] { return window_->HasFocus(IDC_Toolbar1); });
+  EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt2));
+  Press(VK_TAB);
+  WaitFor("the box", [&] { return window_->HasFocus(IDC_txtFind); });
 }
 
 TEST_F(FindTest, WorksAtTwiceTheResolution) {
@@ -132,11 +159,18 @@ TEST_F(FindTest, WorksAtTwiceTheResolution) {
   UseBox();
 }
 
-TEST_F(FindTest, StandsAtTheLeftInALanguageFromRightToLeft) {
+TEST_F(FindTest, StandsAtTheLeftInALanguageFromRightToLeftAndStaysInAnother) {
   StartWith(L"Arabic.lng", 96);
   UseBox();
   EXPECT_EQ(RectangleOf(window_->Control(IDC_txtFind)).left,
             RectangleOf(window_->Control(IDC_ListView1)).left);
+  Find(L"tree");
+  ChooseLanguage(L"English.lng");
+  WaitFor("the box at the right", [&] {
+    return RectangleOf(window_->Control(IDC_txtFind)).right ==
+           RectangleOf(window_->Control(IDC_ListView1)).right;
+  });
+  ExpectFound(L"tree", Matching(all_, L"tree"));
 }
 
 TEST_F(FindTest, KeysInTheBoxDoNotReachThePanel) {
@@ -156,6 +190,15 @@ TEST_F(FindTest, KeysInTheBoxDoNotReachThePanel) {
   Press(VK_END);
   Press(VK_BACK);
   WaitFor("the end of the word to go", [&] { return Found() == L"tre"; });
+  {
+    // AltGr, as the system tells it.
+    const HeldKey ctrl(VK_CONTROL);
+    const HeldKey alt(VK_MENU);
+    Post(L"@");
+    WaitFor("the character", [&] { return Found() == L"tre@"; });
+  }
+  Press(VK_BACK);
+  WaitFor("the rows", [&] { return window_->SelectedRow() == selected; });
   for (const int box : {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2}) {
     EXPECT_FALSE(window_->BoxChecked(box));
   }
@@ -171,18 +214,6 @@ TEST_F(FindTest, KeysInTheBoxDoNotReachThePanel) {
   EXPECT_FALSE(Modified());
   Press(VK_RETURN);
   WaitForKeys(L"cm_SrcTree", L"Q");
-}
-
-TEST_F(FindTest, TabComesFromTheToolbarAndGoesOnToTheList) {
-  StartWith(L"", 96);
-  GoToBox();
-  Press(VK_TAB);
-  WaitFor("the list", [&] { return window_->HasFocus(IDC_ListView1); });
-  {
-    const HeldKey shift(VK_SHIFT);
-    Press(VK_TAB);
-  }
-  WaitFor("the box", [&] { return window_->HasFocus(IDC_txtFind); });
 }
 
 TEST_F(FindTest, EditsSortsAndSavesAreThoseOfAllRows) {
@@ -226,27 +257,6 @@ TEST_F(FindTest, AnOpenAndAHiddenToolbarEmptyTheBox) {
   window_->Command(IDM_mnuViewToolbar);
   WaitFor("the box", [&] { return window_->Visible(IDC_txtFind); });
   EXPECT_FALSE(window_->HasFocus(IDC_txtFind));
-}
-
-TEST_F(FindTest, AnotherLanguageKeepsTheSearch) {
-  StartWith(L"", 96);
-  Find(L"tree");
-  window_->Command(IDM_mnuViewOptions);
-  Dialog dialog = NextDialog(L"frmOptions");
-  dialog.ClickTab(IDC_tbsOptions, 3);
-  dialog.ClickControl(IDC_optUseOtheLanguage);
-  WaitFor("the text box", [&] { return dialog.Enabled(IDC_txtLanguageFilePath); });
-  dialog.ClickControl(IDC_txtLanguageFilePath);
-  WaitFor("the focus", [&] { return dialog.HasFocus(IDC_txtLanguageFilePath); });
-  const std::wstring path = Shipped(L"Arabic.lng");
-  Type(path);
-  WaitFor("the path", [&] { return dialog.ControlText(IDC_txtLanguageFilePath) == path; });
-  dialog.CloseBy(IDC_cmdOK);
-  WaitFor("the box at the left", [&] {
-    return RectangleOf(window_->Control(IDC_txtFind)).left ==
-           RectangleOf(window_->Control(IDC_ListView1)).left;
-  });
-  ExpectFound(L"tree", Matching(all_, L"tree"));
 }
 
 TEST_F(FindTest, TakesWhateverIsTyped) {
