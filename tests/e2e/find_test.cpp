@@ -246,7 +246,8 @@ TEST_F(FindTest, AnOpenAndAHiddenToolbarEmptyTheBox) {
   Find(L"tree");
   window_->Command(IDM_mnuFileRecentFiles1);
   ExpectAllRows();
-  EXPECT_TRUE(window_->Enabled(IDC_txtFind));
+  WaitFor("the box to have the focus again",
+          [&] { return window_->Enabled(IDC_txtFind) && window_->HasFocus(IDC_txtFind); });
   all_ = window_->Rows();  // with the keys of both opens
   Find(L"tree");
   window_->Command(IDM_mnuViewToolbar);

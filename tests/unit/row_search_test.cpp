@@ -81,5 +81,22 @@ TEST_F(RowSearchTest, AnEmptyTableHasNothing) {
   EXPECT_TRUE(RowSearch().Match(empty, {L"X"}).empty());
 }
 
+TEST_F(RowSearchTest, TakesTextsOfAnyKind) {
+  const std::wstring odd[] = {L"&",
+                              L"&&",
+                              std::wstring(5000, L'x'),
+                              std::wstring(2500, L' ') + std::wstring(2500, L'+'),
+                              {wchar_t{0xD83D}},
+                              {wchar_t{0xDE00}, L' ', wchar_t{0xD83D}},
+                              L"\x01 \x1F\t\x7F",
+                              L"\x200F\x202E",
+                              {L'\0', L'x'}};
+  for (const std::wstring& text : odd) EXPECT_EQ(Find(text), Rows()) << text.size();
+  const std::wstring mixed = {L'&', wchar_t{0x200F}, wchar_t{0xD83D}, L'\x01'};
+  catalogue_.ListView1.Edit(Pack).CurrentKeys = L"x" + mixed;
+  EXPECT_EQ(Find(mixed), Rows({Pack})) << "they are looked for as they stand";
+  EXPECT_EQ(Find(std::wstring(5000, L' ') + L"x&"), Rows({Pack}));
+}
+
 }  // namespace
 }  // namespace tessera::row_search_test
