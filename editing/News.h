@@ -9,7 +9,18 @@
 
 namespace tessera {
 
-enum class NewsKind { None, Opened, Saved, Assigned, Added, Deleted, DeletedAll, Undone, Redone, NotSaved };
+enum class NewsKind {
+  None,
+  Opened,
+  Saved,
+  Assigned,
+  Added,
+  Deleted,
+  DeletedAll,
+  Undone,
+  Redone,
+  NotSaved
+};
 
 struct News {
   NewsKind Kind = NewsKind::None;
