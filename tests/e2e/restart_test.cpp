@@ -88,9 +88,11 @@ TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
   const HWND list = window_->Control(IDC_ListView1);
   InvalidateRect(list, nullptr, TRUE);
   WaitFor("the list to be painted", [&] { return GetUpdateRect(list, nullptr, FALSE) == FALSE; });
+  EXPECT_FALSE(window_->Enabled(IDC_txtFind));
   EXPECT_NE(StandInWindow(), nullptr) << "it was painted too late to tell anything";
   EXPECT_TRUE(Modified()) << "the save comes after the close";
   WaitFor("the save to end", [&] { return !Modified(); });
+  WaitFor("the find box to be enabled", [&] { return window_->Enabled(IDC_txtFind); });
   standIn_->WaitForEnd();
   static_cast<void>(WaitForStandIn());
   EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();
