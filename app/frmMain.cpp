@@ -112,7 +112,8 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       Form_Activate();
       return 0;
     case WM_SETFOCUS:
-      SetFocus(lastFocus_);
+      // The find box may have been hidden meanwhile.
+      SetFocus(IsWindowVisible(lastFocus_) != FALSE ? lastFocus_ : views_.List().Control());
       return 0;
     case WM_CLOSE:
       Form_QueryUnload();

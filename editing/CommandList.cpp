@@ -150,7 +150,8 @@ Reaction CommandList::SortByColumn(int column) {
   settings_.SortOrder = static_cast<short>(direction_);
   settings_.SortedColumn = static_cast<short>(column);
   catalogue_.ListView1.Sort(sortKey_, direction_);
-  shown_.Refresh();
+  // An edited row may no longer be found.
+  if (shown_.Searching()) RefreshSearch();
   return {};
 }
 

@@ -313,5 +313,16 @@ TEST_F(CommandListTest, WithoutAPlaceToTypeASearchEndsAndNoneBegins) {
   EXPECT_EQ(list_.Shown().SearchText(), L"");
 }
 
+TEST_F(CommandListTest, SortingSelectsAnotherRowForAnEditedOneThatIsNoLongerFound) {
+  list_.SortCommandList();
+  list_.Search(L"f9");
+  list_.ShowRowDetails(Sync);
+  catalogue_.ListView1.Edit(Sync).CurrentKeys = L"---";
+  EXPECT_TRUE(list_.Shown().PositionOf(Sync)) << "edits alone hide no row";
+  list_.SortByColumn(1);
+  EXPECT_FALSE(list_.Shown().PositionOf(Sync));
+  EXPECT_EQ(list_.SelectedRow(), Search);
+}
+
 }  // namespace
 }  // namespace tessera::command_list_test
