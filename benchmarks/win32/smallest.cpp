@@ -1,16 +1,16 @@
-// The smallest program with a window like that of the real one: a menu bar, toolbars, an empty
-// list, a panel and a progress bar, with the styles and the font that they have there, each made
-// once and in its place. It knows no language, settings, pictures, keys or files.
+// The smallest program with a window like that of the real one: a menu bar, toolbars, a box to type
+// in, an empty list, a panel and a progress bar, with the styles and the font that they have there,
+// each made once and in its place. It knows no language, settings, pictures, keys or files.
 #include <windows.h>
 #include <commctrl.h>
 
 namespace {
 
 constexpr int Width = 667;
-constexpr int Height = 467;
+constexpr int Height = 497;
 constexpr int ToolbarHeight = 30;
 constexpr int ListHeight = 340;
-constexpr int PanelHeight = 40;
+constexpr int PanelHeight = 70;
 constexpr int MostButtons = 4;
 
 LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM first, LPARAM second) {
@@ -88,6 +88,10 @@ void AddPanel(HWND window) {
   Add(panel, WC_COMBOBOXW, L"", WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST, 260, 8, 150, 200);
   Add(panel, WC_BUTTONW, L"", WS_VISIBLE | BS_PUSHBUTTON, 420, 8, 20, 20);
   AddToolbar(panel, 2, 460, 100);
+  Add(panel, WC_STATICW, L"Text", WS_VISIBLE | SS_NOPREFIX | SS_ENDELLIPSIS, 10, 40, 400, 20);
+  for (int button = 0; button < 2; ++button) {
+    Add(panel, WC_BUTTONW, L"Text", WS_VISIBLE | BS_PUSHBUTTON, 420 + 60 * button, 38, 55, 24);
+  }
 }
 
 }  // namespace
@@ -106,6 +110,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int show) {
   AddList(window);
   AddPanel(window);
   AddToolbar(window, 4, 0, Width);
+  Add(window, WC_STATICW, L"Text", 0, 0, 0, 10, 10);
+  Add(window, WC_EDITW, L"", WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL, 420, 4, 155, 22);
   Add(window, PROGRESS_CLASSW, L"", 0, 0, 0, 100, 20);
   ShowWindow(window, show);
   MSG message;
