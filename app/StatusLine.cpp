@@ -10,6 +10,7 @@
 #include "app/StepNames.h"
 #include "editing/KeyConflicts.h"
 #include "localisation/Placeholders.h"
+#include "text/ControlCharacters.h"
 
 namespace tessera {
 namespace {
@@ -21,19 +22,17 @@ bool IsWithin(wchar_t character, wchar_t first, wchar_t last) {
   return character >= first && character <= last;
 }
 
-bool IsControl(wchar_t character) {
-  return character < L' ' || IsWithin(character, L'\x7F', L'\x9F') ||
-         IsWithin(character, L'\x2028', L'\x2029');
-}
+bool EndsLine(wchar_t character) { return IsWithin(character, L'\x2028', L'\x2029'); }
 
 /// A mark that turns the direction of all that follows it.
 bool TurnsDirection(wchar_t character) {
   return IsWithin(character, L'\x202A', L'\x202E') || IsWithin(character, L'\x2066', L'\x2069');
 }
 
-std::wstring OnOneLine(std::wstring text) {
-  std::ranges::replace_if(text, IsControl, L' ');
-  return text;
+std::wstring OnOneLine(std::wstring_view text) {
+  std::wstring line = WithoutControls(text);
+  std::ranges::replace_if(line, EndsLine, L' ');
+  return line;
 }
 
 /// What stands in a sentence must not turn the rest of it round.
@@ -240,7 +239,7 @@ std::wstring StatusText(const Editor& editor) {
   if (editor.List().Shown().Searching()) return OnOneLine(teller.Found());
   const RowKey row = editor.List().SelectedRow();
   if (row == 0) return {};
-  return OnOneLine(std::wstring(editor.Document().Rows().Row(row).Description));
+  return OnOneLine(editor.Document().Rows().Row(row).Description);
 }
 
 bool StatusTelling::IsDue(const std::wstring& text, bool modifierHeld, bool timerRuns) {

@@ -1,25 +1,14 @@
 // Only what every reader of HTML knows, without styles.
 #include "export/HtmlTable.h"
 
-#include <algorithm>
+#include "text/ControlCharacters.h"
 
 namespace tessera {
 namespace {
 
-/// A tab or a line break of its own would part a cell.
-std::wstring WithoutControls(std::wstring_view text) {
-  std::wstring plain(text);
-  std::ranges::replace_if(
-      plain,
-      [](wchar_t character) {
-        return character < L' ' || (character >= L'\x7F' && character <= L'\x9F');
-      },
-      L' ');
-  return plain;
-}
-
 std::wstring Escaped(std::wstring_view text) {
   std::wstring html;
+  // A tab or a line break of its own would part a cell.
   for (const wchar_t character : WithoutControls(text)) {
     switch (character) {
       case L'&':

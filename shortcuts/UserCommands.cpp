@@ -10,6 +10,7 @@
 
 #include "settings/ini/ProfileFile.h"
 #include "settings/Paths.h"
+#include "text/ControlCharacters.h"
 #include "text/Text.h"
 #include "text/TextHash.h"
 #include "text/Trim.h"
@@ -27,10 +28,6 @@ constexpr wchar_t Unknown = 0xFFFD;  // what bytes become that the encoding does
 
 using RowsByName =
     std::unordered_map<std::wstring_view, RowKey, HashIgnoringCase, EqualsIgnoringCase>;
-
-bool IsControl(wchar_t character) {
-  return character < L' ' || (character >= 0x7F && character < 0xA0);
-}
 
 std::string WithBytesSwapped(std::string bytes) {
   for (std::size_t at = 1; at < bytes.size(); at += 2) std::swap(bytes[at - 1], bytes[at]);
@@ -58,8 +55,7 @@ bool IsUsable(std::wstring_view name) {
 std::wstring DescriptionOf(const ProfileSection& section) {
   std::wstring text = section.Find(L"menu").value_or(L"");
   if (text.empty()) text = section.Find(L"cmd").value_or(L"");
-  std::ranges::replace_if(text, IsControl, L' ');
-  return std::wstring(TrimSpaces(text));
+  return std::wstring(TrimSpaces(WithoutControls(text)));
 }
 
 RowsByName RowsOf(std::span<const CommandEntry> rows) {
