@@ -40,4 +40,8 @@ KeyMeaning MeaningOf(const KeyPress& press, bool pressed) {
                    {.HasFocus = press.Focus == FocusPlace::Chooser, .Open = press.ChooserOpen});
 }
 
+bool PressesFocusedButton(const KeyEvent& event) {
+  return event.Code == KeyCode::Enter && !event.WasDown && !AnyModifierHeld(event);
+}
+
 }  // namespace tessera

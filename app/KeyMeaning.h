@@ -24,4 +24,8 @@ struct ChooserState {
 /// The same for a key anywhere in the window.
 [[nodiscard]] KeyMeaning MeaningOf(const KeyPress& press, bool pressed);
 
+/// True for a key-down that presses the button with the focus, where the panel leaves it over. One
+/// that repeats does not: it would take back one edit after the other.
+[[nodiscard]] bool PressesFocusedButton(const KeyEvent& event);
+
 }  // namespace tessera

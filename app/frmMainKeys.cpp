@@ -103,7 +103,8 @@ bool frmMain::KeyDown(const KeyPress& press) {
                               MnemonicLetters(editor_.Language()));
   const Reaction reaction = editor_.Work(&HotkeyPanel::KeyDown, event);
   React(reaction);
-  return reaction.Handled;
+  if (reaction.Handled) return true;
+  return PressesFocusedButton(event) && views_.Panel().PressFocusedButton();
 }
 
 bool frmMain::KeyUp(const KeyEvent& event) {

@@ -68,6 +68,15 @@ ChooserState frmPanel::Chooser() const {
 
 void frmPanel::FocusOnChooser() const { SetFocus(Combo1_); }
 
+bool frmPanel::PressFocusedButton() const {
+  const HWND focus = GetFocus();
+  if (focus == nullptr || (focus != statusRow_.ShowButton() && focus != statusRow_.UndoButton())) {
+    return false;
+  }
+  SendMessageW(focus, BM_CLICK, 0, 0);
+  return true;
+}
+
 bool frmPanel::ChooserWouldLose(const MSG& message) const {
   const bool isSystemKey = message.message == WM_SYSKEYDOWN || message.message == WM_SYSKEYUP;
   return isSystemKey && message.hwnd == Combo1_ && message.wParam != VK_UP &&

@@ -42,6 +42,9 @@ class frmPanel : Pinned {
   [[nodiscard]] ChooserState Chooser() const;
   void FocusOnChooser() const;
 
+  /// Presses the button beside the line that has the focus; false when none has it.
+  bool PressFocusedButton() const;
+
   /// True for Alt with a key that the chooser might hand to its hidden list, where it would be
   /// lost, as Alt+F4 and F10.
   [[nodiscard]] bool ChooserWouldLose(const MSG& message) const;

@@ -46,6 +46,21 @@ TEST_F(UndoTest, TheButtonTakesOneEditAfterTheOtherBack) {
   WaitFor("the focus to leave it", [&] { return window_->HasFocus(IDC_ListView1); });
 }
 
+TEST_F(UndoTest, EnterPressesTheButtonWhileNoKeyIsChosen) {
+  StartAndLoad();
+  Assign(L"cm_SrcTree", L"K");
+  Press(VK_ESCAPE);
+  WaitFor("no key", [&] { return window_->ChosenKey().empty(); });
+  WaitFor("the button to be enabled", [&] { return window_->Enabled(IDC_cmdUndo); });
+  for (const int control :
+       {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2, IDC_Combo1, IDC_Toolbar2, IDC_cmdUndo}) {
+    Press(VK_TAB);
+    WaitFor("the next control", [&] { return window_->HasFocus(control); });
+  }
+  Press(VK_RETURN);
+  WaitForLine(L"Taken back: K to cm_SrcTree.");
+}
+
 TEST_F(UndoTest, TheLineAndTheMenuNameTheStep) {
   StartAndLoad();
   Assign(L"cm_SrcTree", L"K");

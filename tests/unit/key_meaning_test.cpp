@@ -81,6 +81,15 @@ TEST(KeyMeaning, ThePlaceOfAPressTellsTheChooser) {
   EXPECT_EQ(MeaningOf(press, true), KeyMeaning::ForControl);
 }
 
+TEST(KeyMeaning, EnterByItselfPressesTheFocusedButtonOnce) {
+  KeyEvent event{.Code = KeyCode::Enter};
+  EXPECT_TRUE(PressesFocusedButton(event));
+  event.WasDown = true;
+  EXPECT_FALSE(PressesFocusedButton(event));
+  EXPECT_FALSE(PressesFocusedButton({.Code = KeyCode::Enter, .AltHeld = true}));
+  EXPECT_FALSE(PressesFocusedButton({.Code = KeyCode::Space}));
+}
+
 }  // namespace
 
 }  // namespace tessera::key_meaning_test
