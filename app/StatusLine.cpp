@@ -64,8 +64,8 @@ class Teller {
     return editor_.Document().Rows().Row(row);
   }
   [[nodiscard]] std::wstring NameOf(RowKey row) const;
-  [[nodiscard]] std::wstring NameOf(const StartMenuSlot& slot) const {
-    return Say(TextId::HolderInStartMenu, {AsValue(slot.Caption)});
+  [[nodiscard]] std::wstring NameOfEntry(std::wstring_view caption) const {
+    return Say(TextId::HolderInStartMenu, {AsValue(caption)});
   }
   [[nodiscard]] std::vector<std::wstring> NamesOf(const HoldersOfKey& holders,
                                                   const StartMenuSlot* slot) const;
@@ -73,6 +73,7 @@ class Teller {
   [[nodiscard]] std::wstring WithQuestion(const std::wstring& told, const std::wstring& key,
                                           const HoldersOfKey& holders,
                                           const StartMenuSlot* slot) const;
+  [[nodiscard]] std::wstring WithLosers(const std::wstring& told, const News& news) const;
   [[nodiscard]] std::wstring Restored(TextId id, const News& news) const;
   [[nodiscard]] std::wstring Reason(const FailedSave& failure) const;
   [[nodiscard]] std::wstring Opened(const News& news) const;
@@ -96,7 +97,7 @@ std::vector<std::wstring> Teller::NamesOf(const HoldersOfKey& holders,
     const TextId id = isOverridden ? TextId::HolderOverridden : TextId::HolderByDefault;
     names.push_back(Say(id, {NameOf(row)}));
   }
-  if (slot != nullptr) names.push_back(NameOf(*slot));
+  if (slot != nullptr) names.push_back(NameOfEntry(slot->Caption));
   return names;
 }
 
@@ -136,7 +137,7 @@ std::wstring Teller::WithQuestion(const std::wstring& told, const std::wstring& 
   }
   // Nobody loses a key that the row alone has.
   if (areAll(selected)) return told;
-  if (slot != nullptr) return Say(TextId::QuestionNames, {told, NameOf(*slot)});
+  if (slot != nullptr) return Say(TextId::QuestionNames, {told, NameOfEntry(slot->Caption)});
   return Say(TextId::NoQuestion, {told});
 }
 
@@ -178,6 +179,13 @@ std::wstring Teller::Saved(const News& news) const {
   return Say(id, {told, std::to_wstring(news.DroppedLines), FileNameOf(news.DroppedIn)});
 }
 
+std::wstring Teller::WithLosers(const std::wstring& told, const News& news) const {
+  std::vector<std::wstring> names;
+  if (news.From != 0) names.push_back(NameOf(news.From));
+  for (const std::wstring& caption : news.FromStartMenu) names.push_back(NameOfEntry(caption));
+  return names.empty() ? told : Say(TextId::TakenFrom, {told, Joined(names)});
+}
+
 std::wstring Teller::Restored(TextId id, const News& news) const {
   const std::wstring told =
       Say(id, {AsValue(StepName({news.Step, news.Row, news.Keys}, editor_.Document().Rows(),
@@ -189,18 +197,15 @@ std::wstring Teller::Tell(const News& news) const {
   // "This command" tells too little of what is done.
   const std::wstring name = news.Row != 0 ? AsValue(Row(news.Row).CommandName) : L"";
   const std::wstring rows = std::to_wstring(news.Rows);
-  const auto withLoser = [&](const std::wstring& told) {
-    return news.From == 0 ? told : Say(TextId::TakenFrom, {told, NameOf(news.From)});
-  };
   switch (news.Kind) {
     case NewsKind::Opened:
       return Opened(news);
     case NewsKind::Saved:
       return Saved(news);
     case NewsKind::Assigned:
-      return withLoser(Say(TextId::KeyIsAssigned, {name, news.Keys}));
+      return WithLosers(Say(TextId::KeyIsAssigned, {name, news.Keys}), news);
     case NewsKind::Added:
-      return withLoser(Say(TextId::KeyIsAdded, {name, news.Keys}));
+      return WithLosers(Say(TextId::KeyIsAdded, {name, news.Keys}), news);
     case NewsKind::Deleted:
       return Say(TextId::KeysAreDeleted, {name, news.Keys});
     case NewsKind::DeletedAll:

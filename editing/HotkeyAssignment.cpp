@@ -23,7 +23,7 @@ HotkeyAssignment::HotkeyAssignment(Catalogue& catalogue, const HotkeyNotation& n
 
 bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
   return catalogue_.Edits.Make(catalogue_, {EditKind::Assign, row, key}, [&] {
-    if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, true)) return false;
+    if (!CheckAll(row, key, true)) return false;
     ReleaseCurrentKeys(catalogue_, row, notation_);
     GiveKey(catalogue_, row, key, notation_);
     catalogue_.ListView1.Edit(row).Icon = RowIcon::HasKey;
@@ -34,7 +34,7 @@ bool HotkeyAssignment::Assign(RowKey row, const std::wstring& key) {
 
 bool HotkeyAssignment::Add(RowKey row, const std::wstring& key) {
   return catalogue_.Edits.Make(catalogue_, {EditKind::Add, row, key}, [&] {
-    if (!CheckStartMenuConflict(row, key) || !CheckConflicts(row, key, false)) return false;
+    if (!CheckAll(row, key, false)) return false;
     // The key may have been the row's own last one, which the check has just taken out of the cell.
     GiveKey(catalogue_, row, key, notation_);
     news_.Kind = NewsKind::Added;
@@ -66,15 +66,28 @@ bool HotkeyAssignment::DeleteAll() {
 
 News HotkeyAssignment::TakeNews() { return std::exchange(news_, {}); }
 
+/// False when somebody keeps the key, or the row has just this key already.
+bool HotkeyAssignment::CheckAll(RowKey row, const std::wstring& key, bool replace) {
+  std::vector<std::wstring> takenFrom;
+  if (!CheckStartMenuConflict(row, key, takenFrom) || !CheckConflicts(row, key, replace)) {
+    return false;
+  }
+  news_.FromStartMenu = std::move(takenFrom);
+  return true;
+}
+
 /// False when the user keeps the key for the Start Menu. The answer about the last slot decides.
-bool HotkeyAssignment::CheckStartMenuConflict(RowKey row, const std::wstring& key) {
+bool HotkeyAssignment::CheckStartMenuConflict(RowKey row, const std::wstring& key,
+                                              std::vector<std::wstring>& takenFrom) {
   bool confirmed = true;
   for (StartMenuSlot& slot : catalogue_.StartMenuKeys) {
     if (!EqualIgnoringCase(slot.Key, key)) continue;
     confirmed =
         Confirmed(messageBoxes_, StartMenuQuestion(texts_, slot, catalogue_.ListView1.Row(row)),
                   BoxIcon::Exclamation);
-    if (confirmed) slot.Key.append(OverriddenMark);
+    if (!confirmed) continue;
+    slot.Key.append(OverriddenMark);
+    takenFrom.push_back(slot.Caption);
   }
   return confirmed;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "editing/News.h"
 #include "localisation/Texts.h"
@@ -34,7 +35,9 @@ class HotkeyAssignment : Pinned {
   [[nodiscard]] News TakeNews();
 
  private:
-  bool CheckStartMenuConflict(RowKey row, const std::wstring& key);
+  bool CheckAll(RowKey row, const std::wstring& key, bool replace);
+  bool CheckStartMenuConflict(RowKey row, const std::wstring& key,
+                              std::vector<std::wstring>& takenFrom);
   bool CheckConflicts(RowKey row, const std::wstring& key, bool replace);
 
   Catalogue& catalogue_;

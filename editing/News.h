@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "shortcuts/CommandEntry.h"
 #include "shortcuts/EditHistory.h"
@@ -24,10 +25,11 @@ enum class NewsKind {
 
 struct News {
   NewsKind Kind = NewsKind::None;
-  RowKey Row = 0;                   ///< whose keys an edit changed
-  std::wstring Keys{};              ///< that the row got or lost, in display notation
-  RowKey From = 0;                  ///< the other row that the key was taken from; 0 for none
-  std::wstring File{};              ///< that was opened or saved
+  RowKey Row = 0;       ///< whose keys an edit changed
+  std::wstring Keys{};  ///< that the row got or lost, in display notation
+  RowKey From = 0;      ///< the other row that the key was taken from; 0 for none
+  std::vector<std::wstring> FromStartMenu{};  ///< captions of entries that it was taken from
+  std::wstring File{};                        ///< that was opened or saved
   EditKind Step{};                  ///< of that row and key, which was taken back or made again
   bool StartMenuKeyIsGone = false;  ///< it had one that a save has taken out of the file
   std::size_t Rows{};  ///< how many rows have current keys after an open, or lost theirs

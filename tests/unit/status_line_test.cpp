@@ -56,6 +56,26 @@ TEST_F(StatusLineTest, TellsWhatAnEditDid) {
   EXPECT_EQ(Line(), L"Wincmd.ini is saved.");
 }
 
+TEST_F(StatusLineTest, NamesTheEntryOfTheStartMenuThatLostItsKey) {
+  Assign(Pack, CtrlAlt, L"F1");
+  Editor.Work(&HotkeyPanel::ResetPanel);
+  EXPECT_EQ(Line(),
+            L"cm_Pack has the key Ctrl + Alt + F1 now. It was taken from Paint (Start Menu).");
+  Assign(Pack, L"F9");
+  Editor.Work(&HotkeyPanel::ResetPanel);
+  EXPECT_EQ(Line(), L"cm_Pack has the key F9 now.");
+}
+
+TEST_F(StatusLineTest, NamesAllWhoLostAKey) {
+  Ini() = "[Shortcuts]\r\nCA+F1=cm_View\r\n[user]\r\nmenu1=Paint\r\nkey1=1\r\n";
+  Editor.OpenShortcutFile(false, IniFile, false);
+  Assign(Pack, CtrlAlt, L"F1");
+  Editor.Work(&HotkeyPanel::ResetPanel);
+  EXPECT_EQ(Line(),
+            L"cm_Pack has the key Ctrl + Alt + F1 now. It was taken from cm_View, Paint (Start "
+            L"Menu).");
+}
+
 TEST_F(StatusLineTest, AfterAFurtherOpenSaysThatFormerKeysAreShown) {
   Editor.OpenShortcutFile(false, IniFile, false);
   const std::wstring opened = L"Wincmd.ini is open. Commands with keys of your own: 2";
