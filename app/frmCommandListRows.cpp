@@ -45,6 +45,7 @@ void Write(HDC context, RECT place, std::wstring_view text) {
 LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) {
   if (draw.dwDrawStage == CDDS_PREPAINT) {
     drawnColors_ = ColorsOfList(editor_.Options());
+    drawnSelection_ = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
     drawnPlaces_ = PlacesOf(ListView_GetTopIndex(ListView1_));
     return CDRF_NOTIFYITEMDRAW;
   }
@@ -61,8 +62,8 @@ void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
   const HDC context = draw.hdc;
   const CommandEntry& row = editor_.List().Shown().At(draw.dwItemSpec);
   const auto item = static_cast<int>(draw.dwItemSpec);
-  const bool selected = ListView_GetItemState(ListView1_, item, LVIS_SELECTED) != 0;
-  const CellColors rowColors = ColorsOfRow(drawnColors_, selected, GetFocus() == ListView1_);
+  const CellColors rowColors =
+      ColorsOfRow(drawnColors_, item == drawnSelection_, GetFocus() == ListView1_);
   const RowPlaces places = drawnPlaces_.MovedTo(draw.rc.top);
   RECT whole = draw.rc;
   whole.left += RowMargin;

@@ -68,6 +68,7 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
 void frmMain::Show(int showCommand) {
   const bool maximised = editor_.Options().MainWindowMaxmized == 1;
   lastFocus_ = views_.List().Control();
+  views_.LayOutFromNowOn();
   ShowWindow(window_, maximised ? SW_SHOWMAXIMIZED : showCommand);
 }
 

@@ -116,7 +116,7 @@ void frmViews::ApplyDisplaySettings() {
 }
 
 void frmViews::LayOut() {
-  if (progressBar_.Control() == nullptr || IsIconic(window_) != FALSE) return;
+  if (!placed_ || IsIconic(window_) != FALSE) return;
   const HWND toolbar = Toolbar1_.Control();
   const int toolbarHeight = editor_.Options().ToolbarVisible != 0 ? Toolbar1_.Height(dpi_) : 0;
   RECT inside{};
@@ -132,6 +132,11 @@ void frmViews::LayOut() {
   EndDeferWindowPos(places);
   findBox_.PlaceAt(
       PlaceFindBox(layout.Toolbar1, Toolbar1_.ButtonsSize().Width, findBox_.CueSize(), dpi_));
+}
+
+void frmViews::LayOutFromNowOn() {
+  placed_ = true;
+  LayOut();
 }
 
 void frmViews::MoveKeysList() {
@@ -180,6 +185,7 @@ void frmViews::Forget() {
   panel_.Forget();
   progressBar_.Forget();
   window_ = nullptr;
+  placed_ = false;
 }
 
 void frmViews::SyncCommands() const {
