@@ -14,7 +14,8 @@ constexpr wchar_t Separator = L'\0';
 /// Appends the text without the blanks around each "+".
 void AppendJoined(std::wstring& joined, std::wstring_view text) {
   std::size_t copied = 0;
-  for (std::size_t plus = text.find(L'+'); plus != text.npos; plus = text.find(L'+', copied)) {
+  for (std::size_t plus = text.find(L'+'); plus != std::wstring_view::npos;
+       plus = text.find(L'+', copied)) {
     std::size_t before = plus;
     while (before > copied && text[before - 1] == L' ') --before;
     joined.append(text.substr(copied, before - copied)).append(1, L'+');
@@ -46,7 +47,7 @@ std::vector<bool> RowSearch::Match(const DisplayTable& rows,
   for (std::size_t row = 0; row < ends_.size(); ++row) {
     const std::wstring_view texts = std::wstring_view(texts_).substr(begin, ends_[row] - begin);
     matches[row] = !texts.empty() && std::ranges::all_of(words, [&](const std::wstring& word) {
-      return texts.find(word) != texts.npos;
+      return texts.find(word) != std::wstring_view::npos;
     });
     begin = ends_[row];
   }
