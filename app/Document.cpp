@@ -176,8 +176,8 @@ void Document::ReadMasterRows(const ProgressStep& step) {
     std::vector<CommandEntry> rows =
         ReadInternalCommands(*catalogue_.Text, notation_.UndefinedHotkey, step);
     // Rows of user commands may stand there, when the file could not be read at an earlier open.
-    catalogue_.lvwHidden.insert(catalogue_.lvwHidden.begin(), std::make_move_iterator(rows.begin()),
-                                std::make_move_iterator(rows.end()));
+    std::ranges::move(catalogue_.lvwHidden, std::back_inserter(rows));
+    catalogue_.lvwHidden = std::move(rows);
   }
 }
 

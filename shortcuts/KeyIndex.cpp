@@ -81,13 +81,13 @@ KeyIndex::EntryId KeyIndex::Add(std::wstring text, RowKey owner) {
   AddToGroups(id, *entries_.emplace_back(Entry{std::move(text), owner}));
   if (forEdits_) forEdits_->AddOwned(id, owner);
   ++count_;
-  Note(id, std::nullopt);
+  if (changes_ != nullptr) changes_->emplace_back(id, std::nullopt);
   return id;
 }
 
 void KeyIndex::SetText(EntryId id, std::wstring text) {
   Entry& entry = entries_.at(id).value();
-  Note(id, entry);
+  NoteFormer(id);
   RemoveFromGroups(id, entry);
   entry.Text = std::move(text);
   AddToGroups(id, entry);
@@ -95,7 +95,7 @@ void KeyIndex::SetText(EntryId id, std::wstring text) {
 
 void KeyIndex::SetOwner(EntryId id, RowKey owner) {
   Entry& entry = entries_.at(id).value();
-  Note(id, entry);
+  NoteFormer(id);
   std::erase(ForEdits().ByOwner.at(entry.Owner), id);
   forEdits_->AddOwned(id, owner);
   entry.Owner = owner;
@@ -105,7 +105,8 @@ void KeyIndex::RemoveOwnedBy(RowKey owner) {
   if (owner >= ForEdits().ByOwner.size()) return;
   for (const EntryId id : std::exchange(forEdits_->ByOwner[owner], {})) {
     RemoveFromGroups(id, At(id));
-    Note(id, std::exchange(entries_[id], std::nullopt));
+    NoteFormer(id);
+    entries_[id].reset();
     --count_;
   }
 }
@@ -130,8 +131,8 @@ void KeyIndex::Exchange(FormerEntry& former) {
   }
 }
 
-void KeyIndex::Note(EntryId id, std::optional<Entry> former) {
-  if (changes_ != nullptr) changes_->emplace_back(id, std::move(former));
+void KeyIndex::NoteFormer(EntryId id) {
+  if (changes_ != nullptr) changes_->emplace_back(id, entries_[id]);
 }
 
 void KeyIndex::EditIndexes::AddOwned(EntryId id, RowKey owner) {

@@ -68,7 +68,7 @@ class KeyIndex {
   };
 
   EditIndexes& ForEdits() const;
-  void Note(EntryId id, std::optional<Entry> former);
+  void NoteFormer(EntryId id);
   void AddToGroups(EntryId id, const Entry& entry);
   void RemoveFromGroups(EntryId id, const Entry& entry);
 

@@ -111,7 +111,9 @@ void ReplaceUserRows(Catalogue& catalogue, std::vector<UserCommand> commands, st
   const auto formerTexts =
       std::exchange(catalogue.UserTexts, std::make_shared<const UserCommandTexts>(UserCommandTexts{
                                              std::move(heading), std::move(commands)}));
-  const RowsByName taken = RowsOf(rows);
+  // Without own commands, as most users open their file, the names of all others are not wanted.
+  const bool hasNone = catalogue.UserTexts->Commands.empty();
+  const RowsByName taken = hasNone ? RowsByName() : RowsOf(rows);
   const std::size_t masterRows = rows.size();
   if (!rows.empty()) catalogue.LastKey = std::max(catalogue.LastKey, rows.back().Key);
   for (const UserCommand& command : catalogue.UserTexts->Commands) {
