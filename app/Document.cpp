@@ -260,7 +260,8 @@ void Document::Save(bool restarts) {
   // It runs on with its former keys, which it would not tell by itself.
   if (restarts && !mayStart) system_.MessageBoxes.Beep();
   const bool isMissed = mayStart && Restart(false) == RestartResult::NotStarted;
-  news_.CommanderIsClosed = isMissed && wasRunning;
+  // Its user may have chosen not to close it.
+  news_.CommanderIsClosed = isMissed && wasRunning && FindTotalCommander(system_.Programs) == 0;
   if (news_.CommanderIsClosed) news_.Commander = commander;
 }
 

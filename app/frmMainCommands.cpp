@@ -160,7 +160,10 @@ bool frmMain::OnContextMenu(HWND control, LPARAM place) {
   }
   const Unique<HMENU> menu = ContextMenu(editor_);
   const UINT direction = editor_.Language().RightToLeft() ? TPM_LAYOUTRTL : 0;
+  const bool withShift = byKeyboard && GetKeyState(VK_SHIFT) < 0;
   TrackPopupMenuEx(menu.get(), TPM_RIGHTBUTTON | direction, corner.x, corner.y, window_, nullptr);
+  // The menu has had the release of the key, which the panel counts.
+  if (withShift && GetKeyState(VK_SHIFT) >= 0) KeyUp({.Code = KeyCode::Shift});
   return true;
 }
 

@@ -102,10 +102,7 @@ Reaction CommandList::SelectRow(std::size_t position) {
   return {.HideKeysList = true};
 }
 
-void CommandList::ShowFirstRow() {
-  shown_.Refresh();
-  ShowRowDetails(shown_.Count() == 0 ? 0 : shown_.At(0).Key);
-}
+void CommandList::ShowFirstRow() { ShowRowDetails(shown_.Count() == 0 ? 0 : shown_.At(0).Key); }
 
 Reaction CommandList::Search(std::wstring text) {
   shown_.Search(canSearch_ ? std::move(text) : std::wstring());
@@ -169,6 +166,7 @@ void CommandList::RestoreFileOrder() {
   settings_.SortedList = 0;
   sorted_ = false;
   catalogue_.ListView1.RestoreFileOrder();
+  shown_.Refresh();
   SortByColumn(static_cast<int>(Column::Defaults));
   ShowFirstRow();
 }

@@ -104,6 +104,9 @@ TEST_F(ListMenuTest, ContextMenuKeyAndShiftF10OpenItAtTheSelectedRow) {
   }
   EXPECT_TRUE(WaitForMenuEntry(WaitForMenu(), L"Copy Row").Enabled);
   window_->CloseMenus();
+  WaitFor("box Shift to be checked", [&] { return window_->BoxChecked(IDC_chkCtrlAlt2); });
+  Press(VK_SHIFT);
+  WaitFor("the next press to clear it", [&] { return !window_->BoxChecked(IDC_chkCtrlAlt2); });
 }
 
 TEST_F(ListMenuTest, WhereTheContextMenuKeyStandsForAltItOpensForHeadingsOnly) {

@@ -20,7 +20,8 @@ class FakePrograms final : public Programs {
   mutable int PollsBeforeAnswer = 0;  ///< how often one is still awaited; negative: for ever
   bool StartSucceeds = true;
   bool OpenSucceeds = true;
-  std::function<void()> OnOpen;  ///< when a document is opened
+  std::function<void()> OnClose;  ///< when a window is asked to close
+  std::function<void()> OnOpen;   ///< when a document is opened
 
   [[nodiscard]] WindowId FindWindowOfClass(const std::wstring& className) const override {
     const auto found = Windows.find(className);
@@ -35,6 +36,7 @@ class FakePrograms final : public Programs {
   }
   bool SendClose(WindowId window) override {
     log_.push_back(L"SendClose " + std::to_wstring(window));
+    if (OnClose) OnClose();
     return CloseIsAllowed;
   }
   [[nodiscard]] bool AwaitsAnswer() const override {

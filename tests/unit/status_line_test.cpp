@@ -307,6 +307,7 @@ class LostCommanderTest : public StatusLineTest {
   LostCommanderTest() {
     Programs.Windows[L"TTOTAL_CMD"] = 7;
     Programs.Paths[7] = L"D:\\TC\\TOTALCMD64.EXE";
+    Programs.OnClose = [this] { Programs.Windows.clear(); };
     Programs.StartSucceeds = false;
   }
 
@@ -335,6 +336,13 @@ TEST_F(LostCommanderTest, IsToldAfterAFailedSaveToo) {
   EXPECT_TRUE(Line().starts_with(L"Not saved: the disk is full"));
   EXPECT_TRUE(Line().ends_with(L"Total Commander is closed and was not found again."));
   EXPECT_TRUE(Editor.ShowStartsCommander());
+}
+
+TEST_F(LostCommanderTest, NothingIsToldOfOneThatStays) {
+  Programs.OnClose = nullptr;
+  SaveAndRestart();
+  EXPECT_EQ(Line(), L"Wincmd.ini is saved.");
+  EXPECT_FALSE(Editor.ShowEnabled());
 }
 
 TEST_F(LostCommanderTest, AProgramOfAnotherNameIsNotStarted) {
