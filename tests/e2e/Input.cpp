@@ -130,9 +130,11 @@ void BringToFront(HWND window) {
   DWORD wanted = 0;
   GetWindowThreadProcessId(window, &wanted);
   WaitFor("the program to be in front", [&] {
+    // A box that was just closed is in front for a moment longer, and loses what is typed.
+    const HWND front = GetForegroundWindow();
     DWORD inFront = 0;
-    GetWindowThreadProcessId(GetForegroundWindow(), &inFront);
-    if (inFront == wanted) return true;
+    GetWindowThreadProcessId(front, &inFront);
+    if (inFront == wanted && IsWindowVisible(front) && IsWindowEnabled(front)) return true;
     SetForegroundWindow(window);
     return false;
   });
