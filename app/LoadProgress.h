@@ -17,6 +17,9 @@ class LoadProgress {
   [[nodiscard]] int Maximum() const;
   [[nodiscard]] int Value() const;
 
+  /// The load has become so long that events are handled meanwhile.
+  [[nodiscard]] bool HandlesEvents() const;
+
   void Start();
   void Step();
   void Finish();
@@ -27,6 +30,7 @@ class LoadProgress {
   Clock& clock_;
   std::function<void(const LoadProgress&)> show_;
   bool visible_ = false;
+  bool handlesEvents_ = false;
   int maximum_ = 1500;
   int value_ = 1;
   unsigned steps_ = 0;

@@ -94,8 +94,9 @@ class frmCommandList : Pinned {
   HWND ListView1_ = nullptr;
   int dpi_ = 96;
   bool syncing_ = false;    ///< notifications are answers to our own changes
-  ListColors drawnColors_;  ///< of the drawing that goes on, as are the next two
+  ListColors drawnColors_;  ///< of the drawing that goes on, as are the next three
   int drawnSelection_ = -1;
+  bool drawnFocus_ = false;
   // Of one row: asking the list for those of each cell takes it longer than drawing them.
   RowPlaces drawnPlaces_;
   frmCellTip tip_;

@@ -46,6 +46,7 @@ LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) {
   if (draw.dwDrawStage == CDDS_PREPAINT) {
     drawnColors_ = ColorsOfList(editor_.Options());
     drawnSelection_ = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
+    drawnFocus_ = GetFocus() == ListView1_;
     drawnPlaces_ = PlacesOf(ListView_GetTopIndex(ListView1_));
     return CDRF_NOTIFYITEMDRAW;
   }
@@ -63,7 +64,7 @@ void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
   const CommandEntry& row = editor_.List().Shown().At(draw.dwItemSpec);
   const auto item = static_cast<int>(draw.dwItemSpec);
   const CellColors rowColors =
-      ColorsOfRow(drawnColors_, item == drawnSelection_, GetFocus() == ListView1_);
+      ColorsOfRow(drawnColors_, item == drawnSelection_, drawnFocus_);
   const RowPlaces places = drawnPlaces_.MovedTo(draw.rc.top);
   RECT whole = draw.rc;
   whole.left += RowMargin;

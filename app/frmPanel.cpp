@@ -23,6 +23,9 @@ constexpr int AllKeysIconSize = 16;
 
 constexpr int RowsOfOpenChooser = 16;
 
+/// Until a row is selected nothing can be chosen.
+constexpr DWORD InputStyle = WS_VISIBLE | WS_DISABLED;
+
 }  // namespace
 
 frmPanel::frmPanel(const Editor& editor, Events events)
@@ -38,18 +41,21 @@ void frmPanel::Create(HWND window) {
     // Arrow keys stay within a group.
     const DWORD group = box == 0 ? WS_GROUP : 0;
     chkCtrlAlt_[box] = CreateControl(
-        Frame1_, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX | group, 0, BoxIds[box]);
+        Frame1_, WC_BUTTONW, InputStyle | WS_TABSTOP | BS_AUTOCHECKBOX | group, 0, BoxIds[box]);
   }
   // Screen readers call a control without a text of its own by the label before it.
   lblHotkey_ = CreateControl(Frame1_, WC_STATICW, WS_VISIBLE | WS_GROUP, 0, IDC_lblHotkey);
   Combo1_ = CreateControl(Frame1_, WC_COMBOBOXW,
-                          WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, 0, IDC_Combo1);
+                          InputStyle | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, 0, IDC_Combo1);
+  // Each string would have the scroll bar set up anew.
+  SendMessageW(Combo1_, WM_SETREDRAW, FALSE, 0);
   for (const std::wstring_view key : KeyVocabulary()) {
     SendMessageW(Combo1_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
   }
+  SendMessageW(Combo1_, WM_SETREDRAW, TRUE, 0);
   SendMessageW(Combo1_, CB_SETMINVISIBLE, RowsOfOpenChooser, 0);
   cmdAllList_ =
-      CreateControl(Frame1_, WC_BUTTONW, WS_VISIBLE | BS_PUSHBUTTON | BS_ICON, 0, IDC_cmdAllList);
+      CreateControl(Frame1_, WC_BUTTONW, InputStyle | BS_PUSHBUTTON | BS_ICON, 0, IDC_cmdAllList);
   Toolbar2_.Create(Frame1_, IDC_Toolbar2);
   statusRow_.Create(Frame1_);
 }

@@ -28,10 +28,10 @@ void frmStatusRow::Create(HWND frame) {
   lblStatus_ = CreateControl(frame, WC_STATICW,
                              WS_VISIBLE | WS_GROUP | SS_NOPREFIX | SS_ENDELLIPSIS | SS_CENTERIMAGE,
                              0, IDC_lblStatus);
-  cmdShow_ =
-      CreateControl(frame, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, IDC_cmdShow);
-  cmdUndo_ =
-      CreateControl(frame, WC_BUTTONW, WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, IDC_cmdUndo);
+  // As long as there is nothing to show or to undo.
+  constexpr DWORD ButtonStyle = WS_VISIBLE | WS_DISABLED | WS_TABSTOP | BS_PUSHBUTTON;
+  cmdShow_ = CreateControl(frame, WC_BUTTONW, ButtonStyle, 0, IDC_cmdShow);
+  cmdUndo_ = CreateControl(frame, WC_BUTTONW, ButtonStyle, 0, IDC_cmdUndo);
 }
 
 void frmStatusRow::ApplyLanguage(const Texts& texts) {

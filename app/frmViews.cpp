@@ -156,7 +156,8 @@ void frmViews::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
 }
 
 void frmViews::Show(const LoadProgress& progress) {
-  findBox_.SyncEnabled();
+  // A load that handles no events is over before anything is typed.
+  if (progress.HandlesEvents()) findBox_.SyncEnabled();
   progressBar_.Show(progress);
 }
 
