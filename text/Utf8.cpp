@@ -39,6 +39,38 @@ char32_t TakeUtf8(std::string_view bytes, std::size_t& position) {
   return character;
 }
 
+/// `unitAt(i)` gives unit i of `count`, of which there must be one at `position`. Two surrogates
+/// that belong together become one character.
+template <typename UnitAt>
+char32_t TakeFromUnits(std::size_t count, std::size_t& position, UnitAt unitAt) {
+  const char32_t unit = unitAt(position++);
+  if (!IsHighSurrogate(unit) || position == count || !IsLowSurrogate(unitAt(position))) return unit;
+  return 0x10000 + ((unit - 0xD800) << 10) + (unitAt(position++) - 0xDC00);
+}
+
+template <typename UnitAt>
+std::string Utf8FromUnits(std::size_t count, UnitAt unitAt) {
+  std::string bytes;
+  bytes.reserve(count);
+  for (std::size_t position = 0; position < count;) {
+    AppendUtf8(bytes, TakeFromUnits(count, position, unitAt));
+  }
+  return bytes;
+}
+
+/// Gives each UTF-16 unit of a character to `take`.
+template <typename Take>
+void ForEachUtf16Unit(char32_t character, Take take) {
+  if (character < 0x10000) {
+    take(character);
+  } else {
+    take(0xD800 + ((character - 0x10000) >> 10));
+    take(0xDC00 + ((character - 0x10000) & 0x3FF));
+  }
+}
+
+}  // namespace
+
 void AppendUtf8(std::string& bytes, char32_t character) {
   const auto tail = [&](int shift) {
     bytes += static_cast<char>(0x80 | ((character >> shift) & 0x3F));
@@ -60,35 +92,6 @@ void AppendUtf8(std::string& bytes, char32_t character) {
   }
 }
 
-/// Appends units of text as UTF-8; `unitAt(i)` gives unit i of `count`. Two surrogates that belong
-/// together become one character.
-template <typename UnitAt>
-std::string Utf8FromUnits(std::size_t count, UnitAt unitAt) {
-  std::string bytes;
-  bytes.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) {
-    char32_t character = unitAt(i);
-    if (IsHighSurrogate(character) && i + 1 < count && IsLowSurrogate(unitAt(i + 1))) {
-      character = 0x10000 + ((character - 0xD800) << 10) + (unitAt(++i) - 0xDC00);
-    }
-    AppendUtf8(bytes, character);
-  }
-  return bytes;
-}
-
-/// Gives each UTF-16 unit of a character to `take`.
-template <typename Take>
-void ForEachUtf16Unit(char32_t character, Take take) {
-  if (character < 0x10000) {
-    take(character);
-  } else {
-    take(0xD800 + ((character - 0x10000) >> 10));
-    take(0xDC00 + ((character - 0x10000) & 0x3FF));
-  }
-}
-
-}  // namespace
-
 std::wstring WideFromUtf8(std::string_view bytes) {
   std::wstring text;
   text.reserve(bytes.size());
@@ -102,6 +105,11 @@ std::wstring WideFromUtf8(std::string_view bytes) {
     }
   }
   return text;
+}
+
+char32_t TakeCharacter(std::wstring_view text, std::size_t& position) {
+  return TakeFromUnits(text.size(), position,
+                       [text](std::size_t i) { return static_cast<char32_t>(text[i]); });
 }
 
 std::string Utf8FromWide(std::wstring_view text) {

@@ -2,6 +2,7 @@
 // surrogates, which take three bytes each.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,12 @@ inline constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 /// Each byte that belongs to no character becomes U+FFFD.
 [[nodiscard]] std::wstring WideFromUtf8(std::string_view bytes);
 [[nodiscard]] std::string Utf8FromWide(std::wstring_view text);
+
+/// The character that begins at `position` of the text, of which there must be one there; moves
+/// `position` past it. Two surrogates that belong together are one, others come as they are.
+[[nodiscard]] char32_t TakeCharacter(std::wstring_view text, std::size_t& position);
+
+void AppendUtf8(std::string& bytes, char32_t character);
 
 /// Bytes in pairs, the low one first; an odd byte at the end is left out.
 [[nodiscard]] std::string Utf8FromUtf16Le(std::string_view bytes);
