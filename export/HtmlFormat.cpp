@@ -1,8 +1,6 @@
 // All numbers of the header have as many digits, so that its length is known beforehand.
 #include "export/HtmlFormat.h"
 
-#include "text/Utf8.h"
-
 namespace tessera {
 namespace {
 
@@ -24,14 +22,13 @@ std::string Header(std::size_t pageBegin, std::size_t pieceBegin, std::size_t pi
 
 }  // namespace
 
-std::string HtmlFormat(std::wstring_view piece) {
-  const std::string bytes = Utf8FromWide(piece);
+std::string HtmlFormat(std::string_view piece) {
   const std::size_t pageBegin = Header(0, 0, 0, 0).size();
   const std::size_t pieceBegin = pageBegin + PageBegin.size();
-  const std::size_t pieceEnd = pieceBegin + bytes.size();
+  const std::size_t pieceEnd = pieceBegin + piece.size();
   return Header(pageBegin, pieceBegin, pieceEnd, pieceEnd + PageEnd.size())
       .append(PageBegin)
-      .append(bytes)
+      .append(piece)
       .append(PageEnd);
 }
 

@@ -6,8 +6,8 @@
 
 namespace tessera {
 
-/// A page around the piece, in UTF-8, behind a header that says at which bytes page and piece begin
-/// and end.
-[[nodiscard]] std::string HtmlFormat(std::wstring_view piece);
+/// A page around the piece, both in UTF-8, behind a header that says at which bytes page and piece
+/// begin and end.
+[[nodiscard]] std::string HtmlFormat(std::string_view piece);
 
 }  // namespace tessera

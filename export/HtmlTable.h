@@ -7,11 +7,11 @@
 
 namespace tessera {
 
-/// A table in HTML with the rows and columns of BuildExportText. Texts stand there as they are
-/// shown, but for control characters, which are blanks; default keys that are overridden are struck
-/// through.
-[[nodiscard]] std::wstring BuildHtmlTable(const DisplayTable& rows, const ExportColumns& columns,
-                                          const Texts& texts, const std::wstring& undefinedHotkey);
+/// A table in HTML, in UTF-8, with the rows and columns of BuildExportText. Texts stand there as
+/// they are shown, but for control characters, which are blanks; default keys that are overridden
+/// are struck through.
+[[nodiscard]] std::string BuildHtmlTable(const DisplayTable& rows, const ExportColumns& columns,
+                                         const Texts& texts, const std::wstring& undefinedHotkey);
 
 /// The cells of a row as they are shown, separated by tabs. Control characters in them are blanks.
 [[nodiscard]] std::wstring RowText(const CommandEntry& row);

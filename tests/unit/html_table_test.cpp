@@ -4,6 +4,7 @@
 #include "export/HtmlTable.h"
 #include "tests/support/MemoryFiles.h"
 #include "tests/unit/sample_catalogue.h"
+#include "text/Utf8.h"
 
 namespace tessera::html_table_test {
 namespace {
@@ -14,7 +15,7 @@ constexpr ExportColumns CommandAndDefaults{false, true, true, false};
 class HtmlTableTest : public testing::Test {
  protected:
   std::wstring Table(const ExportColumns& columns = AllOfThem) const {
-    return BuildHtmlTable(catalogue_.ListView1, columns, texts_, L"---");
+    return WideFromUtf8(BuildHtmlTable(catalogue_.ListView1, columns, texts_, L"---"));
   }
 
   [[nodiscard]] bool Holds(const std::wstring& piece) const {
