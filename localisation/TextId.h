@@ -109,6 +109,7 @@ enum class TextId : int {
   TakenFrom = 3325,
   KeysAreDeleted = 3326,
   AllKeysAreDeleted = 3327,
+  LanguageTag = 3328,
   AssignHotkey = 3340,
   DeleteHotkeys = 3341,
   CopyCommandName = 3342,
@@ -142,6 +143,20 @@ enum class TextId : int {
   OwnCommandsUnread = 3378,
   CommanderIsClosed = 3379,
   StartCommander = 3380,
+  KeysPageTitle = 3386,
+  KeysAreNotSaved = 3387,
+  FreeWithModifiers = 3388,
+  FreeAlone = 3389,
+  NoModifier = 3390,
+  UsedByNobody = 3391,
+  UsedByDefault = 3392,
+  UsedByUser = 3393,
+  UsedOverDefault = 3394,
+  UsedByStartMenu = 3395,
+  KeysElsewhere = 3396,
+  KeysByKey = 3397,
+  KeysByCommand = 3398,
+  KeyColumn = 3399,
 };
 
 /// The number that stands for a text in a language file.

@@ -132,6 +132,7 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3325}, L"%1 It was taken from %2."},
       {TextId{3326}, L"%1 has lost %2."},
       {TextId{3327}, L"All keys are deleted. Commands that have lost theirs: %1"},
+      {TextId{3328}, L"en"},
       {TextId{3340}, L"Assign Hotkey"},
       {TextId{3341}, L"Delete Current Hotkeys"},
       {TextId{3342}, L"Copy Command Name"},
@@ -165,6 +166,20 @@ TEST(TextTable, HasTheTextsWordForWord) {
       {TextId{3378}, L"%1. Own commands are missing: %2 could not be read"},
       {TextId{3379}, L"%1 Total Commander is closed and was not found again."},
       {TextId{3380}, L"Start It"},
+      {TextId{3386}, L"Keys of Total Commander"},
+      {TextId{3387}, L"The keys are shown as they stand in the list. They are not saved yet."},
+      {TextId{3388}, L"%1 of %2 free with %3"},
+      {TextId{3389}, L"%1 of %2 free without a modifier"},
+      {TextId{3390}, L"No modifier"},
+      {TextId{3391}, L"Free"},
+      {TextId{3392}, L"Default"},
+      {TextId{3393}, L"Own key"},
+      {TextId{3394}, L"Own key over a default"},
+      {TextId{3395}, L"Start Menu"},
+      {TextId{3396}, L"Other keys"},
+      {TextId{3397}, L"By key"},
+      {TextId{3398}, L"By command"},
+      {TextId{3399}, L"Key"},
   };
   for (const BuiltInText& text : texts) {
     EXPECT_EQ(BuiltInTextOf(text.Id), text.Text) << NumberOf(text.Id);
