@@ -74,6 +74,11 @@ bool IsProtected(const std::wstring& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
+bool IsFolder(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 /// Takes a file's protection from being written away; false when there is none, or it stays.
 bool RemoveProtection(const std::wstring& path) {
   return IsProtected(path) &&
@@ -200,6 +205,8 @@ FileError WindowsFiles::Append(const std::wstring& path, std::string_view bytes)
 
 FileError WindowsFiles::Replace(const std::wstring& target, const std::wstring& replacement,
                                 const std::wstring& backup) {
+  // Wine finds another error, after which the folder would be renamed.
+  if (IsFolder(SystemPath(target))) return FileError::AccessDenied;
   return ResultOf(ReplaceFileW(SystemPath(target).c_str(), SystemPath(replacement).c_str(),
                                SystemPath(backup).c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                                nullptr));

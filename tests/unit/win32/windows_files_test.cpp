@@ -146,6 +146,14 @@ TEST_F(WindowsFilesTest, ReplaceOfAMissingTargetIsNotFound) {
   EXPECT_EQ(ContentOf(L"b"), "new");
 }
 
+TEST_F(WindowsFilesTest, FolderIsNotReplaced) {
+  ASSERT_TRUE(CreateDirectoryW(At(L"a").c_str(), nullptr));
+  Put(L"b", "new");
+  EXPECT_EQ(files_.Replace(At(L"a"), At(L"b"), At(L"c")), FileError::AccessDenied);
+  EXPECT_EQ(ContentOf(L"b"), "new");
+  EXPECT_TRUE(RemoveDirectoryW(At(L"a").c_str()));
+}
+
 TEST_F(WindowsFilesTest, MoveReplacesItsTarget) {
   Put(L"a", "old");
   Put(L"b", "new");
