@@ -85,6 +85,7 @@ constexpr Command Commands[] = {
     {.Id = IDM_copycommand, .Run = Run<&Editor::CopyCommandName>, .Enabled = CommandSelected},
     {.Id = IDM_copyrow, .Run = Run<&Editor::CopyRow>, .Enabled = CommandSelected},
     {.Id = IDM_copytable, .Run = Run<&Editor::CopyTable>},
+    {.Id = IDM_keyspage, .Run = Run<&Editor::ShowKeysPage>},
 };
 
 const Command* CommandOf(int id) {

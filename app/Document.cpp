@@ -62,6 +62,8 @@ std::wstring Document::Caption() const {
   return wincmdPath_.empty() ? title : wincmdPath_ + L" - " + title;
 }
 
+const std::wstring& Document::Path() const { return wincmdPath_; }
+
 bool Document::Modified() const { return modified_; }
 
 bool Document::SaveAndRestartEnabled() const { return saveAndRestartEnabled_; }

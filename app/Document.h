@@ -46,6 +46,9 @@ class Document : Pinned {
   [[nodiscard]] const EditHistory& Edits() const;
   [[nodiscard]] std::wstring Caption() const;
 
+  /// The path of the file; empty when none is open.
+  [[nodiscard]] const std::wstring& Path() const;
+
   /// There are changes that are not saved: File > Save, and the Save button, are enabled.
   [[nodiscard]] bool Modified() const;
 

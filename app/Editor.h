@@ -125,6 +125,15 @@ class Editor : Pinned {
   void CopyRow();
   void CopyTable();
 
+  // -- The page of all keys
+
+  /// The page as HTML in UTF-8: the keys as the list shows them, saved or not.
+  [[nodiscard]] std::string KeysPage() const;
+
+  /// Writes it to the folder for temporary files, always under the same name, and opens it there,
+  /// or tells that this failed.
+  void ShowKeysPage();
+
   // -- The dialogs: what one shows and edits, with the texts of the language in use, and what
   // follows when it has closed, by whichever button
 

@@ -27,6 +27,8 @@ constexpr MenuEntry Entries[] = {
     {Command, TextId::CopyCommandName, IDM_copycommand},
     {Command, TextId::CopyRow, IDM_copyrow},
     {Command, TextId::CopyAsTable, IDM_copytable},
+    {Separator},
+    {Command, TextId::KeysAsPage, IDM_keyspage},
 };
 
 }  // namespace

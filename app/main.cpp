@@ -1,28 +1,56 @@
-// The program's entry: makes the main window and runs the message loop.
+// The program's entry: makes the main window and runs the message loop, or writes the page of keys.
 #include <windows.h>
 #include <commctrl.h>
 
 #include <array>
 #include <cstdlib>
 #include <exception>
+#include <span>
 #include <string>
 #include <string_view>
 
+#include "app/Arguments.h"
 #include "app/frmMain.h"
+#include "app/PageRun.h"
 #include "localisation/TextTable.h"
 #include "platform/MessageBoxes.h"
 #include "platform/win32/Guarded.h"
+#include "platform/win32/StandardError.h"
+#include "platform/win32/WindowsSystem.h"
 
 namespace {
 
-/// The first argument of the command line as a full path; empty without one. The run-time library
-/// has split the line: the system's function for that is in shell32, which the start does without.
-std::wstring FileToOpen() {
-  if (__argc < 2 || *__wargv[1] == L'\0') return {};
-  const wchar_t* const argument = __wargv[1];
-  std::wstring path(GetFullPathNameW(argument, 0, nullptr, nullptr), L'\0');
-  path.resize(GetFullPathNameW(argument, static_cast<DWORD>(path.size()), path.data(), nullptr));
+std::wstring FullPath(const std::wstring& argument) {
+  if (argument.empty()) return {};
+  std::wstring path(GetFullPathNameW(argument.c_str(), 0, nullptr, nullptr), L'\0');
+  path.resize(
+      GetFullPathNameW(argument.c_str(), static_cast<DWORD>(path.size()), path.data(), nullptr));
   return path;
+}
+
+/// With full paths. The run-time library has split the line: the system's function for that is in
+/// shell32, which the start does without.
+tessera::Arguments ArgumentsOfThisRun() {
+  const std::span all(__wargv, static_cast<std::size_t>(__argc));
+  tessera::Arguments arguments = tessera::ReadArguments(all.subspan(all.empty() ? 0 : 1));
+  arguments.File = FullPath(arguments.File);
+  if (arguments.Page) arguments.Page = FullPath(*arguments.Page);
+  return arguments;
+}
+
+/// Gives the program's exit code. Nobody may be there to close a box: an exception is told as other
+/// failures are.
+int RunForPage(const tessera::Arguments& arguments) {
+  std::wstring failure;
+  try {
+    tessera::WindowsSystem windowsSystem;
+    failure = tessera::WriteKeysPage(windowsSystem.Seams(), arguments);
+  } catch (...) {
+    failure = tessera::BuiltInTextOf(tessera::TextId::MustEndNothingKept);
+  }
+  if (failure.empty()) return EXIT_SUCCESS;
+  tessera::WriteErrorLine(failure);
+  return EXIT_FAILURE;
 }
 
 BOOL CALLBACK FindMainWindow(HWND window, LPARAM found) {
@@ -62,6 +90,8 @@ int RunMessageLoop(tessera::frmMain& window) {
 
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, wchar_t* /*commandLine*/,
                     int nShowCmd) {
+  const tessera::Arguments arguments = ArgumentsOfThisRun();
+  if (arguments.Page) return RunForPage(arguments);
   std::set_terminate(OnTerminate);
   const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES |
                                                            ICC_PROGRESS_CLASS | ICC_TAB_CLASSES |
@@ -69,7 +99,7 @@ int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, wchar_t* /*c
   InitCommonControlsEx(&controls);
   tessera::WindowsSystem windowsSystem;
   tessera::frmMain window(windowsSystem);
-  if (!window.Form_Load(FileToOpen())) return 1;
+  if (!window.Form_Load(arguments.File)) return 1;
   window.Show(nShowCmd);
   return RunMessageLoop(window);
 }

@@ -21,6 +21,9 @@ class Environment {
   /// The folder of the program, without a trailing backslash unless it is a root.
   [[nodiscard]] virtual std::wstring ProgramDirectory() const = 0;
 
+  /// The user's folder for files that may be thrown away.
+  [[nodiscard]] virtual std::wstring TemporaryDirectory() const = 0;
+
   /// The size of the primary screen.
   [[nodiscard]] virtual TwipsSize ScreenSize() const = 0;
 };

@@ -84,6 +84,7 @@
 #define IDM_copycommand 2061
 #define IDM_copyrow 2062
 #define IDM_copytable 2063
+#define IDM_keyspage 2064
 
 // Entries of the recent files: numbers without a gap, 1 to 16
 #define IDM_mnuFileRecentFiles1 2101

@@ -36,6 +36,12 @@ std::wstring WindowsEnvironment::ProgramDirectory() const {
   return path.substr(0, end < RootLength ? end + 1 : end);
 }
 
+std::wstring WindowsEnvironment::TemporaryDirectory() const {
+  std::wstring path(MAX_PATH + 1, L'\0');  // the system gives no longer one
+  path.resize(GetTempPathW(static_cast<DWORD>(path.size()), path.data()));
+  return path;
+}
+
 TwipsSize WindowsEnvironment::ScreenSize() const {
   const int dotsPerInch = static_cast<int>(GetDpiForSystem());
   return {MulDiv(GetSystemMetrics(SM_CXSCREEN), TwipsPerInch, dotsPerInch),

@@ -19,6 +19,10 @@ std::wstring CommanderEnvironment::ProgramDirectory() const {
   return environment_.ProgramDirectory();
 }
 
+std::wstring CommanderEnvironment::TemporaryDirectory() const {
+  return environment_.TemporaryDirectory();
+}
+
 TwipsSize CommanderEnvironment::ScreenSize() const { return environment_.ScreenSize(); }
 
 void CommanderEnvironment::SetTotalCommanderDirectory(std::wstring directory) {

@@ -15,6 +15,7 @@ class CommanderEnvironment final : public Environment {
 
   [[nodiscard]] std::wstring Variable(const std::wstring& name) const override;
   [[nodiscard]] std::wstring ProgramDirectory() const override;
+  [[nodiscard]] std::wstring TemporaryDirectory() const override;
   [[nodiscard]] TwipsSize ScreenSize() const override;
 
   /// Takes Total Commander's folder; a trailing backslash is left away.

@@ -19,6 +19,7 @@ class FakeEnvironment final : public Environment {
     return found == Variables.end() ? std::wstring() : found->second;
   }
   [[nodiscard]] std::wstring ProgramDirectory() const override { return Directory; }
+  [[nodiscard]] std::wstring TemporaryDirectory() const override { return L"C:\\Temp\\"; }
   [[nodiscard]] TwipsSize ScreenSize() const override { return Screen; }
 };
 

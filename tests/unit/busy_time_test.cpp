@@ -90,6 +90,7 @@ constexpr Operation Operations[] = {
     {"CopyCommandName", Run<&Editor::CopyCommandName>},
     {"CopyRow", Run<&Editor::CopyRow>},
     {"CopyTable", Run<&Editor::CopyTable>},
+    {"ShowKeysPage", Run<&Editor::ShowKeysPage>},
     {"QueryUnload", Run<&Editor::QueryUnload>},
 };
 

@@ -13,7 +13,7 @@ TEST(ListMenu, EntriesStandInTheirOrder) {
   std::vector<int> captions;
   for (const MenuEntry& entry : ListMenu()) captions.push_back(static_cast<int>(entry.Caption));
   EXPECT_EQ(captions, (std::vector{3340, 3202, 0, 3341, 3205, 0, 3350, 3351, 0, 3345, 3367, 0, 3342,
-                                   3343, 3344}));
+                                   3343, 3344, 0, 3381}));
 }
 
 TEST(ListMenu, EntriesAreCommandsOrLines) {

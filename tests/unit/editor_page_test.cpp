@@ -1,0 +1,56 @@
+// The page of keys, from the menu of the list.
+#include "app/Commands.h"
+#include "resources/resource.h"
+#include "tests/unit/editor_fixture.h"
+
+namespace tessera::editor_page_test {
+namespace {
+
+using namespace installation;
+
+const std::wstring PageFile = L"C:\\Temp\\Tessera keys.html";
+
+TEST_F(EditorTest, ThePageIsWrittenToTheTemporaryFolderAndOpened) {
+  Start();
+  const auto before = Files.Contents;
+  RunCommand(Editor, IDM_keyspage);
+  EXPECT_EQ(Files.Contents.at(PageFile), Editor.KeysPage());
+  EXPECT_EQ(Calls, (Log{L"OpenDocument " + PageFile}));
+  EXPECT_EQ(Files.Contents.size(), before.size() + 1);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
+}
+
+TEST_F(EditorTest, TheNextPageTakesThePlaceOfTheFormerAndShowsUnsavedKeys) {
+  Start();
+  Editor.ShowKeysPage();
+  const auto before = Files.Contents;
+  Assign(Pack, 3, L"K");
+  Editor.ShowKeysPage();
+  EXPECT_EQ(before.at(PageFile).find("Ctrl + Alt + K"), std::string::npos);
+  EXPECT_NE(Files.Contents.at(PageFile).find("Ctrl + Alt + K"), std::string::npos);
+  EXPECT_EQ(Files.Contents.size(), before.size());
+  EXPECT_EQ(Ini(), IniContent);
+}
+
+TEST_F(EditorTest, APageThatCannotBeWrittenIsToldAndNotOpened) {
+  Start();
+  Files.WriteErrors = {FileError::DiskFull};
+  Editor.ShowKeysPage();
+  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
+  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot write this file " + PageFile);
+  EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_TRUE(Calls.empty());
+  EXPECT_FALSE(Files.Contents.contains(PageFile));
+}
+
+TEST_F(EditorTest, APageThatCannotBeOpenedIsTold) {
+  Start();
+  Programs.OpenSucceeds = false;
+  Editor.ShowKeysPage();
+  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
+  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot open this file " + PageFile);
+  EXPECT_TRUE(Files.Contents.contains(PageFile));
+}
+
+}  // namespace
+}  // namespace tessera::editor_page_test
