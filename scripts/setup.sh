@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a purpose needs and that this machine lacks.
-# Usage: scripts/setup.sh build|package|sign|run|test|fuzz|coverage|mutants|bench...
+# Usage: scripts/setup.sh build|package|sign|run|test|page|fuzz|coverage|mutants|bench...
 set -euo pipefail
 
 build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils)
@@ -9,6 +9,8 @@ sign=(osslsigncode)
 run=("${build[@]}" wine wine64 fonts-wine xvfb xdotool imagemagick)
 test=("${run[@]}" "${sign[@]}" openssl g++ clang-14 libclang-rt-14-dev googletest clang-format-14
   clang-tidy-14 python3)
+page=("${run[@]}" chromium chromium-driver python3 python3-selenium python3-html5lib poppler-utils
+  fonts-noto-cjk fonts-hosny-amiri)
 fuzz=(cmake ninja-build clang-14 libclang-rt-14-dev)
 coverage=(cmake ninja-build googletest clang-14 llvm-14 python3)
 mutants=(cmake ninja-build g++ clang-14 googletest python3)
@@ -22,6 +24,7 @@ for purpose in "$@"; do
     sign) wanted+=("${sign[@]}") ;;
     run) wanted+=("${run[@]}") ;;
     test) wanted+=("${test[@]}") ;;
+    page) wanted+=("${page[@]}") ;;
     fuzz) wanted+=("${fuzz[@]}") ;;
     coverage) wanted+=("${coverage[@]}") ;;
     mutants) wanted+=("${mutants[@]}") ;;

@@ -24,6 +24,7 @@ TEST(CommanderEnvironment, LeavesEveryOtherVariableAndASetOneAsTheyAre) {
   EXPECT_EQ(environment.Variable(L"windir"), L"C:\\Windows");
   EXPECT_EQ(environment.Variable(L"other"), L"");
   EXPECT_EQ(environment.ProgramDirectory(), inherited.ProgramDirectory());
+  EXPECT_EQ(environment.TemporaryDirectory(), inherited.TemporaryDirectory());
 }
 
 }  // namespace

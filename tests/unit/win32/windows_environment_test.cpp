@@ -27,6 +27,13 @@ TEST(WindowsEnvironment, ProgramDirectoryHoldsThisProgram) {
   EXPECT_EQ(path.find(L'\\', directory.size() + 1), std::wstring::npos);
 }
 
+TEST(WindowsEnvironment, TemporaryDirectoryIsAFolder) {
+  const std::wstring directory = WindowsEnvironment().TemporaryDirectory();
+  const DWORD attributes = GetFileAttributesW(directory.c_str());
+  ASSERT_NE(attributes, INVALID_FILE_ATTRIBUTES);
+  EXPECT_NE(attributes & FILE_ATTRIBUTE_DIRECTORY, 0U);
+}
+
 TEST(WindowsEnvironment, ScreenIsMeasuredInTwips) {
   const TwipsSize size = WindowsEnvironment().ScreenSize();
   const auto dotsPerInch = static_cast<double>(GetDpiForSystem());
