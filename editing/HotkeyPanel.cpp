@@ -56,14 +56,14 @@ bool HotkeyPanel::IsTaken(int key) const {
 }
 
 std::wstring HotkeyPanel::ComposeWith(int chosenKey) const {
-  std::wstring key;
-  if (BoxChecked(Modifier::Ctrl)) key += notation_.CtrlName + L" + ";
-  if (BoxChecked(Modifier::Alt)) key += notation_.AltName + L" + ";
-  if (BoxChecked(Modifier::Shift)) key += notation_.ShiftName + L" + ";
-  if (chosenKey != NoKeyChosen) {
-    key += WithNum(KeyVocabulary()[static_cast<std::size_t>(chosenKey)]);
+  const HeldModifiers held{BoxChecked(Modifier::Ctrl), BoxChecked(Modifier::Alt),
+                           BoxChecked(Modifier::Shift)};
+  const bool isChosen = chosenKey != NoKeyChosen;
+  if (!isChosen && held == HeldModifiers{}) {
+    return notation_.ApplyReverseOrder(notation_.UndefinedHotkey);
   }
-  return notation_.ApplyReverseOrder(key.empty() ? notation_.UndefinedHotkey : key);
+  return notation_.DisplayKey(
+      held, isChosen ? KeyVocabulary()[static_cast<std::size_t>(chosenKey)] : L"");
 }
 
 bool HotkeyPanel::ContextMenuKeyIsAlt() const {

@@ -6,7 +6,6 @@
 
 #include "text/Ascii.h"
 #include "text/Text.h"
-#include "text/Trim.h"
 
 namespace tessera {
 namespace {
@@ -33,19 +32,6 @@ bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view lowerPart) {
          text.end();
 }
 
-/// Gives `take` each piece, untrimmed. An empty separator separates nothing.
-template <typename Take>
-void ForEachPiece(std::wstring_view text, std::wstring_view separator, Take take) {
-  if (!separator.empty()) {
-    for (std::size_t at = text.find(separator); at != std::wstring_view::npos;
-         at = text.find(separator)) {
-      take(text.substr(0, at));
-      text.remove_prefix(at + separator.size());
-    }
-  }
-  take(text);
-}
-
 std::wstring Joined(const std::vector<std::wstring>& pieces, std::wstring_view separator) {
   std::wstring text;
   for (const std::wstring& piece : pieces) {
@@ -53,6 +39,14 @@ std::wstring Joined(const std::vector<std::wstring>& pieces, std::wstring_view s
     text += piece;
   }
   return text;
+}
+
+std::wstring PrefixOf(const HotkeyNotation& notation, const HeldModifiers& held) {
+  std::wstring prefix;
+  if (held.Ctrl) prefix.append(notation.CtrlName).append(Joint);
+  if (held.Alt) prefix.append(notation.AltName).append(Joint);
+  if (held.Shift) prefix.append(notation.ShiftName).append(Joint);
+  return prefix;
 }
 
 }  // namespace
@@ -89,8 +83,19 @@ std::wstring_view HotkeyNotation::TrimmedSeparator() const {
 }
 
 std::vector<std::wstring> HotkeyNotation::KeysOf(std::wstring_view column) const {
-  if (column.empty() || column == UndefinedHotkey) return {};
-  return SplitText(column, TrimmedSeparator());
+  std::vector<std::wstring> keys;
+  ForEachKeyOf(column, [&keys](std::wstring_view key) { keys.emplace_back(key); });
+  return keys;
+}
+
+std::wstring HotkeyNotation::NamesOf(const HeldModifiers& held) const {
+  std::wstring names = PrefixOf(*this, held);
+  if (!names.empty()) names.resize(names.size() - Joint.size());
+  return names;
+}
+
+std::wstring HotkeyNotation::DisplayKey(const HeldModifiers& held, std::wstring_view key) const {
+  return ApplyReverseOrder(PrefixOf(*this, held).append(WithNum(key)));
 }
 
 void HotkeyNotation::AddKey(std::wstring& column, std::wstring_view key) const {
@@ -102,12 +107,9 @@ void HotkeyNotation::AddKey(std::wstring& column, std::wstring_view key) const {
 }
 
 std::wstring HotkeyNotation::ModifierPrefix(std::wstring_view text) const {
-  std::wstring prefix;
   // Deliberately the English words, whatever the names in force: data files are written with them.
-  if (ContainsIgnoringCase(text, L"ctrl")) prefix.append(CtrlName).append(Joint);
-  if (ContainsIgnoringCase(text, L"alt")) prefix.append(AltName).append(Joint);
-  if (ContainsIgnoringCase(text, L"shift")) prefix.append(ShiftName).append(Joint);
-  return prefix;
+  return PrefixOf(*this, {ContainsIgnoringCase(text, L"ctrl"), ContainsIgnoringCase(text, L"alt"),
+                          ContainsIgnoringCase(text, L"shift")});
 }
 
 std::wstring HotkeyNotation::NativeToDisplay(std::wstring_view nativeKey,
@@ -124,14 +126,10 @@ std::wstring HotkeyNotation::NativeToDisplay(std::wstring_view nativeKey,
     key = nativeKey;
   }
 
-  std::wstring display;
-  if (Contains(modifiers, L"C")) display.append(CtrlName).append(Joint);
-  if (Contains(modifiers, L"A")) display.append(AltName).append(Joint);
-  if (Contains(modifiers, L"S")) display.append(ShiftName).append(Joint);
-  display = ApplyReverseOrder(std::move(display.append(WithNum(key))));
-
+  const HeldModifiers held{Contains(modifiers, L"C"), Contains(modifiers, L"A"),
+                           Contains(modifiers, L"S")};
   std::wstring column(existing);
-  AddKey(column, display);
+  AddKey(column, DisplayKey(held, key));
   return column;
 }
 

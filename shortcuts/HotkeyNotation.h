@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "text/Trim.h"
+
 namespace tessera {
 
 /// The keys that a user may choose, in the order of the key choosers.
@@ -15,6 +17,29 @@ namespace tessera {
 /// separator gives the whole text as one piece; an empty text gives one empty piece.
 [[nodiscard]] std::vector<std::wstring> SplitText(std::wstring_view text,
                                                   std::wstring_view separator);
+
+/// Gives `take` each piece of the text between the occurrences of `separator`, untrimmed. An empty
+/// separator separates nothing.
+template <typename Take>
+void ForEachPiece(std::wstring_view text, std::wstring_view separator, Take take) {
+  if (!separator.empty()) {
+    for (std::size_t at = text.find(separator); at != std::wstring_view::npos;
+         at = text.find(separator)) {
+      take(text.substr(0, at));
+      text.remove_prefix(at + separator.size());
+    }
+  }
+  take(text);
+}
+
+/// The modifiers that a key is pressed with.
+struct HeldModifiers {
+  bool Ctrl = false;
+  bool Alt = false;
+  bool Shift = false;
+
+  [[nodiscard]] bool operator==(const HeldModifiers&) const = default;
+};
 
 /// Conversions under one set of modifier names and settings. All are pure functions of their input.
 struct HotkeyNotation {
@@ -32,6 +57,20 @@ struct HotkeyNotation {
 
   /// The single keys of a key column, trimmed; none for the undefined marker and for "".
   [[nodiscard]] std::vector<std::wstring> KeysOf(std::wstring_view column) const;
+
+  /// Gives `take` each of KeysOf as a view into the column.
+  template <typename Take>
+  void ForEachKeyOf(std::wstring_view column, Take take) const {
+    if (column.empty() || column == UndefinedHotkey) return;
+    ForEachPiece(column, TrimmedSeparator(),
+                 [&take](std::wstring_view piece) { take(TrimSpaces(piece)); });
+  }
+
+  /// The names in force of the modifiers, joined; "" for none.
+  [[nodiscard]] std::wstring NamesOf(const HeldModifiers& held) const;
+
+  /// A key, by its name in the vocabulary, as it is displayed with the modifiers.
+  [[nodiscard]] std::wstring DisplayKey(const HeldModifiers& held, std::wstring_view key) const;
 
   /// Adds a displayed key behind those of the column, or in the place of the undefined marker.
   void AddKey(std::wstring& column, std::wstring_view key) const;

@@ -15,10 +15,9 @@ constexpr int KeysWithoutShift = 12;
 
 std::wstring StartMenuKey(int number, const HotkeyNotation& notation) {
   const bool withShift = number > KeysWithoutShift;
-  std::wstring key = notation.CtrlName + L" + " + notation.AltName + L" + ";
-  if (withShift) key += notation.ShiftName + L" + ";
-  key += L"F" + std::to_wstring(withShift ? number - KeysWithoutShift : number);
-  return notation.ApplyReverseOrder(key);
+  const int functionKey = withShift ? number - KeysWithoutShift : number;
+  return notation.DisplayKey({.Ctrl = true, .Alt = true, .Shift = withShift},
+                             L"F" + std::to_wstring(functionKey));
 }
 
 StartMenuKeyTable ReadStartMenuKeys(const ProfileFile& file, const HotkeyNotation& notation) {

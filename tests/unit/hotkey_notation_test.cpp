@@ -412,6 +412,28 @@ TEST(KeysOf, FindsNoneInAnUndefinedOrEmptyColumn) {
   EXPECT_EQ(HotkeyNotation().KeysOf(L"--- "), Strings{L"---"});
 }
 
+TEST(DisplayKey, IsWhatAFileWithThatKeyShows) {
+  for (const bool reverse : {false, true}) {
+    HotkeyNotation notation;
+    notation.ReverseOrderHotkey = reverse;
+    for (const std::wstring_view key : KeyVocabulary()) {
+      for (unsigned mask = 0; mask < 8; ++mask) {
+        const Combination combination(key, mask, notation);
+        const HeldModifiers held{(mask & 1) != 0, (mask & 2) != 0, (mask & 4) != 0};
+        EXPECT_EQ(notation.DisplayKey(held, key), combination.Display(reverse, true));
+      }
+    }
+  }
+}
+
+TEST(DisplayKey, NamesModifiersAsTheLanguageDoes) {
+  const HotkeyNotation notation = Named(L"Strg", L"Alt", L"Umschalt");
+  EXPECT_EQ(notation.DisplayKey({.Ctrl = true, .Shift = true}, L"+"), L"Strg + Umschalt + Num +");
+  EXPECT_EQ(notation.NamesOf({.Ctrl = true, .Shift = true}), L"Strg + Umschalt");
+  EXPECT_EQ(notation.NamesOf({.Alt = true}), L"Alt");
+  EXPECT_EQ(notation.NamesOf({}), L"");
+}
+
 TEST(SplitText, CutsAtEveryOccurrenceAndTrims) {
   EXPECT_EQ(SplitText(L"a, b ,,c", L","), (Strings{L"a", L"b", L"", L"c"}));
   EXPECT_EQ(SplitText(L",", L","), (Strings{L"", L""}));
