@@ -64,6 +64,16 @@ bool IsKeyWithMarks(std::wstring_view piece, std::wstring_view key) {
   return piece.empty();
 }
 
+std::wstring_view WithoutKeyMarks(std::wstring_view piece) {
+  constexpr std::wstring_view Num = L"Num";
+  std::wstring_view key = WithoutMarks(piece);
+  const bool isMultiply = key.size() < piece.size() && key.ends_with(Num) &&
+                          (key.size() == Num.size() || key[key.size() - Num.size() - 1] == L' ');
+  // The first mark is the name of the key.
+  if (isMultiply) key = piece.substr(0, key.size() + OverriddenMark.size());
+  return key;
+}
+
 void KeyHolders::Clear() { *this = KeyHolders(); }
 
 void KeyHolders::NoteChange(RowKey row) {

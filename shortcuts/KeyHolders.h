@@ -22,6 +22,9 @@ class DisplayTable;
 /// marked one: its own text comes first. Letter case does not count.
 [[nodiscard]] bool IsKeyWithMarks(std::wstring_view piece, std::wstring_view key);
 
+/// The key that a piece of a default-keys cell shows, without its marks.
+[[nodiscard]] std::wstring_view WithoutKeyMarks(std::wstring_view piece);
+
 /// The rows that hold a key, in file order.
 struct HoldersOfKey {
   struct Default {

@@ -64,6 +64,22 @@ TEST_F(KeyHoldersTest, AKeyThatEndsInTheMarkIsNotMarked) {
   EXPECT_EQ(Of(L"Num *").Defaults, Defaults{});
 }
 
+TEST(WithoutKeyMarks, IsTheKeyOfAMarkedPiece) {
+  EXPECT_EQ(WithoutKeyMarks(L"F5"), L"F5");
+  EXPECT_EQ(WithoutKeyMarks(L"F5 *"), L"F5");
+  EXPECT_EQ(WithoutKeyMarks(L"Ctrl + F5 * *"), L"Ctrl + F5");
+  EXPECT_EQ(WithoutKeyMarks(L""), L"");
+}
+
+TEST(WithoutKeyMarks, KnowsTheKeyThatEndsInTheMark) {
+  EXPECT_EQ(WithoutKeyMarks(L"Num *"), L"Num *");
+  EXPECT_EQ(WithoutKeyMarks(L"Num * *"), L"Num *");
+  EXPECT_EQ(WithoutKeyMarks(L"Ctrl + Num * * *"), L"Ctrl + Num *");
+  EXPECT_EQ(WithoutKeyMarks(L"Num * + Ctrl *"), L"Num * + Ctrl");
+  EXPECT_EQ(WithoutKeyMarks(L"Num"), L"Num");
+  EXPECT_EQ(WithoutKeyMarks(L"ENum *"), L"ENum");
+}
+
 TEST_F(KeyHoldersTest, FollowEditsAfterTheFirstQuestion) {
   EXPECT_EQ(Of(L"F6").Currents, Currents{sample::View});
   catalogue_.ListView1.Edit(sample::View).CurrentKeys = L"F12";
