@@ -1,0 +1,29 @@
+// Where the keys of a keyboard lie.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace tessera {
+
+/// What a shape stands for.
+enum class ShapeKind { Key, Ctrl, Alt, Shift, Blank };
+
+/// Places and lengths in quarters of a letter's key, from the left upper corner of the keyboard.
+struct KeyShape {
+  ShapeKind Kind = ShapeKind::Blank;
+  std::wstring_view Key;  ///< of the vocabulary; "" for other kinds
+  int X = 0;
+  int Y = 0;
+  int Width = 4;
+  int Height = 4;
+};
+
+inline constexpr int KeyboardWidth = 90;
+inline constexpr int KeyboardHeight = 26;
+
+/// Function row, main block, navigation and keypad as on an English keyboard. Each key of the
+/// vocabulary is there once; keys that nobody can choose are modifiers or blank.
+[[nodiscard]] std::vector<KeyShape> MakeKeyboardShape();
+
+}  // namespace tessera
