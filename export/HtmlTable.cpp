@@ -7,13 +7,6 @@
 namespace tessera {
 namespace {
 
-/// The red colour stays when a key is free again, but the mark goes. "Num *" is a key.
-bool IsOverridden(const CommandEntry& row) {
-  constexpr std::wstring_view Multiply = L"Num *";
-  return row.DefaultKeysAreRed && row.DefaultKeys.ends_with(OverriddenMark) &&
-         !row.DefaultKeys.ends_with(Multiply);
-}
-
 /// `appendCell` appends a cell of a column.
 template <typename AppendCell>
 void AppendRow(std::string& html, const ExportColumns& columns, AppendCell appendCell) {
@@ -32,12 +25,19 @@ void AppendElement(std::string& html, std::string_view begin, std::wstring_view 
 }
 
 void AppendCell(std::string& html, const CommandEntry& row, Column column) {
-  const bool isStruck = column == Column::Defaults && IsOverridden(row);
+  const bool isStruck = column == Column::Defaults && DefaultsAreStruck(row);
   AppendElement(html, isStruck ? "<td><s>" : "<td>", CellText(row, column),
                 isStruck ? "</s></td>" : "</td>");
 }
 
 }  // namespace
+
+bool DefaultsAreStruck(const CommandEntry& row) {
+  constexpr std::wstring_view Multiply = L"Num *";
+  // The red colour stays when a key is free again, but the mark goes. "Num *" is a key.
+  return row.DefaultKeysAreRed && row.DefaultKeys.ends_with(OverriddenMark) &&
+         !row.DefaultKeys.ends_with(Multiply);
+}
 
 std::string BuildHtmlTable(const DisplayTable& rows, const ExportColumns& columns,
                            const Texts& texts, const std::wstring& undefinedHotkey) {

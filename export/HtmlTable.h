@@ -7,6 +7,9 @@
 
 namespace tessera {
 
+/// True for a row whose default keys are overridden, as its cell shows.
+[[nodiscard]] bool DefaultsAreStruck(const CommandEntry& row);
+
 /// A table in HTML, in UTF-8, with the rows and columns of BuildExportText. Texts stand there as
 /// they are shown, but for control characters, which are blanks; default keys that are overridden
 /// are struck through.
