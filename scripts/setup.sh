@@ -9,8 +9,8 @@ sign=(osslsigncode)
 run=("${build[@]}" wine wine64 fonts-wine xvfb xdotool imagemagick)
 test=("${run[@]}" "${sign[@]}" openssl g++ clang-14 libclang-rt-14-dev googletest clang-format-14
   clang-tidy-14 python3)
-page=("${run[@]}" chromium chromium-driver python3 python3-selenium python3-html5lib poppler-utils
-  fonts-noto-cjk fonts-hosny-amiri)
+page=("${run[@]}" chromium chromium-driver python3 python3-selenium python3-html5lib python3-pil
+  poppler-utils fonts-noto-cjk fonts-hosny-amiri)
 fuzz=(cmake ninja-build clang-14 libclang-rt-14-dev)
 coverage=(cmake ninja-build googletest clang-14 llvm-14 python3)
 mutants=(cmake ninja-build g++ clang-14 googletest python3)
