@@ -22,6 +22,12 @@ constexpr int FirstLine = 30;
 constexpr int LineHeight = 12;
 constexpr int LabelSize = 11;
 
+/// The word that stands for a use in the page, for its style.
+std::string_view NameOfUse(KeyUse use) {
+  constexpr std::string_view Names[] = {"free", "default", "user", "over", "startmenu"};
+  return Names[static_cast<std::size_t>(use)];
+}
+
 void AppendNumber(std::string& html, std::string_view name, int number) {
   html.append(1, ' ').append(name).append("=\"").append(std::to_string(number)).append(1, '"');
 }
@@ -137,11 +143,6 @@ void AppendSectionHead(std::string& html, const Keyboard& keyboard, const KeyDra
 
 }  // namespace
 
-std::string_view NameOfUse(KeyUse use) {
-  constexpr std::string_view Names[] = {"free", "default", "user", "over", "startmenu"};
-  return Names[static_cast<std::size_t>(use)];
-}
-
 void AppendShapes(std::string& html, const HotkeyNotation& notation) {
   html +=
       "<svg class=\"shapes\" width=\"0\" height=\"0\" aria-hidden=\"true\"><defs>\n"
@@ -202,8 +203,7 @@ void AppendKeyboard(std::string& html, const Keyboard& keyboard, const KeyDrawin
 void AppendKeyAttributes(std::string& html, std::wstring_view key, KeyUse use) {
   html += " data-key=\"";
   AppendValue(html, key);
-  html.append("\" data-use=\"").append(NameOfUse(use));
-  html += use == KeyUse::Free ? "\"" : "\" tabindex=\"0\"";
+  html.append("\" data-use=\"").append(NameOfUse(use)).append(1, '"');
 }
 
 void AppendTitle(std::string& html, std::wstring_view key, std::size_t place,

@@ -12,9 +12,6 @@
 
 namespace tessera {
 
-/// The word that stands for a use in the page, for its style.
-[[nodiscard]] std::string_view NameOfUse(KeyUse use);
-
 /// What the drawings of keys read.
 struct KeyDrawing {
   const KeyUses& Uses;
@@ -32,7 +29,7 @@ void AppendLegend(std::string& html, const Texts& texts);
 /// A section with the drawn keyboard, its modifiers, and how many keys are free.
 void AppendKeyboard(std::string& html, const Keyboard& keyboard, const KeyDrawing& drawing);
 
-/// The attributes of an element that shows a key: the key, its use, and whether Tab leads to it.
+/// The attributes of an element that shows a key: the key and its use.
 void AppendKeyAttributes(std::string& html, std::wstring_view key, KeyUse use);
 
 /// Who holds the key, one holder in a line.

@@ -35,9 +35,9 @@ void AppendHolder(std::string& html, const KeyHolder& holder, const HolderFrames
 
 void AppendKeyRow(std::string& html, std::wstring_view key, std::span<const KeyHolder> holders,
                   const HolderFrames& frames) {
-  html += "<tr data-key=\"";
-  AppendValue(html, key);
-  html.append("\" data-use=\"").append(NameOfUse(UseOf(holders))).append("\"><th>");
+  html += "<tr";
+  AppendKeyAttributes(html, key, UseOf(holders));
+  html += "><th>";
   AppendText(html, key);
   html += "</th><td>";
   for (const KeyHolder& holder : holders) AppendHolder(html, holder, frames);

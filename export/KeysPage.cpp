@@ -74,9 +74,9 @@ void AppendTables(std::string& html, const DisplayTable& rows,
                   const KeyDrawing& drawing) {
   const Texts& texts = drawing.Language;
   AppendElement(html, "<section class=\"tables\">\n<h2>", texts.GetLangText(TextId::KeysByKey),
-                "</h2>\n");
+                "</h2>\n<div class=\"by-key\">\n");
   AppendTableByKey(html, drawing.Uses, keyboards, elsewhere, drawing.Frames, texts);
-  AppendElement(html, "</section>\n<section class=\"tables\">\n<h2>",
+  AppendElement(html, "</div>\n</section>\n<section class=\"tables\">\n<h2>",
                 texts.GetLangText(TextId::KeysByCommand), "</h2>\n");
   AppendTableByCommand(html, rows, texts, drawing.Notation.UndefinedHotkey);
   html += "</section>\n";

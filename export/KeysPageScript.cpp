@@ -70,6 +70,7 @@ constexpr std::string_view Script = R"js(
   for (const key of keys) {
     // A title would show a second tip.
     const title = key.querySelector("title");
+    if (key.dataset.use !== "free") key.setAttribute("tabindex", "0");
     key.setAttribute("role", "img");
     key.setAttribute("aria-label", (title || key).textContent);
     if (title) title.remove();

@@ -55,7 +55,7 @@ section { margin-top: 2rem; }
   align-items: baseline; }
 .count { margin: 0; color: var(--soft); font-variant-numeric: tabular-nums; text-align: end; }
 .board { grid-column: 1 / -1; overflow-x: auto; direction: ltr; }
-.board svg { display: block; width: 100%; min-width: 900px; font: 500 11px/1 system-ui,
+.board svg { display: block; width: 100%; min-width: 1080px; font: 500 11px/1 system-ui,
   "Segoe UI", "Noto Sans", sans-serif; }
 .shapes { position: absolute; }
 
@@ -141,7 +141,12 @@ s { text-decoration-color: var(--accent); }
   .board svg { min-width: 0; }
   h2, .block { break-after: avoid; }
   .tables { break-before: page; }
-  th, td { padding-top: .5mm; padding-bottom: .5mm; }
+  .by-key { columns: 2; column-gap: 12mm; }
+  #by-key { max-width: none; margin-top: 0; }
+  #by-key th:first-child { width: 35%; }
+  table { font-size: 8pt; line-height: 1.3; }
+  th, td { padding-top: .4mm; padding-bottom: .4mm; }
+  .block th { padding-top: 3mm; }
 }
 )css";
 
