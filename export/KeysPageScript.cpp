@@ -84,7 +84,13 @@ constexpr std::string_view Script = R"js(
     if (key) show(key); else hide();
   });
   document.addEventListener("keydown", (event) => { if (event.key === "Escape") hide(); });
-  document.addEventListener("scroll", hide, true);
+  document.addEventListener("scroll", () => {
+    // The browser brings a key that Tab leads to into view after it has told so.
+    const key = document.activeElement.closest(".key");
+    const box = key && key.getBoundingClientRect();
+    const isSeen = box && box.bottom > 0 && box.top < innerHeight;
+    if (isSeen && !tip.hidden) show(key); else hide();
+  }, true);
 })();
 )js";
 
