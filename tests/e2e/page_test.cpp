@@ -209,17 +209,14 @@ TEST_F(PageRunTest, TargetsThatCannotBeWrittenAreLeftAsTheyAre) {
   };
   expectUnwritten(L"none\\keys.html");
   expectUnwritten(L"commander");
-  expectUnwritten(L"commander\\");
   expectUnwritten(L"commander\\WINCMD.INI");
   ExpectFailure(L"/page=", L"The name of a file is missing: /page=FILE");
-  ExpectFailure(L"/page", L"The name of a file is missing: /page=FILE");
 }
 
 TEST_F(PageRunTest, MissingInputLeavesTheFormerPage) {
   WriteBytes(Page(), "old");
   const std::wstring page = L"/page=keys.html";
   ExpectFailure(L"none.ini " + page, L"Cannot find this file " + folder_.Root() + L"none.ini");
-  ExpectFailure(L"commander " + page, L"Cannot find this file " + folder_.Root() + L"commander");
   Delete(folder_.DefaultKeysFile());
   ExpectFailure(page, L"Cannot find data file! Please open one to continue");
   Delete(folder_.WincmdIni());

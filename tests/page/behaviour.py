@@ -70,11 +70,10 @@ def check_tip(browser, model):
                    if shown_key(element.get_attribute("data-key")) == key)
     for way in (browser.point_at, browser.tap, browser.focus):
         browser.leave()
-        before = browser.ask(SEEN)
-        way(element)
-        seen = browser.ask(SEEN)
-        if name in before:
+        if name in browser.ask_until(SEEN, lambda seen: name not in seen):
             yield f"{way.__name__}: {name} was seen before"
+        way(element)
+        seen = browser.ask_until(SEEN, lambda seen: name in seen)
         yield from (f"{way.__name__}: {text} is missing in {seen!r}"
                     for text in (name, description, *model.default[key]) if text not in seen)
 

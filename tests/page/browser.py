@@ -3,6 +3,7 @@
 import base64
 import json
 import tempfile
+import time
 
 from selenium import webdriver
 from selenium.webdriver.chrome.options import Options
@@ -12,6 +13,12 @@ from selenium.webdriver.chrome.service import Service
 FLAGS = ("--headless --no-sandbox --disable-gpu --disable-dev-shm-usage --disable-quic --no-first-run "
          "--disable-background-networking --disable-component-update --disable-sync "
          "--disable-extensions --hide-scrollbars").split()
+# A page learns of a scroll with the next picture that is drawn.
+AFTER_SCROLLING = """
+const done = arguments[arguments.length - 1];
+SCROLL;
+requestAnimationFrame(() => requestAnimationFrame(() => setTimeout(done, 0)));
+"""
 INCHES = {"A4": (8.27, 11.69), "Letter": (8.5, 11)}
 
 
@@ -55,9 +62,16 @@ class Browser:
                 if message["method"] == "Network.requestWillBeSent"
                 and message["params"]["documentURL"] == self.address]
 
-    def wait_for(self, script):
+    def wait_for(self, script, *arguments):
         """What the body of a function hands to the function that is its last argument."""
-        return self.driver.execute_async_script(script)
+        return self.driver.execute_async_script(script, *arguments)
+
+    def ask_until(self, script, is_enough, seconds=5):
+        """Asks again until the answer is enough; gives the last one."""
+        end = time.monotonic() + seconds
+        while not is_enough(answer := self.ask(script)) and time.monotonic() < end:
+            time.sleep(0.05)
+        return answer
 
     def keys(self):
         return self.driver.find_elements("css selector", "section.keyboard g.key")
@@ -72,15 +86,18 @@ class Browser:
         self.command("Input.dispatchTouchEvent", type="touchEnd", touchPoints=[])
 
     def focus(self, element):
-        self.ask("arguments[0].focus();", element)
+        """From the top of the page, as by Tab: the browser brings it into view."""
+        self.wait_for(AFTER_SCROLLING.replace("SCROLL", "scrollTo(0, 0)"))
+        self.wait_for(AFTER_SCROLLING.replace("SCROLL", "arguments[0].focus()"), element)
 
     def leave(self):
         self.command("Input.dispatchMouseEvent", type="mouseMoved", x=0, y=0)
         self.ask("document.activeElement.blur(); document.body.click();")
 
     def middle_of(self, element):
-        return self.ask("arguments[0].scrollIntoView({block: 'center'});"
-                        "const box = arguments[0].getBoundingClientRect();"
+        self.wait_for(
+            AFTER_SCROLLING.replace("SCROLL", "arguments[0].scrollIntoView({block: 'center'})"), element)
+        return self.ask("const box = arguments[0].getBoundingClientRect();"
                         "return [(box.left + box.right) / 2, (box.top + box.bottom) / 2];", element)
 
     def picture(self, scale=1, height=6000):

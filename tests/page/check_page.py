@@ -1,9 +1,9 @@
 """Looks at the page of keys in a real browser, on the screen and on paper.
 
-Usage: check_page.py FOLDER, which holds the pages by language ("English.html"), and the folders
-"commander" and "program" that they were made from; pictures and PDF files are left there. Prints one
-line "ok ..." or "not ok ..." per check, and one more for each sample of a wrong page that shows that
-the check can fail. To be run by Debian's Python.
+Usage: check_page.py FOLDER, which holds the pages of the demonstration folder by language
+("English.html"); pictures and PDF files are left there. Prints one line "ok ..." or "not ok ..." per
+check, and one more for each wrong page, which shows that its check can fail. To be run by Debian's
+Python, at the root of the repository.
 """
 
 import sys
@@ -16,7 +16,7 @@ import looks
 import printed
 import wrong_pages
 from browser import Browser
-from model import model_of
+from model import model_of_demonstration
 
 LANGUAGES = {"English": ("en", "ltr"), "Arabic": ("ar", "rtl"), "Japanese": ("ja", "ltr")}
 WIDTHS = (1280, 390)
@@ -76,7 +76,7 @@ def first_line(check):
 
 
 def main(folder):
-    model = model_of(folder)
+    model = model_of_demonstration()
     browser = Browser()
     try:
         for make in (lambda: checks_of_document(browser, folder, model),

@@ -122,6 +122,6 @@ class Model:
         return [name for name in NAMES if self.use((frozenset(modifiers), name)) == "free"]
 
 
-def model_of(root):
-    return Model(root / "commander", root / "program/Data Files/tc default hotkeys.hky")
+def model_of_demonstration():
+    return Model(Path("demo"), Path("Data Files/tc default hotkeys.hky"))
 
