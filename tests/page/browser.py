@@ -66,7 +66,7 @@ class Browser:
         """What the body of a function hands to the function that is its last argument."""
         return self.driver.execute_async_script(script, *arguments)
 
-    def ask_until(self, script, is_enough, seconds=5):
+    def ask_until(self, script, is_enough, seconds=4):
         """Asks again until the answer is enough; gives the last one."""
         end = time.monotonic() + seconds
         while not is_enough(answer := self.ask(script)) and time.monotonic() < end:
