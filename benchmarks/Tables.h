@@ -13,5 +13,6 @@ inline constexpr int ManyCommands = 100'000;
 [[nodiscard]] std::vector<Ratio> EditorRatios();
 [[nodiscard]] std::vector<Ratio> OpeningRatios();
 [[nodiscard]] std::vector<Ratio> IniRatios();
+[[nodiscard]] std::vector<Ratio> PageRatios();
 
 }  // namespace tessera

@@ -7,8 +7,8 @@
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   std::vector<tessera::Ratio> ratios;
-  for (const auto& rows :
-       {tessera::IniRatios(), tessera::OpeningRatios(), tessera::EditorRatios()}) {
+  for (const auto& rows : {tessera::IniRatios(), tessera::OpeningRatios(), tessera::EditorRatios(),
+                           tessera::PageRatios()}) {
     ratios.insert(ratios.end(), rows.begin(), rows.end());
   }
   tessera::RatioReporter reporter(std::move(ratios));

@@ -20,7 +20,8 @@ HolderFrame Parted(const std::wstring& text) {
 
 }  // namespace
 
-HolderFrames::HolderFrames(const Texts& texts) {
+HolderFrames::HolderFrames(const Texts& texts)
+    : free_(Parted(texts.GetLangText(TextId::KeyIsFree))) {
   constexpr std::array<TextId, 4> Ids{TextId::HolderNow, TextId::HolderByDefault,
                                       TextId::HolderOverridden, TextId::HolderInStartMenu};
   for (std::size_t kind = 0; kind < Ids.size(); ++kind) {

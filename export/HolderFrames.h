@@ -1,4 +1,4 @@
-// How holders of keys are named on the page: what stands around a name.
+// How keys and their holders are named on the page: what stands around a name.
 #pragma once
 
 #include <array>
@@ -15,16 +15,19 @@ struct HolderFrame {
   std::string After;
 };
 
-/// By kind of holder.
 class HolderFrames {
  public:
   explicit HolderFrames(const Texts& texts);
+
+  /// Around a key that is free.
+  [[nodiscard]] const HolderFrame& Free() const { return free_; }
 
   [[nodiscard]] const HolderFrame& Of(HolderKind kind) const {
     return frames_[static_cast<std::size_t>(kind)];
   }
 
  private:
+  HolderFrame free_;
   std::array<HolderFrame, 4> frames_;
 };
 

@@ -1,7 +1,9 @@
 // Nearly all texts are plain, and are copied as they are.
 #include "export/Html.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <type_traits>
 
 #include "text/ControlCharacters.h"
 #include "text/Utf8.h"
@@ -19,23 +21,37 @@ constexpr bool IsNoCharacter(char32_t character) {
          (character & 0xFFFE) == 0xFFFE;
 }
 
-constexpr bool IsPlain(wchar_t character) {
-  return character >= L' ' && character < L'\x7F' && character != L'&' && character != L'<' &&
-         character != L'>' && character != L'"';
+using Code = std::make_unsigned_t<wchar_t>;
+
+/// By the lowest byte of a code, 1 for what is not written as it is.
+constexpr std::array<unsigned char, 0x100> MakeOdd() {
+  std::array<unsigned char, 0x100> odd{};
+  for (std::size_t code = 0; code < odd.size(); ++code) {
+    odd[code] = code < U' ' || code >= U'\x7F' ? 1 : 0;
+  }
+  for (const char32_t sign : {U'&', U'<', U'>', U'"'}) odd[sign] = 1;
+  return odd;
 }
 
-bool IsAllPlain(std::wstring_view text) {
-  // Without an early way out, so that many characters are looked at at once.
-  bool isPlain = true;
-  for (const wchar_t character : text) isPlain &= IsPlain(character);
+constexpr std::array<unsigned char, 0x100> Odd = MakeOdd();
+
+/// Appends nothing, and tells so, where a character is not to be written as it is.
+bool AppendPlain(std::string& html, std::wstring_view text) {
+  const std::size_t begin = html.size();
+  html.resize(begin + text.size());
+  char* place = html.data() + begin;
+  Code codes = 0;
+  unsigned odd = 0;
+  // Without an early way out, which would cost as much as a character.
+  for (const wchar_t character : text) {
+    const auto code = static_cast<Code>(character);
+    codes = static_cast<Code>(codes | code);
+    odd |= Odd[code & 0xFFU];
+    *place++ = static_cast<char>(code);
+  }
+  const bool isPlain = odd == 0 && codes < Odd.size();
+  if (!isPlain) html.resize(begin);
   return isPlain;
-}
-
-void AppendPlain(std::string& html, std::wstring_view text) {
-  const std::size_t end = html.size();
-  html.resize(end + text.size());
-  std::ranges::transform(text, html.begin() + static_cast<std::ptrdiff_t>(end),
-                         [](wchar_t character) { return static_cast<char>(character); });
 }
 
 void AppendCharacter(std::string& html, char32_t character, std::string_view quote) {
@@ -58,10 +74,7 @@ void AppendCharacter(std::string& html, char32_t character, std::string_view quo
 }
 
 void AppendEscaped(std::string& html, std::wstring_view text, std::string_view quote) {
-  if (IsAllPlain(text)) {
-    AppendPlain(html, text);
-    return;
-  }
+  if (AppendPlain(html, text)) return;
   for (std::size_t position = 0; position < text.size();) {
     const bool isControl = IsControl(text[position]);
     const char32_t character = TakeCharacter(text, position);

@@ -1,8 +1,7 @@
 // Each shape is drawn once, at its place; a keyboard uses it, gives it its look, and adds the name.
 #include "export/KeyDrawing.h"
 
-#include <algorithm>
-#include <vector>
+#include <span>
 
 #include "export/Html.h"
 #include "export/KeyboardShape.h"
@@ -53,22 +52,12 @@ void AppendName(std::string& html, const KeyShape& shape, std::wstring_view name
 /// The shapes of one kind as one, with a name on each unless it is empty.
 void AppendGroup(std::string& html, std::string_view id, ShapeKind kind, std::wstring_view name) {
   html.append("<g id=\"").append(id).append("\">");
-  for (const KeyShape& shape : MakeKeyboardShape()) {
+  for (const KeyShape& shape : KeyboardShape()) {
     if (shape.Kind != kind) continue;
     AppendRectangle(html, shape);
     if (!name.empty()) AppendName(html, shape, name);
   }
   html += "</g>\n";
-}
-
-/// The shapes of the vocabulary, in its order.
-std::vector<KeyShape> ShapesOfVocabulary() {
-  const std::vector<KeyShape> all = MakeKeyboardShape();
-  std::vector<KeyShape> shapes;
-  for (const std::wstring_view key : KeyVocabulary()) {
-    shapes.push_back(*std::ranges::find(all, key, &KeyShape::Key));
-  }
-  return shapes;
 }
 
 void AppendLabel(std::string& html, const KeyShape& shape, const KeyHolder& holder) {
@@ -155,7 +144,7 @@ void AppendShapes(std::string& html, const HotkeyNotation& notation) {
   AppendGroup(html, "ctrl", ShapeKind::Ctrl, notation.CtrlName);
   AppendGroup(html, "alt", ShapeKind::Alt, notation.AltName);
   AppendGroup(html, "shift", ShapeKind::Shift, notation.ShiftName);
-  const std::vector<KeyShape> shapes = ShapesOfVocabulary();
+  const std::span<const KeyShape> shapes = ShapesOfVocabulary();
   for (std::size_t number = 0; number < shapes.size(); ++number) {
     html.append("<g id=\"k").append(std::to_string(number)).append("\">");
     AppendRectangle(html, shapes[number]);
@@ -188,7 +177,7 @@ void AppendLegend(std::string& html, const Texts& texts) {
 }
 
 void AppendKeyboard(std::string& html, const Keyboard& keyboard, const KeyDrawing& drawing) {
-  static const std::vector<KeyShape> shapes = ShapesOfVocabulary();
+  const std::span<const KeyShape> shapes = ShapesOfVocabulary();
   AppendSectionHead(html, keyboard, drawing);
   html += "<div class=\"board\" dir=\"ltr\"><svg viewBox=\"0 0";
   html.append(1, ' ').append(std::to_string(KeyboardWidth * Quarter));
@@ -210,7 +199,9 @@ void AppendTitle(std::string& html, std::wstring_view key, std::size_t place,
                  const KeyDrawing& drawing) {
   const std::span<const KeyHolder> holders = drawing.Uses.HoldersOf(place);
   if (holders.empty()) {
-    AppendText(html, WithValues(drawing.Language.GetLangText(TextId::KeyIsFree), {key}));
+    html += drawing.Frames.Free().Before;
+    AppendText(html, key);
+    html += drawing.Frames.Free().After;
     return;
   }
   AppendText(html, key);

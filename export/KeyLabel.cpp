@@ -1,6 +1,9 @@
 // Parts a name into words, and puts as many of them on a line as it holds.
 #include "export/KeyLabel.h"
 
+#include <array>
+
+#include "text/Ascii.h"
 #include "text/ControlCharacters.h"
 #include "text/Text.h"
 #include "text/Trim.h"
@@ -21,17 +24,24 @@ bool IsUpper(wchar_t character) { return IsWithin(character, L'A', L'Z'); }
 bool IsDigit(wchar_t character) { return IsWithin(character, L'0', L'9'); }
 bool IsLowSurrogate(wchar_t character) { return IsWithin(character, L'\xDC00', L'\xDFFF'); }
 
-/// About how wide the character is in a font without serifs, in hundredths of the font's size,
+/// By character, about how wide it is in a font without serifs, in hundredths of the font's size,
 /// rather too wide than too narrow.
+constexpr std::array<int, 0x80> MakeWidths() {
+  std::array<int, 0x80> widths{};
+  widths.fill(59);
+  for (std::size_t letter = 'A'; letter <= 'Z'; ++letter) widths[letter] = 70;
+  for (const char narrow : std::string_view(" .,:;'|!()[]/Iijlfrt")) {
+    widths[static_cast<std::size_t>(narrow)] = 36;
+  }
+  for (const char wide : std::string_view("MWmw@%&")) widths[static_cast<std::size_t>(wide)] = 92;
+  return widths;
+}
+
 int WidthOf(wchar_t character) {
-  constexpr std::wstring_view Narrow = L" .,:;'|!()[]/Iijlfrt";
-  constexpr std::wstring_view Wide = L"MWmw@%&";
+  static constexpr std::array<int, 0x80> Widths = MakeWidths();
+  if (IsAscii(character)) return Widths[static_cast<std::size_t>(character)];
   if (IsLowSurrogate(character)) return 0;
-  if (Narrow.find(character) != std::wstring_view::npos) return 36;
-  if (Wide.find(character) != std::wstring_view::npos) return 92;
-  if (IsUpper(character)) return 70;
-  if (character < 0x1100) return 59;
-  return 100;
+  return character < 0x1100 ? 59 : 100;
 }
 
 int WidthOf(std::wstring_view text) {
@@ -60,16 +70,22 @@ bool BeginsWord(std::wstring_view text, std::size_t at) {
   return !IsUpper(before) || endsCapitals;
 }
 
-std::vector<std::wstring_view> WordsOf(std::wstring_view text) {
-  std::vector<std::wstring_view> words;
-  std::size_t begin = 0;
-  for (std::size_t at = 1; at < text.size(); ++at) {
-    if (!BeginsWord(text, at)) continue;
-    words.push_back(text.substr(begin, at - begin));
-    begin = at;
+/// Where the word that begins at `begin` ends.
+std::size_t EndOfWord(std::wstring_view text, std::size_t begin) {
+  std::size_t end = begin + 1;
+  while (end < text.size() && !BeginsWord(text, end)) ++end;
+  return end;
+}
+
+/// The end of the words from `begin` on that one line holds, at least one.
+std::size_t EndOfLine(std::wstring_view text, std::size_t begin, int width) {
+  std::size_t end = EndOfWord(text, begin);
+  while (end < text.size()) {
+    const std::size_t next = EndOfWord(text, end);
+    if (WidthOf(TrimSpaces(text.substr(begin, next - begin))) > width) break;
+    end = next;
   }
-  if (begin < text.size()) words.push_back(text.substr(begin));
-  return words;
+  return end;
 }
 
 /// Cuts what is too wide, and tells so.
@@ -89,23 +105,11 @@ std::vector<std::wstring> LabelLines(std::wstring_view name, const LabelRoom& ro
   const std::wstring whole = WithoutControls(WithoutPrefix(name).substr(0, MostCharacters));
   const std::wstring_view text = TrimSpaces(std::wstring_view(whole));
   std::vector<std::wstring> lines;
-  if (text.empty() || room.Lines == 0) return lines;
-  bool isCut = false;
-  for (const std::wstring_view word : WordsOf(text)) {
-    const bool fits =
-        !lines.empty() && WidthOf(lines.back()) + WidthOf(TrimSpaces(word)) <= room.Width;
-    if (fits) {
-      lines.back() += word;
-    } else if (lines.size() < room.Lines) {
-      lines.emplace_back(word);
-    } else {
-      isCut = true;
-      break;
-    }
-  }
-  for (std::wstring& line : lines) {
-    line = TrimSpaces(line);
-    CutTo(room.Width, line, isCut && &line == &lines.back());
+  for (std::size_t begin = 0; begin < text.size() && lines.size() < room.Lines;) {
+    const std::size_t end = EndOfLine(text, begin, room.Width);
+    lines.emplace_back(TrimSpaces(text.substr(begin, end - begin)));
+    CutTo(room.Width, lines.back(), lines.size() == room.Lines && end < text.size());
+    begin = end;
   }
   return lines;
 }

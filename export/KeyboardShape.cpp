@@ -1,6 +1,9 @@
 // The keyboard as a table of keys that lie side by side.
 #include "export/KeyboardShape.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "shortcuts/HotkeyNotation.h"
 
 namespace tessera {
@@ -58,9 +61,7 @@ ShapeKind KindOf(std::wstring_view key) {
   return key == L"." ? ShapeKind::Blank : ShapeKind::Key;
 }
 
-}  // namespace
-
-std::vector<KeyShape> MakeKeyboardShape() {
+std::vector<KeyShape> MakeShapes() {
   std::vector<KeyShape> shapes;
   for (const Run& run : Runs) {
     int x = run.X;
@@ -71,6 +72,26 @@ std::vector<KeyShape> MakeKeyboardShape() {
       x += run.Width;
     });
   }
+  return shapes;
+}
+
+std::vector<KeyShape> MakeShapesOfVocabulary() {
+  std::vector<KeyShape> shapes;
+  for (const std::wstring_view key : KeyVocabulary()) {
+    shapes.push_back(*std::ranges::find(KeyboardShape(), key, &KeyShape::Key));
+  }
+  return shapes;
+}
+
+}  // namespace
+
+std::span<const KeyShape> KeyboardShape() {
+  static const std::vector<KeyShape> shapes = MakeShapes();
+  return shapes;
+}
+
+std::span<const KeyShape> ShapesOfVocabulary() {
+  static const std::vector<KeyShape> shapes = MakeShapesOfVocabulary();
   return shapes;
 }
 

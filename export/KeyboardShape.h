@@ -1,8 +1,8 @@
 // Where the keys of a keyboard lie.
 #pragma once
 
+#include <span>
 #include <string_view>
-#include <vector>
 
 namespace tessera {
 
@@ -22,8 +22,11 @@ struct KeyShape {
 inline constexpr int KeyboardWidth = 90;
 inline constexpr int KeyboardHeight = 26;
 
-/// Function row, main block, navigation and keypad as on an English keyboard. Each key of the
-/// vocabulary is there once; keys that nobody can choose are modifiers or blank.
-[[nodiscard]] std::vector<KeyShape> MakeKeyboardShape();
+/// All of them: function row, main block, navigation and keypad as on an English keyboard. Each key
+/// of the vocabulary is there once; keys that nobody can choose are modifiers or blank.
+[[nodiscard]] std::span<const KeyShape> KeyboardShape();
+
+/// Those of the vocabulary alone, in its order.
+[[nodiscard]] std::span<const KeyShape> ShapesOfVocabulary();
 
 }  // namespace tessera

@@ -11,6 +11,10 @@ namespace tessera {
 namespace {
 
 constexpr std::wstring_view Joint = L" + ";
+constexpr std::wstring_view Num = L"Num";
+
+/// Of a displayed key, at most.
+constexpr std::size_t UsualLength = 40;
 
 constexpr std::wstring_view Vocabulary[] = {
     L"F1",   L"F2",    L"F3",   L"F4",   L"F5",    L"F6",   L"F7",  L"F8", L"F9",  L"F10",
@@ -20,6 +24,10 @@ constexpr std::wstring_view Vocabulary[] = {
     L"2",    L"3",     L"4",    L"5",    L"6",     L"7",    L"8",   L"9",  L"INS", L"DEL",
     L"HOME", L"END",   L"PGUP", L"PGDN", L"SPACE", L"BACK", L"TAB", L"+",  L"-",   L"*",
     L"/",    L"ENTER", L"ESC",  L"LEFT", L"RIGHT", L"UP",   L"DOWN"};
+
+bool IsOperator(std::wstring_view key) {
+  return key.size() == 1 && std::wstring_view(L"+-*/").find(key.front()) != std::wstring_view::npos;
+}
 
 bool Contains(std::wstring_view text, std::wstring_view part) {
   return text.find(part) != std::wstring_view::npos;
@@ -43,6 +51,7 @@ std::wstring Joined(const std::vector<std::wstring>& pieces, std::wstring_view s
 
 std::wstring PrefixOf(const HotkeyNotation& notation, const HeldModifiers& held) {
   std::wstring prefix;
+  prefix.reserve(UsualLength);
   if (held.Ctrl) prefix.append(notation.CtrlName).append(Joint);
   if (held.Alt) prefix.append(notation.AltName).append(Joint);
   if (held.Shift) prefix.append(notation.ShiftName).append(Joint);
@@ -61,12 +70,11 @@ std::vector<std::wstring> SplitText(std::wstring_view text, std::wstring_view se
 }
 
 std::wstring WithNum(std::wstring_view key) {
-  const bool isOperator = key == L"+" || key == L"-" || key == L"*" || key == L"/";
-  return std::wstring(isOperator ? L"Num " : L"").append(key);
+  std::wstring name(key);
+  return IsOperator(key) ? name.insert(0, 1, L' ').insert(0, Num) : name;
 }
 
 std::wstring WithoutNum(std::wstring text) {
-  constexpr std::wstring_view Num = L"Num";
   const std::size_t at = text.find(Num);
   return at == std::wstring::npos ? text : text.erase(at, Num.size());
 }
@@ -95,7 +103,9 @@ std::wstring HotkeyNotation::NamesOf(const HeldModifiers& held) const {
 }
 
 std::wstring HotkeyNotation::DisplayKey(const HeldModifiers& held, std::wstring_view key) const {
-  return ApplyReverseOrder(PrefixOf(*this, held).append(WithNum(key)));
+  std::wstring display = PrefixOf(*this, held);
+  if (IsOperator(key)) display.append(Num).append(1, L' ');
+  return ApplyReverseOrder(std::move(display.append(key)));
 }
 
 void HotkeyNotation::AddKey(std::wstring& column, std::wstring_view key) const {

@@ -10,13 +10,13 @@
 namespace tessera::keyboard_shape_test {
 namespace {
 
-const KeyShape& ShapeOf(const std::vector<KeyShape>& shapes, std::wstring_view key) {
-  return *std::ranges::find(shapes, key, &KeyShape::Key);
+const KeyShape& ShapeOf(std::wstring_view key) {
+  return *std::ranges::find(KeyboardShape(), key, &KeyShape::Key);
 }
 
 TEST(KeyboardShape, HasEachKeyOfTheVocabularyOnce) {
   std::multiset<std::wstring_view> keys;
-  for (const KeyShape& shape : MakeKeyboardShape()) {
+  for (const KeyShape& shape : KeyboardShape()) {
     EXPECT_EQ(shape.Key.empty(), shape.Kind != ShapeKind::Key);
     if (shape.Kind == ShapeKind::Key) keys.insert(shape.Key);
   }
@@ -24,9 +24,16 @@ TEST(KeyboardShape, HasEachKeyOfTheVocabularyOnce) {
   EXPECT_EQ(keys, (std::multiset<std::wstring_view>{vocabulary.begin(), vocabulary.end()}));
 }
 
+TEST(KeyboardShape, GivesTheKeysOfTheVocabularyInItsOrder) {
+  ASSERT_EQ(ShapesOfVocabulary().size(), KeyVocabulary().size());
+  for (std::size_t number = 0; number < KeyVocabulary().size(); ++number) {
+    EXPECT_EQ(ShapesOfVocabulary()[number].Key, KeyVocabulary()[number]);
+  }
+}
+
 TEST(KeyboardShape, LaysNoKeyOverAnotherOneOrBeyondTheEdge) {
   std::set<std::pair<int, int>> covered;
-  for (const KeyShape& shape : MakeKeyboardShape()) {
+  for (const KeyShape& shape : KeyboardShape()) {
     EXPECT_GT(shape.Width * shape.Height, 0);
     EXPECT_TRUE(shape.X >= 0 && shape.X + shape.Width <= KeyboardWidth);
     EXPECT_TRUE(shape.Y >= 0 && shape.Y + shape.Height <= KeyboardHeight);
@@ -39,19 +46,17 @@ TEST(KeyboardShape, LaysNoKeyOverAnotherOneOrBeyondTheEdge) {
 }
 
 TEST(KeyboardShape, LiesAsOnAnEnglishKeyboard) {
-  const std::vector<KeyShape> shapes = MakeKeyboardShape();
-  EXPECT_LT(ShapeOf(shapes, L"Q").X, ShapeOf(shapes, L"P").X);
-  EXPECT_EQ(ShapeOf(shapes, L"Q").Y, ShapeOf(shapes, L"P").Y);
-  EXPECT_LT(ShapeOf(shapes, L"F1").Y, ShapeOf(shapes, L"1").Y);
-  EXPECT_LT(ShapeOf(shapes, L"ENTER").X, ShapeOf(shapes, L"LEFT").X);
-  EXPECT_LT(ShapeOf(shapes, L"RIGHT").X, ShapeOf(shapes, L"+").X);
-  EXPECT_EQ(ShapeOf(shapes, L"+").Height, 8);
+  EXPECT_LT(ShapeOf(L"Q").X, ShapeOf(L"P").X);
+  EXPECT_EQ(ShapeOf(L"Q").Y, ShapeOf(L"P").Y);
+  EXPECT_LT(ShapeOf(L"F1").Y, ShapeOf(L"1").Y);
+  EXPECT_LT(ShapeOf(L"ENTER").X, ShapeOf(L"LEFT").X);
+  EXPECT_LT(ShapeOf(L"RIGHT").X, ShapeOf(L"+").X);
+  EXPECT_EQ(ShapeOf(L"+").Height, 8);
 }
 
 TEST(KeyboardShape, HasEachModifierOnBothSides) {
   for (const ShapeKind kind : {ShapeKind::Ctrl, ShapeKind::Alt, ShapeKind::Shift}) {
-    const auto shapes = MakeKeyboardShape();
-    EXPECT_EQ(std::ranges::count(shapes, kind, &KeyShape::Kind), 2);
+    EXPECT_EQ(std::ranges::count(KeyboardShape(), kind, &KeyShape::Kind), 2);
   }
 }
 
