@@ -2,6 +2,7 @@
 #include "export/Html.h"
 
 #include <array>
+#include <charconv>
 #include <cstddef>
 #include <type_traits>
 
@@ -88,6 +89,12 @@ void AppendText(std::string& html, std::wstring_view text) { AppendEscaped(html,
 
 void AppendValue(std::string& html, std::wstring_view value) {
   AppendEscaped(html, value, "&quot;");
+}
+
+void AppendNumber(std::string& html, std::size_t number) {
+  std::array<char, 20> digits{};
+  const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+  html.append(digits.data(), end);
 }
 
 }  // namespace tessera

@@ -1,6 +1,7 @@
 // Texts of files and of the language as parts of HTML.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -12,5 +13,7 @@ void AppendText(std::string& html, std::wstring_view text);
 
 /// The same between the double quotes of an attribute.
 void AppendValue(std::string& html, std::wstring_view value);
+
+void AppendNumber(std::string& html, std::size_t number);
 
 }  // namespace tessera

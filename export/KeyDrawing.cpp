@@ -27,23 +27,25 @@ std::string_view NameOfUse(KeyUse use) {
   return Names[static_cast<std::size_t>(use)];
 }
 
-void AppendNumber(std::string& html, std::string_view name, int number) {
-  html.append(1, ' ').append(name).append("=\"").append(std::to_string(number)).append(1, '"');
+void AppendPlace(std::string& html, std::string_view name, int number) {
+  html.append(1, ' ').append(name).append("=\"");
+  AppendNumber(html, static_cast<std::size_t>(number));
+  html += '"';
 }
 
 void AppendRectangle(std::string& html, const KeyShape& shape) {
   html += "<rect class=\"s\"";
-  AppendNumber(html, "x", shape.X * Quarter + Gap);
-  AppendNumber(html, "y", shape.Y * Quarter + Gap);
-  AppendNumber(html, "width", shape.Width * Quarter - 2 * Gap);
-  AppendNumber(html, "height", shape.Height * Quarter - 2 * Gap);
+  AppendPlace(html, "x", shape.X * Quarter + Gap);
+  AppendPlace(html, "y", shape.Y * Quarter + Gap);
+  AppendPlace(html, "width", shape.Width * Quarter - 2 * Gap);
+  AppendPlace(html, "height", shape.Height * Quarter - 2 * Gap);
   html += " rx=\"7\"/>";
 }
 
 void AppendName(std::string& html, const KeyShape& shape, std::wstring_view name) {
   html += "<text class=\"n\"";
-  AppendNumber(html, "x", shape.X * Quarter + Margin);
-  AppendNumber(html, "y", shape.Y * Quarter + NameLine);
+  AppendPlace(html, "x", shape.X * Quarter + Margin);
+  AppendPlace(html, "y", shape.Y * Quarter + NameLine);
   html += '>';
   AppendText(html, name);
   html += "</text>";
@@ -70,8 +72,8 @@ void AppendLabel(std::string& html, const KeyShape& shape, const KeyHolder& hold
   for (const std::wstring& line : LabelLines(
            isCaption ? WithoutMnemonic(holder.Name) : std::wstring(holder.Name), {room, lines})) {
     html += "<tspan";
-    AppendNumber(html, "x", shape.X * Quarter + Margin);
-    AppendNumber(html, "y", y);
+    AppendPlace(html, "x", shape.X * Quarter + Margin);
+    AppendPlace(html, "y", y);
     html += '>';
     AppendText(html, line);
     html += "</tspan>";
@@ -83,8 +85,8 @@ void AppendLabel(std::string& html, const KeyShape& shape, const KeyHolder& hold
 /// Beside its colour, what is over a default bears a corner.
 void AppendCorner(std::string& html, const KeyShape& shape) {
   html += "<use href=\"#corner\"";
-  AppendNumber(html, "x", (shape.X + shape.Width) * Quarter - Gap);
-  AppendNumber(html, "y", shape.Y * Quarter + Gap);
+  AppendPlace(html, "x", (shape.X + shape.Width) * Quarter - Gap);
+  AppendPlace(html, "y", shape.Y * Quarter + Gap);
   html += "/>";
 }
 
@@ -96,7 +98,9 @@ void AppendKey(std::string& html, const KeyboardKey& key, std::size_t number, co
   AppendKeyAttributes(html, key.Key, use);
   html += "><title>";
   AppendTitle(html, key.Key, key.Place, drawing);
-  html.append("</title><use href=\"#k").append(std::to_string(number)).append("\"/>");
+  html += "</title><use href=\"#k";
+  AppendNumber(html, number);
+  html += "\"/>";
   if (use == KeyUse::UserOverDefault) AppendCorner(html, shape);
   if (!holders.empty()) AppendLabel(html, shape, *ChiefHolder(holders));
   html += "</g>\n";

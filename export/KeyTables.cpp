@@ -1,9 +1,6 @@
 // A name in the table by key leads to the command's row in the other one, which has its texts.
 #include "export/KeyTables.h"
 
-#include <array>
-#include <charconv>
-
 #include "export/Html.h"
 #include "export/HtmlTable.h"
 #include "export/KeyDrawing.h"
@@ -12,19 +9,13 @@
 namespace tessera {
 namespace {
 
-void AppendRowNumber(std::string& html, RowKey row) {
-  std::array<char, 20> digits{};
-  const auto [end, error] = std::to_chars(digits.begin(), digits.end(), row);
-  html.append(digits.begin(), end);
-}
-
 void AppendHolder(std::string& html, const KeyHolder& holder, const HolderFrames& frames) {
   const HolderFrame& frame = frames.Of(holder.Kind);
   const bool isRow = holder.Row != 0;
   html.append("<div>").append(frame.Before);
   if (isRow) {
     html += "<a href=\"#c";
-    AppendRowNumber(html, holder.Row);
+    AppendNumber(html, holder.Row);
     html += "\">";
   } else {
     html += "<bdi>";
@@ -65,7 +56,7 @@ std::wstring_view BlockName(std::wstring_view heading) {
 void AppendCommandRow(std::string& html, const CommandEntry& row,
                       const std::wstring& undefinedHotkey) {
   html += "<tr id=\"c";
-  AppendRowNumber(html, row.Key);
+  AppendNumber(html, row.Key);
   html += "\">";
   for (const Column column : AllColumns) {
     const std::wstring_view text = CellText(row, column);

@@ -20,6 +20,7 @@ constexpr HeldModifiers AllSets[] = {
 Keyboard MakeKeyboard(const HeldModifiers& held, const KeyUses& uses,
                       const HotkeyNotation& notation) {
   Keyboard keyboard{held, {}, 0};
+  keyboard.Keys.reserve(KeyVocabulary().size());
   for (const std::wstring_view name : KeyVocabulary()) {
     std::wstring key = notation.DisplayKey(held, name);
     const std::size_t place = uses.Find(key);

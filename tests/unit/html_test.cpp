@@ -34,6 +34,13 @@ TEST(Html, IsAppended) {
   EXPECT_EQ(html, "<p>a&amp;b");
 }
 
+TEST(Html, NumbersAreDecimal) {
+  std::string html = "c";
+  AppendNumber(html, 0);
+  AppendNumber(html, 18446744073709551615U);
+  EXPECT_EQ(html, "c018446744073709551615");
+}
+
 TEST(Html, SignsOfItAreEscaped) {
   EXPECT_EQ(Text(L"<script>a && b</script>"), "&lt;script&gt;a &amp;&amp; b&lt;/script&gt;");
   EXPECT_EQ(Value(L"<a href=\"x\">"), "&lt;a href=&quot;x&quot;&gt;");
