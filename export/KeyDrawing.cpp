@@ -2,6 +2,7 @@
 #include "export/KeyDrawing.h"
 
 #include <span>
+#include <vector>
 
 #include "export/Html.h"
 #include "export/KeyboardShape.h"
@@ -63,21 +64,25 @@ void AppendGroup(std::string& html, std::string_view id, ShapeKind kind, std::ws
 }
 
 void AppendLabel(std::string& html, const KeyShape& shape, const KeyHolder& holder) {
-  const int room = (shape.Width * Quarter - 2 * Margin) * 100 / LabelSize;
-  const auto lines =
-      static_cast<std::size_t>((shape.Height * Quarter - FirstLine) / LineHeight + 1);
+  const int width = (shape.Width * Quarter - 2 * Margin) * 100 / LabelSize;
+  const auto most = static_cast<std::size_t>((shape.Height * Quarter - FirstLine) / LineHeight + 1);
   const bool isCaption = holder.Kind == HolderKind::StartMenu;
-  int y = shape.Y * Quarter + FirstLine;
-  html += "<text>";
-  for (const std::wstring& line : LabelLines(
-           isCaption ? WithoutMnemonic(holder.Name) : std::wstring(holder.Name), {room, lines})) {
-    html += "<tspan";
-    AppendPlace(html, "x", shape.X * Quarter + Margin);
-    AppendPlace(html, "y", y);
-    html += '>';
-    AppendText(html, line);
-    html += "</tspan>";
-    y += LineHeight;
+  const std::vector<std::wstring> lines = LabelLines(
+      isCaption ? WithoutMnemonic(holder.Name) : std::wstring(holder.Name), {width, most});
+  const int x = shape.X * Quarter + Margin;
+  html += "<text";
+  AppendPlace(html, "x", x);
+  AppendPlace(html, "y", shape.Y * Quarter + FirstLine);
+  html += '>';
+  for (std::size_t line = 0; line < lines.size(); ++line) {
+    if (line != 0) {
+      html += "<tspan";
+      AppendPlace(html, "x", x);
+      AppendPlace(html, "dy", LineHeight);
+      html += '>';
+    }
+    AppendText(html, lines[line]);
+    if (line != 0) html += "</tspan>";
   }
   html += "</text>";
 }

@@ -28,9 +28,9 @@ void AppendKeyRow(std::string& html, std::wstring_view key, std::span<const KeyH
                   const HolderFrames& frames) {
   html += "<tr";
   AppendKeyAttributes(html, key, UseOf(holders));
-  html += "><th>";
+  html += "><th><bdi>";
   AppendText(html, key);
-  html += "</th><td>";
+  html += "</bdi></th><td>";
   for (const KeyHolder& holder : holders) AppendHolder(html, holder, frames);
   html += "</td></tr>\n";
 }

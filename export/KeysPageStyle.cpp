@@ -9,12 +9,12 @@ constexpr std::string_view Style = R"css(
   color-scheme: light;
   --paper: #fcfbf8; --panel: #ffffff; --ink: #20242a; --soft: #5d636b; --rule: #dcd8d0;
   --accent: #b3261e; --link: #1f558f;
-  --free: transparent; --free-ink: #666a70; --free-line: #cbc6bc;
-  --default: #dde8f3; --default-ink: #1d3046; --default-line: #a9bfd6;
+  --free: transparent; --free-ink: #666a70; --free-line: #b9b3a8;
+  --default: #d5e3f1; --default-ink: #1d3046; --default-line: #8facc9;
   --user: #2f6cab; --user-ink: #ffffff; --user-line: #2f6cab;
   --over: #7a3206; --over-ink: #ffffff; --over-line: #7a3206; --corner: #ffc48a;
-  --menu: #f6e8bf; --menu-stripe: #e8d08a; --menu-ink: #38300f; --menu-line: #8f7521;
-  --idle: #f1eee8; --held: #5d636b; --held-ink: #ffffff;
+  --menu: #f3e2ac; --menu-stripe: #dfc470; --menu-ink: #38300f; --menu-line: #8f7521;
+  --idle: #f4f1ec;
 }
 @media screen and (prefers-color-scheme: dark) {
   :root {
@@ -26,7 +26,7 @@ constexpr std::string_view Style = R"css(
     --user: #6fa9e6; --user-ink: #08192b; --user-line: #6fa9e6;
     --over: #ffd3a6; --over-ink: #2c1400; --over-line: #ffd3a6; --corner: #a3480a;
     --menu: #40381d; --menu-stripe: #564b26; --menu-ink: #f5e8bd; --menu-line: #c2a64b;
-    --idle: #1d2126; --held: #b5bac0; --held-ink: #16191d;
+    --idle: #1d2126;
   }
 }
 * { box-sizing: border-box; }
@@ -77,7 +77,7 @@ svg [data-use=startmenu], svg [data-use=startmenu] .s, [data-use=startmenu] > sv
 .key text, .n { fill: var(--text); }
 .n { font-size: 12px; font-weight: 600; }
 .idle { --fill: var(--idle); --line: transparent; --text: var(--soft); }
-.held { --fill: var(--held); --text: var(--held-ink); }
+.held { --fill: var(--paper); --line: var(--ink); --weight: 3; --text: var(--ink); }
 .key:hover, .key:focus-visible { --line: var(--ink); --weight: 3; --dash: none; }
 .searching .key:not(.found), .searching .idle { opacity: .22; }
 .key.found { --line: var(--accent); --weight: 4; --dash: none; }
@@ -92,7 +92,8 @@ svg [data-use=startmenu], svg [data-use=startmenu] .s, [data-use=startmenu] > sv
 
 table { width: 100%; margin-top: .8rem; border-collapse: collapse; table-layout: fixed; }
 th, td { padding: .35rem .8rem .35rem 0; text-align: start; vertical-align: top;
-  font-weight: 400; unicode-bidi: plaintext; border-bottom: 1px solid var(--rule); }
+  font-weight: 400; border-bottom: 1px solid var(--rule); }
+td, .block th { unicode-bidi: plaintext; }
 [dir=rtl] th, [dir=rtl] td { text-align: right; padding: .35rem 0 .35rem .8rem; }
 thead th { color: var(--soft); }
 tbody th { font-weight: 600; }
