@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
-#include <type_traits>
 
 #include "text/ControlCharacters.h"
 #include "text/Utf8.h"
@@ -21,8 +20,6 @@ constexpr bool IsNoCharacter(char32_t character) {
   return IsWithin(character, 0xD800, 0xDFFF) || IsWithin(character, 0xFDD0, 0xFDEF) ||
          (character & 0xFFFE) == 0xFFFE;
 }
-
-using Code = std::make_unsigned_t<wchar_t>;
 
 /// By the lowest byte of a code, 1 for what is not written as it is.
 constexpr std::array<unsigned char, 0x100> MakeOdd() {
@@ -41,14 +38,13 @@ bool AppendPlain(std::string& html, std::wstring_view text) {
   const std::size_t begin = html.size();
   html.resize(begin + text.size());
   char* place = html.data() + begin;
-  Code codes = 0;
+  char32_t codes = 0;
   unsigned odd = 0;
   // Without an early way out, which would cost as much as a character.
   for (const wchar_t character : text) {
-    const auto code = static_cast<Code>(character);
-    codes = static_cast<Code>(codes | code);
-    odd |= Odd[code & 0xFFU];
-    *place++ = static_cast<char>(code);
+    codes |= static_cast<char32_t>(character);
+    odd |= Odd[static_cast<unsigned char>(character)];
+    *place++ = static_cast<char>(character);
   }
   const bool isPlain = odd == 0 && codes < Odd.size();
   if (!isPlain) html.resize(begin);

@@ -65,10 +65,11 @@ void AppendGroup(std::string& html, std::string_view id, ShapeKind kind, std::ws
 
 void AppendLabel(std::string& html, const KeyShape& shape, const KeyHolder& holder) {
   const int width = (shape.Width * Quarter - 2 * Margin) * 100 / LabelSize;
-  const auto most = static_cast<std::size_t>((shape.Height * Quarter - FirstLine) / LineHeight + 1);
+  const int most = (shape.Height * Quarter - FirstLine) / LineHeight + 1;
   const bool isCaption = holder.Kind == HolderKind::StartMenu;
-  const std::vector<std::wstring> lines = LabelLines(
-      isCaption ? WithoutMnemonic(holder.Name) : std::wstring(holder.Name), {width, most});
+  const std::vector<std::wstring> lines =
+      LabelLines(isCaption ? WithoutMnemonic(holder.Name) : std::wstring(holder.Name),
+                 {width, static_cast<std::size_t>(most)});
   const int x = shape.X * Quarter + Margin;
   html += "<text";
   AppendPlace(html, "x", x);
@@ -113,9 +114,9 @@ void AppendKey(std::string& html, const KeyboardKey& key, std::size_t number, co
 
 void AppendModifiers(std::string& html, const HeldModifiers& held) {
   const auto append = [&html](std::string_view id, bool isHeld) {
-    html.append("<use href=\"#").append(id).append(isHeld ? "\" class=\"held\"/>" : "\"/>");
+    html.append("<use href=\"#").append(id).append(isHeld ? R"(" class="held"/>)" : "\"/>");
   };
-  html += "<g class=\"idle\"><use href=\"#blank\"/>";
+  html += R"(<g class="idle"><use href="#blank"/>)";
   append("ctrl", held.Ctrl);
   append("alt", held.Alt);
   append("shift", held.Shift);
@@ -127,7 +128,7 @@ void AppendSectionHead(std::string& html, const Keyboard& keyboard, const KeyDra
   const std::string free = std::to_string(keyboard.Free);
   const std::string all = std::to_string(keyboard.Keys.size());
   const TextId count = names.empty() ? TextId::FreeAlone : TextId::FreeWithModifiers;
-  html += "<section class=\"keyboard\" data-modifiers=\"";
+  html += R"(<section class="keyboard" data-modifiers=")";
   AppendValue(html, names);
   html += "\">\n<h2><bdi>";
   AppendText(html, names.empty() ? drawing.Language.GetLangText(TextId::NoModifier) : names);
@@ -176,8 +177,8 @@ void AppendLegend(std::string& html, const Texts& texts) {
   html += "<ul id=\"legend\">\n";
   for (const Entry& entry : Entries) {
     html.append("<li data-use=\"").append(NameOfUse(entry.Use));
-    html += "\"><svg viewBox=\"0 0 60 60\" aria-hidden=\"true\"><use href=\"#swatch\"/>";
-    if (entry.Use == KeyUse::UserOverDefault) html += "<use href=\"#corner\" x=\"58\" y=\"2\"/>";
+    html += R"("><svg viewBox="0 0 60 60" aria-hidden="true"><use href="#swatch"/>)";
+    if (entry.Use == KeyUse::UserOverDefault) html += R"(<use href="#corner" x="58" y="2"/>)";
     html += "</svg> ";
     AppendText(html, texts.GetLangText(entry.Text));
     html += "</li>\n";
@@ -188,7 +189,7 @@ void AppendLegend(std::string& html, const Texts& texts) {
 void AppendKeyboard(std::string& html, const Keyboard& keyboard, const KeyDrawing& drawing) {
   const std::span<const KeyShape> shapes = ShapesOfVocabulary();
   AppendSectionHead(html, keyboard, drawing);
-  html += "<div class=\"board\" dir=\"ltr\"><svg viewBox=\"0 0";
+  html += R"(<div class="board" dir="ltr"><svg viewBox="0 0)";
   html.append(1, ' ').append(std::to_string(KeyboardWidth * Quarter));
   html.append(1, ' ').append(std::to_string(KeyboardHeight * Quarter)).append("\">\n");
   AppendModifiers(html, keyboard.Held);

@@ -31,15 +31,15 @@ constexpr std::array<int, 0x80> MakeWidths() {
   widths.fill(59);
   for (std::size_t letter = 'A'; letter <= 'Z'; ++letter) widths[letter] = 70;
   for (const char narrow : std::string_view(" .,:;'|!()[]/Iijlfrt")) {
-    widths[static_cast<std::size_t>(narrow)] = 36;
+    widths[static_cast<unsigned char>(narrow)] = 36;
   }
-  for (const char wide : std::string_view("MWmw@%&")) widths[static_cast<std::size_t>(wide)] = 92;
+  for (const char wide : std::string_view("MWmw@%&")) widths[static_cast<unsigned char>(wide)] = 92;
   return widths;
 }
 
 int WidthOf(wchar_t character) {
   static constexpr std::array<int, 0x80> Widths = MakeWidths();
-  if (IsAscii(character)) return Widths[static_cast<std::size_t>(character)];
+  if (IsAscii(character)) return Widths[static_cast<unsigned char>(character)];
   if (IsLowSurrogate(character)) return 0;
   return character < 0x1100 ? 59 : 100;
 }

@@ -38,7 +38,7 @@ void AppendHead(std::string& html, const Texts& texts) {
 
 void AppendHeader(std::string& html, const Texts& texts, const KeysPageHead& head) {
   AppendElement(html, "<header>\n<h1>", texts.GetLangText(TextId::KeysPageTitle), "</h1>\n");
-  AppendElement(html, "<p id=\"path\"><bdi dir=\"ltr\">", head.Path, "</bdi></p>\n");
+  AppendElement(html, R"(<p id="path"><bdi dir="ltr">)", head.Path, "</bdi></p>\n");
   if (head.Modified) {
     AppendElement(html, "<p id=\"unsaved\">", texts.GetLangText(TextId::KeysAreNotSaved), "</p>\n");
   }
@@ -48,7 +48,7 @@ void AppendHeader(std::string& html, const Texts& texts, const KeysPageHead& hea
 
 void AppendFinder(std::string& html, const Texts& texts) {
   AppendElement(html, "<p id=\"finder\" hidden><label>", texts.GetLangText(TextId::Find), " ");
-  html += "<input id=\"search\" type=\"search\" placeholder=\"";
+  html += R"(<input id="search" type="search" placeholder=")";
   AppendValue(html, texts.GetLangText(TextId::FindCue));
   html += "\"></label></p>\n";
 }
