@@ -38,6 +38,7 @@ constexpr std::string_view Script = R"js(
     document.body.classList.toggle("searching", words.length > 0);
   };
   search.addEventListener("input", narrow);
+  narrow();  // a browser may have kept what was typed
   document.getElementById("finder").hidden = false;
 
   const tip = document.getElementById("tip");

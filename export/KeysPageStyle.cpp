@@ -115,7 +115,8 @@ s { text-decoration-color: var(--accent); }
   max-height: 60vh; overflow: hidden; padding: .6rem .9rem; border: 1px solid var(--rule);
   border-radius: 9px; background: var(--panel); color: var(--ink); pointer-events: none;
   box-shadow: 0 6px 24px rgb(0 0 0 / .22); }
-#tip p { margin: 0; unicode-bidi: plaintext; }
+#tip p { display: -webkit-box; -webkit-box-orient: vertical; -webkit-line-clamp: 5;
+  margin: 0; overflow: hidden; unicode-bidi: plaintext; }
 #tip p.about { color: var(--soft); }
 #tip b { display: block; direction: ltr; unicode-bidi: isolate; }
 
@@ -129,6 +130,9 @@ s { text-decoration-color: var(--accent); }
   #by-key th:first-child, #by-command th:first-child { width: auto; }
   td:nth-child(n+2), #by-key td { color: var(--soft); }
   tr:target td { color: var(--default-ink); }
+}
+@media (forced-colors: active) {
+  .board, .chips, #legend svg { forced-color-adjust: none; background: var(--paper); }
 }
 @media print {
   @page { size: landscape; margin: 10mm; }

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "export/ClipboardTable.h"
+#include "export/KeysPage.h"
 #include "localisation/Texts.h"
 #include "settings/ini/IniDocument.h"
 #include "tests/support/LargeProgram.h"
@@ -90,6 +91,15 @@ TEST(Growth, GoingBackToFileOrderGrowsAsTheRows) {
     rows.RestoreFileOrder();
   };
   EXPECT_LT(GrowthOf(back), Linear);
+}
+
+TEST(Growth, ThePageOfKeysGrowsAsTheRows) {
+  const auto build = [](LargeProgram& program) {
+    const tessera::Document& document = program.Editor.Document();
+    static_cast<void>(BuildKeysPage(document.Commands(), document.Notation(),
+                                    program.Editor.Language(), {IniFile, false}));
+  };
+  EXPECT_LT(GrowthOf(build), Linear);
 }
 
 TEST(Growth, AssigningAKeyCostsTheSameAmongManyCommands) {
