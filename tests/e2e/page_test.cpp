@@ -62,7 +62,7 @@ TEST_F(PageTest, MenuWritesUnsavedKeysToTheTemporaryFolderAndOpensThem) {
   const std::string page = ReadBytes(PageInTemporaryFolder());
   EXPECT_TRUE(page.starts_with("<!DOCTYPE html>"));
   EXPECT_NE(page.find("cm_SrcComments"), std::string::npos);
-  EXPECT_NE(page.find("Ctrl + Alt + K"), std::string::npos);
+  EXPECT_NE(page.find("\"Ctrl + Alt + K\" data-use=\"user\""), std::string::npos);
   EXPECT_TRUE(Modified());
 }
 
@@ -188,7 +188,8 @@ TEST_F(PageRunTest, GivenFileIsReadAndTheFormerPageReplaced) {
   const std::wstring page = L"\"/PAGE=" + Page() + L'"';
   for (const std::wstring& arguments : {file + L" " + page, page + L" " + file}) {
     EXPECT_EQ(Run(arguments).Code, 0U);
-    EXPECT_NE(ReadBytes(Page()).find("Ctrl + Alt + Shift + K"), std::string::npos);
+    EXPECT_NE(ReadBytes(Page()).find("\"Ctrl + Alt + Shift + K\" data-use=\"user\""),
+              std::string::npos);
     Delete(Page());
   }
 }

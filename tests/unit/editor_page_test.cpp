@@ -26,8 +26,10 @@ TEST_F(EditorTest, TheNextPageTakesThePlaceOfTheFormerAndShowsUnsavedKeys) {
   const auto before = Files.Contents;
   Assign(Pack, 3, L"K");
   Editor.ShowKeysPage();
-  EXPECT_EQ(before.at(PageFile).find("Ctrl + Alt + K"), std::string::npos);
-  EXPECT_NE(Files.Contents.at(PageFile).find("Ctrl + Alt + K"), std::string::npos);
+  for (const char* const text : {"id=\"unsaved\"", "\"Ctrl + Alt + K\" data-use=\"user\""}) {
+    EXPECT_EQ(before.at(PageFile).find(text), std::string::npos) << text;
+    EXPECT_NE(Files.Contents.at(PageFile).find(text), std::string::npos) << text;
+  }
   EXPECT_EQ(Files.Contents.size(), before.size());
   EXPECT_EQ(Ini(), IniContent);
 }

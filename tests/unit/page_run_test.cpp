@@ -67,7 +67,8 @@ TEST_F(PageRunTest, PageIsThatOfAStartWithAWindow) {
 TEST_F(PageRunTest, GivenFileIsReadInPlaceOfTheOneFound) {
   Files.Contents[OtherIniFile] = "[Shortcuts]\r\nCA+K=cm_Pack\r\n";
   EXPECT_EQ(Write(OtherIniFile), L"");
-  EXPECT_NE(Files.Contents.at(PageFile).find("Ctrl + Alt + K"), std::string::npos);
+  EXPECT_NE(Files.Contents.at(PageFile).find("\"Ctrl + Alt + K\" data-use=\"user\""),
+            std::string::npos);
   EXPECT_EQ(Files.Contents.at(PageFile), PageOfEditor(OtherIniFile));
 }
 
