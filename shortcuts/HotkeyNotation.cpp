@@ -13,7 +13,7 @@ namespace {
 constexpr std::wstring_view Joint = L" + ";
 constexpr std::wstring_view Num = L"Num";
 
-/// Of a displayed key, at most.
+/// Nearly all displayed keys have no more characters, and need no second piece of memory.
 constexpr std::size_t UsualLength = 40;
 
 constexpr std::wstring_view Vocabulary[] = {
