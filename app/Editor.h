@@ -131,7 +131,7 @@ class Editor : Pinned {
   [[nodiscard]] std::string KeysPage() const;
 
   /// Writes it to the folder for temporary files, always under the same name, and opens it there,
-  /// or tells that this failed.
+  /// or the line tells that this failed.
   void ShowKeysPage();
 
   // -- The dialogs: what one shows and edits, with the texts of the language in use, and what

@@ -20,15 +20,15 @@ std::string Editor::KeysPage() const {
 void Editor::ShowKeysPage() {
   if (document_.Busy()) return;
   const std::wstring path = AddBackslash(system_.Environment.TemporaryDirectory()).append(PageName);
-  const auto tell = [&](TextId failure) {
-    system_.MessageBoxes.Show(texts_.GetLangText(failure) + L" " + path, BoxButtons::Ok,
-                              BoxIcon::Exclamation);
+  const auto fail = [&](NewsKind kind) {
+    system_.MessageBoxes.Beep();
+    Tell({.Kind = kind, .File = path});
   };
   if (ReplaceContent(system_.Files, system_.Clock, path, KeysPage(), KeepCopies::No) !=
       FileError::None) {
-    tell(TextId::CannotWriteThisFile);
+    fail(NewsKind::PageNotWritten);
   } else if (!system_.Programs.OpenDocument(path)) {
-    tell(TextId::CannotOpenThisFile);
+    fail(NewsKind::PageNotOpened);
   }
 }
 

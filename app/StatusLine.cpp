@@ -214,6 +214,10 @@ std::wstring Teller::Tell(const News& news) const {
       return Restored(TextId::IsUndone, news);
     case NewsKind::Redone:
       return Restored(TextId::IsRedone, news);
+    case NewsKind::PageNotWritten:
+      return Say(TextId::CannotWriteThisFile, {}) + L" " + news.File;
+    case NewsKind::PageNotOpened:
+      return Say(TextId::CannotOpenThisFile, {}) + L" " + news.File;
     case NewsKind::NotSaved:
     case NewsKind::None:
       break;

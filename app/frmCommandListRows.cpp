@@ -63,8 +63,7 @@ void frmCommandList::DrawRow(const NMCUSTOMDRAW& draw) const {
   const HDC context = draw.hdc;
   const CommandEntry& row = editor_.List().Shown().At(draw.dwItemSpec);
   const auto item = static_cast<int>(draw.dwItemSpec);
-  const CellColors rowColors =
-      ColorsOfRow(drawnColors_, item == drawnSelection_, drawnFocus_);
+  const CellColors rowColors = ColorsOfRow(drawnColors_, item == drawnSelection_, drawnFocus_);
   const RowPlaces places = drawnPlaces_.MovedTo(draw.rc.top);
   RECT whole = draw.rc;
   whole.left += RowMargin;

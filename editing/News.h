@@ -20,7 +20,9 @@ enum class NewsKind {
   DeletedAll,
   Undone,
   Redone,
-  NotSaved
+  NotSaved,
+  PageNotWritten,
+  PageNotOpened
 };
 
 struct News {
@@ -29,7 +31,7 @@ struct News {
   std::wstring Keys{};  ///< that the row got or lost, in display notation
   RowKey From = 0;      ///< the other row that the key was taken from; 0 for none
   std::vector<std::wstring> FromStartMenu{};  ///< captions of entries that it was taken from
-  std::wstring File{};                        ///< that was opened or saved
+  std::wstring File{};                        ///< that was opened or saved, or of the page
   EditKind Step{};                  ///< of that row and key, which was taken back or made again
   bool StartMenuKeyIsGone = false;  ///< it had one that a save has taken out of the file
   std::size_t Rows{};  ///< how many rows have current keys after an open, or lost theirs

@@ -1,5 +1,6 @@
 // The page of keys, from the menu of the list.
 #include "app/Commands.h"
+#include "app/StatusLine.h"
 #include "resources/resource.h"
 #include "tests/unit/editor_fixture.h"
 
@@ -38,9 +39,9 @@ TEST_F(EditorTest, APageThatCannotBeWrittenIsToldAndNotOpened) {
   Start();
   Files.WriteErrors = {FileError::DiskFull};
   Editor.ShowKeysPage();
-  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot write this file " + PageFile);
-  EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(StatusText(Editor), L"Cannot write this file " + PageFile);
+  EXPECT_EQ(MessageBoxes.BeepCount, 1);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
   EXPECT_TRUE(Calls.empty());
   EXPECT_FALSE(Files.Contents.contains(PageFile));
 }
@@ -49,8 +50,9 @@ TEST_F(EditorTest, APageThatCannotBeOpenedIsTold) {
   Start();
   Programs.OpenSucceeds = false;
   Editor.ShowKeysPage();
-  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot open this file " + PageFile);
+  EXPECT_EQ(StatusText(Editor), L"Cannot open this file " + PageFile);
+  EXPECT_EQ(MessageBoxes.BeepCount, 1);
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
   EXPECT_TRUE(Files.Contents.contains(PageFile));
 }
 
