@@ -49,7 +49,6 @@ void frmCommandList::Create(HWND window, int dpi) {
                              WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
                                  LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
                              0, IDC_ListView1);
-  UseExplorerTheme(ListView1_);
   SetWindowSubclass(ListView1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
@@ -90,7 +89,11 @@ ColumnLayout frmCommandList::Columns() const {
   return ColumnsToStore(stored, ColumnOrder(), pixels, dpi_);
 }
 
-void frmCommandList::Show() { ShowWindow(ListView1_, SW_SHOWNA); }
+void frmCommandList::Show() {
+  if (IsWindowVisible(ListView1_) != FALSE) return;
+  GetCursorPos(&pointerBefore_);
+  ShowWindow(ListView1_, SW_SHOWNA);
+}
 
 LRESULT frmCommandList::OnNotify(NMHDR& header) {
   switch (header.code) {

@@ -75,6 +75,7 @@ class frmCommandList : Pinned {
   void DrawRow(const NMCUSTOMDRAW& draw) const;
   void DrawIcon(HDC context, int position, const RowPlaces& places) const;
   void SyncTip(const MSG& message);
+  [[nodiscard]] bool HasPointerMoved(POINT place);
   void SetTip(int position, int subItem);
   void HideTip();
   [[nodiscard]] std::array<int, 4> ColumnOrder() const;
@@ -101,6 +102,8 @@ class frmCommandList : Pinned {
   RowPlaces drawnPlaces_;
   frmCellTip tip_;
   POINT tipCell_{-1, -1};  ///< its column and row; -1 for none
+  POINT pointerBefore_{};  ///< where it was on the screen when the list came up
+  bool hasPointerMoved_ = false;
   Unique<HFONT> font_;
   Unique<HIMAGELIST> ilsListView_;
   Unique<HIMAGELIST> ilsColumnHeader_;

@@ -3,7 +3,6 @@
 
 #include <oleacc.h>
 #include <shellscalingapi.h>
-#include <uxtheme.h>
 
 #include <array>
 
@@ -100,11 +99,6 @@ void ClearAccessibleName(HWND control) {
   if (services == nullptr) return;
   static_cast<IAccPropServices&>(*services).ClearHwndProps(
       control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &AccessibleName, 1);
-}
-
-void UseExplorerTheme(HWND control) {
-  auto* const use = SystemFunction<decltype(SetWindowTheme)>(L"uxtheme.dll", "SetWindowTheme");
-  if (use != nullptr) use(control, L"Explorer", nullptr);
 }
 
 void SetEnabled(HWND control, bool enabled) {

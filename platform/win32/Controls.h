@@ -57,9 +57,6 @@ void ClearAccessibleName(HWND control);
 /// Does nothing when it is so already: no flicker, no lost focus.
 void SetEnabled(HWND control, bool enabled);
 
-/// Gives a control the looks that Explorer's have.
-void UseExplorerTheme(HWND control);
-
 /// Adds or takes away bits of a control's style, and lets its frame follow. Does nothing when it is
 /// so already.
 void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
