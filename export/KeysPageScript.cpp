@@ -9,8 +9,8 @@ constexpr std::string_view Script = R"js(
 (() => {
   const all = (selector, root = document) => [...root.querySelectorAll(selector)];
   const fold = (text) => text.toUpperCase().replace(/ *\+ */g, "+");
-  const commandsOf = (element) => all("a", element).map((link) =>
-    document.getElementById(link.hash.slice(1)));
+  const commandOf = (link) => document.getElementById(link.hash.slice(1));
+  const commandsOf = (element) => all("a", element).map(commandOf);
   const keys = all(".key");
 
   const texts = new Map();
@@ -83,6 +83,9 @@ constexpr std::string_view Script = R"js(
   document.addEventListener("click", (event) => {
     const key = event.target.closest(".key");
     if (key) show(key); else hide();
+    // A search may have hidden the command that a name leads to.
+    const link = event.target.closest("#by-key a");
+    if (link) commandOf(link).hidden = commandOf(link).closest("tbody").hidden = false;
   });
   document.addEventListener("keydown", (event) => { if (event.key === "Escape") hide(); });
   document.addEventListener("scroll", () => {

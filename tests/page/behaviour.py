@@ -29,6 +29,15 @@ const tip = [...document.querySelectorAll('body *')].filter(
   element => getComputedStyle(element).position === 'fixed' && element.checkVisibility());
 return tip.map(element => element.innerText).join(' ');
 """
+# Follows the name in a row of the table by key, and gives what can then be seen of the command's row.
+FOLLOW = """
+const [key, name] = arguments;
+const row = [...document.querySelectorAll('#by-key tr')].find(row => row.dataset.key === key);
+const link = [...row.querySelectorAll('a')].find(link => link.textContent === name);
+link.click();
+const target = document.querySelector(':target');
+return target !== null && target.checkVisibility() ? target.textContent : '';
+"""
 
 
 def commands_with(model, words):
@@ -78,6 +87,16 @@ def check_tip(browser, model):
                     for text in (name, description, *model.default[key]) if text not in seen)
 
 
+def check_links(browser, model):
+    """A name in the table by key leads to its command, also to one that the search has hidden."""
+    for key, (own, *_) in model.user.items():
+        for default in model.default.get(key, ()):
+            shown = next(row for row in browser.ask(SEARCH, own)["keys"] if shown_key(row) == key)
+            for name in (own, default):
+                if name not in browser.ask(FOLLOW, shown, name):
+                    yield f"{shown}, in a search for {own}: {name} leads nowhere"
+
+
 def check_requests(browser, _model):
     """The page asks for nothing but itself, and its policy refuses to."""
     asked = [address for address in browser.requests() if not address.startswith("data:")]
@@ -89,4 +108,4 @@ def check_requests(browser, _model):
         yield f"the policy refuses {refused} alone"
 
 
-CHECKS = (check_requests, check_search, check_tip)
+CHECKS = (check_requests, check_search, check_links, check_tip)

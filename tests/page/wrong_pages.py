@@ -41,6 +41,7 @@ WRONG = (
     (colours.check_colours, with_style("#legend, .keyboard { filter: contrast(0.1); }")),
     (behaviour.check_requests, with_policy_gone),
     (behaviour.check_search, replaced("<script>", "<script>throw 0;")),
+    (behaviour.check_links, replaced("if (link)", "if (false)")),
     (behaviour.check_tip, replaced("<script>", "<script>throw 0;")),
     (printed.check_paper, with_style("@media print { section { break-inside: auto !important; "
                                      "margin-top: 63mm !important; } }")),
