@@ -105,7 +105,8 @@ tbody th { font-weight: 600; }
 #by-key [data-use=over] th::before { background: linear-gradient(225deg, var(--corner) 45%,
   var(--fill) 0); }
 #by-key [data-use=startmenu] th::before { border-style: dashed; }
-#by-command th:first-child { width: 40%; }
+#by-command th:first-child { width: 38%; }
+#by-command th:nth-child(2) { width: 24%; }
 .block th { padding-top: 1.4rem; color: var(--soft); letter-spacing: .04em; }
 a { color: var(--link); text-decoration: none; unicode-bidi: isolate; }
 a:hover, a:focus-visible { text-decoration: underline; }
@@ -123,12 +124,15 @@ s { text-decoration-color: var(--accent); }
 @media screen and (max-width: 640px) {
   .keyboard { grid-template-columns: 1fr; }
   .count { text-align: start; }
-  table, tbody, tr, th, td { display: block; }
-  thead { display: none; }
+  table, thead, tbody, tr, th, td { display: block; }
+  #by-key thead { display: none; }
   tr { padding: .4rem 0; border-bottom: 1px solid var(--rule); }
   tr th, tr td, [dir=rtl] tr th, [dir=rtl] tr td { padding: 0; border: 0; }
-  #by-key th:first-child, #by-command th:first-child { width: auto; }
+  #by-key th:first-child, #by-command th:nth-child(-n+2) { width: auto; }
   td:nth-child(n+2), #by-key td { color: var(--soft); }
+  /* Below each other, default and own keys look alike, and only the headings tell which is which. */
+  thead th:first-child, tr > :nth-child(4) { color: var(--ink); }
+  tr > :nth-child(4) { font-weight: 600; }
   tr:target td { color: var(--default-ink); }
 }
 @media (forced-colors: active) {

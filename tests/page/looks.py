@@ -1,11 +1,7 @@
-"""How the page looks: nothing is cut or mirrored, and uses of keys can be told apart by anybody.
+"""How the page looks: nothing is too wide, cut or mirrored, and headings tell what cells hold.
 
 Each check takes the browser, in which the page is shown, and yields what is wrong.
 """
-
-from itertools import combinations
-
-USES = ("free", "default", "user", "over", "startmenu")
 
 WIDE = "return [document.documentElement.scrollWidth, document.body.scrollWidth, innerWidth];"
 # Texts that stick out of a box that cuts them, unless it can be scrolled.
@@ -38,6 +34,14 @@ return [...document.querySelectorAll('section.keyboard')].map(section => {
   return [section.dataset.modifiers, left('Q'), left('P'), left('F1'), left('F12'), left('DEL')];
 });
 """
+# Of the headings of all commands, and of the cells of one: where they begin, and how bold they are.
+COLUMNS = """
+const looks = cells => [...cells].filter(cell => cell.checkVisibility()).map(cell =>
+  [Math.round(cell.getBoundingClientRect().left), getComputedStyle(cell).fontWeight]);
+const row = [...document.querySelectorAll('#by-command tr[id]')].find(
+  row => [...row.cells].every(cell => cell.textContent));
+return [looks(document.querySelectorAll('#by-command thead th')), looks(row.cells)];
+"""
 
 
 def check_width(browser):
@@ -59,4 +63,13 @@ def check_mirror(browser):
             yield f"{modifiers}: Q at {q}, P at {p}, F1 at {first}, F12 at {last}, DEL at {delete}"
 
 
-CHECKS = (check_width, check_cut, check_mirror)
+def check_columns(browser):
+    """The headings tell the default keys of a command from its current ones."""
+    headings, cells = browser.ask(COLUMNS)
+    if headings != cells:
+        yield f"the headings look as {headings}, and the cells as {cells}"
+    if cells[2] == cells[3]:
+        yield f"default and current keys both look as {cells[2]}"
+
+
+CHECKS = (check_width, check_cut, check_mirror, check_columns)

@@ -36,6 +36,7 @@ WRONG = (
     (looks.check_width, replaced("</body>", '<div style="width: 3000px">.</div></body>')),
     (looks.check_cut, with_style(".count { width: 2em; overflow: hidden; white-space: nowrap; }")),
     (looks.check_cut, with_style("g.key text { font-size: 40px; }")),
+    (looks.check_columns, with_style("#by-command thead { display: none; }")),
     (looks.check_mirror, with_style(".board svg { transform: scaleX(-1); }")),
     (colours.check_colours, with_style("[data-use=user] { filter: invert(1); }")),
     (colours.check_colours, with_style("#legend, .keyboard { filter: contrast(0.1); }")),
