@@ -35,6 +35,14 @@ TEST_F(EditorTest, TheNextPageTakesThePlaceOfTheFormerAndShowsUnsavedKeys) {
   EXPECT_EQ(Ini(), IniContent);
 }
 
+TEST_F(EditorTest, ThePageHoldsAllCommandsWhateverTheBoxHasFound) {
+  Start();
+  const std::string page = Editor.KeysPage();
+  Editor.Work(&CommandList::Search, L"no such command");
+  EXPECT_EQ(Editor.List().Shown().Count(), 0U);
+  EXPECT_EQ(Editor.KeysPage(), page);
+}
+
 TEST_F(EditorTest, APageThatCannotBeWrittenIsToldAndNotOpened) {
   Start();
   Files.WriteErrors = {FileError::DiskFull};
