@@ -14,7 +14,7 @@ SMALLEST_DIFFERENCE = 6  # of greys, of 255; the mean of all places, so that a p
 SMALLEST_CONTRAST = 4.5
 
 SWATCHES = "return [...document.querySelectorAll('#legend svg')].map(svg => place(svg));"
-# One key of each use, with the colours of its texts, and where they stand.
+# Every key, its use, and where its shape stands.
 KEYS = """
 return [...document.querySelectorAll('section.keyboard g.key')].map(
   key => [key.dataset.key, key.dataset.use, place(key.querySelector('use, rect'))]);
