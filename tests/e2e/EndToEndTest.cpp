@@ -35,16 +35,18 @@ void EndToEndTest::StartAndLoad() {
   WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });
   BringToFront(window_->Handle());
   // A window that is still to be put on the screen may then lie over an open menu.
-  constexpr int LooksInARow = 30;
+  constexpr int LooksInARow = 7;
+  constexpr DWORD BetweenLooks = 50;  // milliseconds; a picture costs more than a look elsewhere
   Picture last;
   int alike = 0;
-  WaitFor("the window to be painted and to come to rest", [&] {
+  const auto isAtRest = [&] {
     Picture now = TakePicture(PartOnScreen(RectangleOf(window_->Handle())));
     alike = now.Pixels == last.Pixels ? alike + 1 : 0;
     last = std::move(now);
     return alike >= LooksInARow &&
            CountPixels(RectangleOf(window_->Control(IDC_Frame1)), GetSysColor(COLOR_BTNFACE)) > 0;
-  });
+  };
+  WaitFor("the window to be painted and to come to rest", isAtRest, UsualLimit, BetweenLooks);
 }
 
 void EndToEndTest::Close() {
