@@ -56,13 +56,13 @@ std::vector<WORD> EmptyTemplate(const wchar_t* className) {
 }
 
 /// Shows messages to a function before a modal dialog of this thread takes them.
-class MessageFilter {
+class MessageHook {
  public:
-  explicit MessageFilter(HOOKPROC function)
+  explicit MessageHook(HOOKPROC function)
       : hook_(SetWindowsHookExW(WH_MSGFILTER, function, nullptr, GetCurrentThreadId())) {}
-  ~MessageFilter() { UnhookWindowsHookEx(hook_); }
-  MessageFilter(const MessageFilter&) = delete;
-  MessageFilter& operator=(const MessageFilter&) = delete;
+  ~MessageHook() { UnhookWindowsHookEx(hook_); }
+  MessageHook(const MessageHook&) = delete;
+  MessageHook& operator=(const MessageHook&) = delete;
 
  private:
   HHOOK hook_;
@@ -79,7 +79,7 @@ void frmDialog::ShowModal(HWND owner) {
   // The window procedure of dialogs, under a class name of our own.
   RegisterWindowClass(plan_.ClassName, DefDlgProcW, 0, DLGWINDOWEXTRA);
   const std::vector<WORD> empty = EmptyTemplate(plan_.ClassName);
-  const MessageFilter filter(FilterMessage);
+  const MessageHook filter(FilterMessage);
   DialogBoxIndirectParamW(GetModuleHandleW(nullptr),
                           reinterpret_cast<const DLGTEMPLATE*>(empty.data()), owner,
                           DialogProcedure, reinterpret_cast<LPARAM>(this));

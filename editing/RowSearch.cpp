@@ -9,7 +9,7 @@ namespace tessera {
 namespace {
 
 /// Between two texts of a row: no word holds it.
-constexpr wchar_t Separator = L'\0';
+constexpr wchar_t BetweenTexts = L'\0';
 
 /// Appends the text without the blanks around each "+".
 void AppendJoined(std::wstring& joined, std::wstring_view text) {
@@ -63,7 +63,7 @@ void RowSearch::Read(const DisplayTable& rows) {
            {row.Description, row.CommandName, row.Tag, std::wstring_view(row.DefaultKeys),
             std::wstring_view(row.CurrentKeys)}) {
         AppendJoined(texts, text);
-        texts += Separator;
+        texts += BetweenTexts;
       }
     }
     ends_.push_back(texts.size());

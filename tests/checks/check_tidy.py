@@ -93,6 +93,12 @@ def report(title, problems):
     return not problems
 
 
+def declared_names(file):
+    """What a source declares at the beginnings of its lines, but for members of classes."""
+    lines = re.findall(r"^(?!namespace)\w[^\n=;({\[]*", file.read_text(encoding="utf-8"), re.M)
+    return {name for line in lines for name in re.findall(r"(?<!:)\b\w+(?=\s*$)", line)}
+
+
 def read(batch, build):
     """What is found in each file of a batch."""
     problems = batch_findings(batch, build.sources[batch[0]], *build.options, inside=build.inside)
@@ -114,10 +120,18 @@ class Build:
         self.inside = "|".join(sorted({f"{Path.cwd()}/{file.parts[0]}" for file in self.sources}))
 
     def batches(self, size):
-        # Neighbours are likeliest to have names in common, so a batch takes every so many-th.
-        files = list(self.sources)
-        count = -(-len(files) // size)
-        return [files[start::count] for start in range(count)]
+        """The files in parts of about that size; those of one part declare nothing of the same name."""
+        parts = [([], set()) for _ in range(-(-len(self.sources) // size))]
+        for file in self.sources:
+            names = declared_names(file)
+            fitting = [part for part in parts if not part[1] & names]
+            if not fitting:
+                fitting = [([], set())]
+                parts += fitting
+            files, taken = min(fitting, key=lambda part: len(part[0]))
+            files.append(file)
+            taken |= names
+        return [files for files, _ in parts]
 
 
 def main(folders, each=False):
