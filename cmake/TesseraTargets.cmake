@@ -39,8 +39,8 @@ if(TESSERA_COUNT)
   target_compile_options(tessera_options INTERFACE -fsanitize-coverage=trace-pc)
 endif()
 
-# Half of what a small file takes to compile is reading the standard library. Builds without this one
-# see what a file forgot to include.
+# Half of what a small file takes to compile is reading the headers of others. What a file forgot to
+# include is then seen by tests/checks/check_headers.py.
 option(TESSERA_PRECOMPILE "Precompile headers of the standard library" OFF)
 function(tessera_precompile target)
   if(TESSERA_PRECOMPILE)
@@ -49,7 +49,7 @@ function(tessera_precompile target)
     # The time of day would keep compiler caches from finding the result again.
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>)
     # GCC 12 forgets which precompiled headers are the system's, and finds fault with mingw's.
-    target_compile_options(${target} PRIVATE "$<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds;-Wno-stringop-overread>")
+    target_compile_options(${target} PRIVATE "$<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-array-bounds;-Wno-stringop-overread>")
   endif()
 endfunction()
 
