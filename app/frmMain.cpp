@@ -61,7 +61,7 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   views_.ApplyDisplaySettings();
   views_.SetUpColumns();
   ApplyPlacement();
-  Sync();
+  views_.Sync();
   return true;
 }
 
@@ -102,9 +102,6 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_INITMENUPOPUP:
       OnInitMenu();
-      return 0;
-    case WM_TIMER:
-      OnTimer();
       return 0;
     case WM_ACTIVATE:
       OnActivate(wParam);
@@ -206,8 +203,6 @@ void frmMain::OnActivate(WPARAM wParam) {
 }
 
 void frmMain::OnTimer() {
-  KillTimer(window_, Timer1);
-  timerRuns_ = false;
   // The released Alt key has put the menu bar into its keyboard mode, where it would take the keys.
   if (MenuIsOpen()) EndMenu();
   React(editor_.Work(&HotkeyPanel::TimerTick));
@@ -224,7 +219,7 @@ void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
 void frmMain::Form_Activate() {
   if (editor_.Document().Busy()) return;
   editor_.Activate();
-  Sync();
+  views_.Sync();
   // The system may have put a restored window before it.
   views_.BringKeysListToFront();
 }
@@ -235,8 +230,8 @@ void frmMain::Form_QueryUnload() {
 
 bool frmMain::MayClose() {
   // While a message box is open the window is disabled: the box is to be answered first.
-  const bool closes = AcceptsInput() && editor_.QueryUnload();
-  Sync();
+  const bool closes = views_.AcceptInput() && editor_.QueryUnload();
+  views_.Sync();
   return closes;
 }
 
@@ -247,7 +242,7 @@ bool frmMain::MaySessionEnd() {
   const LogOffReason reason(window_, editor_.Document().Caption());
   // The system soon covers the question, and lets its user end the program over it.
   editor_.KeepUnsaved();
-  return AcceptsInput() && MayClose();
+  return views_.AcceptInput() && MayClose();
 }
 
 // What works then is not known: each step goes as far as it can.
@@ -273,29 +268,17 @@ void frmMain::OnFailure() {
 
 void frmMain::Form_Unload() {
   editor_.Unload(CurrentPlacement(), views_.List().Columns());
-  KillTimer(window_, Timer1);
   windowsSystem_.SetMainWindow(nullptr, nullptr);
   PostQuitMessage(0);
 }
 
 void frmMain::OnDropFile(const std::wstring& path) {
-  if (AcceptsInput() && !path.empty()) {
+  if (views_.AcceptInput() && !path.empty()) {
     SetForegroundWindow(window_);
     editor_.OpenShortcutFile(false, path, true);
-    Sync();
+    views_.Sync();
     views_.ShowSelectedRow();
   }
-}
-
-bool frmMain::AcceptsInput() const {
-  return IsWindowEnabled(window_) != FALSE && !editor_.Document().Busy();
-}
-
-void frmMain::Sync() {
-  if (GetDlgItem(window_, IDC_ListView1) == nullptr) return;
-  SetText(window_, editor_.Document().Caption());
-  views_.Sync();
-  TellStatus();
 }
 
 }  // namespace tessera

@@ -48,7 +48,6 @@ class frmMain : Pinned {
   void OnFailure();
   void Form_Unload();
   void OnDropFile(const std::wstring& path);
-  [[nodiscard]] bool AcceptsInput() const;
 
   // -- The window itself (frmMainPlace.cpp)
   bool Create();
@@ -83,15 +82,6 @@ class frmMain : Pinned {
   void HideKeysList();
   void React(const Reaction& reaction);
 
-  /// Shows the state of the editor in every control.
-  void Sync();
-
-  /// As Sync, where the rows of the list did not change.
-  void SyncKeys();
-  void TellStatus();
-
-  static constexpr UINT_PTR Timer1 = 1;
-
   WindowsSystem& windowsSystem_;
   Editor editor_;
   // They end in the reverse order: the keys list of the views, options, export.
@@ -102,9 +92,8 @@ class frmMain : Pinned {
   int dpi_ = 96;
   HWND lastFocus_ = nullptr;  ///< the control that had the focus when the window was left
   FindBoxKeys findKeys_;
-  bool timerRuns_ = false;  ///< Timer1
-  bool failed_ = false;     ///< an exception has reached a window procedure
-  Area placed_;             ///< where the stored placement has put the window
+  bool failed_ = false;  ///< an exception has reached a window procedure
+  Area placed_;          ///< where the stored placement has put the window
   Unique<HICON> icon_;
   Unique<HICON> smallIcon_;
 };

@@ -8,7 +8,7 @@ frmFindBox::Events frmMain::FindEvents() {
           .SetCanSearch =
               [this](bool canSearch) {
                 editor_.Work(&CommandList::SetCanSearch, canSearch);
-                Sync();
+                views_.Sync();
               },
           .GiveFocusAway = [this] { SetFocus(views_.List().Control()); }};
 }
@@ -16,16 +16,16 @@ frmFindBox::Events frmMain::FindEvents() {
 frmCommandList::Events frmMain::ListEvents() {
   return {.SelectRow =
               [this](std::size_t position) {
-                if (AcceptsInput()) {
+                if (views_.AcceptInput()) {
                   editor_.Work(&CommandList::SelectRow, position);
-                  SyncKeys();
+                  views_.SyncKeys();
                 }
               },
           .ClickColumn =
               [this](int column) {
-                if (AcceptsInput()) {
+                if (views_.AcceptInput()) {
                   editor_.Work(&CommandList::SortByColumn, column);
-                  Sync();
+                  views_.Sync();
                 }
               }};
 }
@@ -33,20 +33,21 @@ frmCommandList::Events frmMain::ListEvents() {
 frmPanel::Events frmMain::PanelEvents() {
   return {.SetBox =
               [this](Modifier box, bool checked) {
-                if (AcceptsInput()) editor_.Work(&HotkeyPanel::SetBox, box, checked);
-                SyncKeys();
+                if (views_.AcceptInput()) editor_.Work(&HotkeyPanel::SetBox, box, checked);
+                views_.SyncKeys();
               },
           .ChooseKey =
               [this](int index) {
-                if (AcceptsInput()) editor_.Work(&HotkeyPanel::ChooseKey, index);
-                SyncKeys();
+                if (views_.AcceptInput()) editor_.Work(&HotkeyPanel::ChooseKey, index);
+                views_.SyncKeys();
               },
           .ChooserDropsDown =
               [this] {
                 editor_.Work(&KeysList::ChooserDropsDown);
-                SyncKeys();
+                views_.SyncKeys();
               },
           .ToggleKeysList = [this] { ToggleKeysList(); },
+          .TimerTick = [this] { OnTimer(); },
           .GiveFocusAway = [this] { SetFocus(views_.List().Control()); }};
 }
 
@@ -66,17 +67,17 @@ void frmMain::OnControl(WORD id, WORD notification, HWND control) {
 }
 
 void frmMain::Search(const std::wstring& text) {
-  if (AcceptsInput()) editor_.Work(&CommandList::Search, text);
-  Sync();
+  if (views_.AcceptInput()) editor_.Work(&CommandList::Search, text);
+  views_.Sync();
   views_.ShowSelectedRow();
 }
 
 void frmMain::OnCommand(int id, HWND control) {
-  if (!IsCommand(id) || !AcceptsInput()) return;
+  if (!IsCommand(id) || !views_.AcceptInput()) return;
   if (views_.IsMainToolbar(control)) windowsSystem_.Seams().Clock.DoEvents();
   // The events before it may have started something else.
-  const WindowTask task = AcceptsInput() ? RunCommand(editor_, id) : WindowTask::None;
-  Sync();
+  const WindowTask task = views_.AcceptInput() ? RunCommand(editor_, id) : WindowTask::None;
+  views_.Sync();
   Do(task);
 }
 
@@ -110,7 +111,7 @@ void frmMain::mnuFileExportToClipboard_Click() {
   ClipboardExport& model = editor_.BeginExport();
   frmExportToClipboard_.Show(window_, model, [&model] { model.Ok(); });
   editor_.EndExport();
-  Sync();
+  views_.Sync();
 }
 
 void frmMain::mnuViewOptions_Click() {
@@ -129,7 +130,7 @@ void frmMain::mnuViewOptions_Click() {
                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
   }
   React(outcome.Panel);
-  Sync();
+  views_.Sync();
 }
 
 void frmMain::OnInitMenu() {
@@ -139,7 +140,7 @@ void frmMain::OnInitMenu() {
 
 void frmMain::OnDropDown(const NMTOOLBARW& notification) {
   const ToolbarButton* const button = ButtonOf(notification.iItem);
-  if (button == nullptr || !AcceptsInput()) return;
+  if (button == nullptr || !views_.AcceptInput()) return;
   editor_.RefreshRestartItems();
   const Unique<HMENU> menu = MenuUnder(*button, editor_);
   ShowMenuUnderButton(notification, menu.get(), window_, editor_.Language().RightToLeft());
@@ -148,7 +149,7 @@ void frmMain::OnDropDown(const NMTOOLBARW& notification) {
 // By keyboard it is the list's wherever the focus is: Shift, of Shift+F10, goes to the chooser.
 bool frmMain::OnContextMenu(HWND control, LPARAM place) {
   const bool byKeyboard = place == -1;
-  if (!AcceptsInput() || (!byKeyboard && control != views_.List().Control())) return false;
+  if (!views_.AcceptInput() || (!byKeyboard && control != views_.List().Control())) return false;
   POINT corner{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
   // Some systems send it for a key that the window has taken; with Shift it is that of Shift+F10.
   const bool isAlt = editor_.Panel().ContextMenuKeyIsAlt() && GetKeyState(VK_SHIFT) >= 0;
@@ -168,29 +169,22 @@ bool frmMain::OnContextMenu(HWND control, LPARAM place) {
 }
 
 void frmMain::ToggleKeysList() {
-  if (AcceptsInput()) React(editor_.Work(&KeysList::ToggleKeysList));
+  if (views_.AcceptInput()) React(editor_.Work(&KeysList::ToggleKeysList));
 }
 
 void frmMain::HideKeysList() {
   editor_.HideKeysList();
-  SyncKeys();
-}
-
-void frmMain::SyncKeys() {
   views_.SyncKeys();
-  TellStatus();
 }
 
 void frmMain::React(const Reaction& reaction) {
-  if (reaction.StartTimer) {
-    timerRuns_ = SetTimer(window_, Timer1, PanelTimerMilliseconds, nullptr) != 0;
-  }
+  if (reaction.StartTimer) views_.StartPanelTimer();
   if (reaction.Changed || reaction.Restored) {
-    Sync();
+    views_.Sync();
   } else {
-    SyncKeys();
+    views_.SyncKeys();
   }
-  if (!AcceptsInput() || reaction.FocusTo == Reaction::Focus::Unchanged) return;
+  if (!views_.AcceptInput() || reaction.FocusTo == Reaction::Focus::Unchanged) return;
   if (reaction.FocusTo == Reaction::Focus::Chooser) {
     views_.Panel().FocusOnChooser();
   } else {

@@ -69,7 +69,7 @@ KeyPress frmMain::PressOf(const MSG& message) const {
 }
 
 bool frmMain::FilterKey(const MSG& message) {
-  if (!AcceptsInput()) return false;
+  if (!views_.AcceptInput()) return false;
   const bool pressed = IsPress(message.message);
   const KeyPress press = PressOf(message);
   const FindBoxKey inFindBox = findKeys_.MeaningOf(press, pressed, views_.FindBox().IsEmpty());
@@ -121,10 +121,6 @@ bool frmMain::OpenButtonMenu() {
   if (known == nullptr || known->Style != ToolbarStyle::DropDown) return false;
   OnDropDown(button);
   return true;
-}
-
-void frmMain::TellStatus() {
-  views_.TellStatus(Held(VK_CONTROL) || Held(VK_MENU) || Held(VK_SHIFT), timerRuns_);
 }
 
 }  // namespace tessera

@@ -23,6 +23,8 @@ constexpr int AllKeysIconSize = 16;
 
 constexpr int RowsOfOpenChooser = 16;
 
+constexpr UINT_PTR Timer1 = 1;
+
 /// Until a row is selected nothing can be chosen.
 constexpr DWORD InputStyle = WS_VISIBLE | WS_DISABLED;
 
@@ -189,6 +191,9 @@ LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
                  : SendMessageW(GetParent(Frame1_), message, wParam, lParam);
     case WM_NOTIFY:
       return SendMessageW(GetParent(Frame1_), message, wParam, lParam);
+    case WM_TIMER:
+      OnTimer();
+      return 0;
     case WM_SIZE:
       statusRow_.LayOut(controlsHeight_);
       return 0;
@@ -233,6 +238,16 @@ bool frmPanel::OnCommand(int id, int notification) {
     return false;
   }
   return true;
+}
+
+void frmPanel::StartTimer() {
+  timerRuns_ = SetTimer(Frame1_, Timer1, PanelTimerMilliseconds, nullptr) != 0;
+}
+
+void frmPanel::OnTimer() {
+  KillTimer(Frame1_, Timer1);
+  timerRuns_ = false;
+  events_.TimerTick();
 }
 
 bool frmPanel::IsTranslatorsControl(HWND control) const {

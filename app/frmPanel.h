@@ -23,6 +23,7 @@ class frmPanel : Pinned {
     std::function<void(int index)> ChooseKey;
     std::function<void()> ChooserDropsDown;
     std::function<void()> ToggleKeysList;  ///< a click on the all-keys button
+    std::function<void()> TimerTick;       ///< once after each StartTimer
     std::function<void()> GiveFocusAway;   ///< its controls are about to be disabled
   };
 
@@ -59,7 +60,10 @@ class frmPanel : Pinned {
   void ShowState(const CommandState& state) const;
 
   /// Tells screen readers what the line below the controls says, unless it is too early.
-  void TellStatus(bool modifierHeld, bool timerRuns) { statusRow_.Tell(modifierHeld, timerRuns); }
+  void TellStatus() { statusRow_.Tell(timerRuns_); }
+
+  /// Starts Timer1, anew when it runs.
+  void StartTimer();
 
   /// To be called once its windows are destroyed: their numbers may become those of others.
   void Forget();
@@ -68,6 +72,7 @@ class frmPanel : Pinned {
   static LRESULT CALLBACK FrameProcedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   bool OnCommand(int id, int notification);
+  void OnTimer();
   void KeepFocusEnabled(bool inputsEnabled) const;
   [[nodiscard]] bool IsTranslatorsControl(HWND control) const;
   void LayOut(HFONT font, int dpi);
@@ -83,6 +88,7 @@ class frmPanel : Pinned {
   frmStatusRow statusRow_;
   Size wholeSize_;
   int controlsHeight_ = 0;  ///< above the status row
+  bool timerRuns_ = false;  ///< Timer1
   Unique<HICON> allKeysIcon_;
   Unique<HBRUSH> translatorsBrush_;
 };

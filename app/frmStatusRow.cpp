@@ -1,6 +1,9 @@
 // The line is a label, through which the pointer is the frame's.
 #include "app/frmStatusRow.h"
 
+#include <algorithm>
+#include <array>
+
 #include "app/StepNames.h"
 #include "resources/resource.h"
 
@@ -101,7 +104,9 @@ void frmStatusRow::SetUndoTip(const std::wstring& text) {
   }
 }
 
-void frmStatusRow::Tell(bool modifierHeld, bool timerRuns) {
+void frmStatusRow::Tell(bool timerRuns) {
+  const bool modifierHeld = std::ranges::any_of(std::array{VK_CONTROL, VK_MENU, VK_SHIFT},
+                                                [](int key) { return GetKeyState(key) < 0; });
   if (lblStatus_ == nullptr || !telling_.IsDue(TextOf(lblStatus_), modifierHeld, timerRuns)) return;
   NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, lblStatus_, OBJID_CLIENT, CHILDID_SELF);
 }

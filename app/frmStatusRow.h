@@ -32,7 +32,7 @@ class frmStatusRow : Pinned {
   void Sync(const Editor& editor);
 
   /// Tells screen readers what the line says, unless it is too early.
-  void Tell(bool modifierHeld, bool timerRuns);
+  void Tell(bool timerRuns);
 
   /// Takes a mouse message of the frame: over the line, a tip shows what does not fit.
   void FollowPointer(const MSG& message);

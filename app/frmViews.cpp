@@ -41,6 +41,10 @@ void frmViews::Create(HWND window, int dpi) {
   progressBar_.Create(window);
 }
 
+bool frmViews::AcceptInput() const {
+  return IsWindowEnabled(window_) != FALSE && !editor_.Document().Busy();
+}
+
 FocusPlace frmViews::Focus() const {
   const HWND focus = GetFocus();
   if (focus == list_.Control()) return FocusPlace::CommandList;
@@ -162,6 +166,8 @@ void frmViews::Show(const LoadProgress& progress) {
 }
 
 void frmViews::Sync() {
+  if (GetDlgItem(window_, IDC_ListView1) == nullptr) return;
+  SetText(window_, editor_.Document().Caption());
   findBox_.Sync();
   list_.Sync();
   SyncKeys();
@@ -171,6 +177,7 @@ void frmViews::SyncKeys() {
   panel_.Sync();
   SyncCommands();
   SyncKeysList();
+  panel_.TellStatus();
 }
 
 void frmViews::SyncMenus() const {

@@ -23,6 +23,13 @@ class frmViews {
 
   // -- Queries
 
+  /// The main window; null before it has views, and once it has none.
+  [[nodiscard]] HWND Window() const { return window_; }
+  [[nodiscard]] int Dpi() const { return dpi_; }
+
+  /// What the user does counts: no load or save runs, and no box or dialog is open.
+  [[nodiscard]] bool AcceptInput() const;
+
   [[nodiscard]] const frmCommandList& List() const { return list_; }
   [[nodiscard]] const frmPanel& Panel() const { return panel_; }
   [[nodiscard]] const frmFindBox& FindBox() const { return findBox_; }
@@ -61,19 +68,18 @@ class frmViews {
 
   // -- What they show
 
+  /// Shows the state of the editor in every control, and in the caption.
   void Sync();
 
   /// As Sync, where the rows of the list did not change.
   void SyncKeys();
-
-  /// Tells screen readers what the line under the panel says, unless it is too early.
-  void TellStatus(bool modifierHeld, bool timerRuns) { panel_.TellStatus(modifierHeld, timerRuns); }
 
   /// Before a menu opens.
   void SyncMenus() const;
 
   void Show(const LoadProgress& progress);
   void SyncFindBox() { findBox_.SyncEnabled(); }
+  void StartPanelTimer() { panel_.StartTimer(); }
   void ShowList() { list_.Show(); }
   void ShowSelectedRow() { list_.ShowSelectedRow(); }
   bool SelectRowAt(POINT place) { return list_.SelectRowAt(place); }
