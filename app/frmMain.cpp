@@ -1,16 +1,18 @@
 // The events of the main window, from its making to its end.
 #include "app/frmMain.h"
 
-#include <cstdlib>
 #include <utility>
 
 #include "platform/win32/DroppedFile.h"
 #include "platform/win32/Guarded.h"
+#include "platform/win32/Icons.h"
 #include "platform/win32/InputMethod.h"
-#include "resources/resource.h"
+#include "resources/icons.h"
 
 namespace tessera {
 namespace {
+
+constexpr wchar_t WindowClass[] = L"frmMain";
 
 /// Posted at an activation, so that the window stands on the screen before files are loaded.
 constexpr UINT ActivationMessage = WM_APP + 1;
@@ -22,19 +24,8 @@ bool MenuIsOpen() {
          (information.flags & GUI_INMENUMODE) != 0;
 }
 
-/// What the system tells its user at a log-off about a program that holds it up.
-class LogOffReason {
- public:
-  LogOffReason(HWND window, const std::wstring& text) : window_(window) {
-    ShutdownBlockReasonCreate(window, text.c_str());
-  }
-  ~LogOffReason() { ShutdownBlockReasonDestroy(window_); }
-  LogOffReason(const LogOffReason&) = delete;
-  LogOffReason& operator=(const LogOffReason&) = delete;
-
- private:
-  HWND window_;
-};
+/// Goes with a drop of files; the headers do not name it.
+constexpr UINT CopyGlobalData = 0x0049;
 
 }  // namespace
 
@@ -44,7 +35,8 @@ frmMain::frmMain(WindowsSystem& windowsSystem)
               [this](const LoadProgress& progress) { views_.Show(progress); }),
       frmExportToClipboard_(editor_.Language(), editor_.Options()),
       frmOptions_(editor_.Language(), editor_.Options()),
-      views_(editor_, FindEvents(), ListEvents(), PanelEvents(), KeysListEvents()) {
+      views_(editor_, FindEvents(), ListEvents(), PanelEvents(), KeysListEvents()),
+      ending_(editor_, views_, windowsSystem.Seams().MessageBoxes) {
   windowsSystem_.SetMessageFilter([this](MSG& message) { return FilterMessage(message); });
 }
 
@@ -54,15 +46,42 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   editor_.Load(std::move(fileToOpen));
   if (!Create()) return false;
   windowsSystem_.SetMainWindow(window_, [this] { HideKeysList(); });
-  views_.Create(window_, dpi_);
+  views_.Create(window_, static_cast<int>(GetDpiForWindow(window_)));
   TurnOffInputMethod(window_);
   views_.ApplyLanguage();
-  ApplyDpi();
+  ApplyDpi(views_.Dpi());
   views_.ApplyDisplaySettings();
   views_.SetUpColumns();
-  ApplyPlacement();
+  placement_.Apply(views_, editor_.Options());
   views_.Sync();
   return true;
+}
+
+bool frmMain::Create() {
+  RegisterWindowClass(WindowClass, WindowProcedure);
+  const DWORD direction = editor_.Language().RightToLeft() ? WS_EX_LAYOUTRTL : 0;
+  CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES | direction, WindowClass,
+                  editor_.Document().Caption().c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                  CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr),
+                  this);
+  if (window_ == nullptr) return false;
+  // A program of lower rights, as the desktop is for an elevated window, may drop files too.
+  for (const UINT message : {UINT{WM_DROPFILES}, UINT{WM_COPYDATA}, CopyGlobalData}) {
+    ChangeWindowMessageFilterEx(window_, message, MSGFLT_ALLOW, nullptr);
+  }
+  return true;
+}
+
+void frmMain::ApplyDpi(int dpi) {
+  const auto showIcon = [&](WPARAM kind, int metric, Unique<HICON>& shown) {
+    const int size = GetSystemMetricsForDpi(metric, static_cast<UINT>(dpi));
+    Unique<HICON> icon = LoadIconOfSize(IDI_TESSERA, size);
+    SendMessageW(window_, WM_SETICON, kind, reinterpret_cast<LPARAM>(icon.get()));
+    shown = std::move(icon);
+  };
+  showIcon(ICON_BIG, SM_CXICON, icon_);
+  showIcon(ICON_SMALL, SM_CXSMICON, smallIcon_);
+  views_.ApplyDpi(dpi);
 }
 
 void frmMain::Show(int showCommand) {
@@ -114,16 +133,12 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       SetFocus(IsWindowVisible(lastFocus_) != FALSE ? lastFocus_ : views_.List().Control());
       return 0;
     case WM_CLOSE:
-      Form_QueryUnload();
+      if (ending_.MayClose()) DestroyWindow(window_);
       return 0;
     case WM_QUERYENDSESSION:
-      return MaySessionEnd() ? TRUE : FALSE;
+      return ending_.MaySessionEnd() ? TRUE : FALSE;
     case WM_ENDSESSION:
-      if (wParam != FALSE) {
-        DestroyWindow(window_);
-      } else {
-        editor_.DropUnsaved();  // another program has refused
-      }
+      ending_.OnSessionEnd(wParam != FALSE);
       return 0;
     case WM_DESTROY:
       Form_Unload();
@@ -136,7 +151,7 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case FailureMessage:
-      OnFailure();
+      ending_.OnFailure();
       return 0;
     case WM_SETTINGCHANGE:
       if (wParam == SPI_SETNONCLIENTMETRICS) {
@@ -209,8 +224,7 @@ void frmMain::OnTimer() {
 }
 
 void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
-  dpi_ = dpi;
-  ApplyDpi();
+  ApplyDpi(dpi);
   SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
   views_.LayOut();
@@ -224,50 +238,8 @@ void frmMain::Form_Activate() {
   views_.BringKeysListToFront();
 }
 
-void frmMain::Form_QueryUnload() {
-  if (MayClose()) DestroyWindow(window_);
-}
-
-bool frmMain::MayClose() {
-  // While a message box is open the window is disabled: the box is to be answered first.
-  const bool closes = views_.AcceptInput() && editor_.QueryUnload();
-  views_.Sync();
-  return closes;
-}
-
-bool frmMain::MaySessionEnd() {
-  // Without changes whatever is open goes with the window, and a load stops mattering.
-  if (!editor_.Document().Modified()) return true;
-  // First of all: the rest may wait for files, and the system does not wait long.
-  const LogOffReason reason(window_, editor_.Document().Caption());
-  // The system soon covers the question, and lets its user end the program over it.
-  editor_.KeepUnsaved();
-  return views_.AcceptInput() && MayClose();
-}
-
-// What works then is not known: each step goes as far as it can.
-void frmMain::OnFailure() {
-  if (std::exchange(failed_, true)) return;
-  const auto attempt = [](auto step) {
-    try {
-      step();
-    } catch (...) {
-      return;
-    }
-  };
-  bool isKept = false;
-  attempt([&] { isKept = editor_.KeepUnsaved(); });
-  attempt([&] {
-    const TextId text = isKept ? TextId::MustEnd : TextId::MustEndNothingKept;
-    windowsSystem_.Seams().MessageBoxes.Show(editor_.Language().GetLangText(text), BoxButtons::Ok,
-                                             BoxIcon::Critical);
-  });
-  DestroyWindow(window_);
-  PostQuitMessage(EXIT_FAILURE);
-}
-
 void frmMain::Form_Unload() {
-  editor_.Unload(CurrentPlacement(), views_.List().Columns());
+  editor_.Unload(placement_.Current(views_, editor_.Options()), views_.List().Columns());
   windowsSystem_.SetMainWindow(nullptr, nullptr);
   PostQuitMessage(0);
 }

@@ -5,6 +5,8 @@
 
 #include "app/Editor.h"
 #include "app/FindBoxKeys.h"
+#include "app/frmEnding.h"
+#include "app/frmPlacement.h"
 #include "app/frmViews.h"
 #include "editing/PressedKey.h"
 #include "export/frmExportToClipboard.h"
@@ -42,18 +44,12 @@ class frmMain : Pinned {
   void OnTimer();
   void OnDpiChanged(int dpi, const RECT& suggested);
   void Form_Activate();
-  void Form_QueryUnload();
-  bool MayClose();
-  bool MaySessionEnd();
-  void OnFailure();
   void Form_Unload();
   void OnDropFile(const std::wstring& path);
 
-  // -- The window itself (frmMainPlace.cpp)
+  // -- The window itself
   bool Create();
-  void ApplyDpi();
-  void ApplyPlacement();
-  [[nodiscard]] WindowPlacement CurrentPlacement() const;
+  void ApplyDpi(int dpi);
 
   // -- Keys (frmMainKeys.cpp)
   bool Filter(MSG& message);
@@ -88,12 +84,11 @@ class frmMain : Pinned {
   frmExportToClipboard frmExportToClipboard_;
   frmOptions frmOptions_;
   frmViews views_;
+  frmEnding ending_;
+  frmPlacement placement_;
   HWND window_ = nullptr;
-  int dpi_ = 96;
   HWND lastFocus_ = nullptr;  ///< the control that had the focus when the window was left
   FindBoxKeys findKeys_;
-  bool failed_ = false;  ///< an exception has reached a window procedure
-  Area placed_;          ///< where the stored placement has put the window
   Unique<HICON> icon_;
   Unique<HICON> smallIcon_;
 };

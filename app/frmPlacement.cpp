@@ -1,0 +1,39 @@
+// Resolution and place depend on each other where screens differ.
+#include "app/frmPlacement.h"
+
+#include <vector>
+
+namespace tessera {
+
+void frmPlacement::Apply(const frmViews& views, const Settings& settings) {
+  const HWND window = views.Window();
+  if (settings.MainWindowMaxmized == 1) {
+    const Area restored = RestoredSize(views.Dpi());
+    SetWindowPos(window, nullptr, 0, 0, restored.Width, restored.Height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return;
+  }
+  // Moving to another screen may change the resolution, and with it what the twips stand for.
+  int dpi = 0;
+  for (int attempt = 0; attempt < 2 && dpi != views.Dpi(); ++attempt) {
+    dpi = views.Dpi();
+    const SIZE smallest = views.SmallestSize();
+    const std::vector<Screen> screens = Screens(dpi);
+    Place(window, StoredPlace(settings, {.SmallestWidth = smallest.cx,
+                                         .SmallestHeight = smallest.cy,
+                                         .Screens = screens,
+                                         .Dpi = dpi}));
+  }
+  placed_ = WindowArea(window);
+}
+
+WindowPlacement frmPlacement::Current(const frmViews& views, const Settings& settings) const {
+  const HWND window = views.Window();
+  return PlacementToStore({.Place = WindowArea(window),
+                           .Minimised = IsIconic(window) != FALSE,
+                           .Maximised = IsZoomed(window) != FALSE,
+                           .Dpi = views.Dpi()},
+                          placed_, settings);
+}
+
+}  // namespace tessera
