@@ -17,13 +17,6 @@ constexpr wchar_t WindowClass[] = L"frmMain";
 /// Posted at an activation, so that the window stands on the screen before files are loaded.
 constexpr UINT ActivationMessage = WM_APP + 1;
 
-bool MenuIsOpen() {
-  GUITHREADINFO information{};
-  information.cbSize = sizeof information;
-  return GetGUIThreadInfo(GetCurrentThreadId(), &information) != FALSE &&
-         (information.flags & GUI_INMENUMODE) != 0;
-}
-
 /// Goes with a drop of files; the headers do not name it.
 constexpr UINT CopyGlobalData = 0x0049;
 
@@ -33,9 +26,12 @@ frmMain::frmMain(WindowsSystem& windowsSystem)
     : windowsSystem_(windowsSystem),
       editor_(windowsSystem.Seams(),
               [this](const LoadProgress& progress) { views_.Show(progress); }),
-      frmExportToClipboard_(editor_.Language(), editor_.Options()),
-      frmOptions_(editor_.Language(), editor_.Options()),
-      views_(editor_, FindEvents(), ListEvents(), PanelEvents(), KeysListEvents()),
+      commands_(editor_, views_, work_, windowsSystem.Seams().Clock),
+      work_(editor_, views_),
+      views_(editor_, work_.FindEvents(), work_.ListEvents(), work_.PanelEvents(),
+             work_.KeysListEvents()),
+      popupMenus_(editor_, views_, work_),
+      keyboard_(editor_, views_, work_, commands_, popupMenus_),
       ending_(editor_, views_, windowsSystem.Seams().MessageBoxes) {
   windowsSystem_.SetMessageFilter([this](MSG& message) { return FilterMessage(message); });
 }
@@ -45,7 +41,7 @@ frmMain::~frmMain() { windowsSystem_.SetMessageFilter(nullptr); }
 bool frmMain::Form_Load(std::wstring fileToOpen) {
   editor_.Load(std::move(fileToOpen));
   if (!Create()) return false;
-  windowsSystem_.SetMainWindow(window_, [this] { HideKeysList(); });
+  windowsSystem_.SetMainWindow(window_, [this] { work_.HideKeysList(); });
   views_.Create(window_, static_cast<int>(GetDpiForWindow(window_)));
   TurnOffInputMethod(window_);
   views_.ApplyLanguage();
@@ -114,13 +110,14 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NOTIFY:
       return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
     case WM_DROPFILES:
-      OnDropFile(TakeDroppedFile(reinterpret_cast<HDROP>(wParam)));
+      commands_.OpenDropped(TakeDroppedFile(reinterpret_cast<HDROP>(wParam)));
       return 0;
     case WM_MOVE:
       views_.MoveKeysList();
       return 0;
     case WM_INITMENUPOPUP:
-      OnInitMenu();
+      editor_.RefreshRestartItems();
+      views_.SyncMenus();
       return 0;
     case WM_ACTIVATE:
       OnActivate(wParam);
@@ -180,7 +177,7 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
       views_.ShowList();
       break;
     case WM_CONTEXTMENU:
-      if (OnContextMenu(reinterpret_cast<HWND>(wParam), lParam)) return 0;
+      if (popupMenus_.ShowOverList(reinterpret_cast<HWND>(wParam), lParam)) return 0;
       break;
     case WM_DPICHANGED:
       OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
@@ -198,9 +195,17 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefWindowProcW(window_, message, wParam, lParam);
 }
 
+void frmMain::OnControl(WORD id, WORD notification, HWND control) {
+  if (control == nullptr || control != views_.FindBox().Control()) {
+    commands_.Run(id, control);
+  } else if (notification == EN_CHANGE) {
+    views_.FindBox().OnChange();
+  }
+}
+
 LRESULT frmMain::OnNotify(NMHDR& header) {
   if (header.code == TBN_DROPDOWN) {
-    OnDropDown(reinterpret_cast<const NMTOOLBARW&>(header));
+    popupMenus_.ShowUnderButton(reinterpret_cast<const NMTOOLBARW&>(header));
     return TBDDRET_DEFAULT;
   }
   return header.hwndFrom == views_.List().Control() ? views_.OnListNotify(header) : 0;
@@ -215,12 +220,6 @@ void frmMain::OnActivate(WPARAM wParam) {
     SetFocus(window_);
     PostMessageW(window_, ActivationMessage, 0, 0);
   }
-}
-
-void frmMain::OnTimer() {
-  // The released Alt key has put the menu bar into its keyboard mode, where it would take the keys.
-  if (MenuIsOpen()) EndMenu();
-  React(editor_.Work(&HotkeyPanel::TimerTick));
 }
 
 void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
@@ -242,15 +241,6 @@ void frmMain::Form_Unload() {
   editor_.Unload(placement_.Current(views_, editor_.Options()), views_.List().Columns());
   windowsSystem_.SetMainWindow(nullptr, nullptr);
   PostQuitMessage(0);
-}
-
-void frmMain::OnDropFile(const std::wstring& path) {
-  if (views_.AcceptInput() && !path.empty()) {
-    SetForegroundWindow(window_);
-    editor_.OpenShortcutFile(false, path, true);
-    views_.Sync();
-    views_.ShowSelectedRow();
-  }
 }
 
 }  // namespace tessera

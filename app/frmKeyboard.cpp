@@ -1,5 +1,6 @@
-// The keyboard: what the window does with a key before its controls see it.
-#include "app/frmMain.h"
+// The find box comes before the panel, and the panel before the controls.
+#include "app/frmKeyboard.h"
+
 #include "app/KeyMeaning.h"
 #include "app/MnemonicLetters.h"
 #include "platform/win32/Guarded.h"
@@ -36,12 +37,17 @@ bool IsKeyMessage(UINT message) {
 
 }  // namespace
 
-bool frmMain::FilterMessage(MSG& message) {
-  return Guarded(window_, [&] { return Filter(message); });
+frmKeyboard::frmKeyboard(Editor& editor, frmViews& views, frmWork& work, frmCommands& commands,
+                         frmPopupMenus& popupMenus)
+    : editor_(editor), views_(views), work_(work), commands_(commands), popupMenus_(popupMenus) {}
+
+bool frmKeyboard::FilterMessage(MSG& message) {
+  return Guarded(views_.Window(), [&] { return Filter(message); });
 }
 
-bool frmMain::Filter(MSG& message) {
-  if (window_ == nullptr || (message.hwnd != window_ && IsChild(window_, message.hwnd) == FALSE)) {
+bool frmKeyboard::Filter(MSG& message) {
+  const HWND window = views_.Window();
+  if (window == nullptr || (message.hwnd != window && IsChild(window, message.hwnd) == FALSE)) {
     return false;
   }
   // Those that come to a disabled box do nothing there.
@@ -50,11 +56,11 @@ bool frmMain::Filter(MSG& message) {
   // Else letters with Alt would reach the panel's boxes.
   const bool movesFocus = IsPress(message.message) && message.wParam == VK_TAB;
   if (views_.FindBox().HasFocus() && !movesFocus) return false;
-  if (views_.Panel().ChooserWouldLose(message)) message.hwnd = window_;
-  return IsDialogMessageW(window_, &message) != FALSE;
+  if (views_.Panel().ChooserWouldLose(message)) message.hwnd = window;
+  return IsDialogMessageW(window, &message) != FALSE;
 }
 
-KeyPress frmMain::PressOf(const MSG& message) const {
+KeyPress frmKeyboard::PressOf(const MSG& message) const {
   KeyPress press{
       .Event = {.Code = static_cast<KeyCode>(message.wParam),
                 .CtrlHeld = Held(VK_CONTROL),
@@ -68,7 +74,7 @@ KeyPress frmMain::PressOf(const MSG& message) const {
   return press;
 }
 
-bool frmMain::FilterKey(const MSG& message) {
+bool frmKeyboard::FilterKey(const MSG& message) {
   if (!views_.AcceptInput()) return false;
   const bool pressed = IsPress(message.message);
   const KeyPress press = PressOf(message);
@@ -78,49 +84,39 @@ bool frmMain::FilterKey(const MSG& message) {
     case KeyMeaning::ForControl:
       return false;
     case KeyMeaning::OpensKeysList:
-      ToggleKeysList();
+      work_.ToggleKeysList();
       return true;
     case KeyMeaning::OpensHelp:
-      OnCommand(IDM_mnuHelpHelpTopics, nullptr);
+      commands_.Run(IDM_mnuHelpHelpTopics, nullptr);
       return true;
     case KeyMeaning::OpensButtonMenu:
-      return OpenButtonMenu();
+      return popupMenus_.ShowUnderFocusedButton();
     case KeyMeaning::ForPanel:
       break;
   }
   return pressed ? KeyDown(press) : KeyUp(press.Event);
 }
 
-bool frmMain::FilterFindKey(FindBoxKey meaning) {
+bool frmKeyboard::FilterFindKey(FindBoxKey meaning) {
   if (meaning == FindBoxKey::EmptiesBox) views_.FindBox().Empty();
   if (meaning == FindBoxKey::GoesToList) views_.FindBox().GiveFocusAway();
   return meaning != FindBoxKey::ForBox && meaning != FindBoxKey::MovesFocus;
 }
 
-bool frmMain::KeyDown(const KeyPress& press) {
+bool frmKeyboard::KeyDown(const KeyPress& press) {
   KeyEvent event = press.Event;
   event.Chooses = KeyChosenBy(press, editor_.Options().UseContextMenuKey != 0,
                               MnemonicLetters(editor_.Language()));
   const Reaction reaction = editor_.Work(&HotkeyPanel::KeyDown, event);
-  React(reaction);
+  work_.React(reaction);
   if (reaction.Handled) return true;
   return PressesFocusedButton(event) && views_.Panel().PressFocusedButton();
 }
 
-bool frmMain::KeyUp(const KeyEvent& event) {
+bool frmKeyboard::KeyUp(const KeyEvent& event) {
   const Reaction reaction = editor_.Work(&HotkeyPanel::KeyUp, event);
-  React(reaction);
+  work_.React(reaction);
   return reaction.Handled;
-}
-
-bool frmMain::OpenButtonMenu() {
-  NMTOOLBARW button{};
-  button.hdr.hwndFrom = GetFocus();
-  button.iItem = views_.FocusedButton();
-  const ToolbarButton* const known = ButtonOf(button.iItem);
-  if (known == nullptr || known->Style != ToolbarStyle::DropDown) return false;
-  OnDropDown(button);
-  return true;
 }
 
 }  // namespace tessera

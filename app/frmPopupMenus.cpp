@@ -1,0 +1,52 @@
+// The commands that are chosen come to the main window as all others do.
+#include "app/frmPopupMenus.h"
+
+namespace tessera {
+
+frmPopupMenus::frmPopupMenus(Editor& editor, frmViews& views, frmWork& work)
+    : editor_(editor), views_(views), work_(work) {}
+
+void frmPopupMenus::ShowUnderButton(const NMTOOLBARW& notification) {
+  const ToolbarButton* const button = ButtonOf(notification.iItem);
+  if (button == nullptr || !views_.AcceptInput()) return;
+  editor_.RefreshRestartItems();
+  const Unique<HMENU> menu = MenuUnder(*button, editor_);
+  ShowMenuUnderButton(notification, menu.get(), views_.Window(), editor_.Language().RightToLeft());
+}
+
+bool frmPopupMenus::ShowUnderFocusedButton() {
+  NMTOOLBARW notification{};
+  notification.hdr.hwndFrom = GetFocus();
+  notification.iItem = views_.FocusedButton();
+  const ToolbarButton* const button = ButtonOf(notification.iItem);
+  if (button == nullptr || button->Style != ToolbarStyle::DropDown) return false;
+  ShowUnderButton(notification);
+  return true;
+}
+
+// By keyboard it is the list's wherever the focus is: Shift, of Shift+F10, goes to the chooser.
+bool frmPopupMenus::ShowOverList(HWND control, LPARAM place) {
+  const bool byKeyboard = place == -1;
+  if (!views_.AcceptInput() || (!byKeyboard && control != views_.List().Control())) return false;
+  POINT corner{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+  // Some systems send it for a key that the window has taken; with Shift it is that of Shift+F10.
+  const bool isAlt = editor_.Panel().ContextMenuKeyIsAlt() && GetKeyState(VK_SHIFT) >= 0;
+  if (byKeyboard && isAlt) return true;
+  if (byKeyboard) {
+    corner = views_.MenuPlace();
+  } else if (!views_.SelectRowAt(corner)) {
+    return true;
+  }
+  const Unique<HMENU> menu = ContextMenu(editor_);
+  const UINT direction = editor_.Language().RightToLeft() ? TPM_LAYOUTRTL : 0;
+  const bool withShift = byKeyboard && GetKeyState(VK_SHIFT) < 0;
+  TrackPopupMenuEx(menu.get(), TPM_RIGHTBUTTON | direction, corner.x, corner.y, views_.Window(),
+                   nullptr);
+  // The menu has had the release of the key, which the panel counts.
+  if (withShift && GetKeyState(VK_SHIFT) >= 0) {
+    work_.React(editor_.Work(&HotkeyPanel::KeyUp, KeyEvent{.Code = KeyCode::Shift}));
+  }
+  return true;
+}
+
+}  // namespace tessera
