@@ -1,4 +1,4 @@
-// The menu bar, and the menus under the toolbars' buttons.
+// The menu bar, and the menus that frmPopupMenus opens.
 #pragma once
 
 #include "app/Commands.h"

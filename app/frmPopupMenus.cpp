@@ -1,7 +1,26 @@
 // The commands that are chosen come to the main window as all others do.
 #include "app/frmPopupMenus.h"
 
+#include "app/frmMenus.h"
+#include "app/ToolbarButtons.h"
+
 namespace tessera {
+namespace {
+
+/// Shows a menu under the button that a notification names; its commands go to `owner`.
+void ShowMenuUnderButton(const NMTOOLBARW& button, HMENU menu, HWND owner, bool rightToLeft) {
+  const HWND toolbar = button.hdr.hwndFrom;
+  TPMPARAMS around{sizeof around, {}};
+  SendMessageW(toolbar, TB_GETRECT, static_cast<WPARAM>(button.iItem),
+               reinterpret_cast<LPARAM>(&around.rcExclude));
+  MapWindowPoints(toolbar, nullptr, reinterpret_cast<POINT*>(&around.rcExclude), 2);
+  // In that layout a menu that is aligned to its left ends at the given point.
+  TrackPopupMenuEx(menu, TPM_VERTICAL | (rightToLeft ? TPM_LAYOUTRTL : 0U),
+                   rightToLeft ? around.rcExclude.right : around.rcExclude.left,
+                   around.rcExclude.bottom, owner, &around);
+}
+
+}  // namespace
 
 frmPopupMenus::frmPopupMenus(Editor& editor, frmViews& views, frmWork& work)
     : editor_(editor), views_(views), work_(work) {}

@@ -35,18 +35,6 @@ std::vector<int> IconsOf(std::span<const ToolbarButton> buttons, int ToolbarButt
 
 }  // namespace
 
-void ShowMenuUnderButton(const NMTOOLBARW& button, HMENU menu, HWND owner, bool rightToLeft) {
-  const HWND toolbar = button.hdr.hwndFrom;
-  TPMPARAMS around{sizeof around, {}};
-  SendMessageW(toolbar, TB_GETRECT, static_cast<WPARAM>(button.iItem),
-               reinterpret_cast<LPARAM>(&around.rcExclude));
-  MapWindowPoints(toolbar, nullptr, reinterpret_cast<POINT*>(&around.rcExclude), 2);
-  // In that layout a menu that is aligned to its left ends at the given point.
-  TrackPopupMenuEx(menu, TPM_VERTICAL | (rightToLeft ? TPM_LAYOUTRTL : 0U),
-                   rightToLeft ? around.rcExclude.right : around.rcExclude.left,
-                   around.rcExclude.bottom, owner, &around);
-}
-
 frmToolbar::frmToolbar(std::span<const ToolbarButton> buttons) : buttons_(buttons) {}
 
 void frmToolbar::Create(HWND parent, int id) {

@@ -1,4 +1,4 @@
-// A toolbar with its images, and the menus under its buttons.
+// A toolbar with its images.
 #pragma once
 
 #include <span>
@@ -9,9 +9,6 @@
 #include "platform/win32/Controls.h"
 
 namespace tessera {
-
-/// Shows a menu under the button that a notification names; its commands go to `owner`.
-void ShowMenuUnderButton(const NMTOOLBARW& button, HMENU menu, HWND owner, bool rightToLeft);
 
 class frmToolbar {
  public:
