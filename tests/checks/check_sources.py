@@ -39,12 +39,17 @@ OTHER_TESTS = {
     "fuzz_regressions": "replays what the fuzzers found, over all readers",
     "hostile_values": "gives the whole program values that no one should store",
     "ini_properties": "holds the whole INI engine to a second reader, over random files",
+    "language_in_use": "starts and changes the language of the whole program",
     "other_programs": "lets another program hold and change every file that is saved",
     "profile_oracle": "compares the whole INI engine with the profile functions of the system",
     "profile_windows_cases": "holds the whole INI engine to what was measured on Windows",
+    "save_and_restart": "saves with the whole program while Total Commander runs",
     "save_faults": "fails every file operation of every way of saving",
     "shipped_data": "reads the data files that are shipped, and no code of its own",
     "shipped_languages": "reads the language files that are shipped, and no code of its own",
+    "twice_held_keys": "saves with the whole program what two rows hold",
+    "unread_files": "opens with the whole program what cannot be read",
+    "unsaved_content": "looks at what every way of saving leaves when it fails",
 }
 
 WINDOWS_TYPES = re.compile(

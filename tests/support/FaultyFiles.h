@@ -13,6 +13,17 @@
 
 namespace tessera {
 
+/// How an operation on a file can fail, but for a file that is not there.
+inline constexpr FileError Faults[] = {FileError::AccessDenied,
+                                       FileError::SharingViolation,
+                                       FileError::LockViolation,
+                                       FileError::DiskFull,
+                                       FileError::NotSupported,
+                                       FileError::Other,  // of a write: only a part was written
+                                       FileError::UnableToRemoveReplaced,
+                                       FileError::UnableToMoveReplacement,
+                                       FileError::UnableToMoveReplacement2};
+
 /// Thrown in place of the end of the program.
 struct Killed {};
 

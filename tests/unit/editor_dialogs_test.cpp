@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "tests/unit/editor_fixture.h"
 
 namespace tessera::editor_dialogs_test {
@@ -191,98 +189,6 @@ TEST_F(EditorTest, AfterTheOptionsTheCommandListHasTheFocus) {
   EXPECT_EQ(Editor.EndOptions().Panel.FocusTo, Reaction::Focus::CommandList);
 }
 
-TEST_F(EditorTest, ALanguageFileThatGoesDuringTheRunChangesTheLanguage) {
-  StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
-  Start();
-  Files.Contents.erase(L"C:\\de.lng");
-  Editor.BeginOptions();
-  EXPECT_TRUE(Editor.EndOptions().LanguageChanged);
-  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
-}
-
-TEST_F(EditorTest, AnotherLanguageIsInUseAfterTheOptions) {
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n108=Keine\r\n";
-  Start();
-  OptionsSelection& options = Editor.BeginOptions();
-  options.UseDefaultLanguage(false);
-  options.EditLanguageFilePath(L"C:\\de.lng");
-  options.Apply();
-  EXPECT_TRUE(Editor.EndOptions().LanguageChanged);
-  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"Speichern");
-  Editor.BeginOptions().UseDefaultLanguage(true);
-  Editor.BeginOptions();
-  EXPECT_FALSE(Editor.EndOptions().LanguageChanged) << "nothing was applied";
-  OptionsSelection& again = Editor.BeginOptions();
-  again.UseDefaultLanguage(true);
-  again.Apply();
-  EXPECT_TRUE(Editor.EndOptions().LanguageChanged);
-  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
-}
-
-TEST_F(EditorTest, TheDefaultLanguageLeavesTheLanguageFileAlone) {
-  /// Notes the paths that are looked at.
-  class WatchedFiles : public MemoryFiles {
-   public:
-    mutable std::vector<std::wstring> Paths;
-    [[nodiscard]] bool Exists(const std::wstring& path) const override {
-      Paths.push_back(path);
-      return MemoryFiles::Exists(path);
-    }
-    [[nodiscard]] FileError Read(const std::wstring& path, std::string& bytes) const override {
-      Paths.push_back(path);
-      return MemoryFiles::Read(path, bytes);
-    }
-  };
-  const std::wstring language = L"C:\\de.lng";
-  WatchedFiles files;
-  files.Contents = Files.Contents;
-  files.Contents[language] = "[UserLanguage]\r\n104=Speichern\r\nRightToLeftLanguage=1\r\n";
-  const auto timesLookedAt = [&](const char* useDefault) {
-    files.Contents[VantorFile] = std::string("[Tessera]\r\nUseDefaultLanguage=") + useDefault +
-                                 "\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
-    files.Paths.clear();
-    tessera::Editor editor(
-        {files, Registry, Environment, MessageBoxes, Dialogs, Programs, Clock, Clipboard},
-        [](const LoadProgress&) {});
-    editor.Load();
-    editor.Activate();
-    editor.BeginExport();
-    editor.BeginOptions();
-    editor.EndOptions();
-    EXPECT_EQ(editor.Language().GetLangText(TextId::FileSave),
-              *useDefault == '1' ? L"&Save" : L"Speichern");
-    return std::ranges::count(files.Paths, language);
-  };
-  EXPECT_EQ(timesLookedAt("1"), 0);
-  EXPECT_GT(timesLookedAt("0"), 0);
-}
-
-TEST_F(EditorTest, AnotherLetterCaseOfThePathIsNoOtherLanguage) {
-  StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
-  Files.Contents[L"C:\\DE.LNG"] = "[UserLanguage]\r\n104=Sichern\r\n";
-  Start();
-  OptionsSelection& options = Editor.BeginOptions();
-  options.EditLanguageFilePath(L"C:\\DE.LNG");
-  options.Apply();
-  EXPECT_FALSE(Editor.EndOptions().LanguageChanged);
-  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"Speichern");
-}
-
-TEST_F(EditorTest, ALanguageFileThatIsMissingIsReportedOnce) {
-  Start();
-  OptionsSelection& options = Editor.BeginOptions();
-  options.UseDefaultLanguage(false);
-  options.EditLanguageFilePath(L"C:\\no.lng");
-  options.Apply();
-  EXPECT_TRUE(Editor.EndOptions().LanguageChanged);
-  Editor.BeginExport();
-  Editor.BeginOptions();
-  EXPECT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(Editor.Options().UseDefaultLanguage, 1);
-}
-
 TEST_F(EditorTest, ARecentFileOfAKilledSaveIsThereAgain) {
   Files.Contents[OtherIniFile + L".tessera-old"] = "[Shortcuts]\r\nA+V=cm_Pack\r\n";
   StoredSettings() = "[Tessera]\r\nRecentFiles1=C:\\TC\\Other.ini\r\n";
@@ -317,61 +223,6 @@ TEST_F(EditorTest, TheExportStartsWithTheStoredColumns) {
   StoredSettings() = "[Tessera]\r\nClipOptions=1,0,0,1\r\n";
   Start();
   EXPECT_EQ(Editor.BeginExport().Selection().ClipOptions(), L"1,0,0,1");
-}
-
-TEST_F(EditorTest, ALanguageFileThatGoesIsReportedByTheExportToo) {
-  StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
-  Start();
-  Files.Contents.erase(L"C:\\de.lng");
-  Editor.BeginExport();
-  EXPECT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
-}
-
-TEST_F(EditorTest, TheRecentFilesFollowTheLanguage) {
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n109=Liste leeren\r\n";
-  Start();
-  OptionsSelection& options = Editor.BeginOptions();
-  options.UseDefaultLanguage(false);
-  options.EditLanguageFilePath(L"C:\\de.lng");
-  options.Apply();
-  Editor.EndOptions();
-  EXPECT_EQ(Editor.RecentFiles().ClearEntry().Caption, L"Liste leeren");
-}
-
-TEST_F(EditorTest, AnotherLanguageNamesTheModifiersFromTheNextOpenOn) {
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n";
-  Files.Contents[OtherIniFile] = "[Shortcuts]\r\nC+X=cm_Pack\r\n";
-  Start();
-  OptionsSelection& options = Editor.BeginOptions();
-  options.UseDefaultLanguage(false);
-  options.EditLanguageFilePath(L"C:\\de.lng");
-  options.Apply();
-  Editor.EndOptions();
-  Editor.Work(&HotkeyPanel::SetBox, Modifier::Ctrl, true);
-  Choose(L"X");
-  EXPECT_EQ(Editor.Panel().ComposeKey(), L"Ctrl + X");
-  Editor.OpenShortcutFile(false, OtherIniFile, true);
-  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Strg + X");
-}
-
-TEST_F(EditorTest, AfterAChangeOfTheLanguageTheSearchLooksAtTheRowsAnew) {
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
-  Start();
-  Editor.Work(&CommandList::SelectRow, View);
-  Editor.Work(&CommandList::Search, L"ctrl+f3");
-  ASSERT_EQ(Editor.List().Shown().FoundCount(), 1U);
-  Editor.Work(&HotkeyPanel::Delete);
-  EXPECT_EQ(Editor.List().Shown().FoundCount(), 1U) << "an edited row stays in view";
-  OptionsSelection& options = Editor.BeginOptions();
-  options.UseDefaultLanguage(false);
-  options.EditLanguageFilePath(L"C:\\de.lng");
-  options.Apply();
-  ASSERT_TRUE(Editor.EndOptions().LanguageChanged);
-  EXPECT_EQ(Editor.List().Shown().SearchText(), L"ctrl+f3");
-  EXPECT_EQ(Editor.List().Shown().FoundCount(), 0U);
-  EXPECT_FALSE(Editor.List().CommandSelected());
 }
 
 }  // namespace

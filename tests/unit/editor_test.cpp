@@ -159,34 +159,6 @@ TEST_F(EditorTest, ACancelledFileOpenChangesNothing) {
   EXPECT_EQ(Editor.Document().Rows().Count(), 5U);
 }
 
-// -- The language
-
-TEST_F(EditorTest, AMissingLanguageFileIsReportedAndTheBuiltInTextsAreUsed) {
-  StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\no.lng\r\n";
-  Start();
-  ASSERT_EQ(MessageBoxes.Shown.size(), 1U);
-  EXPECT_EQ(MessageBoxes.Shown[0].Text, L"Cannot find language file!");
-  EXPECT_EQ(MessageBoxes.Shown[0].Icon, BoxIcon::Critical);
-  EXPECT_EQ(MessageBoxes.Shown[0].Buttons, BoxButtons::Ok);
-  EXPECT_EQ(Editor.Language().GetLangText(TextId::FileSave), L"&Save");
-  EXPECT_NE(StoredSettings().find("UseDefaultLanguage=0"), std::string::npos);
-  Editor.Unload({}, {});
-  EXPECT_NE(StoredSettings().find("UseDefaultLanguage=1"), std::string::npos);
-}
-
-TEST_F(EditorTest, KeysAreShownWithTheModifierNamesOfTheLanguage) {
-  StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n405=\" \"\r\n";
-  Start();
-  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"Strg + F3");
-  Editor.Work(&HotkeyPanel::SetBox, Modifier::Alt, true);
-  Assign(Pack, L"X");
-  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Alt + X") << "a blank name is no name";
-  Editor.FileSave();
-  EXPECT_NE(Ini().find("[Shortcuts]\r\nF3=cm_Copy\r\nC+F3=cm_View\r\nA+X=cm_Pack\r\n"),
-            std::string::npos);
-}
-
 // -- The end
 
 TEST_F(EditorTest, UnloadStoresWindowColumnsAndSort) {
