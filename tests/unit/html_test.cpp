@@ -54,6 +54,16 @@ TEST(Html, ControlCharactersAreBlanks) {
   EXPECT_EQ(Value(L"a\nb"), "a b");
 }
 
+TEST(Html, EachOddCharacterIsSeenByItself) {
+  for (wchar_t code = 0; code < 0xA0; ++code) {
+    if (code >= 0x20 && code < 0x7F) continue;
+    EXPECT_EQ(Text(std::wstring(1, code)), " ") << static_cast<int>(code);
+  }
+  EXPECT_EQ(Text(L"\x100"), "\xC4\x80");
+  for (const wchar_t* sign : {L"&", L"<", L">"}) EXPECT_NE(Text(sign).size(), 1U);
+  EXPECT_EQ(Value(L"\""), "&quot;");
+}
+
 TEST(Html, OtherCharactersAreInUtf8) {
   EXPECT_EQ(Text(L"\xE4\x20AC"), "\xC3\xA4\xE2\x82\xAC");
   EXPECT_EQ(Text(WideFromUtf8("\xF0\x9F\x94\x91")), "\xF0\x9F\x94\x91");

@@ -42,23 +42,81 @@ Area ShapeOf(const HtmlPage& page, const std::string& id) {
 
 class KeyDrawingTest : public testing::Test {
  protected:
-  /// The shapes and the keyboard without modifiers.
-  [[nodiscard]] HtmlPage Draw() const {
+  /// The shapes and the keyboard with those modifiers.
+  [[nodiscard]] std::string Html(const HeldModifiers& held = {}) const {
     const KeyUses uses(catalogue_, notation_);
     const HolderFrames frames(texts_);
-    std::string html = "<!DOCTYPE html>\n<main>";
+    std::string html;
     AppendShapes(html, notation_);
-    AppendKeyboard(html, MakeKeyboards(uses, notation_).front(), {uses, notation_, texts_, frames});
-    HtmlPage page = ReadHtml(html + "</main>");
+    for (const Keyboard& keyboard : MakeKeyboards(uses, notation_)) {
+      if (keyboard.Held == held) AppendKeyboard(html, keyboard, {uses, notation_, texts_, frames});
+    }
+    return html;
+  }
+
+  [[nodiscard]] HtmlPage Draw() const {
+    HtmlPage page = ReadHtml("<!DOCTYPE html>\n<main>" + Html() + "</main>");
     EXPECT_EQ(page.Problem, "");
     return page;
   }
+
+  CommandEntry& Edit(RowKey row) { return catalogue_.ListView1.Edit(row); }
 
   HotkeyNotation notation_;
   Catalogue catalogue_ = SampleCatalogue();
   MemoryFiles files_;
   Texts texts_{files_};
 };
+
+bool Holds(const std::string& html, std::string_view piece) {
+  return html.find(piece) != std::string::npos;
+}
+
+TEST_F(KeyDrawingTest, HasAShapeForEachKeyWithItsNameOnIt) {
+  const std::string html = Html();
+  EXPECT_TRUE(Holds(html,
+                    R"(<g id="k4"><rect class="s" x="392" y="2" width="56" height="56" rx="7"/>)"
+                    R"(<text class="n" x="396" y="17">F5</text></g>)"));
+}
+
+TEST_F(KeyDrawingTest, HasTheShapesOfAModifierAsOneAndNoNamesOnOthers) {
+  const std::string html = Html();
+  EXPECT_TRUE(Holds(html,
+                    R"(<g id="alt"><rect class="s" x="152" y="332" width="71" height="56" rx="7"/>)"
+                    R"(<text class="n" x="156" y="347">Alt</text>)"
+                    R"(<rect class="s" x="602" y="332" width="71" height="56" rx="7"/>)"
+                    R"(<text class="n" x="606" y="347">Alt</text></g>)"))
+      << html;
+  EXPECT_TRUE(Holds(html, R"(<g id="ctrl"><rect)"));
+  EXPECT_TRUE(Holds(html, R"(<g id="shift"><rect)"));
+  const std::size_t blank = html.find(R"(<g id="blank"><rect)");
+  ASSERT_NE(blank, std::string::npos);
+  EXPECT_FALSE(Holds(html.substr(blank, html.find("</g>", blank) - blank), "<text"));
+}
+
+TEST_F(KeyDrawingTest, ShowsWhichModifiersAreHeld) {
+  EXPECT_TRUE(Holds(Html({.Ctrl = true, .Shift = true}),
+                    "<svg viewBox=\"0 0 1350 390\">\n"
+                    R"(<g class="idle"><use href="#blank"/><use href="#ctrl" class="held"/>)"
+                    R"(<use href="#alt"/><use href="#shift" class="held"/></g>)"));
+  EXPECT_TRUE(Holds(Html({.Alt = true}), R"(<use href="#alt" class="held"/><use href="#shift"/>)"));
+}
+
+TEST_F(KeyDrawingTest, HasOnAKeyTheLinesOfItsLabel) {
+  Edit(sample::Sync).CommandName = L"cm_RenameSingleFile";
+  EXPECT_TRUE(Holds(Html(), R"(<use href="#k8"/><use href="#corner" x="718" y="2"/>)"
+                            R"(<text x="666" y="30">Rename<tspan x="666" dy="12">Single</tspan>)"
+                            R"(<tspan x="666" dy="12">File</tspan></text></g>)"));
+  Edit(sample::Sync).CommandName = L"cm_RenameAllOfTheSingleFiles";
+  EXPECT_TRUE(Holds(
+      Html(), "AllOfThe</tspan><tspan x=\"666\" dy=\"12\">Single\xE2\x80\xA6</tspan></text>"));
+}
+
+TEST_F(KeyDrawingTest, HasRoomForMoreOnAWideKey) {
+  Edit(sample::Sync).CurrentKeys = L"SPACE";
+  Edit(sample::Sync).CommandName = L"cm_RenameAllOfTheSingleFiles";
+  EXPECT_TRUE(Holds(Html(), R"(<text x="231" y="360">RenameAllOfTheSingleFiles</text>)"));
+}
 
 TEST_F(KeyDrawingTest, HasEachShapeOnceWithinItsPlace) {
   const HtmlPage page = Draw();

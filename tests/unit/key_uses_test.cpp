@@ -79,6 +79,8 @@ TEST_F(KeyUsesTest, NameARowOnceThatHoldsAKeyTwice) {
   Edit(sample::View).DefaultKeys = L"F6 = F6";
   EXPECT_EQ(Of(L"F6"),
             (Holders{{Current, sample::View, L"cm_View"}, {Default, sample::View, L"cm_View"}}));
+  catalogue_.ListView1.Fill({SampleCommand(1, L"First", L"---", L"F6 = F6")});
+  EXPECT_EQ(Of(L"F6").size(), 1U);
 }
 
 TEST_F(KeyUsesTest, KnowNoKeyOfAnEmptyPiece) {

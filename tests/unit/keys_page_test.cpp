@@ -142,6 +142,28 @@ TEST_F(KeysPageTest, ListsAllCommandsInTheirBlocksWhateverTheListShows) {
                      "", "F9"}));
 }
 
+TEST_F(KeysPageTest, IsNamedByItsTitle) {
+  const HtmlPage page = Page();
+  EXPECT_EQ(page.Find("title")[0]->Text, "Keys of Total Commander");
+  EXPECT_EQ(page.Find("h1")[0]->Text, "Keys of Total Commander");
+}
+
+TEST_F(KeysPageTest, HasAHeadingOverEachOfItsParts) {
+  Edit(sample::Pack).CurrentKeys = L"F13";
+  const HtmlPage page = Page();
+  Strings headings;
+  for (const HtmlElement* heading : page.Find("h2")) headings.push_back(heading->Text);
+  EXPECT_EQ(headings,
+            (Strings{"No modifier", "Ctrl", "Alt", "Shift", "Ctrl + Alt", "Ctrl + Shift",
+                     "Alt + Shift", "Ctrl + Alt + Shift", "Other keys", "By key", "By command"}));
+}
+
+TEST_F(KeysPageTest, HasABoxToSearchIn) {
+  const HtmlPage page = Page();
+  EXPECT_EQ(page.Find("p", "id", "finder")[0]->Text, "Find: ");
+  EXPECT_EQ(page.Find("input", "id", "search")[0]->Get("placeholder"), "Find a command or a key");
+}
+
 TEST_F(KeysPageTest, HasKeysThatCannotBeDrawnInARowOfTheirOwn) {
   EXPECT_TRUE(Page().Find("section", "id", "others").empty());
   Edit(sample::Pack).CurrentKeys = L"F13 = Ctrl + OEM_5";
@@ -151,6 +173,7 @@ TEST_F(KeysPageTest, HasKeysThatCannotBeDrawnInARowOfTheirOwn) {
   ASSERT_EQ(keys.size(), 2U);
   EXPECT_EQ(keys[1]->Get("data-key"), "Ctrl + OEM_5");
   EXPECT_EQ(keys[1]->Get("data-use"), "user");
+  EXPECT_EQ(keys[1]->Text, "Ctrl + OEM_5 cm_Pack");
 }
 
 TEST_F(KeysPageTest, SaysThatKeysAreNotSaved) {
@@ -167,6 +190,13 @@ TEST_F(KeysPageTest, NamesTheFileAndExplainsTheLooks) {
     EXPECT_TRUE(page.IsWithin(*entries[0], "legend"));
     EXPECT_NE(entries[0]->Text, " ");
   }
+  std::size_t corners = 0;
+  for (const HtmlElement* corner : page.Find("use", "href", "#corner")) {
+    if (!page.IsWithin(*corner, "legend")) continue;
+    ++corners;
+    EXPECT_EQ(page.Elements[page.Elements[corner->Parent].Parent].Get("data-use"), "over");
+  }
+  EXPECT_EQ(corners, 1U);
 }
 
 TEST_F(KeysPageTest, RefersToNothingOutsideItself) {
@@ -194,9 +224,11 @@ TEST_F(KeysPageTest, IsWrittenInTheLanguageAndItsDirection) {
 }
 
 TEST_F(KeysPageTest, TakesTextsOfALanguageWithoutPlacesAndWithSigns) {
-  UseLanguage("3303=<mine>\r\n3304=&%1\"\r\n3328=\"x\" y=\"\r\n3366=\"<\r\n");
+  UseLanguage("3302=<%1>\r\n3303=<mine>\r\n3304=&%1\"\r\n3328=\"x\" y=\"\r\n3366=\"<\r\n");
   EXPECT_EQ(Page().Find("tr", "data-key", "F5")[0]->Text, "F5&cm_Copy\"");
   EXPECT_EQ(Page().Find("tr", "data-key", "F6")[0]->Text, "F6<mine>cm_View");
+  EXPECT_EQ(Page().Find("g", "data-key", "F1")[0]->Text, "<F1>");
+  EXPECT_EQ(Page().Find("g", "data-key", "F6")[0]->Text, "F6\n<mine>cm_ViewView");
 }
 
 TEST_F(KeysPageTest, EscapesWhatFilesHold) {
