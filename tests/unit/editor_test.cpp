@@ -315,6 +315,18 @@ TEST_F(EditorTest, OpeningAFileClosesTheKeysList) {
   EXPECT_FALSE(Editor.AllKeys().Visible());
 }
 
+TEST_F(EditorTest, TheKeysListFollowsAChoiceInTheChooser) {
+  Start();
+  Editor.Work(&CommandList::SelectRow, Pack);
+  Editor.Work(&KeysList::ToggleKeysList);
+  Editor.Work(&KeysList::KeyDown, KeyCode{40});
+  Editor.Work(&KeysList::Select, 5);
+  ASSERT_EQ(Editor.AllKeys().Selection(), 5);
+  Editor.Work(&HotkeyPanel::ChooseKey, 7);
+  EXPECT_EQ(Editor.AllKeys().Selection(), 7);
+  EXPECT_TRUE(Editor.AllKeys().Visible());
+}
+
 TEST_F(EditorTest, TheKeysListFollowsAResetOfThePanel) {
   Start();
   Editor.Work(&CommandList::SelectRow, Pack);

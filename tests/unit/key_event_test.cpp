@@ -248,6 +248,21 @@ TEST_F(KeyEventTest, AltByItselfStillReachesTheMenuBar) {
   EXPECT_FALSE(Up(Alt).Handled);
 }
 
+TEST_F(KeyEventTest, AltThatWasReleasedElsewhereDoesNotKeepTheNextOneFromTheMenuBar) {
+  Down(Alt);
+  Tap(F7);
+  held_.clear();
+  Down(Alt);
+  EXPECT_FALSE(Up(Alt).Handled);
+}
+
+TEST_F(KeyEventTest, AltThatRepeatsStillOpensNoMenu) {
+  Down(Alt);
+  Tap(F7);
+  Down(Alt);
+  EXPECT_TRUE(Up(Alt).Handled);
+}
+
 TEST_F(KeyEventTest, ATickThatIsStillToComeDoesNotTouchTheNextCombination) {
   Press({Alt, F7});
   Press({Ctrl, F8});

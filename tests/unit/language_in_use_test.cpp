@@ -156,6 +156,19 @@ TEST_F(EditorTest, AnotherLanguageNamesTheModifiersFromTheNextOpenOn) {
   EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Strg + X");
 }
 
+TEST_F(EditorTest, KeysThatAreShownInAFormerLanguageAreSavedAsTheKeysThatTheyAre) {
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n";
+  Start();
+  ChooseLanguage(Editor, L"C:\\de.lng");
+  Files.Contents[OtherIniFile] = "";
+  Editor.OpenShortcutFile(false, OtherIniFile, true);
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"Ctrl + F3");
+  Assign(Pack, L"X");
+  Editor.FileSave();
+  EXPECT_EQ(Files.Contents[OtherIniFile],
+            "[Shortcuts]\r\nF3=cm_Copy\r\nC+F3=cm_View\r\nX=cm_Pack\r\n");
+}
+
 TEST_F(EditorTest, AfterAChangeOfTheLanguageTheSearchLooksAtTheRowsAnew) {
   Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n104=Speichern\r\n";
   Start();

@@ -112,6 +112,20 @@ TEST(Placement, ResolutionOfTheWindowServesWhereNoScreenHoldsTheStoredPlace) {
   EXPECT_EQ(ResolutionOfStoredPlace(settings, {}, 120), 120);
 }
 
+TEST(Placement, StoredPlaceBelongsToAScreenUpToItsEdges) {
+  const std::vector<Screen> screens{{{0, 0, 100, 50}, 192}};
+  const auto isThere = [&](int left, int top) {
+    const auto twips = [](int pixels) { return static_cast<short>(PixelsToTwips(pixels, 192)); };
+    return ResolutionOfStoredPlace(StoredAt(twips(left), twips(top), 0, 0), screens, 96) == 192;
+  };
+  EXPECT_TRUE(isThere(0, 0));
+  EXPECT_TRUE(isThere(99, 49));
+  EXPECT_FALSE(isThere(-1, 0));
+  EXPECT_FALSE(isThere(0, -1));
+  EXPECT_FALSE(isThere(100, 0));
+  EXPECT_FALSE(isThere(0, 50));
+}
+
 TEST(Placement, TwipsOfNoWholePixelsAreReadWithTheCoarserResolution) {
   const std::vector<Screen> screens{{{0, 0, 3840, 2080}, 192}, {{0, 0, 1920, 1040}, 96}};
   EXPECT_EQ(ResolutionOfStoredPlace(StoredAt(1003, 1002, 0, 0), screens, 192), 96);

@@ -1,6 +1,7 @@
 // What the line under the panel says.
 #include "app/StatusLine.h"
 #include "tests/unit/editor_fixture.h"
+#include "text/Utf8.h"
 
 namespace tessera::status_line_test {
 namespace {
@@ -35,6 +36,14 @@ TEST_F(StatusLineTest, AfterAnOpenNamesTheFileUntilAnotherRowIsSelected) {
   EXPECT_EQ(Line(), L"Wincmd.ini is open. Commands with keys of your own: 2");
   Select(Pack);
   EXPECT_EQ(Line(), L"Pack files");
+}
+
+TEST_F(StatusLineTest, AfterAnOpenCountsTheCommandsWithKeysFromTheFirstRowOn) {
+  SampleProgram<> program;
+  program.Files.Contents[IncFile] = "cm_A=1;a\r\n[Group]=0\r\ncm_B=2;b\r\n";
+  program.Files.Contents[IniFile] = "[Shortcuts]\r\nX=cm_A\r\n";
+  program.Start();
+  EXPECT_TRUE(StatusText(program.Editor).ends_with(L"own: 1"));
 }
 
 TEST_F(StatusLineTest, TellsWhatAnEditDid) {
@@ -276,6 +285,26 @@ TEST_F(StatusLineTest, ACaptionDoesNotTurnTheSentenceRound) {
   Editor.OpenShortcutFile(false, IniFile, false);
   Compose(CtrlAlt, L"F1");
   EXPECT_EQ(Line(), L"Ctrl + Alt + F1: AB & C (Start Menu)");
+}
+
+TEST_F(StatusLineTest, NoMarkInACaptionTurnsTheSentenceRound) {
+  const auto lineWith = [this](wchar_t mark) {
+    std::string caption = "A";
+    AppendUtf8(caption, static_cast<char32_t>(mark));
+    Ini() = "[user]\r\nmenu1=\xEF\xBB\xBF" + caption + "B\r\nkey1=1\r\n";
+    Editor.OpenShortcutFile(false, IniFile, false);
+    Compose(CtrlAlt, L"F1");
+    return Line();
+  };
+  for (const wchar_t mark : {L'\x202A', L'\x202E', L'\x2066', L'\x2069'}) {
+    EXPECT_EQ(lineWith(mark), L"Ctrl + Alt + F1: AB (Start Menu)");
+  }
+  for (const wchar_t mark : {L'\x202F', L'\x2065', L'\x206A'}) {
+    EXPECT_EQ(lineWith(mark), std::wstring(L"Ctrl + Alt + F1: A") + mark + L"B (Start Menu)");
+  }
+  for (const wchar_t lineEnd : {L'\x2028', L'\x2029'}) {
+    EXPECT_EQ(lineWith(lineEnd), L"Ctrl + Alt + F1: A B (Start Menu)");
+  }
 }
 
 TEST(StatusLine, OfAnEmptyListIsEmpty) {

@@ -233,5 +233,16 @@ TEST_F(EditorTest, NothingIsKeptWithoutChangesOrDuringASave) {
   EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
 }
 
+TEST_F(EditorTest, NothingIsKeptOfAFileThatCouldNotBeRead) {
+  Editor.Load();
+  Files.ReadErrors = {FileError::Other};
+  MessageBoxes.Answers = {BoxAnswer::Cancel};
+  Editor.Activate();
+  Assign(Pack, L"X");
+  ASSERT_TRUE(Editor.Document().Modified());
+  EXPECT_FALSE(Editor.KeepUnsaved());
+  EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+}
+
 }  // namespace
 }  // namespace tessera::unsaved_files_test
