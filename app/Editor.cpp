@@ -78,7 +78,6 @@ void Editor::Load(std::wstring fileToOpen) {
   ApplyLanguage();
   document_.ReadNotation();
   panel_.ResetPanel();
-  document_.SetModified(false);
   export_.Load(stored);
   ReadRecentFiles(stored);
   inputFiles_.SetUpDialogs();
