@@ -91,7 +91,7 @@ void KeyUses::SortByKey() {
   begins_.assign(keys_.size() + 1, 0);
   for (const Holding& holding : holdings_) ++begins_[holding.Key + 1];
   for (std::size_t key = 0; key < keys_.size(); ++key) begins_[key + 1] += begins_[key];
-  std::vector<std::size_t> ends(begins_.begin(), begins_.end() - 1);
+  std::vector<std::size_t> ends = begins_;
   holders_.resize(holdings_.size());
   for (const Holding& holding : holdings_) holders_[ends[holding.Key]++] = holding.Holder;
 }
