@@ -65,6 +65,11 @@ TEST_F(CellTipTest, OverriddenDefaultTellsWhichCommandHasTheKey) {
   EXPECT_EQ(Tip(1, Column::Defaults), L"");
 }
 
+TEST_F(CellTipTest, OverriddenDefaultMayBeTheFirstCommands) {
+  Fill({{L"cm_One", L"---", L"Ctrl + F3"}, {L"cm_Two", L"Ctrl + F3 *", L"---"}});
+  EXPECT_EQ(Tip(1, Column::Defaults), L"Current hotkey for :  cm_One");
+}
+
 TEST_F(CellTipTest, OneOfSeveralDefaultsIsNamed) {
   Fill({{L"cm_One", L"Ctrl + F3 = Ctrl + F4 * *", L"---"},
         {L"cm_Two", L"---", L"Ctrl + F4"},

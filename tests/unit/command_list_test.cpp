@@ -232,6 +232,13 @@ TEST_F(CommandListTest, OtherwiseTheFirstCommandThatIsFoundIsSelectedAndNoHeadin
   EXPECT_EQ(list_.SelectedRow(), Search);
 }
 
+TEST_F(CommandListTest, WithoutHeadingsTheFirstCommandThatIsFoundIsTheFirstRow) {
+  catalogue_.ListView1.RemoveHeadings();
+  list_.ShowRowDetails(Pack);
+  list_.Search(L"f9");
+  EXPECT_EQ(list_.SelectedRow(), Search);
+}
+
 TEST_F(CommandListTest, WhatIsFoundNowhereSelectsNothingUntilTheTextChanges) {
   list_.ShowRowDetails(Pack);
   list_.Search(L"f9");
@@ -295,6 +302,46 @@ TEST_F(CommandListTest, TakingAnEditOfAHiddenRowBackEndsTheSearch) {
   list_.Search(L"pack");
   list_.Redo();
   EXPECT_TRUE(list_.Shown().Searching()) << "its row is shown";
+}
+
+TEST_F(CommandListTest, TakingAnEditOfAllRowsBackLeavesTheSelectedRowAndTheSearch) {
+  const auto edit = [this] {
+    catalogue_.ListView1.Edit(View).CurrentKeys = L"---";
+    return true;
+  };
+  catalogue_.Edits.Make(catalogue_, {EditKind::DeleteAll, 0, {}}, edit);
+  list_.Search(L"f9");
+  list_.ShowRowDetails(Sync);
+  for (const Reaction& reaction : {list_.Undo(), list_.Redo()}) {
+    EXPECT_TRUE(reaction.Restored);
+    EXPECT_FALSE(reaction.HideKeysList);
+    EXPECT_EQ(list_.SelectedRow(), Sync);
+    EXPECT_TRUE(list_.Shown().Searching());
+  }
+}
+
+TEST_F(CommandListTest, TheFirstRowOfAllIsACommandLikeAnyOther) {
+  constexpr RowKey First = 1;
+  constexpr RowKey Second = 2;
+  catalogue_.ListView1.Fill({SampleCommand(First, L"First", L"---", L"F1"),
+                             SampleCommand(Second, L"Second", L"---", L"F2")});
+  list_.ShowFirstRow();
+  EXPECT_TRUE(list_.CommandSelected());
+  list_.ShowRowDetails(Second);
+  list_.Search(L"f1");
+  list_.Search(L"f");
+  EXPECT_EQ(list_.SelectedRow(), First);
+
+  const auto edit = [this] {
+    catalogue_.ListView1.Edit(First).CurrentKeys = L"X";
+    return true;
+  };
+  catalogue_.Edits.Make(catalogue_, {EditKind::Assign, First, L"X"}, edit);
+  list_.ShowRowDetails(Second);
+  list_.Search(L"second");
+  EXPECT_TRUE(list_.Undo().HideKeysList);
+  EXPECT_EQ(list_.SelectedRow(), First);
+  EXPECT_FALSE(list_.Shown().Searching());
 }
 
 TEST_F(CommandListTest, WithoutAPlaceToTypeASearchEndsAndNoneBegins) {

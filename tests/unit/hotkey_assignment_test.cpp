@@ -179,6 +179,14 @@ TEST_F(HotkeyAssignmentTest, DeleteAllAnsweredWithYesEmptiesEveryCommandRow) {
   EXPECT_EQ(Row(Search).DefaultKeys, L"F9");
 }
 
+TEST_F(HotkeyAssignmentTest, DeleteAllEmptiesTheFirstRowToo) {
+  catalogue_.ListView1.RemoveHeadings();
+  catalogue_.ListView1.Edit(Copy).CurrentKeys = L"Alt + X";
+  WillAnswer({BoxAnswer::Yes});
+  EXPECT_TRUE(assignment_.DeleteAll());
+  EXPECT_EQ(Row(Copy).CurrentKeys, L"---");
+}
+
 TEST_F(HotkeyAssignmentTest, DeleteAllWithoutAnyKeysIsNoChange) {
   WillAnswer({BoxAnswer::Yes, BoxAnswer::Yes});
   assignment_.DeleteAll();

@@ -40,6 +40,11 @@ TEST_F(HtmlTableTest, HasTheRowsThatAreExportedAndTheirHeadings) {
   EXPECT_FALSE(Holds(L"Group")) << "headings are left out";
 }
 
+TEST_F(HtmlTableTest, HasTheFirstRowWhereHeadingsAreLeftOut) {
+  catalogue_.ListView1.RemoveHeadings();
+  EXPECT_TRUE(Holds(L"<td>cm_Copy</td>"));
+}
+
 TEST_F(HtmlTableTest, IsItsHeadingsAloneForAnEmptyList) {
   catalogue_.ListView1.Fill({});
   EXPECT_EQ(Table(CommandAndDefaults),

@@ -47,6 +47,16 @@ TEST_F(NewsTest, AnAssignmentTellsTheRowTheKeyAndWhomItWasTakenFrom) {
   EXPECT_EQ(Latest().From, RowAt(Pack));
 }
 
+TEST_F(NewsTest, AKeyOfTheRowsOwnIsTakenFromNobody) {
+  Assign(Pack, L"F9");
+  Choose(L"F8");
+  Editor.Work(&HotkeyPanel::Add);
+  Choose(L"F9");  // goes last
+  Editor.Work(&HotkeyPanel::Add);
+  EXPECT_EQ(Latest().Keys, L"F9");
+  EXPECT_EQ(Latest().From, 0U);
+}
+
 TEST_F(NewsTest, AFurtherKeyIsToldAsAdded) {
   Assign(Pack, L"F9");
   Choose(L"F8");

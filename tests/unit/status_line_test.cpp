@@ -1,5 +1,6 @@
 // What the line under the panel says.
 #include "app/StatusLine.h"
+#include "app/StepNames.h"
 #include "tests/unit/editor_fixture.h"
 #include "text/Utf8.h"
 
@@ -190,6 +191,28 @@ TEST_F(StatusLineTest, OfAnErrorWithoutWordsSaysItsNumber) {
   Editor.FileSave();
   EXPECT_EQ(Line(),
             L"Not saved: error " + std::to_wstring(static_cast<int>(FileError::Other)) + L".");
+}
+
+TEST_F(StatusLineTest, OfTheFirstRowOfAllTellsAsOfAnyOther) {
+  SampleProgram<> program;
+  program.Files.Contents[IncFile] = "cm_A=1;a\r\ncm_B=2;b\r\n";
+  program.Files.Contents[IniFile] = "[Shortcuts]\r\nX=cm_A\r\n";
+  program.MessageBoxes.AnswerToAll = BoxAnswer::Yes;
+  program.Start();
+  const auto line = [&program] { return StatusText(program.Editor); };
+  program.Editor.Work(&CommandList::SelectRow, 1);
+  program.Choose(L"X");
+  EXPECT_EQ(line(), L"X: cm_A (current)") << "the question names it, too";
+  program.Assign(1, L"X");
+  program.Editor.Work(&HotkeyPanel::ResetPanel);
+  EXPECT_EQ(line(), L"cm_B has the key X now. It was taken from cm_A.");
+  program.Assign(0, L"Y");
+  program.Editor.Work(&HotkeyPanel::ResetPanel);
+  EXPECT_EQ(line(), L"cm_A has the key Y now.");
+  EXPECT_NE(UndoCaption(program.Editor).find(L"cm_A"), std::wstring::npos);
+  program.Editor.Work(&CommandList::SelectRow, 1);
+  program.Editor.Work(&CommandList::SelectRow, 0);
+  EXPECT_EQ(line(), L"a");
 }
 
 // -- A composed key
