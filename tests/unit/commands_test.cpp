@@ -2,6 +2,7 @@
 #include "app/Commands.h"
 
 #include <algorithm>
+#include <set>
 
 #include "resources/resource.h"
 #include "tests/unit/editor_fixture.h"
@@ -18,6 +19,37 @@ class CommandsTest : public EditorTest {
     return *std::ranges::find(states, id, &CommandState::Id);
   }
 };
+
+TEST_F(CommandsTest, AreEnabledWhereTheyCanDoSomething) {
+  using Ids = std::set<int>;
+  const auto disabled = [this] {
+    Ids ids;
+    for (const CommandState& state : CommandStates(Editor)) {
+      EXPECT_EQ(CommandEnabled(Editor, state.Id), state.Enabled) << state.Id;
+      if (!state.Enabled) ids.insert(state.Id);
+    }
+    return ids;
+  };
+  Start();
+  EXPECT_EQ(disabled(),
+            (Ids{IDM_mnuFileSave, IDM_mnuFileSavenRestartTC, IDM_assign, IDM_new, IDM_delete,
+                 IDM_undo, IDM_redo, IDM_show, IDM_copycommand, IDM_copyrow}));
+  Editor.Work(&CommandList::SelectRow, View);
+  Choose(L"F5");
+  EXPECT_EQ(disabled(), (Ids{IDM_mnuFileSave, IDM_mnuFileSavenRestartTC, IDM_undo, IDM_redo}));
+  Assign(View, L"F9");
+  EXPECT_EQ(disabled(), (Ids{IDM_redo, IDM_show}));
+  Editor.Work(&CommandList::Undo);
+  EXPECT_EQ(disabled(), (Ids{IDM_mnuFileSave, IDM_mnuFileSavenRestartTC, IDM_undo, IDM_show}));
+
+  Editor.Work(&CommandList::Redo);
+  Editor.Work(&CommandList::SetCanSearch, false);
+  Editor.RefreshRestartItems();
+  MessageBoxes.Answers = {BoxAnswer::Yes};
+  Editor.ClearRecentFiles();
+  EXPECT_EQ(disabled(), (Ids{IDM_mnuFileSavenRestartTC, IDM_restarttc, IDM_mnuRecentClear, IDM_redo,
+                             IDM_show, IDM_find}));
+}
 
 TEST_F(CommandsTest, DisabledCommandDoesNothing) {
   Start();

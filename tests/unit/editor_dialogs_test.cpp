@@ -120,6 +120,13 @@ TEST_F(EditorTest, TheHelpFileIsOpened) {
   EXPECT_TRUE(MessageBoxes.Shown.empty());
 }
 
+TEST_F(EditorTest, TheHelpFileIsOpenedFromAShareToo) {
+  Environment.Directory = L"\\\\server\\tessera";
+  Files.Contents[L"\\\\server\\tessera\\Readme.chm"] = "help";
+  Editor.ShowHelpTopics();
+  EXPECT_EQ(Calls, (Log{L"OpenDocument \\\\server\\tessera\\Readme.chm"}));
+}
+
 // -- Dialogs
 
 TEST_F(EditorTest, AnExportThatTheClipboardDoesNotTakeBeeps) {

@@ -95,5 +95,14 @@ TEST_F(EditorTest, WithoutAnyDataFileNoCommandHasDefaultKeys) {
   EXPECT_EQ(Editor.Document().Rows().At(Copy).CurrentKeys, L"F3");
 }
 
+TEST_F(EditorTest, ADataFileOnAShareIsReadWithoutAQuestion) {
+  Files.Contents.erase(DataFile);
+  Files.Contents[L"\\\\server\\keys.hky"] = SmallInstallation().DefaultKeys;
+  StoredSettings() = "[Tessera]\r\nDefaultHotKeysDataFile=\\\\server\\keys.hky\r\n";
+  Start();
+  EXPECT_TRUE(MessageBoxes.Shown.empty());
+  EXPECT_EQ(Editor.Document().Rows().At(Copy).DefaultKeys, L"F5");
+}
+
 }  // namespace
 }  // namespace tessera::input_files_test

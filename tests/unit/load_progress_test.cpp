@@ -68,6 +68,18 @@ TEST(LoadProgress, IsShownAndHandlesEventsEvery50MillisecondsHoweverLongTheLoad)
   EXPECT_EQ(shown, 501);
 }
 
+TEST(LoadProgress, HandlesEventsAfterJust50Milliseconds) {
+  FakeClock clock;
+  clock.Seconds = 0;
+  LoadProgress progress(clock, [](const LoadProgress&) {});
+  progress.Start();
+  for (int step = 0; step < 16; ++step) progress.Step();
+  EXPECT_EQ(clock.DoEventsCount, 0) << "no time has passed";
+  clock.Seconds = 0.05F;
+  for (int step = 0; step < 16; ++step) progress.Step();
+  EXPECT_EQ(clock.DoEventsCount, 1);
+}
+
 TEST(LoadProgress, TellsBeforeTheFirstEventsThatTheyAreHandled) {
   std::vector<bool> told;
   FakeClock clock;

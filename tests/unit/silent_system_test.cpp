@@ -1,4 +1,5 @@
 #include "app/SilentSystem.h"
+#include "tests/support/FaultyFiles.h"
 #include "tests/unit/editor_fixture.h"
 
 namespace tessera::silent_system_test {
@@ -25,6 +26,13 @@ TEST_F(SilentSystemTest, FilesAreReadAndNotChanged) {
   EXPECT_EQ(files.Move(IniFile, OtherIniFile), FileError::Other);
   EXPECT_EQ(files.Remove(IniFile), FileError::Other);
   EXPECT_EQ(Files.Contents, before);
+}
+
+TEST_F(SilentSystemTest, ProtectedFilesAreKnownAsSuch) {
+  FaultyFiles files;
+  files.ReadOnly = {IniFile};
+  EXPECT_TRUE(ReadOnlyFiles(files).IsReadOnly(IniFile));
+  EXPECT_FALSE(ReadOnlyFiles(files).IsReadOnly(IncFile));
 }
 
 TEST_F(SilentSystemTest, FileIsUnreadWhenItsLastReadFailed) {
