@@ -4,22 +4,17 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <optional>
+#include <cstddef>
 #include <random>
+#include <string>
+#include <vector>
 
-#include "editing/CommandList.h"
-#include "editing/HotkeyAssignment.h"
-#include "editing/HotkeyPanel.h"
-#include "shortcuts/DefaultHotkeys.h"
-#include "shortcuts/InternalCommands.h"
 #include "shortcuts/SaveShortcuts.h"
-#include "shortcuts/WincmdIni.h"
-#include "tests/support/FakeClock.h"
-#include "tests/support/FakeEnvironment.h"
-#include "tests/support/FakeMessageBoxes.h"
-#include "tests/support/MemoryFiles.h"
 #include "tests/unit/conflict_history.h"
+#include "tests/unit/conflict_session.h"
+#include "tests/unit/model_files.h"
+#include "tests/unit/model_order.h"
+#include "tests/unit/model_reading.h"
 #include "tests/unit/rounds.h"
 #include "text/Text.h"
 
@@ -28,49 +23,16 @@ namespace {
 
 using namespace model;
 
-const Text IniPath = L"C:\\TC\\Wincmd.ini";
-const Text DataPath = L"C:\\keys.hky";
-
-// -- The program's classes, put together as the program does it
-
-class Session {
- public:
-  MemoryFiles Files;
-  FakeClock Clock;
-  FakeEnvironment Environment;
-  FakeMessageBoxes MessageBoxes;
-  Settings Options;
-  HotkeyNotation Notation;
-  Texts Language{Files};
-  Catalogue Tables;
-  CommandList List{Tables, Options};
-  HotkeyAssignment Assignment{Tables, Notation, Language, MessageBoxes};
-  HotkeyPanel Panel{Tables, List, Assignment, Notation, Options, MessageBoxes};
-
-  void Open(const std::string& commands) {
-    const WincmdIni wincmd(Files, Clock, Environment, IniPath);
-    Tables.StartMenuKeys = ReadStartMenuKeys(wincmd.StartMenu(), Notation);
-    if (Tables.lvwHidden.empty()) {
-      Tables.Text = std::make_shared<const std::wstring>(DecodeInternalCommands(commands));
-      Tables.lvwHidden = ReadInternalCommands(*Tables.Text, Notation.UndefinedHotkey, [] {});
-    }
-    FillDefaultKeys(Tables.lvwHidden, ProfileFile(Files, DataPath), Notation, [] {});
-    ReadShortcuts(Tables.lvwHidden, wincmd.Shortcuts(), Notation, [] {});
-    BuildDisplayTable(Tables, Notation, [] {});
-    BuildKeyIndexes(Tables, Notation);
-    MarkOverriddenDefaults(Tables);
-    List.ShowFirstRow();
-    if (Options.SortedList != 0) List.SortCommandList();
-  }
-};
-
 /// Program and model, side by side.
 class Pair {
  public:
   explicit Pair(unsigned seed, bool takesBack = false) : engine_(seed), takesBack_(takesBack) {
     session_.Notation.ReverseOrderHotkey = model_.Reversed = seed % 4 == 3;
-    MakeCommands();
-    MakeFile();
+    const RandomInput input(engine_, model_);
+    commands_ = input.Commands;
+    defaults_ = input.Defaults;
+    session_.Files.Contents[DataPath] = input.DefaultKeys;
+    session_.Files.Contents[IniPath] = FileOf(model_);
     Open();
   }
 
@@ -159,89 +121,18 @@ class Pair {
       SCOPED_TRACE(Encode(key));
       const HoldersOfKey holders = session_.Tables.ListView1.HoldersOf(key, session_.Notation);
       HoldersOfKey expected;
-      for (const auto& [row, isOverridden] : model_.DefaultHolders(key)) {
+      for (const auto& [row, isOverridden] : DefaultHolders(model_, key)) {
         expected.Defaults.push_back({row + 1, isOverridden});
       }
-      for (const std::size_t row : model_.CurrentHolders(key)) expected.Currents.push_back(row + 1);
+      for (const std::size_t row : CurrentHolders(model_, key))
+        expected.Currents.push_back(row + 1);
       ASSERT_EQ(holders, expected);
     }
   }
 
-  void MakeCommands() {
-    std::string data = "[TC Default Hotkeys]\r\n";
-    for (std::size_t i = 0, count = 3 + Below(20); i < count; ++i) {
-      ModelRow row;
-      defaults_.push_back(Undefined);
-      row.IsHeading = Below(6) == 0 && i > 0;
-      if (row.IsHeading) {
-        commands_ += "[Group]\r\n";
-        row.Description = L"[Group]";
-      } else {
-        row.Name = L"cm_C" + std::to_wstring(i);
-        row.Code = std::to_wstring(100 + i);
-        row.Description = L"Text " + std::to_wstring(Below(5));
-        row.Defaults = row.Current = Undefined;
-        commands_ += Encode(row.Name + L"=" + row.Code + L";" + row.Description + L"\r\n");
-        if (Below(2) == 0) data += DefaultLine(row.Code);
-      }
-      model_.Master.push_back(row);
-    }
-    session_.Files.Contents[DataPath] = data;
-  }
-
-  /// Gives the last row some default keys, each with a modifier.
-  std::string DefaultLine(const Text& code) {
-    Text stored;
-    Text shown;
-    for (std::size_t keys = 1 + Below(2); keys > 0; --keys) {
-      const unsigned modifiers = 1 + static_cast<unsigned>(Below(7));
-      const Text key = Vocabulary[Below(57)];  // the named keys, without the operators
-      stored += (stored.empty() ? L"" : L"=") + Text((modifiers & 4) != 0 ? L"Shift+" : L"") +
-                ((modifiers & 1) != 0 ? L"ctrl+" : L"") + ((modifiers & 2) != 0 ? L"ALT+" : L"") +
-                key;
-      shown += (shown.empty() ? L"" : L" = ") + Shown(modifiers, key, model_.Reversed);
-    }
-    defaults_.back() = shown;
-    return Encode(code + L"=" + stored + L"\r\n");
-  }
-
-  void MakeFile() {
-    for (std::size_t lines = Below(15); lines > 0; --lines) {
-      const unsigned modifiers = static_cast<unsigned>(Below(8));
-      Text name = Text((modifiers & 4) != 0 ? L"S" : L"") + ((modifiers & 1) != 0 ? L"C" : L"") +
-                  ((modifiers & 2) != 0 ? L"A" : L"") + (modifiers != 0 ? L"+" : L"");
-      name += Vocabulary[Below(Vocabulary.size())];
-      if (Below(4) == 0) name = OddNames[Below(OddNames.size())];
-      const std::size_t row = Below(model_.Master.size() + 1);
-      const bool isKnown = row < model_.Master.size() && !model_.Master[row].IsHeading;
-      const Text value = !isKnown        ? Text(L"em_own")
-                         : Below(2) == 0 ? model_.Master[row].Name
-                                         : model_.Master[row].Code;
-      model_.Shortcuts.push_back({name, value});
-    }
-    for (std::size_t entry = 1, count = Below(6); entry <= count; ++entry) {
-      const Text number = std::to_wstring(entry);
-      model_.StartMenu.push_back({L"menu" + number, L"Entry " + number});
-      if (Below(4) != 0) model_.StartMenu.push_back({L"key" + number, std::to_wstring(Below(25))});
-    }
-    session_.Files.Contents[IniPath] = File();
-  }
-
-  [[nodiscard]] static std::string Lines(const std::vector<ModelLine>& lines) {
-    std::string text;
-    for (const auto& [name, value] : lines) text += Encode(name + L"=" + value) + "\r\n";
-    return text;
-  }
-
-  /// The whole file; a comment keeps the section's header when no key is left.
-  [[nodiscard]] std::string File() const {
-    return "[Configuration]\r\nx=1\n\n[Shortcuts]\r\n" + Lines(model_.Shortcuts) +
-           ";mine\n[user]\r\n" + Lines(model_.StartMenu) + "[Colors]\r\nred=1";
-  }
-
   void Open() {
     session_.Open(commands_);
-    model_.Open(defaults_);
+    Read(model_, defaults_);
     history_.Open();
   }
 
@@ -250,9 +141,9 @@ class Pair {
                             session_.Clock, session_.Environment)
                   .Error,
               FileError::None);
-    model_.Save();
+    Write(model_);
     history_.Save();
-    ASSERT_EQ(session_.Files.Contents[IniPath], File());
+    ASSERT_EQ(session_.Files.Contents[IniPath], FileOf(model_));
   }
 
   void Select() {
@@ -320,13 +211,13 @@ class Pair {
     if (Below(2) == 0) {
       const int column = 1 + static_cast<int>(Below(4));
       session_.List.SortByColumn(column);
-      model_.ClickColumn(column);
+      ClickColumn(model_, column);
     } else if (model_.SortedView) {
       session_.List.RestoreFileOrder();
-      model_.Unsort();
+      RestoreFileOrder(model_);
     } else {
       session_.List.SortCommandList();
-      model_.Sort();
+      SortRows(model_);
     }
   }
 
