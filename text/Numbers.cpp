@@ -22,16 +22,10 @@ std::size_t SkipSign(std::wstring_view text, std::size_t position) {
   return position + (isSign ? 1 : 0);
 }
 
-/// The length of the number that a text without sign begins with; 0 when it begins with none.
+/// The length of what looks like a number at the begin of a text without sign.
 std::size_t NumberLength(std::wstring_view text) {
-  const std::size_t whole = SkipDigits(text, 0);
-  std::size_t end = whole;
-  std::size_t digits = whole;
-  if (end < text.size() && text[end] == L'.') {
-    end = SkipDigits(text, end + 1);
-    digits += end - whole - 1;
-  }
-  if (digits == 0) return 0;
+  std::size_t end = SkipDigits(text, 0);
+  if (end < text.size() && text[end] == L'.') end = SkipDigits(text, end + 1);
   if (end < text.size() && (text[end] == L'e' || text[end] == L'E')) {
     const std::size_t exponent = SkipSign(text, end + 1);
     const std::size_t exponentEnd = SkipDigits(text, exponent);

@@ -16,10 +16,10 @@ constexpr bool IsContinuation(char byte) {
 std::size_t LengthFromLead(char lead) {
   const auto byte = static_cast<unsigned char>(lead);
   if (byte < 0x80) return 1;
-  if (byte >= 0xC2 && byte < 0xE0) return 2;
-  if (byte >= 0xE0 && byte < 0xF0) return 3;
-  if (byte >= 0xF0 && byte < 0xF5) return 4;
-  return 0;
+  if (byte < 0xC2) return 0;
+  if (byte < 0xE0) return 2;
+  if (byte < 0xF0) return 3;
+  return byte < 0xF5 ? 4 : 0;
 }
 
 /// Takes one character, or one byte that begins none, and moves `position` past it.

@@ -175,7 +175,6 @@ FileError ProfileFile::Save(Files& files, Clock& clock, KeepCopies copies) {
   if (error != FileError::None) return error;
   former_ = {std::make_shared<const std::string>(std::move(bytes)), files.Stamp(path_)};
   readError_ = FileError::None;
-  isChanged_ = false;
   return FileError::None;
 }
 

@@ -63,6 +63,8 @@ TEST_F(cCommonDialogTest, SaveRemembersTheFolderOfTheChosenFile) {
             MissingMarker);
   EXPECT_EQ(dialog_.BrowseForSave(L"E:\\", L"", FileFilter::AllFiles, L"", false), MissingMarker);
   EXPECT_EQ(dialogs_.SaveRequests.at(0).Folder, L"");
+  EXPECT_EQ(dialogs_.SaveRequests.at(0).FileName, L"a.txt");
+  EXPECT_EQ(dialogs_.SaveRequests.at(0).Filter, FilterText(FileFilter::AllFiles));
   EXPECT_EQ(dialogs_.SaveRequests.at(0).Title, L"Save");
   EXPECT_TRUE(dialogs_.SaveRequests.at(0).AskBeforeOverwrite);
   EXPECT_EQ(dialogs_.SaveRequests.at(1).Folder, L"D:\\Out");

@@ -25,6 +25,8 @@ TEST(CommanderEnvironment, LeavesEveryOtherVariableAndASetOneAsTheyAre) {
   EXPECT_EQ(environment.Variable(L"other"), L"");
   EXPECT_EQ(environment.ProgramDirectory(), inherited.ProgramDirectory());
   EXPECT_EQ(environment.TemporaryDirectory(), inherited.TemporaryDirectory());
+  EXPECT_EQ(environment.ScreenSize().Width, inherited.Screen.Width);
+  EXPECT_EQ(environment.ScreenSize().Height, inherited.Screen.Height);
 }
 
 }  // namespace

@@ -308,12 +308,15 @@ TEST_F(RecentFilesTest, ReadingClosesGaps) {
   EXPECT_EQ(Paths(), (List{L"b", L"d"}));
 }
 
-TEST_F(RecentFilesTest, ReadingStopsAtTheLastSlot) {
-  files_.Contents[SettingsName] =
-      "[Tessera]\r\nRecentFiles1=a\r\nRecentFiles2=b\r\nRecentFiles3=c\r\n";
+TEST_F(RecentFilesTest, KeysBesideTheSlotsAreNeitherReadNorTouched) {
+  const std::string stored =
+      "[Tessera]\r\nRecentFiles0=z\r\nRecentFiles1=a\r\nRecentFiles2=b\r\nRecentFiles3=c\r\n";
+  files_.Contents[SettingsName] = stored;
   recent_.Setup(2);
   Read();
   EXPECT_EQ(Paths(), (List{L"a", L"b"}));
+  Save();
+  EXPECT_EQ(files_.Contents[SettingsName], stored);
 }
 
 TEST_F(RecentFilesTest, ReadingReplacesWhatTheListHeld) {

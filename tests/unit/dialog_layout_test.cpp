@@ -1,6 +1,9 @@
 // The grid on which dialogs are laid out.
 #include <gtest/gtest.h>
 
+#include <utility>
+#include <vector>
+
 #include "dialogs/DialogLayout.h"
 
 namespace tessera::dialog_layout_test {
@@ -96,6 +99,25 @@ TEST(DialogLayout, WidestLabelMakesRoomForTheSwatches) {
   EXPECT_LE(swatch.Left + swatch.Width + 11, layout.Width);
 }
 
+TEST(DialogLayout, PagesAreAsWideAsTheirWidestRowInAFrame) {
+  const std::pair<std::vector<MeasuredControl>, int> rows[] = {
+      {{{ControlKind::Label, 0, 40}, {ControlKind::Swatch, 0, 0}}, 40 + 11 + 64},
+      {{{ControlKind::TextBox, 0, 0}, {ControlKind::SideButton, 0, 9}}, 260 + 7 + 30},
+      {{{ControlKind::Button, 0, 20}}, 75},
+      {{{ControlKind::Button, 0, 60}}, 60 + 24},
+      {{{ControlKind::OptionButton, 0, 60}}, 60 + 24},
+  };
+  for (const auto& [controls, width] : rows) {
+    EXPECT_EQ(LayOutPages(controls, Metrics, 0).Width, width + 2 * 11);
+  }
+}
+
+TEST(DialogLayout, PagesWithoutControlsTakeNoHeight) {
+  const PagesLayout layout = LayOutPages({}, Metrics, 200);
+  EXPECT_EQ(layout.Width, 200);
+  EXPECT_EQ(layout.Height, 0);
+}
+
 TEST(DialogLayout, PagesAreAsHighAsTheHighestWhereverItIs) {
   constexpr MeasuredControl Controls[] = {{ControlKind::CheckBox, 0, 10},
                                           {ControlKind::CheckBox, 0, 10},
@@ -119,6 +141,7 @@ TEST(DialogLayout, ButtonsEndAtTheRight) {
   const std::vector<Area> buttons = LayOutButtons(TextWidths, Metrics, 300, 50);
   EXPECT_EQ(buttons[0], (Area{94, 50, 75, 23}));
   EXPECT_EQ(buttons[1], (Area{176, 50, 124, 23}));
+  EXPECT_EQ(ButtonSize(100, Metrics), (Area{0, 0, 124, 23}));
 }
 
 TEST(DialogLayout, GrowsWithTheResolution) {

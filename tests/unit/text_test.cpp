@@ -74,6 +74,19 @@ TEST(Text, EqualityIgnoresLetterCaseOnly) {
   EXPECT_FALSE(EqualIgnoringCase(L"a-b", L"ab"));
 }
 
+TEST(Text, EqualTextsAreThoseThatAreEqualInUpperCase) {
+  // Some letters beyond ASCII have an upper case within it.
+  const std::wstring letters = L"aA\u0131iI\u0130\u017FsS\u212AkK\u00E9\u00C9";
+  for (const wchar_t left : letters) {
+    for (const wchar_t right : letters) {
+      const std::wstring first = {left, L'x'};
+      const std::wstring second = {right, L'X'};
+      EXPECT_EQ(EqualIgnoringCase(first, second), ToUpper(first) == ToUpper(second))
+          << static_cast<unsigned>(left) << ", " << static_cast<unsigned>(right);
+    }
+  }
+}
+
 TEST(Text, OrderIgnoresLetterCase) {
   EXPECT_EQ(CompareTexts(L"ALPHA", L"alpha"), 0);
   EXPECT_LT(CompareTexts(L"alpha", L"BETA"), 0);

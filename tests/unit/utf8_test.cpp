@@ -41,8 +41,9 @@ TEST(Utf8, EveryUnitOfUtf16ComesBack) {
 }
 
 TEST(Utf8, BytesThatEncodeNoCharacterAreReplacedOneByOne) {
-  for (const char* bytes : {"\xC0\x80", "\xE0\x80\x80", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF",
-                            "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\x80"}) {
+  for (const char* bytes :
+       {"\xC0\x80", "\xE0\x80\x80", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80",
+        "\xF5\x80\x80\x80", "\xF9\x80\x80\x80", "\x80", "\x91\x80\x80\x80", "\xC1\xBF"}) {
     EXPECT_EQ(WideFromUtf8(bytes), std::wstring(std::string_view(bytes).size(), L'\uFFFD'));
   }
   for (const char* bytes : {"\xC2\x80", "\xE0\xA0\x80", "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"}) {
