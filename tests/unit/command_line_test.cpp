@@ -1,6 +1,7 @@
 // The program in a command line.
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 #include "platform/CommandLine.h"
@@ -27,6 +28,17 @@ TEST(SplitCommandLine, UnquotedProgramIsTheFirstPartThatIsAFile) {
   EXPECT_EQ(call->Program, L"C:\\a b\\c d.exe");
   EXPECT_EQ(call->Arguments, L" /x y");
   EXPECT_EQ(asked, (std::vector<std::wstring>{L"C:\\a", L"C:\\a b\\c", L"C:\\a b\\c d.exe"}));
+}
+
+TEST(SplitCommandLine, ProgramMayBeOneCharacterLong) {
+  const auto isFile = [](const std::wstring& path) { return path == L"t"; };
+  for (const auto& [line, arguments] :
+       {std::pair(L"t /x y", L" /x y"), std::pair(L"t", L""), std::pair(L"t ", L" ")}) {
+    const auto call = SplitCommandLine(line, isFile);
+    ASSERT_TRUE(call) << line;
+    EXPECT_EQ(call->Program, L"t");
+    EXPECT_EQ(call->Arguments, arguments);
+  }
 }
 
 TEST(SplitCommandLine, WholeLineMayBeTheProgram) {

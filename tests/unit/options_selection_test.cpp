@@ -16,17 +16,18 @@ constexpr std::array AllBoxes{
     OptionBox::AlwaysRestartTC,      OptionBox::UseContextMenuKey, OptionBox::ReverseOrderHotkey,
     OptionBox::KeepUnknownShortcuts, OptionBox::ForgetKeysAtOpen,  OptionBox::ShowUserCommands};
 
+/// Those behind the boxes, in their order.
+constexpr std::array<short Settings::*, AllBoxes.size()> AllSettings{
+    &Settings::CommandListShowLines, &Settings::FixedBorders,      &Settings::FlatUserInterface,
+    &Settings::AlwaysRestartTC,      &Settings::UseContextMenuKey, &Settings::ReverseOrderHotkey,
+    &Settings::KeepUnknownShortcuts, &Settings::ForgetKeysAtOpen,  &Settings::ShowUserCommands};
+
 class OptionsSelectionTest : public testing::Test {
  protected:
-  /// The settings behind the boxes, as digits in the boxes' order.
+  /// The settings behind the boxes as digits.
   std::string BoxSettings() const {
     std::string digits;
-    for (const short setting :
-         {settings_.CommandListShowLines, settings_.FixedBorders, settings_.FlatUserInterface,
-          settings_.AlwaysRestartTC, settings_.UseContextMenuKey, settings_.ReverseOrderHotkey,
-          settings_.KeepUnknownShortcuts, settings_.ForgetKeysAtOpen, settings_.ShowUserCommands}) {
-      digits += std::to_string(setting);
-    }
+    for (const auto setting : AllSettings) digits += std::to_string(settings_.*setting);
     return digits;
   }
 
@@ -37,23 +38,27 @@ class OptionsSelectionTest : public testing::Test {
 };
 
 TEST_F(OptionsSelectionTest, ShowsTheSettings) {
-  settings_.CommandListShowLines = 1;
-  settings_.FixedBorders = 0;
   settings_.ForegroundColor = 255;
   settings_.UseDefaultLanguage = 0;
   settings_.LanguageFile = L"C:\\a.lng";
   options_.Load();
-  EXPECT_TRUE(options_.Checked(OptionBox::ShowGridLines));
-  for (const OptionBox box : {OptionBox::FixedBorders, OptionBox::FlatUserInterface,
-                              OptionBox::AlwaysRestartTC, OptionBox::UseContextMenuKey,
-                              OptionBox::ReverseOrderHotkey, OptionBox::KeepUnknownShortcuts,
-                              OptionBox::ForgetKeysAtOpen, OptionBox::ShowUserCommands}) {
-    EXPECT_FALSE(options_.Checked(box)) << static_cast<int>(box);
-  }
   EXPECT_EQ(options_.Color(OptionColor::Foreground), 255);
   EXPECT_EQ(options_.Color(OptionColor::Background), -2147483643);
   EXPECT_FALSE(options_.UsesDefaultLanguage());
   EXPECT_EQ(options_.LanguageFilePath(), L"C:\\a.lng");
+}
+
+TEST_F(OptionsSelectionTest, EveryBoxShowsItsOwnSetting) {
+  for (const short value : {short{1}, short{2}, short{-1}}) {
+    for (std::size_t set = 0; set < AllSettings.size(); ++set) {
+      for (const auto setting : AllSettings) settings_.*setting = 0;
+      settings_.*AllSettings[set] = value;
+      options_.Load();
+      for (std::size_t box = 0; box < AllBoxes.size(); ++box) {
+        EXPECT_EQ(options_.Checked(AllBoxes[box]), box == set) << box << ", " << set;
+      }
+    }
+  }
 }
 
 TEST_F(OptionsSelectionTest, AMissingLanguageFileShowsNoPath) {
@@ -134,6 +139,7 @@ TEST_F(OptionsSelectionTest, AColorIsInTheSettingsAtOnceAndStaysAfterCancel) {
 
 TEST_F(OptionsSelectionTest, AFontIsInTheSettingsAtOnce) {
   settings_.FontStyle = cFontDlg::Italic;
+  settings_.FontScript = 238;
   options_.Load();
   FontRecord chosen;
   chosen.FaceName = L"Tahoma";
@@ -145,7 +151,7 @@ TEST_F(OptionsSelectionTest, AFontIsInTheSettingsAtOnce) {
   ASSERT_EQ(dialogs_.FontRequests.size(), 1U);
   EXPECT_EQ(dialogs_.FontRequests[0].FaceName, L"MS Sans Serif");
   EXPECT_EQ(dialogs_.FontRequests[0].PointSizeInTenths, 100);
-  EXPECT_EQ(dialogs_.FontRequests[0].CharSet, 1);
+  EXPECT_EQ(dialogs_.FontRequests[0].CharSet, 238);
   EXPECT_TRUE(dialogs_.FontRequests[0].Italic);
   EXPECT_EQ(settings_.FontName, L"Tahoma");
   EXPECT_EQ(settings_.FontSize, 12);
