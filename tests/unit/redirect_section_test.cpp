@@ -81,7 +81,10 @@ TEST(RedirectSection, EachSectionHasItsOwnLine) {
 }
 
 TEST(RedirectSection, APathWithoutFolderLeavesTheOtherWithoutFolder) {
-  EXPECT_EQ(PathWith("[user]\r\nRedirectSection=u.ini\r\n", L"user", L"wincmd.ini"), L"u.ini");
+  for (const char* const value : {"u.ini", ".\\u.ini"}) {
+    const std::string content = std::string("[user]\r\nRedirectSection=") + value + "\r\n";
+    EXPECT_EQ(PathWith(content, L"user", L"wincmd.ini"), L"u.ini") << value;
+  }
 }
 
 }  // namespace

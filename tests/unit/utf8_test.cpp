@@ -51,6 +51,16 @@ TEST(Utf8, BytesThatEncodeNoCharacterAreReplacedOneByOne) {
   }
 }
 
+TEST(Utf8, ACharacterIsTakenWhole) {
+  const std::wstring text = {L'a', 0xD83D, 0xDE00, 0xD83D, L'z'};
+  std::size_t position = 0;
+  for (const char32_t character : {U'a', U'\U0001F600', char32_t{0xD83D}, U'z'}) {
+    ASSERT_LT(position, text.size());
+    EXPECT_EQ(TakeCharacter(text, position), character);
+  }
+  EXPECT_EQ(position, text.size());
+}
+
 TEST(Utf8, OddByteIsLeftOut) { EXPECT_EQ(Utf8FromUtf16Le("a\0b"s), "a"); }
 
 TEST(Utf8, CutLeavesNoPartOfACharacter) {
