@@ -8,6 +8,7 @@ Wine, which takes a minute or more each: what fails there is tried once more by 
 """
 
 import argparse
+import contextlib
 import os
 import random
 import re
@@ -176,11 +177,21 @@ class Windows:
                                start_new_session=True)
         while run.poll() is None:
             if failing := self.reported_failures():
-                os.killpg(run.pid, signal.SIGTERM)
-                run.wait()
+                self.end(run)
                 return failing
             time.sleep(1)
-        return self.reported_failures()
+        return self.reported_failures() or (
+            {"*"} if run.returncode and not environment else set())
+
+    @staticmethod
+    def end(run):
+        """Ends a run, and waits until its tests have cleaned up: the next ones take their places."""
+        os.killpg(run.pid, signal.SIGTERM)
+        run.wait()
+        with contextlib.suppress(ProcessLookupError):
+            while True:
+                os.killpg(run.pid, 0)
+                time.sleep(0.1)
 
     @staticmethod
     def reported_failures():
