@@ -124,5 +124,13 @@ std::wstring Folder::TotalcmdInc() const { return Commander() + L"Totalcmd.inc";
 std::wstring Folder::DefaultKeysFile() const {
   return Program() + L"Data Files\\tc default hotkeys.hky";
 }
+std::wstring Folder::ShippedLanguage(const std::wstring& name) const {
+  return Program() + L"Languages\\" + name;
+}
+
+void Folder::UseLanguageFile(const std::wstring& path) const {
+  WriteBytes(SettingsFile(), "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
+                                 Utf8(path) + "\r\n");
+}
 
 }  // namespace tessera::e2e

@@ -55,6 +55,10 @@ class Folder {
   [[nodiscard]] std::wstring WincmdIni() const;
   [[nodiscard]] std::wstring TotalcmdInc() const;
   [[nodiscard]] std::wstring DefaultKeysFile() const;
+  [[nodiscard]] std::wstring ShippedLanguage(const std::wstring& name) const;
+
+  /// Writes settings that have nothing but a language file.
+  void UseLanguageFile(const std::wstring& path) const;
 
   /// Of Total Commander's registry key.
   RegistryValue InstallDir;

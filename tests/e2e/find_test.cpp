@@ -36,17 +36,9 @@ class FindTest : public EndToEndTest {
   /// `language` is the name of a shipped language file; empty for the built-in texts.
   void StartWith(const std::wstring& language, DWORD dpi) {
     resolution_.emplace(dpi);
-    if (!language.empty()) {
-      WriteBytes(folder_.SettingsFile(),
-                 "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
-                     Utf8(Shipped(language)) + "\r\n");
-    }
+    if (!language.empty()) folder_.UseLanguageFile(folder_.ShippedLanguage(language));
     StartAndLoad();
     all_ = ExpectedRows(folder_);
-  }
-
-  [[nodiscard]] std::wstring Shipped(const std::wstring& name) const {
-    return folder_.Program() + L"Languages\\" + name;
   }
 
   [[nodiscard]] std::wstring Found() const { return window_->ControlText(IDC_txtFind); }
@@ -130,7 +122,7 @@ void FindTest::ChooseLanguage(const std::wstring& language) {
   dialog.ClickControl(IDC_txtLanguageFilePath);
   WaitFor("the focus", [&] { return dialog.HasFocus(IDC_txtLanguageFilePath); });
   SendMessageW(dialog.Control(IDC_txtLanguageFilePath), WM_SETTEXT, 0,
-               reinterpret_cast<LPARAM>(Shipped(language).c_str()));
+               reinterpret_cast<LPARAM>(folder_.ShippedLanguage(language).c_str()));
   dialog.CloseBy(IDC_cmdOK);
 }
 

@@ -21,17 +21,6 @@ namespace {
 
 class LanguageTest : public EndToEndTest {
  protected:
-  void UseLanguageFile(const std::wstring& path) {
-    WriteBytes(folder_.SettingsFile(),
-               "[Tessera]\r\nUseDefaultLanguage=0\r\n"
-               "[Common]\r\nLanguageFile=" +
-                   Utf8(path) + "\r\n");
-  }
-
-  [[nodiscard]] std::wstring Shipped(const std::wstring& name) const {
-    return folder_.Program() + L"Languages\\" + name;
-  }
-
   std::wstring OwnFile(std::string_view content) {
     const std::wstring path = folder_.Root() + L"own.lng";
     WriteBytes(path, content);
@@ -187,20 +176,20 @@ class LanguageTest : public EndToEndTest {
 
 TEST_F(LanguageTest, ChosenLanguageIsAppliedToEveryWindowAtOnce) {
   StartAndLoad();
-  ChooseLanguageFile(Shipped(L"German.lng"));
+  ChooseLanguageFile(folder_.ShippedLanguage(L"German.lng"));
   ExpectGermanWindow();
   ExpectGermanDialogs();
 }
 
 TEST_F(LanguageTest, StoredLanguageIsAppliedAtTheStart) {
-  UseLanguageFile(Shipped(L"German.lng"));
+  folder_.UseLanguageFile(folder_.ShippedLanguage(L"German.lng"));
   StartAndLoad();
   ExpectGermanWindow();
   ExpectGermanDialogs();
 }
 
 TEST_F(LanguageTest, DefaultLanguageCanBeChosenAgain) {
-  UseLanguageFile(Shipped(L"German.lng"));
+  folder_.UseLanguageFile(folder_.ShippedLanguage(L"German.lng"));
   StartAndLoad();
   Select(L"cm_SrcTree");
   window_->ClickControl(IDC_cmdAllList);
@@ -209,7 +198,7 @@ TEST_F(LanguageTest, DefaultLanguageCanBeChosenAgain) {
   window_->Command(IDM_mnuViewOptions);
   Dialog dialog = NextDialog(L"frmOptions");
   dialog.ClickTab(IDC_tbsOptions, 3);
-  EXPECT_EQ(dialog.ControlText(IDC_txtLanguageFilePath), Shipped(L"German.lng"));
+  EXPECT_EQ(dialog.ControlText(IDC_txtLanguageFilePath), folder_.ShippedLanguage(L"German.lng"));
   dialog.ClickControl(IDC_optUseDefaultLanguage);
   WaitFor("the path to be disabled", [&] { return !dialog.Enabled(IDC_txtLanguageFilePath); });
   dialog.CloseBy(IDC_cmdOK);
@@ -217,11 +206,11 @@ TEST_F(LanguageTest, DefaultLanguageCanBeChosenAgain) {
   EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileSave), L"Save");
   EXPECT_EQ(keysList.Caption(), L"Hotkey:");
   EXPECT_EQ(Setting("UseDefaultLanguage"), "1");
-  EXPECT_EQ(Setting("LanguageFile", "Common"), Utf8(Shipped(L"German.lng")));
+  EXPECT_EQ(Setting("LanguageFile", "Common"), Utf8(folder_.ShippedLanguage(L"German.lng")));
 }
 
 TEST_F(LanguageTest, ArabicReadsFromTheRight) {
-  UseLanguageFile(Shipped(L"Arabic.lng"));
+  folder_.UseLanguageFile(folder_.ShippedLanguage(L"Arabic.lng"));
   StartAndLoad();
   EXPECT_EQ(window_->Header(0).Text, L"\u0627\u0644\u0648\u0635\u0641");
   ExpectDirection(true);
@@ -236,7 +225,7 @@ TEST_F(LanguageTest, SwitchToArabicLooksAsAStartInIt) {
   const auto startWith = [&](const std::wstring& language, const std::string& gridLines) {
     WriteBytes(folder_.SettingsFile(), size + "CommandListShowLines=" + gridLines +
                                            "\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
-                                           Utf8(Shipped(language)) + "\r\n");
+                                           Utf8(folder_.ShippedLanguage(language)) + "\r\n");
     StartAndLoad();
     Select(L"cm_SrcTree");
   };
@@ -246,7 +235,7 @@ TEST_F(LanguageTest, SwitchToArabicLooksAsAStartInIt) {
   // The label of one is longer than the Arabic one, that of the other shorter.
   for (const wchar_t* before : {L"Russian.lng", L"ChineseSimplified.lng"}) {
     startWith(before, "1");
-    ChooseLanguageFile(Shipped(L"Arabic.lng"));  // and switches the lines off
+    ChooseLanguageFile(folder_.ShippedLanguage(L"Arabic.lng"));  // and switches the lines off
     MoveTo({1, 1});
     WaitFor("the Arabic window", [&] { return WindowPicture().Pixels == fresh.Pixels; });
     Close();
@@ -254,7 +243,7 @@ TEST_F(LanguageTest, SwitchToArabicLooksAsAStartInIt) {
 }
 
 TEST_F(LanguageTest, DirectionAloneKeepsTheEnglishTexts) {
-  UseLanguageFile(OwnFile("[UserLanguage]\r\nRightToLeftLanguage=1\r\n"));
+  folder_.UseLanguageFile(OwnFile("[UserLanguage]\r\nRightToLeftLanguage=1\r\n"));
   StartAndLoad();
   EXPECT_EQ(window_->Header(0).Text, L"Description");
   EXPECT_EQ(window_->ControlText(IDC_lblHotkey), L"Hotkey:");
@@ -272,7 +261,7 @@ TEST_F(LanguageTest, LabelsStandDirectlyBeforeListAndChooser) {
   EXPECT_FALSE(window_->Visible(IDC_lblListView1));
   expectLabel(IDC_lblListView1, IDC_ListView1, L"Command");
   expectLabel(IDC_lblHotkey, IDC_Combo1, L"Hotkey:");
-  ChooseLanguageFile(Shipped(L"German.lng"));
+  ChooseLanguageFile(folder_.ShippedLanguage(L"German.lng"));
   ExpectGermanWindow();
   expectLabel(IDC_lblListView1, IDC_ListView1, L"Befehl");
   expectLabel(IDC_lblHotkey, IDC_Combo1, L"Tastenk\u00FCrzel:");
@@ -284,12 +273,12 @@ TEST_F(LanguageTest, EnglishReadsFromTheLeft) {
   ExpectMenuAtTheRight(false);
   ExpectButtonMenusAtTheRight(false);
   ExpectDirectionOfTheKeysList(false);
-  ChooseLanguageFile(Shipped(L"Arabic.lng"));
+  ChooseLanguageFile(folder_.ShippedLanguage(L"Arabic.lng"));
   ExpectDirectionOfTheKeysList(true);
 }
 
 TEST_F(LanguageTest, EmptyAndAbsentTextsAreTheBuiltInOnes) {
-  UseLanguageFile(
+  folder_.UseLanguageFile(
       OwnFile("[UserLanguage]\r\n1008=\r\n1009=Weg\r\n3003=Was\r\n3004=\r\n"
               "0=Zero\r\n-=Line\r\n"));
   StartAndLoad();
@@ -309,7 +298,7 @@ TEST_F(LanguageTest, EmptyAndAbsentTextsAreTheBuiltInOnes) {
 }
 
 TEST_F(LanguageTest, MissingFileIsToldOnceAndTheBuiltInTextsAreUsed) {
-  UseLanguageFile(folder_.Root() + L"nowhere.lng");
+  folder_.UseLanguageFile(folder_.Root() + L"nowhere.lng");
   program_ = std::make_unique<Program>(folder_.Executable(), commanderPath_);
   const Box box = NextBox();
   EXPECT_EQ(box.Text, L"Cannot find language file!");

@@ -129,9 +129,7 @@ TEST_F(ListMenuTest, WhereTheContextMenuKeyStandsForAltItOpensForHeadingsOnly) {
 
 TEST_F(ListMenuTest, OpensBesideThePointerWhereTextsRunFromTheRight) {
   const StartResolution resolution(192);
-  WriteBytes(folder_.SettingsFile(),
-             "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
-                 Utf8(folder_.Program() + L"Languages\\Arabic.lng") + "\r\n");
+  folder_.UseLanguageFile(folder_.ShippedLanguage(L"Arabic.lng"));
   StartAndLoad();
   const HWND menu = OpenByMouse(L"cm_SrcComments");
   POINT pointer{};

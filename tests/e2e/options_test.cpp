@@ -368,7 +368,7 @@ TEST_F(OptionsTest, LanguageFileIsBrowsedForInTheFolderLanguages) {
   BringToFront(files);
   Type(L"German.lng");  // found only when the dialog stands in that folder
   AnswerByKey(files, VK_RETURN);
-  const std::wstring path = folder_.Program() + L"Languages\\German.lng";
+  const std::wstring path = folder_.ShippedLanguage(L"German.lng");
   WaitFor("the path", [&] { return dialog.ControlText(IDC_txtLanguageFilePath) == path; });
   dialog.CloseBy(IDC_cmdOK);
   WaitFor("the setting", [&] { return Setting("LanguageFile", "Common") == Utf8(path); });

@@ -154,12 +154,6 @@ class PageRunTest : public testing::Test {
     EXPECT_TRUE(Everything() == before) << "a file or folder has come, gone or changed";
   }
 
-  void UseLanguage(const std::wstring& name) {
-    WriteBytes(folder_.SettingsFile(),
-               "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
-                   Utf8(folder_.Program() + L"Languages\\" + name) + "\r\n");
-  }
-
   [[nodiscard]] std::wstring Page() const { return folder_.Root() + L"keys.html"; }
 
   Folder folder_;
@@ -194,10 +188,10 @@ TEST_F(PageRunTest, GivenFileIsReadAndTheFormerPageReplaced) {
 }
 
 TEST_F(PageRunTest, PageIsInTheLanguageOfTheSettings) {
-  UseLanguage(L"Arabic.lng");
+  folder_.UseLanguageFile(folder_.ShippedLanguage(L"Arabic.lng"));
   EXPECT_EQ(Run(L"/page=keys.html").Code, 0U);
   EXPECT_NE(ReadBytes(Page()).find("dir=\"rtl\""), std::string::npos);
-  UseLanguage(L"German.lng");
+  folder_.UseLanguageFile(folder_.ShippedLanguage(L"German.lng"));
   const std::wstring missing = folder_.Root() + L"gr\u00FCn.ini";
   ExpectFailure(L"gr\u00FCn.ini /page=keys.html", L"Diese Datei wurde nicht gefunden: " + missing);
 }

@@ -70,9 +70,7 @@ bool Chooses(const Combination& pressed, std::wstring_view mnemonics) {
 class PressTest : public EndToEndTest {
  protected:
   void StartIn(const std::wstring& language) {
-    WriteBytes(folder_.SettingsFile(),
-               "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
-                   Utf8(folder_.Program() + L"Languages\\" + language) + "\r\n");
+    folder_.UseLanguageFile(folder_.ShippedLanguage(language));
     StartAndLoad();
     Select(L"cm_SrcTree");
   }

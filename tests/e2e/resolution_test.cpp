@@ -72,12 +72,8 @@ class ResolutionTest : public EndToEndTest {
  protected:
   /// The name of a shipped language file; empty for the built-in texts.
   void StartWith(const std::wstring& language) {
-    std::string settings = "[Tessera]\r\n";
-    if (!language.empty()) {
-      settings += "UseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
-                  Utf8(folder_.Program() + L"Languages\\" + language) + "\r\n";
-    }
-    WriteBytes(folder_.SettingsFile(), settings);
+    WriteBytes(folder_.SettingsFile(), "[Tessera]\r\n");
+    if (!language.empty()) folder_.UseLanguageFile(folder_.ShippedLanguage(language));
     Start();
     memory_ = std::make_unique<RemoteMemory>(program_->Process(), sizeof(RECT));
     WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });

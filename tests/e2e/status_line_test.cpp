@@ -21,11 +21,7 @@ class StatusLineTest : public EndToEndTest {
   /// `language` is the name of a shipped language file; empty for the built-in texts.
   void StartWith(const std::wstring& language, DWORD dpi) {
     resolution_.emplace(dpi);
-    if (!language.empty()) {
-      WriteBytes(folder_.SettingsFile(),
-                 "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
-                     Utf8(folder_.Program() + L"Languages\\" + language) + "\r\n");
-    }
+    if (!language.empty()) folder_.UseLanguageFile(folder_.ShippedLanguage(language));
     StartAndLoad();
   }
 

@@ -99,9 +99,7 @@ TEST_F(UndoTest, AfterDeleteAllAndUndoTheFileIsSavedAsItWas) {
 
 TEST_F(UndoTest, StandsBesideShowAtTwiceTheResolutionFromRightToLeft) {
   const StartResolution resolution(192);
-  WriteBytes(folder_.SettingsFile(),
-             "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=" +
-                 Utf8(folder_.Program() + L"Languages\\Arabic.lng") + "\r\n");
+  folder_.UseLanguageFile(folder_.ShippedLanguage(L"Arabic.lng"));
   StartAndLoad();
   Select(L"cm_SrcTree");
   {
