@@ -128,6 +128,7 @@ TEST_F(ClipboardExportTest, TheTableHasTheColumnsOfTheLastOk) {
   export_.Click(Column::Defaults);
   export_.Cancel();
   EXPECT_TRUE(export_.CopyTable(clipboard_));
+  EXPECT_NE(clipboard_.Htmls.back().find("<th>Description</th>"), std::string::npos);
   EXPECT_NE(clipboard_.Htmls.back().find("Default Hotkey"), std::string::npos);
   export_.Ok();
   EXPECT_TRUE(export_.CopyTable(clipboard_));
