@@ -35,6 +35,7 @@ BESIDES_PRODUCT = {
 
 # Tests that are not named after one source file, and why.
 OTHER_TESTS = {
+    "command_list_search": "searches in the command list, whose other tests are long",
     "conflict_model": "holds the whole program to a model of its rules over random edits",
     "growth": "counts what the operations of the whole program run",
     "fuzz_regressions": "replays what the fuzzers found, over all readers",

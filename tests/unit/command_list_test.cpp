@@ -152,6 +152,14 @@ TEST_F(CommandListTest, TheStoredSortComesBackAtTheFirstActivation) {
   EXPECT_EQ(settings_.SortOrder, 0);
 }
 
+TEST_F(CommandListTest, AStoredColumnOutOfRangeIsRepairedAtTheFirstActivationToo) {
+  settings_.SortedList = 1;
+  list_.SortCommandList();
+  settings_.SortedColumn = 9;
+  list_.RestoreStoredSort();
+  EXPECT_EQ(settings_.SortedColumn, 3);
+}
+
 TEST_F(CommandListTest, AStoredFourthColumnIsRestoredAsNone) {
   settings_.SortedList = 1;
   settings_.SortedColumn = 4;
@@ -214,161 +222,6 @@ TEST(ColumnLayout, WhatIsMissingOrImpossibleTakesItsDefault) {
     EXPECT_EQ(layout.Positions, (std::array{1, 2, 3, 4}));
     EXPECT_EQ(layout.Widths, expectedWidths);
   }
-}
-
-// -- Searching
-
-TEST_F(CommandListTest, TheSelectedRowStaysWhileItIsFound) {
-  list_.ShowRowDetails(Sync);
-  list_.Search(L"f9");
-  EXPECT_EQ(list_.SelectedRow(), Sync);
-}
-
-TEST_F(CommandListTest, OtherwiseTheFirstCommandThatIsFoundIsSelectedAndNoHeading) {
-  list_.ShowRowDetails(Pack);
-  EXPECT_TRUE(list_.Search(L"f9").HideKeysList);
-  EXPECT_EQ(list_.SelectedRow(), Search);
-  list_.EndSearch();
-  EXPECT_EQ(list_.SelectedRow(), Search);
-}
-
-TEST_F(CommandListTest, WithoutHeadingsTheFirstCommandThatIsFoundIsTheFirstRow) {
-  catalogue_.ListView1.RemoveHeadings();
-  list_.ShowRowDetails(Pack);
-  list_.Search(L"f9");
-  EXPECT_EQ(list_.SelectedRow(), Search);
-}
-
-TEST_F(CommandListTest, WhatIsFoundNowhereSelectsNothingUntilTheTextChanges) {
-  list_.ShowRowDetails(Pack);
-  list_.Search(L"f9");
-  list_.Search(L"f9 nowhere");
-  EXPECT_EQ(list_.SelectedRow(), 0U);
-  EXPECT_FALSE(list_.CommandSelected());
-  list_.Search(L"f9 nowhere else");
-  EXPECT_EQ(list_.SelectedRow(), 0U);
-  list_.EndSearch();
-  EXPECT_EQ(list_.SelectedRow(), Pack) << "as before the search";
-}
-
-TEST_F(CommandListTest, ARowThatWasSelectedWhileSearchingIsTheOneBefore) {
-  list_.ShowRowDetails(Pack);
-  list_.Search(L"f9");
-  list_.SelectRow(2);
-  list_.Search(L"nowhere");
-  list_.Search(L"f9");
-  EXPECT_EQ(list_.SelectedRow(), Sync);
-}
-
-TEST_F(CommandListTest, PositionsAreThoseOfWhatIsShown) {
-  list_.Search(L"f9");
-  list_.SelectRow(1);
-  EXPECT_EQ(list_.SelectedRow(), Search);
-  list_.SelectRow(3);
-  EXPECT_EQ(list_.SelectedRow(), Search) << "there is no such row";
-}
-
-TEST_F(CommandListTest, SortingKeepsTheSearchAndSelectsItsFirstRow) {
-  list_.Search(L"f9");
-  list_.SelectRow(2);
-  settings_.SortedColumn = 2;
-  settings_.SortOrder = 1;
-  list_.SortCommandList();
-  EXPECT_EQ(list_.Shown().Count(), 2U);
-  EXPECT_EQ(list_.SelectedRow(), Sync);
-  list_.SortByColumn(2);
-  EXPECT_EQ(list_.Shown().At(0).Key, Search);
-  EXPECT_EQ(list_.SelectedRow(), Sync) << "a click on a heading selects nothing";
-  list_.RestoreFileOrder();
-  EXPECT_EQ(list_.Shown().Count(), 3U);
-  EXPECT_EQ(list_.SelectedRow(), Heading);
-}
-
-TEST_F(CommandListTest, TheTableItselfKnowsNothingOfASearch) {
-  list_.Search(L"f9");
-  EXPECT_EQ(Order(), fileOrder);
-}
-
-TEST_F(CommandListTest, TakingAnEditOfAHiddenRowBackEndsTheSearch) {
-  const auto edit = [this] {
-    catalogue_.ListView1.Edit(Pack).CurrentKeys = L"X";
-    return true;
-  };
-  catalogue_.Edits.Make(catalogue_, {EditKind::Assign, Pack, L"X"}, edit);
-  list_.Search(L"f9");
-  list_.Undo();
-  EXPECT_FALSE(list_.Shown().Searching());
-  EXPECT_EQ(list_.SelectedRow(), Pack);
-  list_.Search(L"pack");
-  list_.Redo();
-  EXPECT_TRUE(list_.Shown().Searching()) << "its row is shown";
-}
-
-TEST_F(CommandListTest, TakingAnEditOfAllRowsBackLeavesTheSelectedRowAndTheSearch) {
-  const auto edit = [this] {
-    catalogue_.ListView1.Edit(View).CurrentKeys = L"---";
-    return true;
-  };
-  catalogue_.Edits.Make(catalogue_, {EditKind::DeleteAll, 0, {}}, edit);
-  list_.Search(L"f9");
-  list_.ShowRowDetails(Sync);
-  for (const Reaction& reaction : {list_.Undo(), list_.Redo()}) {
-    EXPECT_TRUE(reaction.Restored);
-    EXPECT_FALSE(reaction.HideKeysList);
-    EXPECT_EQ(list_.SelectedRow(), Sync);
-    EXPECT_TRUE(list_.Shown().Searching());
-  }
-}
-
-TEST_F(CommandListTest, TheFirstRowOfAllIsACommandLikeAnyOther) {
-  constexpr RowKey First = 1;
-  constexpr RowKey Second = 2;
-  catalogue_.ListView1.Fill({SampleCommand(First, L"First", L"---", L"F1"),
-                             SampleCommand(Second, L"Second", L"---", L"F2")});
-  list_.ShowFirstRow();
-  EXPECT_TRUE(list_.CommandSelected());
-  list_.ShowRowDetails(Second);
-  list_.Search(L"f1");
-  list_.Search(L"f");
-  EXPECT_EQ(list_.SelectedRow(), First);
-
-  const auto edit = [this] {
-    catalogue_.ListView1.Edit(First).CurrentKeys = L"X";
-    return true;
-  };
-  catalogue_.Edits.Make(catalogue_, {EditKind::Assign, First, L"X"}, edit);
-  list_.ShowRowDetails(Second);
-  list_.Search(L"second");
-  EXPECT_TRUE(list_.Undo().HideKeysList);
-  EXPECT_EQ(list_.SelectedRow(), First);
-  EXPECT_FALSE(list_.Shown().Searching());
-}
-
-TEST_F(CommandListTest, WithoutAPlaceToTypeASearchEndsAndNoneBegins) {
-  list_.Search(L"f9");
-  EXPECT_FALSE(list_.SetCanSearch(true).Searched);
-  EXPECT_TRUE(list_.Shown().Searching());
-  EXPECT_TRUE(list_.SetCanSearch(false).Searched);
-  EXPECT_FALSE(list_.CanSearch());
-  EXPECT_EQ(list_.Shown().SearchText(), L"");
-  EXPECT_FALSE(list_.SetCanSearch(false).Searched);
-  list_.Search(L"f9");
-  EXPECT_EQ(list_.Shown().SearchText(), L"");
-  list_.SetCanSearch(true);
-  list_.Search(L" ");
-  EXPECT_TRUE(list_.SetCanSearch(false).Searched) << "blanks go, too";
-  EXPECT_EQ(list_.Shown().SearchText(), L"");
-}
-
-TEST_F(CommandListTest, SortingSelectsAnotherRowForAnEditedOneThatIsNoLongerFound) {
-  list_.SortCommandList();
-  list_.Search(L"f9");
-  list_.ShowRowDetails(Sync);
-  catalogue_.ListView1.Edit(Sync).CurrentKeys = L"---";
-  EXPECT_TRUE(list_.Shown().PositionOf(Sync)) << "edits alone hide no row";
-  list_.SortByColumn(1);
-  EXPECT_FALSE(list_.Shown().PositionOf(Sync));
-  EXPECT_EQ(list_.SelectedRow(), Search);
 }
 
 }  // namespace
