@@ -40,8 +40,7 @@ bool Texts::UseLanguageFile(const std::wstring& path) {
   language_.emplace(files_, path);
   language_->PassOverMark();
   rightToLeft_ = IntegerOf(*language_, L"RightToLeftLanguage") != 0;
-  const int codePage = IntegerOf(*language_, L"CodePage");
-  if (codePage > 0) language_->UseCodePage(static_cast<unsigned>(codePage));
+  language_->UseCodePage(static_cast<unsigned>(IntegerOf(*language_, L"CodePage")));
   return true;
 }
 

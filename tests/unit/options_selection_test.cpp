@@ -138,6 +138,8 @@ TEST_F(OptionsSelectionTest, AColorIsInTheSettingsAtOnceAndStaysAfterCancel) {
 }
 
 TEST_F(OptionsSelectionTest, AFontIsInTheSettingsAtOnce) {
+  settings_.FontName = L"Arial";
+  settings_.FontSize = 8;
   settings_.FontStyle = cFontDlg::Italic;
   settings_.FontScript = 238;
   options_.Load();
@@ -149,8 +151,8 @@ TEST_F(OptionsSelectionTest, AFontIsInTheSettingsAtOnce) {
   dialogs_.FontAnswers = {chosen};
   options_.PickFont();
   ASSERT_EQ(dialogs_.FontRequests.size(), 1U);
-  EXPECT_EQ(dialogs_.FontRequests[0].FaceName, L"MS Sans Serif");
-  EXPECT_EQ(dialogs_.FontRequests[0].PointSizeInTenths, 100);
+  EXPECT_EQ(dialogs_.FontRequests[0].FaceName, L"Arial");
+  EXPECT_EQ(dialogs_.FontRequests[0].PointSizeInTenths, 80);
   EXPECT_EQ(dialogs_.FontRequests[0].CharSet, 238);
   EXPECT_TRUE(dialogs_.FontRequests[0].Italic);
   EXPECT_EQ(settings_.FontName, L"Tahoma");
