@@ -47,8 +47,8 @@ void GivenKeys::Exchange(FormerMoment& former) {
   const std::size_t moment = found == moments_.end() ? 0 : found->second;
   if (formerMoment != 0) {
     moments_[place] = formerMoment;
-  } else if (found != moments_.end()) {
-    moments_.erase(found);
+  } else {
+    moments_.erase(place);
   }
   former.second = moment;
 }

@@ -98,7 +98,6 @@ HoldersOfKey KeyHolders::Of(std::wstring_view key, const DisplayTable& rows,
     if (holds.Current) holders.Currents.push_back(row);
     return !holds.IsListed;
   });
-  if (group->second.empty()) rows_.erase(group);
   for (const std::size_t each : inMarkedCells) {
     holders.Defaults[each].Overridden = !holders.Currents.empty();
   }

@@ -75,6 +75,17 @@ TEST(DisplayTable, ShowsAllRowsInFileOrderAtFirst) {
   EXPECT_EQ(Displayed(SampleTable()), (Keys{1, 2, 3, 4, 5, 6}));
 }
 
+TEST(DisplayTable, RowsAreFoundByKeysThatLeaveGaps) {
+  DisplayTable table;
+  const Keys keys{1, 2, 4, 5, 9};
+  std::vector<CommandEntry> rows;
+  for (const RowKey key : keys) rows.push_back(Command(key, L"text", L"---"));
+  table.Fill(rows);
+  EXPECT_EQ(Displayed(table), keys);
+  for (const RowKey key : keys) EXPECT_EQ(table.Row(key).Key, key);
+  for (const RowKey key : {0U, 3U, 6U, 8U, 10U}) EXPECT_FALSE(table.PositionOf(key)) << key;
+}
+
 TEST(DisplayTable, HeadingsAreLeftOutButKeepTheirRows) {
   DisplayTable table = SampleTable();
   table.RemoveHeadings();

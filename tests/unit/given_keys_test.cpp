@@ -1,6 +1,8 @@
 // What is remembered of the keys that edits gave to rows.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
 #include <vector>
 
 #include "shortcuts/GivenKeys.h"
@@ -39,6 +41,25 @@ TEST(GivenKeys, AKeyThatAnEditTakesEndsForThatRow) {
   EXPECT_NE(given.MomentOf(2, L"*"), 0U);
   EXPECT_NE(given.MomentOf(3, L"F5"), 0U);
   EXPECT_NE(given.MomentOf(2, L"F7"), 0U) << "the edit did not concern a key that was not there";
+}
+
+TEST(GivenKeys, ExchangedChangesAreTakenBackAndMadeAgain) {
+  GivenKeys given;
+  given.Give(2, L"F1");
+  std::vector<GivenKeys::FormerMoment> former;
+  given.NoteChangesIn(&former);
+  given.Give(2, L"F5");
+  given.Give(2, L"F1");
+  given.Change(2, Keys{L"F1"}, Keys{});
+  given.NoteChangesIn(nullptr);
+  for (int round = 0; round < 2; ++round) {
+    std::for_each(former.rbegin(), former.rend(), [&](auto& each) { given.Exchange(each); });
+    EXPECT_EQ(given.MomentOf(2, L"F1"), 1U);
+    EXPECT_EQ(given.MomentOf(2, L"F5"), 0U);
+    std::for_each(former.begin(), former.end(), [&](auto& each) { given.Exchange(each); });
+    EXPECT_EQ(given.MomentOf(2, L"F1"), 0U);
+    EXPECT_EQ(given.MomentOf(2, L"F5"), 2U);
+  }
 }
 
 TEST(GivenKeys, GoOverToTheRowThatFollows) {

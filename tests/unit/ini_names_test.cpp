@@ -17,7 +17,7 @@ TEST(IniNames, BytesAreEqualWhenTheirTextsAre) {
   for (const wchar_t left : letters) {
     for (const wchar_t right : letters) {
       const std::wstring first = {L'x', left, L'y'};
-      const std::wstring second = {L'X', right, L'Y'};
+      const std::wstring second = {L'x', right, L'Y'};
       const std::string bytes = Encode(first, Utf8CodePage);
       const std::string others = Encode(second, Utf8CodePage);
       const bool areEqual = EqualIgnoringCase(first, second);
