@@ -65,7 +65,7 @@ void ForEachUtf16Unit(char32_t character, Take take) {
     take(character);
   } else {
     take(0xD800 + ((character - 0x10000) >> 10));
-    take(0xDC00 + ((character - 0x10000) & 0x3FF));
+    take(0xDC00 + (character & 0x3FF));
   }
 }
 
