@@ -92,10 +92,8 @@ std::size_t EndOfLine(std::wstring_view text, std::size_t begin, int width) {
 void CutTo(int width, std::wstring& line, bool isCut) {
   isCut |= WidthOf(line) > width;
   if (!isCut) return;
-  while (!line.empty() && WidthOf(line) + WidthOf(Ellipsis) > width) {
-    if (IsLowSurrogate(line.back()) && line.size() > 1) line.pop_back();
-    line.pop_back();
-  }
+  // The second half of a character has no width, so the first one goes with it.
+  while (!line.empty() && WidthOf(line) + WidthOf(Ellipsis) > width) line.pop_back();
   line = std::wstring(TrimSpaces(line)) + Ellipsis;
 }
 
