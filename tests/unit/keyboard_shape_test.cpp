@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "export/KeyboardShape.h"
@@ -52,6 +53,15 @@ TEST(KeyboardShape, LiesAsOnAnEnglishKeyboard) {
   EXPECT_LT(ShapeOf(L"ENTER").X, ShapeOf(L"LEFT").X);
   EXPECT_LT(ShapeOf(L"RIGHT").X, ShapeOf(L"+").X);
   EXPECT_EQ(ShapeOf(L"+").Height, 8);
+}
+
+TEST(KeyboardShape, HasItsKeysInRowsThatBeginAtTheLeftEdge) {
+  std::map<int, int> firstOfRow;
+  for (const KeyShape& shape : KeyboardShape()) {
+    const auto [row, isNew] = firstOfRow.try_emplace(shape.Y, shape.X);
+    row->second = std::min(row->second, shape.X);
+  }
+  EXPECT_EQ(firstOfRow, (std::map<int, int>{{0, 0}, {6, 0}, {10, 0}, {14, 0}, {18, 0}, {22, 0}}));
 }
 
 TEST(KeyboardShape, HasEachModifierOnBothSides) {
