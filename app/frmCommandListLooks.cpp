@@ -92,7 +92,6 @@ void frmCommandList::ApplyDisplaySettings() {
                                     LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP | buffer | lines);
   ListView_SetTextColor(ListView1_, ColorOf(settings.ForegroundColor));
   ListView_SetBkColor(ListView1_, ColorOf(settings.BackgroundColor));
-  ListView_SetTextBkColor(ListView1_, ColorOf(settings.BackgroundColor));
   InvalidateRect(ListView1_, nullptr, TRUE);
 }
 

@@ -55,6 +55,9 @@ class LanguageTest : public EndToEndTest {
     EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileOpen), L"\u00D6ffnen...");
     EXPECT_EQ(window_->ButtonText(IDC_Toolbar1, IDM_mnuFileSave), L"Speichern");
     EXPECT_EQ(window_->ControlText(IDC_lblHotkey), L"Tastenk\u00FCrzel:");
+    EXPECT_EQ(window_->ControlText(IDC_chkCtrlAlt0), L"&Strg +");
+    EXPECT_EQ(window_->ControlText(IDC_chkCtrlAlt1), L"A&lt +");
+    EXPECT_EQ(window_->ControlText(IDC_chkCtrlAlt2), L"&Umschalt +");
     EXPECT_EQ(window_->Caption(), folder_.WincmdIni() + L" - Tessera");
     const HWND menu = window_->OpenMenu('D');
     for (const wchar_t* caption :
