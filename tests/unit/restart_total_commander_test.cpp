@@ -147,6 +147,15 @@ TEST(Pause, LastsHalfASecondWhenTheTimeIsSetBack) {
   EXPECT_EQ(clock.SleptMilliseconds, 500);
 }
 
+TEST(Pause, IsNoneWhenItWouldNotEndAfterMidnight) {
+  for (const double seconds : {-0.5, -100.0}) {
+    FakeClock clock;
+    clock.Seconds = seconds;
+    Pause(clock);
+    EXPECT_EQ(clock.DoEventsCount, 0) << seconds;
+  }
+}
+
 TEST_F(RestartTotalCommanderTest, AStartThatFailsIsTold) {
   programs_.StartSucceeds = false;
   EXPECT_EQ(RestartTotalCommander(programs_, clock_, files_, environment_, {.WincmdPath = L"x"}),

@@ -69,7 +69,10 @@ TEST(Utf8, CutLeavesNoPartOfACharacter) {
   for (std::size_t limit = 0; limit < std::size(lengths); ++limit) {
     EXPECT_EQ(CutUtf8(text, limit), text.substr(0, lengths[limit]));
   }
-  for (std::size_t limit = 0; limit < 3; ++limit) EXPECT_EQ(CutUtf8("\xE2\x82\xACz", limit), "");
+  for (std::size_t limit = 0; limit < 3; ++limit) {
+    EXPECT_EQ(CutUtf8("\xE2\x82\xACz", limit), "");
+    EXPECT_EQ(CutUtf8("\x80\x80\x80\x80", limit), "");
+  }
   EXPECT_EQ(CutUtf8("\x80\x80\x80\x80\x80\x80", 5).size(), 2u);
 }
 
