@@ -101,6 +101,13 @@ TEST_F(CommandsTest, ChecksFollowTheSettings) {
   EXPECT_TRUE(StateOf(IDM_mnuViewSortList).Checked);
 }
 
+TEST_F(CommandsTest, NoCommandIsCheckedThatSwitchesNothing) {
+  Start();
+  for (const CommandState& state : CommandStates(Editor)) {
+    EXPECT_EQ(state.Checked, state.Id == IDM_mnuViewToolbar) << state.Id;
+  }
+}
+
 TEST_F(CommandsTest, OpenAndRecentFilesLeaveTheSelectedRowToBeShown) {
   Start();
   EXPECT_EQ(RunCommand(Editor, IDM_mnuFileOpen), WindowTask::ShowSelectedRow);
