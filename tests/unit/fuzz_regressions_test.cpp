@@ -7,11 +7,12 @@
 #include <string>
 
 #include "tests/fuzz/Targets.h"
+#include "tests/support/Repository.h"
 
 namespace tessera::fuzz_regressions_test {
 namespace {
 
-const std::filesystem::path Folder = std::filesystem::path(TESSERA_SOURCE_DIRECTORY) / "tests/fuzz";
+const std::filesystem::path Folder = InRepository("tests/fuzz");
 
 std::string BytesOf(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);

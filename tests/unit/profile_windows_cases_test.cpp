@@ -9,6 +9,7 @@
 #include "settings/ini/IniDocument.h"
 #include "tests/support/FakeClock.h"
 #include "tests/support/MemoryFiles.h"
+#include "tests/support/Repository.h"
 #include "text/Text.h"
 
 namespace tessera::profile_windows_cases_test {
@@ -101,8 +102,7 @@ Call ParseCall(std::string_view text) {
 }
 
 std::vector<Case> ReadCases() {
-  std::ifstream file(TESSERA_SOURCE_DIRECTORY "/tests/data/profile-windows-cases.txt",
-                     std::ios::binary);
+  std::ifstream file(InRepository("tests/data/profile-windows-cases.txt"), std::ios::binary);
   std::vector<Case> cases;
   for (std::string line; std::getline(file, line);) {
     if (line.ends_with('\r')) line.pop_back();

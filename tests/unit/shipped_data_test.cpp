@@ -18,6 +18,7 @@
 #include "tests/support/FakeClock.h"
 #include "tests/support/FakeEnvironment.h"
 #include "tests/support/MemoryFiles.h"
+#include "tests/support/Repository.h"
 #include "text/Text.h"
 
 namespace tessera::shipped_data_test {
@@ -27,7 +28,7 @@ constexpr const wchar_t* DataPath = L"tc default hotkeys.hky";
 constexpr const wchar_t* WincmdPath = L"C:\\tc\\wincmd.ini";
 
 std::string Bytes(const std::string& path) {
-  std::ifstream file(TESSERA_SOURCE_DIRECTORY "/" + path, std::ios::binary);
+  std::ifstream file(InRepository(path), std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -116,8 +117,7 @@ std::set<int> WidthsIn(const std::string& icon) {
 
 TEST(ShippedIcons, HaveAPictureForEachUsualScaling) {
   int icons = 0;
-  for (const auto& file :
-       std::filesystem::directory_iterator(TESSERA_SOURCE_DIRECTORY "/resources/icons")) {
+  for (const auto& file : std::filesystem::directory_iterator(InRepository("resources/icons"))) {
     if (file.path().extension() != ".ico") continue;
     ++icons;
     const std::set<int> widths =

@@ -15,6 +15,7 @@
 #include "settings/ini/ProfileFile.h"
 #include "shortcuts/HotkeyNotation.h"
 #include "tests/support/MemoryFiles.h"
+#include "tests/support/Repository.h"
 #include "text/Text.h"
 #include "text/Trim.h"
 
@@ -28,8 +29,7 @@ std::wstring PathOf(std::wstring_view language) { return std::wstring(language) 
 /// The bytes of all files in the folder of the languages, by name.
 std::map<std::wstring, std::string> ReadLanguageFolder() {
   std::map<std::wstring, std::string> contents;
-  for (const auto& entry :
-       std::filesystem::directory_iterator(TESSERA_SOURCE_DIRECTORY "/Languages")) {
+  for (const auto& entry : std::filesystem::directory_iterator(InRepository("Languages"))) {
     std::ifstream file(entry.path(), std::ios::binary);
     contents[entry.path().filename().wstring()].assign(std::istreambuf_iterator<char>(file), {});
   }
