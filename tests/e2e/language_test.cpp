@@ -202,6 +202,7 @@ TEST_F(LanguageTest, DefaultLanguageCanBeChosenAgain) {
   Dialog dialog = NextDialog(L"frmOptions");
   dialog.ClickTab(IDC_tbsOptions, 3);
   EXPECT_EQ(dialog.ControlText(IDC_txtLanguageFilePath), folder_.ShippedLanguage(L"German.lng"));
+  EXPECT_TRUE(dialog.BoxChecked(IDC_optUseOtheLanguage));
   dialog.ClickControl(IDC_optUseDefaultLanguage);
   WaitFor("the path to be disabled", [&] { return !dialog.Enabled(IDC_txtLanguageFilePath); });
   dialog.CloseBy(IDC_cmdOK);

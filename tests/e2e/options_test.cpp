@@ -355,8 +355,9 @@ TEST_F(OptionsTest, PickedFontIsTheListsAfterCancelToo) {
 
 TEST_F(OptionsTest, LanguageFileIsBrowsedForInTheFolderLanguages) {
   Dialog dialog = OpenOptions();
-  GoTo(dialog, Language);
+  // Before it has the focus, by which a button of such a group is checked too.
   EXPECT_TRUE(dialog.BoxChecked(IDC_optUseDefaultLanguage));
+  GoTo(dialog, Language);
   EXPECT_FALSE(dialog.Enabled(IDC_txtLanguageFilePath));
   EXPECT_FALSE(dialog.Enabled(IDC_cmdBrowseForLangFile));
   EXPECT_EQ(dialog.ControlText(IDC_txtLanguageFilePath), L"");

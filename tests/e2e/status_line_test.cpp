@@ -1,7 +1,9 @@
 // The line that tells who has a key, and the button that leads there, worked by the keyboard.
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
@@ -145,6 +147,49 @@ TEST_F(StatusLineTest, ShowsAllOfItInATipWhereItIsCut) {
   WaitFor("the tip", [&] { return window_->TipIn(IDC_Frame1) == Line(); });
   MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblHotkey))));
   WaitFor("the tip to go", [&] { return window_->TipIn(IDC_Frame1).empty(); });
+}
+
+/// The windows whose change of name the program tells to screen readers, while this object lives.
+class ToldChanges {
+ public:
+  explicit ToldChanges(DWORD process)
+      : hook_(SetWinEventHook(EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_NAMECHANGE, nullptr, Take,
+                              process, 0, WINEVENT_OUTOFCONTEXT)) {
+    told_.clear();
+  }
+  ~ToldChanges() { UnhookWinEvent(hook_); }
+  ToldChanges(const ToldChanges&) = delete;
+  ToldChanges& operator=(const ToldChanges&) = delete;
+
+  [[nodiscard]] static bool Has(HWND window) {
+    // They come as messages of this thread.
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) DispatchMessageW(&message);
+    return std::ranges::find(told_, window) != told_.end();
+  }
+
+ private:
+  static void CALLBACK Take(HWINEVENTHOOK /*hook*/, DWORD /*event*/, HWND window, LONG /*object*/,
+                            LONG /*child*/, DWORD /*thread*/, DWORD /*time*/) {
+    told_.push_back(window);
+  }
+
+  static inline std::vector<HWND> told_;
+  HWINEVENTHOOK hook_;
+};
+
+TEST_F(StatusLineTest, ScreenReadersAreToldOnceTheKeysAreReleased) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  const HWND line = window_->Control(IDC_lblStatus);
+  const ToldChanges changes(program_->Id());
+  {
+    const HeldKey control(VK_CONTROL);
+    const HeldKey key(VK_F1);
+    WaitForLine(L"Ctrl + F1", L"cm_SrcShort");
+    EXPECT_FALSE(ToldChanges::Has(line));
+  }
+  WaitFor("the line to be told", [&] { return ToldChanges::Has(line); });
 }
 
 }  // namespace
