@@ -7,7 +7,7 @@ build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils)
 package=("${build[@]}" python3)
 sign=(osslsigncode)
 run=("${build[@]}" wine wine64 fonts-wine xvfb xdotool imagemagick)
-test=("${run[@]}" "${sign[@]}" openssl g++ clang-14 libclang-rt-14-dev lld-14 googletest
+test=("${run[@]}" "${sign[@]}" openssl g++ clang-14 libclang-rt-14-dev lld googletest
   clang-format-14 clang-tidy-14 python3)
 page=("${run[@]}" chromium chromium-driver python3 python3-selenium python3-html5lib python3-pil
   poppler-utils fonts-noto-cjk fonts-hosny-amiri)
