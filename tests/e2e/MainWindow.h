@@ -45,6 +45,9 @@ class MainWindow : public Window {
   /// The position of the row with that command; -1 when there is none.
   [[nodiscard]] int FindCommand(const std::wstring& command) const;
   [[nodiscard]] int SelectedRow() const;
+
+  /// The row that the list finds by such a search, as assistive programs use it; -1 for none.
+  [[nodiscard]] int FindItem(UINT flags) const;
   [[nodiscard]] HeaderShows Header(int column) const;
 
   /// True when the icons of the headers are not those of the rows.

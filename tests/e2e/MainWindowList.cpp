@@ -102,6 +102,14 @@ int MainWindow::SelectedRow() const {
       Send(Control(IDC_ListView1), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
+int MainWindow::FindItem(UINT flags) const {
+  LVFINDINFOW search{};
+  search.flags = flags;
+  memory_.Put(search);
+  return static_cast<int>(
+      Send(Control(IDC_ListView1), LVM_FINDITEMW, static_cast<WPARAM>(-1), memory_.At()));
+}
+
 HeaderShows MainWindow::Header(int column) const {
   HDITEMW item{};
   item.mask = HDI_TEXT | HDI_FORMAT | HDI_IMAGE;

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <ranges>
 #include <stdexcept>
 #include <vector>
 
@@ -68,7 +67,7 @@ int CountByHandles() {
   }
   const bool counted = reachedNewOnes();
   // From the last to the first, so that the next count gets them in the same order.
-  for (const HMENU menu : menus | std::views::reverse) DestroyMenu(menu);
+  for (; !menus.empty(); menus.pop_back()) DestroyMenu(menus.back());
   if (!counted) throw std::runtime_error("The system's objects could not be counted");
   return numbers.back() - static_cast<int>(numbers.size());
 }

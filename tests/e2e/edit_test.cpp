@@ -160,12 +160,12 @@ TEST_F(EditTest, ALetterLeadsToTheNextRowThatBeginsWithIt) {
   StartAndLoad();
   const std::vector<RowTexts> rows = window_->Rows();
   Select(L"cm_SrcTree");
-  const auto selected = static_cast<std::size_t>(window_->SelectedRow());
-  const wchar_t letter = rows[selected][0].front();
+  const std::ptrdiff_t selected = window_->SelectedRow();
+  const wchar_t letter = rows.begin()[selected][0].front();
   const auto begins = [letter](const RowTexts& row) { return row[0].starts_with(letter); };
   const auto first = std::ranges::find_if(rows, begins) - rows.begin();
   const auto next = std::find_if(rows.begin() + selected + 1, rows.end(), begins) - rows.begin();
-  ASSERT_LT(first, static_cast<std::ptrdiff_t>(selected));
+  ASSERT_LT(first, selected);
   ASSERT_LT(next, static_cast<std::ptrdiff_t>(rows.size()));
   Type({&letter, 1});
   WaitFor("another row", [&] { return window_->SelectedRow() != static_cast<int>(selected); });
@@ -278,6 +278,11 @@ TEST_F(EditTest, DeletingAllKeysAsksFirst) {
   EXPECT_EQ(window_->SelectedRow(), selected);
 }
 
+TEST_F(EditTest, ListFindsNoRowByWhatRowsDoNotHave) {
+  StartAndLoad();
+  EXPECT_EQ(window_->FindItem(LVFI_PARAM), -1);
+}
+
 TEST_F(EditTest, ModifierKeysToggleTheirBoxes) {
   StartAndLoad();
   Select(L"cm_SrcTree");
@@ -287,7 +292,7 @@ TEST_F(EditTest, ModifierKeysToggleTheirBoxes) {
     for (const auto& [key, box] : modifiers) {
       Press(key);
       WaitFor("box " + std::to_string(box) + " to change",
-              [&] { return window_->BoxChecked(box) == checked; });
+              [&, box = box] { return window_->BoxChecked(box) == checked; });
       WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
       EXPECT_FALSE(window_->InMenu());
     }

@@ -6,10 +6,10 @@
 
 namespace tessera {
 
-inline const std::wstring VantorFile = L"C:\\Tessera\\vantor.ini";
-inline const std::wstring DataFile = L"C:\\Tessera\\Data Files\\tc default hotkeys.hky";
-inline const std::wstring IncFile = L"C:\\TC\\Totalcmd.inc";
-inline const std::wstring IniFile = L"C:\\TC\\Wincmd.ini";
+const std::wstring VantorFile = L"C:\\Tessera\\vantor.ini";
+const std::wstring DataFile = L"C:\\Tessera\\Data Files\\tc default hotkeys.hky";
+const std::wstring IncFile = L"C:\\TC\\Totalcmd.inc";
+const std::wstring IniFile = L"C:\\TC\\Wincmd.ini";
 
 /// The texts of the files above, but for the settings.
 struct Installation {

@@ -18,8 +18,8 @@
 
 namespace tessera::model {
 
-inline const std::wstring IniPath = L"C:\\TC\\Wincmd.ini";
-inline const std::wstring DataPath = L"C:\\keys.hky";
+const std::wstring IniPath = L"C:\\TC\\Wincmd.ini";
+const std::wstring DataPath = L"C:\\keys.hky";
 
 class Session {
  public:

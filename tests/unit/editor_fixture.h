@@ -7,7 +7,7 @@
 
 namespace tessera {
 
-inline const std::wstring OtherIniFile = L"C:\\TC\\Other.ini";
+const std::wstring OtherIniFile = L"C:\\TC\\Other.ini";
 
 inline constexpr const char* IniContent =
     "[Configuration]\r\nkey=value\r\n"

@@ -12,11 +12,11 @@
 
 namespace tessera::replaced_file {
 
-inline const std::wstring Path = L"C:\\TC\\Wincmd.ini";
-inline const std::wstring Prepared = Path + L".tessera-new";
-inline const std::wstring Former = Path + L".tessera-old";
-inline const std::wstring Backup = Path + L".bak";
-inline const std::wstring Unsaved = Path + L".unsaved";
+const std::wstring Path = L"C:\\TC\\Wincmd.ini";
+const std::wstring Prepared = Path + L".tessera-new";
+const std::wstring Former = Path + L".tessera-old";
+const std::wstring Backup = Path + L".bak";
+const std::wstring Unsaved = Path + L".unsaved";
 
 using FileTable = std::map<std::wstring, std::string>;
 

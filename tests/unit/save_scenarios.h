@@ -17,7 +17,7 @@ namespace tessera::saves {
 using World = SampleProgram<FaultyFiles>;
 using FileTable = std::map<std::wstring, std::string>;
 
-inline const std::wstring OtherFile = L"C:\\TC\\keys.ini";
+const std::wstring OtherFile = L"C:\\TC\\keys.ini";
 
 /// One way of saving: the files that it writes, and how.
 struct Scenario {

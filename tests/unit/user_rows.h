@@ -8,7 +8,7 @@
 
 namespace tessera::user_rows {
 
-inline const std::wstring UserFile = L"C:\\TC\\usercmd.ini";
+const std::wstring UserFile = L"C:\\TC\\usercmd.ini";
 
 /// Positions of the first open, behind those of the small installation.
 inline constexpr std::size_t OwnHeading = 5;
