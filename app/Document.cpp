@@ -70,7 +70,7 @@ bool Document::SaveAndRestartEnabled() const { return saveAndRestartEnabled_; }
 
 bool Document::RestartButtonEnabled() const { return restartButtonEnabled_; }
 
-bool Document::Busy() const { return busy_; }
+bool Document::Busy() const { return loading_ || saving_; }
 
 const std::optional<FailedSave>& Document::Failure() const { return failure_; }
 
@@ -80,7 +80,7 @@ Catalogue& Document::Commands() { return catalogue_; }
 
 const HotkeyNotation& Document::Notation() const { return notation_; }
 
-BusyTime Document::BeginBusyTime() { return BusyTime(busy_); }
+BusyTime Document::BeginLoad() { return BusyTime(loading_); }
 
 void Document::ReadNotation() {
   notation_.MultiHotkeySeparator = settings_.MultiHotkeySeparator;
@@ -194,7 +194,7 @@ std::wstring Document::ReadUserRows() {
 }
 
 bool Document::ChangesMayGo() {
-  if (busy_) return false;
+  if (Busy()) return false;
   const BoxAnswer answer = AskToSaveChanges();
   const bool saveFailed = answer == BoxAnswer::Yes && modified_;
   if (answer != BoxAnswer::Yes) DropUnsaved();
@@ -212,7 +212,7 @@ BoxAnswer Document::AskToSaveChanges() {
 }
 
 bool Document::KeepUnsaved() {
-  if (busy_ || unread_ || !modified_) return false;
+  if (loading_ || unread_ || !modified_) return false;
   if (!kept_) kept_.emplace(files_, UnsavedFiles::Targets::LeftAlone);
   KnownContents known = known_;  // what is kept is not saved
   // The error of a file that cannot be read comes also when its changes lie there.
@@ -235,14 +235,14 @@ void Document::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
 void Document::FileSaveAndRestart() { Save(true); }
 
 void Document::Save(bool restarts) {
-  if (busy_ || !modified_) return;
+  if (Busy() || !modified_) return;
   if (unread_) {
     // A save would drop every key that the list does not show.
     system_.MessageBoxes.Beep();
     failure_ = {.Unread = true};
     return;
   }
-  const BusyTime busy(busy_);
+  const BusyTime busy(saving_);
   const bool wasRunning = restarts && FindTotalCommander(system_.Programs) != 0;
   const std::wstring commander = wasRunning ? RunningTotalCommander(system_.Programs) : L"";
   const bool mayStart = restarts && Restart(true) != RestartResult::NotAllowed;

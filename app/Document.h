@@ -77,8 +77,8 @@ class Document : Pinned {
   /// Takes the notation over from settings and texts, at the start of the program.
   void ReadNotation();
 
-  /// The document is busy as long as the result lives.
-  [[nodiscard]] BusyTime BeginBusyTime();
+  /// The document is busy with a load as long as the result lives.
+  [[nodiscard]] BusyTime BeginLoad();
 
   /// Asks about unsaved changes; false when they have to stay: the user cancelled, a save failed,
   /// or the document is busy.
@@ -91,7 +91,7 @@ class Document : Pinned {
 
   /// Keeps what a save would write as ".unsaved" beside the file, for an end of the program without
   /// an answer. It stays until the question about unsaved changes is answered, or DropUnsaved.
-  /// Nothing is kept while the document is busy. True when all changes lie there.
+  /// Nothing is kept while a file is loaded. True when all changes lie there.
   bool KeepUnsaved();
   void DropUnsaved();
 
@@ -140,7 +140,8 @@ class Document : Pinned {
   bool unread_ = false;  ///< the file is there, and reading it failed
   bool saveAndRestartEnabled_ = false;
   bool restartButtonEnabled_ = true;
-  bool busy_ = false;
+  bool loading_ = false;  ///< so the rows are not whole
+  bool saving_ = false;
 };
 
 }  // namespace tessera

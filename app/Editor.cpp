@@ -33,8 +33,6 @@ const HotkeyPanel& Editor::Panel() const { return panel_; }
 
 const KeysList& Editor::AllKeys() const { return keysList_; }
 
-const HolderTour& Editor::Holders() const { return holders_; }
-
 const cRecentFiles& Editor::RecentFiles() const { return recentFiles_; }
 
 const Settings& Editor::Options() const { return settings_; }
@@ -149,7 +147,7 @@ void Editor::OpenShortcutFile(bool browse, const std::wstring& path, bool addToR
 }
 
 void Editor::OpenPath(const std::wstring& path, bool addToRecent, WhenUnread whenUnread) {
-  const BusyTime busy = document_.BeginBusyTime();
+  const BusyTime busy = document_.BeginLoad();
   progress_.Start();
   if (document_.Open(path, whenUnread, [this] { progress_.Step(); })) {
     ShowOpenedFile(path, addToRecent);

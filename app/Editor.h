@@ -47,7 +47,6 @@ class Editor : Pinned {
   [[nodiscard]] const CommandList& List() const;
   [[nodiscard]] const HotkeyPanel& Panel() const;
   [[nodiscard]] const KeysList& AllKeys() const;
-  [[nodiscard]] const HolderTour& Holders() const;
   [[nodiscard]] const cRecentFiles& RecentFiles() const;
   [[nodiscard]] const Settings& Options() const;
   [[nodiscard]] const Texts& Language() const;

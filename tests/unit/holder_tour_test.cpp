@@ -17,7 +17,7 @@ class HolderTourTest : public EditorTest {
 
   void Select(std::size_t position) { Editor.Work(&CommandList::SelectRow, position); }
   void Show() { Editor.Work(&HolderTour::Show); }
-  [[nodiscard]] bool Enabled() const { return Editor.Holders().ShowEnabled(); }
+  [[nodiscard]] bool Enabled() const { return Editor.ShowEnabled(); }
   [[nodiscard]] std::optional<std::size_t> Selected() const {
     return Editor.Document().Rows().PositionOf(Editor.List().SelectedRow());
   }

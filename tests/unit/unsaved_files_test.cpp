@@ -222,15 +222,53 @@ TEST_F(EditorTest, KeepingLeavesTheKeysThatTheNextSaveTakesFromTheStartMenu) {
   EXPECT_EQ(Ini().find("key1"), std::string::npos);
 }
 
-TEST_F(EditorTest, NothingIsKeptWithoutChangesOrDuringASave) {
+TEST_F(EditorTest, NothingIsKeptWithoutChangesOrAfterASave) {
   Programs.Windows[L"TTOTAL_CMD"] = 7;
   Start();
-  Editor.KeepUnsaved();
+  EXPECT_FALSE(Editor.KeepUnsaved());
   EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
   Assign(Pack, L"X");
   Clock.OnDoEvents = [this] { Editor.KeepUnsaved(); };
   Editor.FileSaveAndRestart();
   EXPECT_FALSE(Files.Contents.contains(UnsavedFile));
+}
+
+TEST_F(EditorTest, NothingIsKeptDuringALoad) {
+  int steps = 0;
+  tessera::Editor* changed = nullptr;
+  tessera::Editor editor(Seams, [&](const LoadProgress&) {
+    if (changed == nullptr) return;
+    ++steps;
+    EXPECT_FALSE(changed->KeepUnsaved());
+  });
+  Clock.StepPerReading = 1;  // a long load
+  editor.Load();
+  editor.Activate();
+  editor.Work(&CommandList::SelectRow, Copy);
+  editor.Work(&HotkeyPanel::Delete);
+  ASSERT_TRUE(editor.Document().Modified());
+  changed = &editor;
+  Files.Contents[OtherIniFile] = "[Shortcuts]\r\n";
+  MessageBoxes.Answers = {BoxAnswer::No};
+  editor.OpenShortcutFile(false, OtherIniFile, true);
+  EXPECT_GT(steps, 0);
+}
+
+TEST_F(EditorTest, ChangesAreKeptWhileASaveWaitsForTotalCommander) {
+  Programs.Windows[L"TTOTAL_CMD"] = 7;
+  Programs.PollsBeforeAnswer = 3;
+  Files.Contents[UnsavedFile] = "of an earlier failure";
+  Start();
+  Assign(Pack, L"X");
+  std::vector<std::string> left;
+  Clock.OnDoEvents = [&] {
+    Editor.KeepUnsaved();
+    left.push_back(Files.Contents[UnsavedFile]);
+  };
+  Editor.FileSaveAndRestart();
+  EXPECT_NE(left.front().find("X=cm_Pack"), std::string::npos);
+  EXPECT_EQ(left.back(), "of an earlier failure");
+  EXPECT_NE(Ini().find("X=cm_Pack"), std::string::npos);
 }
 
 TEST_F(EditorTest, NothingIsKeptOfAFileThatCouldNotBeRead) {
