@@ -20,14 +20,6 @@ constexpr Opener Openers[] = {
 
 }  // namespace
 
-KeyMeaning MeaningOf(KeyCode code, bool pressed, const ChooserState& chooser) {
-  const bool closesChooser = code == KeyCode::Enter || code == KeyCode::Escape;
-  if (closesChooser && chooser.Open) return KeyMeaning::ForControl;
-  const bool atClosedChooser = chooser.HasFocus && !chooser.Open;
-  return pressed && code == KeyCode::Right && atClosedChooser ? KeyMeaning::OpensKeysList
-                                                              : KeyMeaning::ForPanel;
-}
-
 KeyMeaning MeaningOf(const KeyPress& press, bool pressed) {
   const KeyEvent& event = press.Event;
   if (press.Focus == FocusPlace::TextBox) return KeyMeaning::ForControl;
@@ -36,8 +28,11 @@ KeyMeaning MeaningOf(const KeyPress& press, bool pressed) {
   });
   const bool opens = pressed && !event.WasDown && !AnyModifierHeld(event);
   if (opens && opener != std::end(Openers)) return opener->Meaning;
-  return MeaningOf(event.Code, pressed,
-                   {.HasFocus = press.Focus == FocusPlace::Chooser, .Open = press.ChooserOpen});
+  const bool closesChooser = event.Code == KeyCode::Enter || event.Code == KeyCode::Escape;
+  if (closesChooser && press.ChooserOpen) return KeyMeaning::ForControl;
+  const bool atClosedChooser = press.Focus == FocusPlace::Chooser && !press.ChooserOpen;
+  return pressed && event.Code == KeyCode::Right && atClosedChooser ? KeyMeaning::OpensKeysList
+                                                                    : KeyMeaning::ForPanel;
 }
 
 bool PressesFocusedButton(const KeyEvent& event) {

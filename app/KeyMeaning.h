@@ -19,9 +19,6 @@ struct ChooserState {
   bool Open = false;  ///< its own list is open
 };
 
-[[nodiscard]] KeyMeaning MeaningOf(KeyCode code, bool pressed, const ChooserState& chooser);
-
-/// The same for a key anywhere in the window.
 [[nodiscard]] KeyMeaning MeaningOf(const KeyPress& press, bool pressed);
 
 /// True for a key-down that presses the button with the focus, where the panel leaves it over. One

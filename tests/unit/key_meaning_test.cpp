@@ -6,9 +6,15 @@
 namespace tessera::key_meaning_test {
 namespace {
 
-constexpr ChooserState Elsewhere{};
-constexpr ChooserState Closed{.HasFocus = true, .Open = false};
-constexpr ChooserState Open{.HasFocus = true, .Open = true};
+constexpr KeyPress Elsewhere{.Focus = FocusPlace::Elsewhere};
+constexpr KeyPress Closed{.Focus = FocusPlace::Chooser, .ChooserOpen = false};
+constexpr KeyPress Open{.Focus = FocusPlace::Chooser, .ChooserOpen = true};
+
+/// Of a key at one of these places.
+KeyMeaning MeaningOf(KeyCode code, bool pressed, KeyPress place) {
+  place.Event.Code = code;
+  return MeaningOf(place, pressed);
+}
 
 TEST(KeyMeaning, RightInTheClosedChooserOpensTheKeysList) {
   EXPECT_EQ(MeaningOf(KeyCode::Right, true, Closed), KeyMeaning::OpensKeysList);
@@ -70,15 +76,6 @@ TEST(KeyMeaning, EveryKeyInATextBoxIsForIt) {
                 KeyMeaning::ForControl);
     }
   }
-}
-
-TEST(KeyMeaning, ThePlaceOfAPressTellsTheChooser) {
-  KeyPress press = PressIn(FocusPlace::Chooser, KeyCode::Right);
-  EXPECT_EQ(MeaningOf(press, true), KeyMeaning::OpensKeysList);
-  press.ChooserOpen = true;
-  EXPECT_EQ(MeaningOf(press, true), KeyMeaning::ForPanel);
-  press.Event.Code = KeyCode::Escape;
-  EXPECT_EQ(MeaningOf(press, true), KeyMeaning::ForControl);
 }
 
 TEST(KeyMeaning, EnterByItselfPressesTheFocusedButtonOnce) {
