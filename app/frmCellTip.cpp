@@ -1,4 +1,4 @@
-// One tool of a tool tip control; it moves from cell to cell with the pointer.
+// One tool of a tool tip control; it moves from part to part with the pointer.
 #include "app/frmCellTip.h"
 
 namespace tessera {
@@ -9,10 +9,10 @@ constexpr UINT_PTR Tool = 1;
 /// Some texts take a while to read.
 constexpr WORD ShownMilliseconds = 30000;
 
-TTTOOLINFOW ToolOf(HWND list) {
+TTTOOLINFOW ToolOf(HWND window) {
   TTTOOLINFOW tool{};
   tool.cbSize = sizeof tool;
-  tool.hwnd = list;
+  tool.hwnd = window;
   tool.uId = Tool;
   return tool;
 }
@@ -23,26 +23,25 @@ void Tell(HWND tip, UINT message, const void* parameter) {
 
 }  // namespace
 
-void frmCellTip::Create(HWND list) {
+void frmCellTip::Create(HWND window) {
   tip_ =
       CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0, 0,
-                      GetAncestor(list, GA_ROOT), nullptr, GetModuleHandleW(nullptr), nullptr);
+                      GetAncestor(window, GA_ROOT), nullptr, GetModuleHandleW(nullptr), nullptr);
   SendMessageW(tip_, TTM_SETDELAYTIME, TTDT_AUTOPOP, ShownMilliseconds);
-  const TTTOOLINFOW tool = ToolOf(list);
+  const TTTOOLINFOW tool = ToolOf(window);
   Tell(tip_, TTM_ADDTOOLW, &tool);
 }
 
-void frmCellTip::Set(HWND list, const RECT& part, const std::wstring& text, HFONT font) {
+void frmCellTip::Set(HWND window, const RECT& part, const std::wstring& text, HFONT font) {
   if (tip_ == nullptr && text.empty()) return;
-  if (tip_ == nullptr) Create(list);
+  if (tip_ == nullptr) Create(window);
   SendMessageW(tip_, TTM_POP, 0, 0);
   GiveFont(tip_, font);
   // With a greatest width it takes line breaks.
-  SendMessageW(tip_, TTM_SETMAXTIPWIDTH, 0, WorkArea(list).Width / 2);
-  const bool rightToLeft = (GetWindowLongPtrW(list, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+  SendMessageW(tip_, TTM_SETMAXTIPWIDTH, 0, WorkArea(window).Width / 2);
   std::wstring shown = text;
-  TTTOOLINFOW tool = ToolOf(list);
-  tool.uFlags = rightToLeft ? TTF_RTLREADING : 0;
+  TTTOOLINFOW tool = ToolOf(window);
+  tool.uFlags = IsRightToLeft(window) ? TTF_RTLREADING : 0;
   tool.rect = part;
   tool.lpszText = shown.data();
   Tell(tip_, TTM_SETTOOLINFOW, &tool);

@@ -1,4 +1,5 @@
-// The tip of the command list. The list's own tips do not reach all of its cells.
+// A tip over parts of a window, such as cells of the command list: the list's own tips do not reach
+// all of them.
 #pragma once
 
 #include <string>
@@ -10,18 +11,18 @@ namespace tessera {
 
 class frmCellTip : Pinned {
  public:
-  /// From now on the tip over that part of the list; an empty text for none. It is made when there
-  /// is something to say for the first time. The font stays the caller's.
-  void Set(HWND list, const RECT& part, const std::wstring& text, HFONT font);
+  /// From now on the tip over that part of the window; an empty text for none. It is made when
+  /// there is something to say for the first time. The font stays the caller's.
+  void Set(HWND window, const RECT& part, const std::wstring& text, HFONT font);
 
-  /// Takes a mouse message of the list: after a rest over the part the tip shows.
+  /// Takes a mouse message of the window: after a rest over the part the tip shows.
   void Follow(const MSG& message) const;
 
   /// To be called once its windows are destroyed: their numbers may become those of others.
   void Forget() { tip_ = nullptr; }
 
  private:
-  void Create(HWND list);
+  void Create(HWND window);
 
   HWND tip_ = nullptr;
 };

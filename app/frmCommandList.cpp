@@ -130,6 +130,7 @@ LRESULT CALLBACK frmCommandList::ListProcedure(HWND list, UINT message, WPARAM w
     // The list has moved the columns after one that changed its width, with what runs over them.
     if (message == WM_NOTIFY && IsWidthChange(*reinterpret_cast<const NMHDR*>(lParam))) {
       InvalidateRect(list, nullptr, TRUE);
+      reinterpret_cast<frmCommandList*>(self)->HideTip();
     }
     return result;
   });

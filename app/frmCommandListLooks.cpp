@@ -70,6 +70,7 @@ void frmCommandList::ApplyFont() {
   // its own would make them jump.
   GiveFont(ListView1_, font.get());
   font_ = std::move(font);
+  HideTip();
 }
 
 void frmCommandList::ApplyColumnWidths(const std::array<int, 4>& twips) {

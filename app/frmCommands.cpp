@@ -47,8 +47,7 @@ void frmCommands::Do(WindowTask task) {
 
 void frmCommands::mnuFileExportToClipboard_Click() {
   work_.HideKeysList();
-  ClipboardExport& model = editor_.BeginExport();
-  frmExportToClipboard_.Show(views_.Window(), model, [&model] { model.Ok(); });
+  frmExportToClipboard_.Show(views_.Window(), editor_.BeginExport());
   editor_.EndExport();
   views_.Sync();
 }
@@ -60,6 +59,7 @@ void frmCommands::mnuViewOptions_Click() {
   views_.ApplyDisplaySettings();
   // May show a box, behind which the window is to have its new looks.
   const OptionsOutcome outcome = editor_.EndOptions();
+  if (views_.Window() == nullptr) return;  // it went with the session while the dialog was open
   if (outcome.LanguageChanged) {
     views_.ApplyLanguage();
     views_.ApplyFonts();

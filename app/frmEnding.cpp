@@ -2,30 +2,11 @@
 #include "app/frmEnding.h"
 
 #include <cstdlib>
-#include <string>
 #include <utility>
 
 #include "app/Failure.h"
 
 namespace tessera {
-namespace {
-
-/// What the system tells its user at a log-off about a program that holds it up.
-class LogOffReason {
- public:
-  LogOffReason(HWND window, const std::wstring& text) : window_(window) {
-    ShutdownBlockReasonCreate(window, text.c_str());
-  }
-  ~LogOffReason() { ShutdownBlockReasonDestroy(window_); }
-  LogOffReason(const LogOffReason&) = delete;
-  LogOffReason& operator=(const LogOffReason&) = delete;
-
- private:
-  HWND window_;
-};
-
-}  // namespace
-
 frmEnding::frmEnding(Editor& editor, frmViews& views, MessageBoxes& messageBoxes)
     : editor_(editor), views_(views), messageBoxes_(messageBoxes) {}
 
@@ -40,13 +21,18 @@ bool frmEnding::MaySessionEnd() {
   // Without changes whatever is open goes with the window, and a load stops mattering.
   if (!editor_.Document().Modified()) return true;
   // First of all: the rest may wait for files, and the system does not wait long.
-  const LogOffReason reason(views_.Window(), editor_.Document().Caption());
+  ShutdownBlockReasonCreate(views_.Window(), editor_.Document().Caption().c_str());
   // The system soon covers the question, and lets its user end the program over it.
   editor_.KeepUnsaved();
-  return views_.AcceptInput() && MayClose();
+  // Where nothing can be asked, the system tells the reason until all programs have answered.
+  if (!views_.AcceptInput()) return false;
+  const bool closes = MayClose();
+  ShutdownBlockReasonDestroy(views_.Window());
+  return closes;
 }
 
 void frmEnding::OnSessionEnd(bool ends) {
+  ShutdownBlockReasonDestroy(views_.Window());
   if (ends) {
     DestroyWindow(views_.Window());
   } else {

@@ -238,9 +238,9 @@ void frmMain::Form_Activate() {
 }
 
 void frmMain::Form_Unload() {
+  PostQuitMessage(0);  // before anything that may throw: the message of that goes with the window
   editor_.Unload(placement_.Current(views_, editor_.Options()), views_.List().Columns());
   windowsSystem_.SetMainWindow(nullptr, nullptr);
-  PostQuitMessage(0);
 }
 
 }  // namespace tessera

@@ -59,6 +59,8 @@ void frmStatusRow::LayOut(int top) {
   Place(lblStatus_, row.Line);
   Place(cmdShow_, row.Buttons[0]);
   Place(cmdUndo_, row.Buttons[1]);
+  tip_.Set(frame_, {}, {}, font_);
+  tipText_.clear();
 }
 
 StatusRow frmStatusRow::RowIn(int width, int top) const {
@@ -89,7 +91,7 @@ void frmStatusRow::SetUndoTip(const std::wstring& text) {
   undoTipText_ = text;
   TTTOOLINFOW tool{};
   tool.cbSize = sizeof tool;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS | (IsRightToLeft(frame_) ? TTF_RTLREADING : 0);
   tool.hwnd = frame_;
   tool.uId = reinterpret_cast<UINT_PTR>(cmdUndo_);
   tool.lpszText = undoTipText_.data();
@@ -100,7 +102,7 @@ void frmStatusRow::SetUndoTip(const std::wstring& text) {
                                GetModuleHandleW(nullptr), nullptr);
     SendMessageW(undoTip_, TTM_ADDTOOLW, 0, parameter);
   } else {
-    SendMessageW(undoTip_, TTM_UPDATETIPTEXTW, 0, parameter);
+    SendMessageW(undoTip_, TTM_SETTOOLINFOW, 0, parameter);
   }
 }
 

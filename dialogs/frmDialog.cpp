@@ -125,10 +125,10 @@ INT_PTR CALLBACK frmDialog::DialogProcedure(HWND window, UINT message, WPARAM wP
   }
   auto* const self = reinterpret_cast<frmDialog*>(GetWindowLongPtrW(window, DWLP_USER));
   if (self == nullptr) return FALSE;
-  return Guarded(window, [&] { return self->Handle(message, wParam, lParam).value_or(FALSE); });
+  return Guarded(window, [&] { return self->Handle(message, wParam, lParam); });
 }
 
-std::optional<INT_PTR> frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
       OnCommandMessage(LOWORD(wParam), HIWORD(wParam));
@@ -164,19 +164,19 @@ std::optional<INT_PTR> frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lPa
         SendMessageW(child, message, wParam, lParam);
       }
       LayOut();
-      return std::nullopt;
+      return FALSE;
     case WM_SETTINGCHANGE:
       if (wParam == SPI_SETNONCLIENTMETRICS) ApplyDpi(metrics_.Dpi);  // the message font
-      return std::nullopt;
+      return FALSE;
     case WM_DESTROY:
       for (const auto& controls : {plan_.Controls, plan_.Buttons}) {
         for (const DialogControl& control : controls) {
           if (HasAccessibleName(control.Kind)) ClearAccessibleName(Control(control.Id));
         }
       }
-      return std::nullopt;
+      return FALSE;
     default:
-      return std::nullopt;
+      return FALSE;
   }
 }
 
@@ -214,7 +214,7 @@ HWND frmDialog::Create(const DialogControl& control, bool startsGroup) {
 }
 
 void frmDialog::CreateControls() {
-  translatorsBrush_.reset(CreateSolidBrush(RGB(0, 255, 255)));
+  translatorsBrush_.reset(CreateSolidBrush(TranslatorsColor));
   SetStyleBits(window_, GWL_EXSTYLE, WS_EX_LAYOUTRTL, texts_.RightToLeft());
   bool optionBefore = false;
   for (const DialogControl& control : plan_.Controls) {

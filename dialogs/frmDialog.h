@@ -61,7 +61,9 @@ class frmDialog {
  private:
   static LRESULT CALLBACK FilterMessage(int code, WPARAM wParam, LPARAM lParam);
   static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  std::optional<INT_PTR> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+  /// What the system takes from a dialog: FALSE for what it is to do itself.
+  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void OnInit();
   void OnCommandMessage(int id, int notification);
   void CreateControls();
@@ -86,7 +88,7 @@ class frmDialog {
   void DrawTabBackground(SIZE size);
   void DrawBackground(HDC context) const;
   void DrawSwatch(const DRAWITEMSTRUCT& draw) const;
-  [[nodiscard]] std::optional<INT_PTR> ColorControl(HDC context, HWND control);
+  [[nodiscard]] INT_PTR ColorControl(HDC context, HWND control);
   [[nodiscard]] const DialogControl* Find(int id) const;
 
   const DialogPlan& plan_;

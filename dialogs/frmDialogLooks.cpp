@@ -169,14 +169,14 @@ void frmDialog::DrawBackground(HDC context) const {
   FillRect(context, &page, tabBackground_.get());
 }
 
-std::optional<INT_PTR> frmDialog::ColorControl(HDC context, HWND control) {
+INT_PTR frmDialog::ColorControl(HDC context, HWND control) {
   const DialogControl* const found = Find(GetDlgCtrlID(control));
-  if (found == nullptr) return std::nullopt;
+  if (found == nullptr) return FALSE;
   if (settings_.ShowControlsBackColor != 0 && IsTranslatorsControl(found->Kind)) {
     SetBkColor(context, TranslatorsColor);
     return reinterpret_cast<INT_PTR>(translatorsBrush_.get());
   }
-  if (tabs_ == nullptr || found->Kind == ControlKind::TextBox) return std::nullopt;
+  if (tabs_ == nullptr || found->Kind == ControlKind::TextBox) return FALSE;
   POINT corner{};
   MapWindowPoints(control, tabs_, &corner, 1);
   SetBrushOrgEx(context, -corner.x, -corner.y, nullptr);

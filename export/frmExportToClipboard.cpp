@@ -45,10 +45,8 @@ constexpr DialogPlan Plan{
 frmExportToClipboard::frmExportToClipboard(const Texts& texts, const Settings& settings)
     : frmDialog(Plan, texts, settings) {}
 
-void frmExportToClipboard::Show(HWND owner, ClipboardExport& model,
-                                const std::function<void()>& ok) {
+void frmExportToClipboard::Show(HWND owner, ClipboardExport& model) {
   model_ = &model;
-  ok_ = ok;
   ShowModal(owner);
 }
 
@@ -63,7 +61,7 @@ void frmExportToClipboard::OnCommand(int id, int notification) {
     model_->Click(box->Exported);
     Sync();
   } else if (id == IDC_cmdOK) {
-    ok_();
+    model_->Ok();
     Close();
   } else if (id == IDC_cmdCancel) {
     model_->Cancel();

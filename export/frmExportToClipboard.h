@@ -1,8 +1,6 @@
 // The export dialog: which columns of the list go to the clipboard.
 #pragma once
 
-#include <functional>
-
 #include "dialogs/frmDialog.h"
 #include "export/ClipboardExport.h"
 
@@ -12,8 +10,8 @@ class frmExportToClipboard final : public frmDialog {
  public:
   frmExportToClipboard(const Texts& texts, const Settings& settings);
 
-  /// Shows the dialog and returns when it has closed. `ok` is called for OK.
-  void Show(HWND owner, ClipboardExport& model, const std::function<void()>& ok);
+  /// Shows the dialog and returns when it has closed.
+  void Show(HWND owner, ClipboardExport& model);
 
  private:
   void Sync() override;
@@ -21,7 +19,6 @@ class frmExportToClipboard final : public frmDialog {
   void OnCloseButton() override;
 
   ClipboardExport* model_ = nullptr;
-  std::function<void()> ok_;
 };
 
 }  // namespace tessera

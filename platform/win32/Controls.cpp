@@ -171,8 +171,12 @@ void Place(HWND control, const Area& area) {
                SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+bool IsRightToLeft(HWND window) {
+  return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+}
+
 void SetRightToLeft(HWND window, bool rightToLeft) {
-  if (((GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0) == rightToLeft) return;
+  if (IsRightToLeft(window) == rightToLeft) return;
   SetStyleBits(window, GWL_EXSTYLE, WS_EX_LAYOUTRTL, rightToLeft);
   InvalidateRect(window, nullptr, TRUE);
   for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;

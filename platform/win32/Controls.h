@@ -81,6 +81,8 @@ inline constexpr COLORREF TranslatorsColor = RGB(0, 255, 255);
 
 void Place(HWND control, const Area& area);
 
+[[nodiscard]] bool IsRightToLeft(HWND window);
+
 /// Gives a window and all that is in it the direction of a language, unless it has that already.
 void SetRightToLeft(HWND window, bool rightToLeft);
 

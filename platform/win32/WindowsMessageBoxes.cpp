@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "platform/win32/Controls.h"
+
 namespace tessera {
 namespace {
 
@@ -22,10 +24,7 @@ constexpr std::array<UINT, 4> IconStyles{MB_ICONERROR, MB_ICONQUESTION, MB_ICONW
                                          MB_ICONINFORMATION};
 
 /// A box reads from the side from which its owner does.
-UINT DirectionStyle(HWND owner) {
-  const bool rightToLeft = (GetWindowLongPtrW(owner, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
-  return rightToLeft ? MB_RTLREADING | MB_RIGHT : 0U;
-}
+UINT DirectionStyle(HWND owner) { return IsRightToLeft(owner) ? MB_RTLREADING | MB_RIGHT : 0U; }
 
 }  // namespace
 
