@@ -2,6 +2,8 @@
 #include "tests/e2e/Screen.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
@@ -80,6 +82,14 @@ class Canvas {
   HGDIOBJ former_;
 };
 
+/// Whoever blends translucent colours may round each of their parts otherwise.
+bool Alike(DWORD one, DWORD other) {
+  return std::ranges::all_of(std::array{0, 8, 16}, [&](int bits) {
+    const auto partOf = [bits](DWORD color) { return static_cast<int>(color >> bits & 0xFF); };
+    return std::abs(partOf(one) - partOf(other)) <= 1;
+  });
+}
+
 std::string BytesOf(const void* data, std::size_t size) {
   return {static_cast<const char*>(data), size};
 }
@@ -98,6 +108,23 @@ bool Picture::Holds(const Picture& part, int left, int top) const {
     }
   }
   return true;
+}
+
+bool Picture::HoldsSomewhere(const Picture& icon) const {
+  const auto holdsAt = [&](int left, int top) {
+    for (int y = 0; y < icon.Height; ++y) {
+      for (int x = 0; x < icon.Width; ++x) {
+        if (!Alike(At(left + x, top + y), icon.At(x, y))) return false;
+      }
+    }
+    return true;
+  };
+  for (int top = 0; top + icon.Height <= Height; ++top) {
+    for (int left = 0; left + icon.Width <= Width; ++left) {
+      if (holdsAt(left, top)) return true;
+    }
+  }
+  return false;
 }
 
 Picture TakePicture(const RECT& rectangle) {
@@ -129,6 +156,21 @@ Picture DrawLine(const std::wstring& text, const LOGFONTW& font, COLORREF color,
   }
   SetTextColor(canvas.Context(), color);
   draw(canvas, size, 0);
+  return canvas.Copy();
+}
+
+Picture DrawProgramIcon(const std::wstring& program, int id, int size, COLORREF back) {
+  const HMODULE file = LoadLibraryExW(program.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+  const auto icon = static_cast<HICON>(
+      LoadImageW(file, MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+  if (icon == nullptr) throw std::runtime_error("No icon " + std::to_string(id));
+  const Canvas canvas(size, size);
+  const RECT whole{0, 0, size, size};
+  SetBkColor(canvas.Context(), back);
+  ExtTextOutW(canvas.Context(), 0, 0, ETO_OPAQUE, &whole, L"", 0, nullptr);
+  DrawIconEx(canvas.Context(), 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
+  DestroyIcon(icon);
+  FreeLibrary(file);
   return canvas.Copy();
 }
 

@@ -22,10 +22,17 @@ struct Picture {
 
   /// True when `part` is to be seen in it at that place, which must lie inside.
   [[nodiscard]] bool Holds(const Picture& part, int left, int top) const;
+
+  /// True when an icon is to be seen in it at any place.
+  [[nodiscard]] bool HoldsSomewhere(const Picture& icon) const;
 };
 
 /// The rectangle must lie on the screen.
 [[nodiscard]] Picture TakePicture(const RECT& rectangle);
+
+/// The icon of a program's file at that size in pixels, with the opacity of each in its highest
+/// byte.
+[[nodiscard]] Picture LoadIconPicture(const std::wstring& program, int id, int size);
 
 /// The part of a rectangle that lies on the screen; an empty one for none.
 [[nodiscard]] RECT PartOnScreen(const RECT& rectangle);
@@ -33,6 +40,9 @@ struct Picture {
 /// A line of text, "&" before a letter underlining it, as big as the text is.
 [[nodiscard]] Picture DrawLine(const std::wstring& text, const LOGFONTW& font, COLORREF color,
                                COLORREF back, bool lightEdge);
+
+/// The icon that a program's file has under that ID, `size` pixels wide and high.
+[[nodiscard]] Picture DrawProgramIcon(const std::wstring& program, int id, int size, COLORREF back);
 
 /// The number of pixels of exactly that colour in a rectangle of the screen.
 [[nodiscard]] int CountPixels(const RECT& rectangle, COLORREF color);

@@ -330,6 +330,9 @@ TEST_F(OptionsTest, PickedFontIsTheListsAfterCancelToo) {
   GoTo(dialog, ColorAndFont);
   dialog.ClickControl(IDC_cmdChangeFont);
   HWND fonts = NextSystemDialog(cmb3);
+  const HWND colors = GetDlgItem(fonts, cmb4);
+  const auto color = static_cast<WPARAM>(Send(colors, CB_GETCURSEL));
+  EXPECT_EQ(Send(colors, CB_GETITEMDATA, color), LRESULT{RGB(0, 0, 0)});
   AnswerByKey(fonts, VK_ESCAPE);
   EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
   EXPECT_EQ(Setting("FontSize"), "10");

@@ -45,6 +45,12 @@ constexpr Operation Operations[] = {
     {"Add", Run<&HotkeyPanel::Add>},
     {"Delete", Run<&HotkeyPanel::Delete>},
     {"DeleteAll", Run<&HotkeyPanel::DeleteAll>},
+    {"Undo", Run<&CommandList::Undo>},
+    {"Redo",
+     [](Editor& editor) {
+       editor.Work(&CommandList::Undo);
+       return editor.Work(&CommandList::Redo);
+     }},
     {"Show",
      [](Editor& editor) {
        editor.Work(&HotkeyPanel::ChooseKey, 4);  // the default key of a command
@@ -154,7 +160,7 @@ class BusyTimeTest : public EditorTest {
     const std::vector<std::wstring> before = State();
     const Reaction reaction = operation.Run(Editor);
     return State() != before || reaction.StartTimer || reaction.Handled || reaction.Changed ||
-           reaction.FocusTo != Reaction::Focus::Unchanged;
+           reaction.Restored || reaction.FocusTo != Reaction::Focus::Unchanged;
   }
 };
 
