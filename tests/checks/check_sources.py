@@ -63,7 +63,7 @@ WINDOWS_TYPES = re.compile(
     r"|\b_WIN32\b|\b_WIN64\b|__MINGW")
 ANGLE_INCLUDE = re.compile(r"^\s*#\s*include\s*<([^>]+)>", re.M)
 QUOTED_INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.M)
-TEST_LIBRARIES = ("gtest/", "gmock/", "benchmark/", "SimpleIni.h", "INIReader.h")
+TEST_LIBRARIES = ("gtest/", "benchmark/", "SimpleIni.h", "INIReader.h")
 
 
 def code_files(root):
