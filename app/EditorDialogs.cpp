@@ -1,28 +1,8 @@
-// The recent files, the help, and what happens around the dialogs.
+// The help, and what happens around the dialogs.
 #include "app/Editor.h"
-#include "settings/ini/MissingMarker.h"
-#include "settings/ini/ReplaceContent.h"
 #include "settings/Paths.h"
 
 namespace tessera {
-
-void Editor::mnuFileRecentFiles_Click(int index) {
-  const std::wstring path = recentFiles_.ListItems(index);
-  if (document_.Busy() || IsMissing(path)) return;
-  if (ExistsOrReturns(system_.Files, path)) {
-    OpenShortcutFile(false, path, true);
-    return;
-  }
-  system_.MessageBoxes.Show(texts_.GetLangText(TextId::CannotFindThisFile) + L" " + path + L"\n\n" +
-                                texts_.GetLangText(TextId::VerifyPath),
-                            BoxButtons::Ok, BoxIcon::Exclamation);
-  recentFiles_.RemoveFile(index);
-  SaveRecentFiles();
-}
-
-void Editor::ClearRecentFiles() {
-  if (!document_.Busy() && recentFiles_.Clear()) SaveRecentFiles();
-}
 
 void Editor::ShowHelpTopics() {
   const std::wstring path = AddBackslash(system_.Environment.ProgramDirectory()) + L"Readme.chm";
@@ -60,16 +40,6 @@ OptionsOutcome Editor::EndOptions() {
     list_.RefreshSearch();
   }
   return {panel, languageChanged};
-}
-
-void Editor::ReadRecentFiles(const ProfileFile& stored) {
-  recentFiles_.Setup(settings_.NumberOfRecentFiles);
-  recentFiles_.ChangeLanguage();
-  recentFiles_.ReadList(stored, ProgramSection, RecentFilesPrefix);
-}
-
-void Editor::SaveRecentFiles() {
-  recentFiles_.SaveList(settingsFile_, ProgramSection, RecentFilesPrefix);
 }
 
 }  // namespace tessera
