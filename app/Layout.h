@@ -19,11 +19,6 @@ struct MainLayout {
 [[nodiscard]] MainLayout LayOutMainWindow(int innerWidth, int innerHeight, int toolbarHeight,
                                           int frameHeight);
 
-struct Size {
-  int Width = 0;
-  int Height = 0;
-};
-
 /// How large the texts and controls of the panel want to be.
 struct PanelSizes {
   Size Label{};                 ///< its text

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "app/Editor.h"
-#include "app/frmCellTip.h"
+#include "app/frmTip.h"
 #include "app/RowLooks.h"
 #include "platform/Pinned.h"
 #include "platform/win32/Controls.h"
@@ -100,7 +100,7 @@ class frmCommandList : Pinned {
   bool drawnFocus_ = false;
   // Of one row: asking the list for those of each cell takes it longer than drawing them.
   RowPlaces drawnPlaces_;
-  frmCellTip tip_;
+  frmTip tip_;
   POINT tipCell_{-1, -1};  ///< its column and row; -1 for none
   POINT pointerBefore_{};  ///< where it was on the screen when the list came up
   bool hasPointerMoved_ = false;

@@ -26,7 +26,7 @@ void frmCommands::Do(WindowTask task) {
       views_.LayOut();
       break;
     case WindowTask::ShowSelectedRow:
-      views_.ShowSelectedRow();
+      views_.List().ShowSelectedRow();
       break;
     case WindowTask::FocusFindBox:
       views_.FindBox().TakeFocus();
@@ -77,7 +77,7 @@ void frmCommands::OpenDropped(const std::wstring& path) {
   SetForegroundWindow(views_.Window());
   editor_.OpenShortcutFile(false, path, true);
   views_.Sync();
-  views_.ShowSelectedRow();
+  views_.List().ShowSelectedRow();
 }
 
 }  // namespace tessera

@@ -41,8 +41,7 @@ void frmFindBox::ApplyFont(HFONT font) {
 }
 
 Size frmFindBox::CueSize() const {
-  const SIZE size = TextSize(txtFind_, font_, editor_.Language().GetLangText(TextId::FindCue));
-  return {size.cx, size.cy};
+  return TextSize(txtFind_, font_, editor_.Language().GetLangText(TextId::FindCue));
 }
 
 void frmFindBox::PlaceAt(const Area& area) {
@@ -71,12 +70,12 @@ void frmFindBox::SyncEnabled() {
   if (enabled && std::exchange(hadFocus_, false) && GetFocus() == nullptr) SetFocus(txtFind_);
 }
 
-void frmFindBox::TakeFocus() const {
+void frmFindBox::TakeFocus() {
   SetFocus(txtFind_);
   SendMessageW(txtFind_, EM_SETSEL, 0, -1);
 }
 
-void frmFindBox::OnChange() const {
+void frmFindBox::OnChange() {
   const std::wstring text = TextOf(txtFind_);
   if (text != editor_.List().Shown().SearchText()) events_.Search(text);
 }

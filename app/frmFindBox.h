@@ -46,10 +46,10 @@ class frmFindBox : Pinned {
   void SyncEnabled();
 
   /// With all of its text selected.
-  void TakeFocus() const;
+  void TakeFocus();
 
   /// When its text has changed, by whoever did it.
-  void OnChange() const;
+  void OnChange();
 
   void Empty() const { events_.Search({}); }
   void GiveFocusAway() const { events_.GiveFocusAway(); }

@@ -13,17 +13,15 @@ namespace {
 constexpr LPARAM ExtendedBit = LPARAM{1} << 24;
 constexpr LPARAM WasDownBit = LPARAM{1} << 30;
 
-bool Held(int key) { return GetKeyState(key) < 0; }
-
 /// Of a modifier both keys, the left one and the right one.
 bool TwinsHeld(WPARAM key) {
   switch (key) {
     case VK_CONTROL:
-      return Held(VK_LCONTROL) && Held(VK_RCONTROL);
+      return IsHeld(VK_LCONTROL) && IsHeld(VK_RCONTROL);
     case VK_MENU:
-      return Held(VK_LMENU) && Held(VK_RMENU);
+      return IsHeld(VK_LMENU) && IsHeld(VK_RMENU);
     case VK_SHIFT:
-      return Held(VK_LSHIFT) && Held(VK_RSHIFT);
+      return IsHeld(VK_LSHIFT) && IsHeld(VK_RSHIFT);
     default:
       return false;
   }
@@ -51,7 +49,7 @@ bool frmKeyboard::Filter(MSG& message) {
     return false;
   }
   // Those that come to a disabled box do nothing there.
-  if (editor_.Document().Busy()) views_.SyncFindBox();
+  if (editor_.Document().Busy()) views_.FindBox().SyncEnabled();
   if (IsKeyMessage(message.message) && FilterKey(message)) return true;
   // Else letters with Alt would reach the panel's boxes.
   const bool movesFocus = IsPress(message.message) && message.wParam == VK_TAB;
@@ -63,9 +61,9 @@ bool frmKeyboard::Filter(MSG& message) {
 KeyPress frmKeyboard::PressOf(const MSG& message) const {
   KeyPress press{
       .Event = {.Code = static_cast<KeyCode>(message.wParam),
-                .CtrlHeld = Held(VK_CONTROL),
-                .AltHeld = Held(VK_MENU),
-                .ShiftHeld = Held(VK_SHIFT),
+                .CtrlHeld = IsHeld(VK_CONTROL),
+                .AltHeld = IsHeld(VK_MENU),
+                .ShiftHeld = IsHeld(VK_SHIFT),
                 .WasDown = (message.lParam & WasDownBit) != 0 || TwinsHeld(message.wParam)},
       .Extended = (message.lParam & ExtendedBit) != 0,
       .Focus = views_.Focus(),

@@ -47,7 +47,7 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   views_.ApplyLanguage();
   ApplyDpi(views_.Dpi());
   views_.ApplyDisplaySettings();
-  views_.SetUpColumns();
+  views_.List().SetUpColumns();
   placement_.Apply(views_, editor_.Options());
   views_.Sync();
   return true;
@@ -161,8 +161,8 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
       views_.Forget();
       return 0;
     case WM_GETMINMAXINFO: {
-      const SIZE smallest = views_.SmallestSize();
-      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest.cx, smallest.cy};
+      const Size smallest = views_.SmallestSize();
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest.Width, smallest.Height};
       return 0;
     }
     case WM_SETCURSOR:
@@ -174,7 +174,7 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_PAINT:
       // Not before, so that it has its rows unless they take long: a scroll bar that came later
       // would have it painted once more.
-      views_.ShowList();
+      views_.List().Show();
       break;
     case WM_CONTEXTMENU:
       if (popupMenus_.ShowOverList(reinterpret_cast<HWND>(wParam), lParam)) return 0;
@@ -208,7 +208,7 @@ LRESULT frmMain::OnNotify(NMHDR& header) {
     popupMenus_.ShowUnderButton(reinterpret_cast<const NMTOOLBARW&>(header));
     return TBDDRET_DEFAULT;
   }
-  return header.hwndFrom == views_.List().Control() ? views_.OnListNotify(header) : 0;
+  return header.hwndFrom == views_.List().Control() ? views_.List().OnNotify(header) : 0;
 }
 
 void frmMain::OnActivate(WPARAM wParam) {
@@ -234,7 +234,7 @@ void frmMain::Form_Activate() {
   editor_.Activate();
   views_.Sync();
   // The system may have put a restored window before it.
-  views_.BringKeysListToFront();
+  views_.AllKeys().BringToFront();
 }
 
 void frmMain::Form_Unload() {

@@ -74,9 +74,9 @@ ChooserState frmPanel::Chooser() const {
   return {.HasFocus = GetFocus() == Combo1_, .Open = ComboBox_GetDroppedState(Combo1_) != FALSE};
 }
 
-void frmPanel::FocusOnChooser() const { SetFocus(Combo1_); }
+void frmPanel::FocusOnChooser() { SetFocus(Combo1_); }
 
-bool frmPanel::PressFocusedButton() const {
+bool frmPanel::PressFocusedButton() {
   const HWND focus = GetFocus();
   if (focus == nullptr || (focus != statusRow_.ShowButton() && focus != statusRow_.UndoButton())) {
     return false;
@@ -118,9 +118,8 @@ void frmPanel::ApplyFont(HFONT font, int dpi) {
 }
 
 void frmPanel::LayOut(HFONT font, int dpi) {
-  const auto textSize = [&](TextId id) -> Size {
-    const SIZE size = TextSize(Frame1_, font, editor_.Language().GetLangText(id));
-    return {size.cx, size.cy};
+  const auto textSize = [&](TextId id) {
+    return TextSize(Frame1_, font, editor_.Language().GetLangText(id));
   };
   PanelSizes sizes{.Label = textSize(TextId::Hotkey),
                    .Boxes = {},
@@ -168,8 +167,9 @@ void frmPanel::KeepFocusEnabled(bool inputsEnabled) const {
   if (focus == nullptr || IsChild(Frame1_, focus) == FALSE) return;
   bool staysEnabled = inputsEnabled;
   if (focus == statusRow_.ShowButton()) staysEnabled = editor_.ShowEnabled();
-  if (focus == statusRow_.UndoButton())
+  if (focus == statusRow_.UndoButton()) {
     staysEnabled = editor_.Document().Edits().ToUndo() != nullptr;
+  }
   if (!staysEnabled) events_.GiveFocusAway();
 }
 

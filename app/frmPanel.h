@@ -41,10 +41,10 @@ class frmPanel : Pinned {
   [[nodiscard]] Area AllKeysButton() const;
 
   [[nodiscard]] ChooserState Chooser() const;
-  void FocusOnChooser() const;
+  void FocusOnChooser();
 
   /// Presses the button beside the line that has the focus; false when none has it.
-  bool PressFocusedButton() const;
+  bool PressFocusedButton();
 
   /// True for Alt with a key that the chooser might hand to its hidden list, where it would be
   /// lost, as Alt+F4 and F10.

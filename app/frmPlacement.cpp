@@ -17,10 +17,10 @@ void frmPlacement::Apply(const frmViews& views, const Settings& settings) {
   int dpi = 0;
   for (int attempt = 0; attempt < 2 && dpi != views.Dpi(); ++attempt) {
     dpi = views.Dpi();
-    const SIZE smallest = views.SmallestSize();
+    const Size smallest = views.SmallestSize();
     const std::vector<Screen> screens = Screens(dpi);
-    Place(window, StoredPlace(settings, {.SmallestWidth = smallest.cx,
-                                         .SmallestHeight = smallest.cy,
+    Place(window, StoredPlace(settings, {.SmallestWidth = smallest.Width,
+                                         .SmallestHeight = smallest.Height,
                                          .Screens = screens,
                                          .Dpi = dpi}));
   }

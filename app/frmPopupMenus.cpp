@@ -49,20 +49,20 @@ bool frmPopupMenus::ShowOverList(HWND control, LPARAM place) {
   if (!views_.AcceptInput() || (!byKeyboard && control != views_.List().Control())) return false;
   POINT corner{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
   // Some systems send it for a key that the window has taken; with Shift it is that of Shift+F10.
-  const bool isAlt = editor_.Panel().ContextMenuKeyIsAlt() && GetKeyState(VK_SHIFT) >= 0;
+  const bool isAlt = editor_.Panel().ContextMenuKeyIsAlt() && !IsHeld(VK_SHIFT);
   if (byKeyboard && isAlt) return true;
   if (byKeyboard) {
-    corner = views_.MenuPlace();
-  } else if (!views_.SelectRowAt(corner)) {
+    corner = views_.List().MenuPlace();
+  } else if (!views_.List().SelectRowAt(corner)) {
     return true;
   }
   const Unique<HMENU> menu = ContextMenu(editor_);
   const UINT direction = editor_.Language().RightToLeft() ? TPM_LAYOUTRTL : 0;
-  const bool withShift = byKeyboard && GetKeyState(VK_SHIFT) < 0;
+  const bool withShift = byKeyboard && IsHeld(VK_SHIFT);
   TrackPopupMenuEx(menu.get(), TPM_RIGHTBUTTON | direction, corner.x, corner.y, views_.Window(),
                    nullptr);
   // The menu has had the release of the key, which the panel counts.
-  if (withShift && GetKeyState(VK_SHIFT) >= 0) {
+  if (withShift && !IsHeld(VK_SHIFT)) {
     work_.React(editor_.Work(&HotkeyPanel::KeyUp, KeyEvent{.Code = KeyCode::Shift}));
   }
   return true;

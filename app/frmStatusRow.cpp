@@ -8,23 +8,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-namespace {
-
-SIZE SizeOnOneLine(HWND control, HFONT font, const std::wstring& text) {
-  const HDC context = GetDC(control);
-  const HGDIOBJ former = SelectObject(context, font);
-  RECT room{};
-  DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
-            DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX);
-  SelectObject(context, former);
-  ReleaseDC(control, context);
-  return {room.right, room.bottom};
-}
-
-Size SizeOf(const SIZE& size) { return {size.cx, size.cy}; }
-
-}  // namespace
-
 void frmStatusRow::Create(HWND frame) {
   frame_ = frame;
   // A group of their own: arrow keys do not lead from the button to the chooser.
@@ -64,8 +47,8 @@ void frmStatusRow::LayOut(int top) {
 }
 
 StatusRow frmStatusRow::RowIn(int width, int top) const {
-  const Size show = SizeOf(TextSize(cmdShow_, font_, TextOf(cmdShow_)));
-  const Size undo = SizeOf(TextSize(cmdUndo_, font_, TextOf(cmdUndo_)));
+  const Size show = TextSize(cmdShow_, font_, TextOf(cmdShow_));
+  const Size undo = TextSize(cmdUndo_, font_, TextOf(cmdUndo_));
   return LayOutStatusRow({.TextHeight = show.Height, .Captions = {show, undo}}, width, top, dpi_);
 }
 
@@ -107,14 +90,13 @@ void frmStatusRow::SetUndoTip(const std::wstring& text) {
 }
 
 void frmStatusRow::Tell(bool timerRuns) {
-  const bool modifierHeld = std::ranges::any_of(std::array{VK_CONTROL, VK_MENU, VK_SHIFT},
-                                                [](int key) { return GetKeyState(key) < 0; });
+  const bool modifierHeld = std::ranges::any_of(std::array{VK_CONTROL, VK_MENU, VK_SHIFT}, IsHeld);
   if (lblStatus_ == nullptr || !telling_.IsDue(TextOf(lblStatus_), modifierHeld, timerRuns)) return;
   NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, lblStatus_, OBJID_CLIENT, CHILDID_SELF);
 }
 
 bool frmStatusRow::LineIsCut(const std::wstring& text) const {
-  return SizeOnOneLine(lblStatus_, font_, text).cx > WindowArea(lblStatus_).Width;
+  return TextSize(lblStatus_, font_, text, DT_NOPREFIX).Width > WindowArea(lblStatus_).Width;
 }
 
 void frmStatusRow::FollowPointer(const MSG& message) {

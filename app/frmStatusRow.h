@@ -4,7 +4,7 @@
 #include <string>
 
 #include "app/Editor.h"
-#include "app/frmCellTip.h"
+#include "app/frmTip.h"
 #include "app/Layout.h"
 #include "app/StatusLine.h"
 #include "platform/Pinned.h"
@@ -53,7 +53,7 @@ class frmStatusRow : Pinned {
   int dpi_ = 96;
   int top_ = 0;
   StatusTelling telling_;
-  frmCellTip tip_;
+  frmTip tip_;
   std::wstring tipText_;
   HWND undoTip_ = nullptr;
   std::wstring undoTipText_;

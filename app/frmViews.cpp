@@ -67,14 +67,14 @@ int frmViews::FocusedButton() const {
   return toolbar != nullptr ? toolbar->HotButton() : 0;
 }
 
-SIZE frmViews::SmallestSize() const {
+Size frmViews::SmallestSize() const {
   const Size inside = SmallestInside(panel_.WholeSize(), dpi_);
   RECT frame{0, 0, inside.Width, inside.Height};
   AdjustWindowRectExForDpi(&frame, WS_OVERLAPPEDWINDOW, TRUE, 0, static_cast<UINT>(dpi_));
   // Texts of any length must not make the window larger than its screen.
   const Area screen = WorkArea(window_);
-  return {std::min<LONG>(frame.right - frame.left, screen.Width),
-          std::min<LONG>(frame.bottom - frame.top, screen.Height)};
+  return {std::min<int>(frame.right - frame.left, screen.Width),
+          std::min<int>(frame.bottom - frame.top, screen.Height)};
 }
 
 void frmViews::ApplyLanguage() {
@@ -86,8 +86,6 @@ void frmViews::ApplyLanguage() {
   panel_.ApplyLanguage();
   keysList_.ApplyLanguage(KeysListName(), editor_.Language().RightToLeft());
 }
-
-void frmViews::SetUpColumns() { list_.SetUpColumns(); }
 
 void frmViews::ApplyDpi(int dpi) {
   dpi_ = dpi;
@@ -166,6 +164,7 @@ void frmViews::Show(const LoadProgress& progress) {
 }
 
 void frmViews::Sync() {
+  // The controls go before their window.
   if (GetDlgItem(window_, IDC_ListView1) == nullptr) return;
   SetText(window_, editor_.Document().Caption());
   findBox_.Sync();

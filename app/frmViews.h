@@ -30,9 +30,6 @@ class frmViews {
   /// What the user does counts: no load or save runs, and no box or dialog is open.
   [[nodiscard]] bool AcceptInput() const;
 
-  [[nodiscard]] const frmCommandList& List() const { return list_; }
-  [[nodiscard]] const frmPanel& Panel() const { return panel_; }
-  [[nodiscard]] const frmFindBox& FindBox() const { return findBox_; }
   [[nodiscard]] FocusPlace Focus() const;
 
   /// The command of the button that has the keyboard's focus, if it is enabled; else 0.
@@ -40,7 +37,14 @@ class frmViews {
   [[nodiscard]] bool IsMainToolbar(HWND control) const { return control == Toolbar1_.Control(); }
 
   /// The smallest size of the main window that leaves room for everything.
-  [[nodiscard]] SIZE SmallestSize() const;
+  [[nodiscard]] Size SmallestSize() const;
+
+  // -- Those that others reach by themselves
+
+  [[nodiscard]] frmFindBox& FindBox() { return findBox_; }
+  [[nodiscard]] frmCommandList& List() { return list_; }
+  [[nodiscard]] frmPanel& Panel() { return panel_; }
+  [[nodiscard]] frmKeysList& AllKeys() { return keysList_; }
 
   // -- What all views take
 
@@ -48,9 +52,6 @@ class frmViews {
   void ApplyDpi(int dpi);
   void ApplyFonts();
   void ApplyDisplaySettings();
-
-  /// At the start, once language and display settings are applied.
-  void SetUpColumns();
 
   /// Does nothing while the window is minimised, or has no views yet.
   void LayOut();
@@ -61,7 +62,6 @@ class frmViews {
 
   /// The keys list stands on the screen by itself: when the window moves, it is to follow.
   void MoveKeysList();
-  void BringKeysListToFront() { keysList_.BringToFront(); }
 
   /// Tells the controls of the system about a change of its settings.
   void Forward(UINT message, WPARAM wParam, LPARAM lParam) const;
@@ -78,13 +78,6 @@ class frmViews {
   void SyncMenus() const;
 
   void Show(const LoadProgress& progress);
-  void SyncFindBox() { findBox_.SyncEnabled(); }
-  void StartPanelTimer() { panel_.StartTimer(); }
-  void ShowList() { list_.Show(); }
-  void ShowSelectedRow() { list_.ShowSelectedRow(); }
-  bool SelectRowAt(POINT place) { return list_.SelectRowAt(place); }
-  [[nodiscard]] POINT MenuPlace() { return list_.MenuPlace(); }
-  LRESULT OnListNotify(NMHDR& header) { return list_.OnNotify(header); }
 
   /// To be called once its windows are destroyed: their numbers may become those of others.
   void Forget();

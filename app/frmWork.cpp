@@ -1,5 +1,5 @@
-// One call of the editor for each event. A control that changes by itself is shown anew even where
-// its event is refused.
+// One call of the editor for each event. A control of the panel that changes by itself is shown
+// anew even where its event is refused.
 #include "app/frmWork.h"
 
 namespace tessera {
@@ -83,7 +83,7 @@ void frmWork::HideKeysList() {
 void frmWork::Search(const std::wstring& text) {
   if (views_.AcceptInput()) editor_.Work(&CommandList::Search, text);
   views_.Sync();
-  views_.ShowSelectedRow();
+  views_.List().ShowSelectedRow();
 }
 
 void frmWork::OnTimer() {
@@ -93,7 +93,7 @@ void frmWork::OnTimer() {
 }
 
 void frmWork::React(const Reaction& reaction) {
-  if (reaction.StartTimer) views_.StartPanelTimer();
+  if (reaction.StartTimer) views_.Panel().StartTimer();
   if (reaction.Changed || reaction.Restored) {
     views_.Sync();
   } else {

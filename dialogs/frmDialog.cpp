@@ -68,8 +68,6 @@ class MessageHook {
   HHOOK hook_;
 };
 
-bool Held(int key) { return GetKeyState(key) < 0; }
-
 }  // namespace
 
 frmDialog::frmDialog(const DialogPlan& plan, const Texts& texts, const Settings& settings)
@@ -266,9 +264,9 @@ void frmDialog::ShowPage(int page) {
 
 bool frmDialog::TurnPage(WPARAM key) {
   const std::optional<int> page = PageAfterKey({.Code = static_cast<unsigned>(key),
-                                                .CtrlHeld = Held(VK_CONTROL),
-                                                .AltHeld = Held(VK_MENU),
-                                                .ShiftHeld = Held(VK_SHIFT)},
+                                                .CtrlHeld = IsHeld(VK_CONTROL),
+                                                .AltHeld = IsHeld(VK_MENU),
+                                                .ShiftHeld = IsHeld(VK_SHIFT)},
                                                page_, static_cast<int>(plan_.TabCaptions.size()));
   if (!page) return false;
   // The tabs and the buttons below them keep the focus.

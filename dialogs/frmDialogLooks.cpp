@@ -61,7 +61,7 @@ void frmDialog::ApplyDpi(int dpi, std::optional<POINT> corner) {
     GiveFont(child, font.get());
   }
   font_ = std::move(font);
-  metrics_ = {.Dpi = dpi, .TextHeight = static_cast<int>(TextSize(window_, font_.get(), L"Xg").cy)};
+  metrics_ = {.Dpi = dpi, .TextHeight = TextSize(window_, font_.get(), L"Xg").Height};
   LayOut(corner);
 }
 
@@ -71,7 +71,7 @@ void frmDialog::PadTabs(int dpi) const {
 
 int frmDialog::TextWidth(TextId text) const {
   if (text == TextId::None) return 0;
-  return static_cast<int>(TextSize(window_, font_.get(), texts_.GetLangText(text)).cx);
+  return TextSize(window_, font_.get(), texts_.GetLangText(text)).Width;
 }
 
 int frmDialog::TabsWidth() const {

@@ -72,7 +72,7 @@ bool frmKeysList::Created() const { return window_ != nullptr; }
 void frmKeysList::ApplyFont(HFONT font, int dpi) {
   if (window_ == nullptr) return;
   GiveFont(List1_, font);
-  const int rowHeight = static_cast<int>(TextSize(List1_, font, L"Xg").cy) + Scaled(1, dpi);
+  const int rowHeight = TextSize(List1_, font, L"Xg").Height + Scaled(1, dpi);
   SendMessageW(List1_, LB_SETITEMHEIGHT, 0, rowHeight);
   const int margin = Scaled(Margin, dpi);
   const Area list{

@@ -13,6 +13,11 @@ struct Area {
   [[nodiscard]] bool operator==(const Area&) const = default;
 };
 
+struct Size {
+  int Width = 0;
+  int Height = 0;
+};
+
 /// A screen by the part that programs may use, and its resolution in pixels an inch.
 struct Screen {
   Area WorkArea;

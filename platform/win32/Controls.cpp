@@ -114,16 +114,18 @@ void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on) {
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
-SIZE TextSize(HWND control, HFONT font, const std::wstring& text) {
+Size TextSize(HWND control, HFONT font, const std::wstring& text, UINT format) {
   const HDC context = GetDC(control);
   const HGDIOBJ former = SelectObject(context, font);
   RECT room{};
   DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
-            DT_CALCRECT | DT_SINGLELINE);
+            DT_CALCRECT | DT_SINGLELINE | format);
   SelectObject(context, former);
   ReleaseDC(control, context);
   return {room.right, room.bottom};
 }
+
+bool IsHeld(int key) { return GetKeyState(key) < 0; }
 
 COLORREF ColorOf(int setting) {
   const auto bits = static_cast<unsigned>(setting);

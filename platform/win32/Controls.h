@@ -61,8 +61,11 @@ void SetEnabled(HWND control, bool enabled);
 /// so already.
 void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
 
-/// The size of a text on one line in that font; an "&" that marks a mnemonic takes no room.
-[[nodiscard]] SIZE TextSize(HWND control, HFONT font, const std::wstring& text);
+/// The size of a text on one line in that font, in pixels. An "&" that marks a mnemonic takes no
+/// room, unless `format` is DT_NOPREFIX.
+[[nodiscard]] Size TextSize(HWND control, HFONT font, const std::wstring& text, UINT format = 0);
+
+[[nodiscard]] bool IsHeld(int key);
 
 /// A colour of the settings: 0x00BBGGRR, or a system colour when the highest bit is set.
 [[nodiscard]] COLORREF ColorOf(int setting);

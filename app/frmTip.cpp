@@ -1,5 +1,5 @@
 // One tool of a tool tip control; it moves from part to part with the pointer.
-#include "app/frmCellTip.h"
+#include "app/frmTip.h"
 
 namespace tessera {
 namespace {
@@ -23,7 +23,7 @@ void Tell(HWND tip, UINT message, const void* parameter) {
 
 }  // namespace
 
-void frmCellTip::Create(HWND window) {
+void frmTip::Create(HWND window) {
   tip_ =
       CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0, 0,
                       GetAncestor(window, GA_ROOT), nullptr, GetModuleHandleW(nullptr), nullptr);
@@ -32,7 +32,7 @@ void frmCellTip::Create(HWND window) {
   Tell(tip_, TTM_ADDTOOLW, &tool);
 }
 
-void frmCellTip::Set(HWND window, const RECT& part, const std::wstring& text, HFONT font) {
+void frmTip::Set(HWND window, const RECT& part, const std::wstring& text, HFONT font) {
   if (tip_ == nullptr && text.empty()) return;
   if (tip_ == nullptr) Create(window);
   SendMessageW(tip_, TTM_POP, 0, 0);
@@ -47,7 +47,7 @@ void frmCellTip::Set(HWND window, const RECT& part, const std::wstring& text, HF
   Tell(tip_, TTM_SETTOOLINFOW, &tool);
 }
 
-void frmCellTip::Follow(const MSG& message) const {
+void frmTip::Follow(const MSG& message) const {
   if (tip_ != nullptr) Tell(tip_, TTM_RELAYEVENT, &message);
 }
 

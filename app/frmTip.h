@@ -9,7 +9,7 @@
 
 namespace tessera {
 
-class frmCellTip : Pinned {
+class frmTip : Pinned {
  public:
   /// From now on the tip over that part of the window; an empty text for none. It is made when
   /// there is something to say for the first time. The font stays the caller's.
