@@ -145,16 +145,18 @@ FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const
   while (done < content.size()) {
     DWORD count = 0;
     if (ReadFile(file.get(), content.data() + done, NextStep(content.size() - done), &count,
-                 nullptr) == FALSE)
+                 nullptr) == FALSE) {
       return LastError();
+    }
     if (count == 0) break;  // the file has been cut short
     done += count;
   }
   // A file that another program is writing: what was read of it may be neither its old content nor
   // its new one.
   if (done < content.size() || GetFileSizeEx(file.get(), &size) == FALSE ||
-      static_cast<std::size_t>(size.QuadPart) != done)
+      static_cast<std::size_t>(size.QuadPart) != done) {
     return FileError::SharingViolation;
+  }
   bytes = std::move(content);
   return FileError::None;
 }

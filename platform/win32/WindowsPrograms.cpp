@@ -113,9 +113,10 @@ bool WindowsPrograms::Start(const std::wstring& commandLine) {
   startup.wShowWindow = SW_SHOWNORMAL;
   PROCESS_INFORMATION process{};
   if (CreateProcessW(call->Program.c_str(), toRun.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                     startIn, &startup, &process) == FALSE)
+                     startIn, &startup, &process) == FALSE) {
     return GetLastError() == ElevationRequired &&
            ShellOpen(owner_.Current(), call->Program, call->Arguments.c_str(), startIn);
+  }
   const UniqueHandle ownedProcess = Own(process.hProcess);
   const UniqueHandle ownedThread = Own(process.hThread);
   return true;

@@ -38,8 +38,9 @@ std::optional<RegistryValue> QueryIn(HKEY key, const std::wstring& name) {
   }
   std::string bytes(size, '\0');
   if (RegQueryValueExW(key, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()),
-                       &size) != ERROR_SUCCESS)
+                       &size) != ERROR_SUCCESS) {
     return std::nullopt;
+  }
   bytes.resize(size);
   if (!IsText(type) && type != REG_MULTI_SZ) return RegistryValue{type, bytes};
   std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
@@ -66,8 +67,9 @@ bool WindowsRegistry::Set(RootKey root, const std::wstring& subkey, const std::w
                           const RegistryValue& value) {
   HKEY created = nullptr;
   if (RegCreateKeyExW(Predefined(root), subkey.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                      KEY_SET_VALUE, nullptr, &created, nullptr) != ERROR_SUCCESS)
+                      KEY_SET_VALUE, nullptr, &created, nullptr) != ERROR_SUCCESS) {
     return false;
+  }
   const UniqueKey key(created);
   const bool isText = IsText(value.Type);
   const void* const data = isText ? static_cast<const void*>(value.Text.data())

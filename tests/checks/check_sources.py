@@ -200,6 +200,28 @@ def check_guarded(root):
                     yield f"{file}: {name} is not guarded"
 
 
+def after_parenthesis(code, inside):
+    """The place after the parenthesis that closes the one before `inside`."""
+    depth = 1
+    for place in range(inside, len(code)):
+        depth += {"(": 1, ")": -1}.get(code[place], 0)
+        if depth == 0:
+            return place + 1
+    return len(code)
+
+
+def check_braces(root):
+    """A statement on lines of its own is in braces."""
+    for file in code_files(root):
+        code = without_comments_and_texts((root / file).read_text(encoding="utf-8"))
+        ends = [after_parenthesis(code, head.end())
+                for head in re.finditer(r"\b(?:if|for|while)\b(?: constexpr)? \(", code)]
+        ends += [head.end() for head in re.finditer(r"\belse\b", code)]
+        for end in ends:
+            if re.match(r" *\n\s*[^{\s]", code[end:]):
+                yield f"{file}:{code.count(chr(10), 0, end) + 1} has no braces"
+
+
 def check_format(root):
     """clang-format changes nothing."""
     files = [str(root / file) for file in code_files(root)]
@@ -279,6 +301,12 @@ BAD = {
         {"dialogs/frmA.cpp": "INT_PTR CALLBACK frmA::Procedure(HWND /*window*/,\n"
                              "                                int a) {\n  return a;\n}\n"},
     ],
+    check_braces: [
+        {"settings/a.cpp": "void f() {\n  if (a)\n    b();\n}\n"},
+        {"settings/a.cpp": "void f() {\n  for (const A& a :  // (\n       b())\n    c();\n}\n"},
+        {"settings/a.cpp": "void f() {\n  while (a(\")\"))\n    b();\n}\n"},
+        {"settings/a.cpp": "void f() {\n  if (a) {\n    b();\n  } else\n    c();\n}\n"},
+    ],
     check_format: [{"settings/a.cpp": "int  f( );\n"}],
     check_line_ends: [
         {"settings/a.cpp": "int a;\r\n"}, {"settings/a.cpp": "int a; \n"}, {"settings/a.cpp": "int a;"},
@@ -289,6 +317,7 @@ GOOD = {
     "settings/good.h": '// No HWND here.\n#include <string>\n\n#include "platform/Files.h"\n',
     "platform/win32/good.cpp": "#include <windows.h>\nHWND window;\n",
     "app/good.cpp": '#include "resources/resource.h"\n',
+    "app/braces.cpp": "void f() {\n  if (a) b();\n  do {\n  } while (a);\n  if (a) {\n    b();\n  }\n}\n",
     "app/main.cpp": '#include <windows.h>\n\n#include "resources/resource.h"\n',
     "options/frmOptions.cpp": '#include <windows.h>\n\n#include "resources/resource.h"\n',
     "options/frmGuarded.cpp":

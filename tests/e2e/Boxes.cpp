@@ -43,8 +43,9 @@ std::optional<Box> ReadBox(HWND window) {
   Box box{window, TextOf(window), TextOf(text), {}, FocusedControl(window)};
   for (const int button : AnswerButtons) {
     if (const HWND control = GetDlgItem(window, button);
-        control != nullptr && IsWindowVisible(control) != FALSE)
+        control != nullptr && IsWindowVisible(control) != FALSE) {
       box.Buttons.push_back(button);
+    }
   }
   std::ranges::sort(box.Buttons, [&](int left, int right) {
     return LeftOf(GetDlgItem(window, left)) < LeftOf(GetDlgItem(window, right));

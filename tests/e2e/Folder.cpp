@@ -94,8 +94,9 @@ std::optional<std::wstring> RegistryValue::Read() const {
   std::array<wchar_t, 1024> text{};
   DWORD bytes = sizeof text;
   if (RegGetValueW(HKEY_CURRENT_USER, key_.c_str(), name_.c_str(), RRF_RT_REG_SZ, nullptr,
-                   text.data(), &bytes) != ERROR_SUCCESS)
+                   text.data(), &bytes) != ERROR_SUCCESS) {
     return std::nullopt;
+  }
   return text.data();
 }
 

@@ -67,6 +67,9 @@ class MainWindow : public Window {
 
   /// Selects a row without input, as assistive programs do.
   void SelectByAutomation(int position);
+
+  /// Gives a row the list's focus alone, in the same way.
+  void FocusByAutomation(int position);
   void SetColumnOrder(const std::array<int, 4>& order);
   void ClickHeader(int column);
 
@@ -111,6 +114,7 @@ class MainWindow : public Window {
 
  private:
   [[nodiscard]] std::vector<RowTexts> ReadRows(int first, int count) const;
+  void SetRowState(int position, UINT state);
   [[nodiscard]] int ButtonState(int toolbar, int command) const;
   [[nodiscard]] RECT RectangleBy(HWND control, UINT message, WPARAM item, const RECT& asked) const;
   [[nodiscard]] HWND DroppedList() const;

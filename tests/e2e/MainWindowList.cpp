@@ -183,9 +183,15 @@ void MainWindow::ClickRow(int position) {
 }
 
 void MainWindow::SelectByAutomation(int position) {
+  SetRowState(position, LVIS_SELECTED | LVIS_FOCUSED);
+}
+
+void MainWindow::FocusByAutomation(int position) { SetRowState(position, LVIS_FOCUSED); }
+
+void MainWindow::SetRowState(int position, UINT state) {
   LVITEMW item{};
-  item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-  item.state = item.stateMask;
+  item.stateMask = state;
+  item.state = state;
   memory_.Put(item);
   Send(Control(IDC_ListView1), LVM_SETITEMSTATE, static_cast<WPARAM>(position), memory_.At());
 }

@@ -48,8 +48,9 @@ bool StandsAlone(const Picture& screen, const Picture& text, int left, int top) 
   for (int y = 0; y < text.Height; ++y) {
     for (int x = 1; x <= Blank; ++x) {
       if (left + text.Width + x <= screen.Width &&
-          screen.At(left + text.Width + x - 1, top + y) != back)
+          screen.At(left + text.Width + x - 1, top + y) != back) {
         return false;
+      }
       if (left - x >= 0 && x < 2 && screen.At(left - x, top + y) != back) return false;
     }
   }

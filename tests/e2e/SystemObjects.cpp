@@ -35,8 +35,9 @@ int CountInTable(HANDLE process) {
       GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryInformationProcess")));
   PROCESS_BASIC_INFORMATION information{};
   if (query == nullptr ||
-      query(process, ProcessBasicInformation, &information, sizeof information, nullptr) < 0)
+      query(process, ProcessBasicInformation, &information, sizeof information, nullptr) < 0) {
     throw std::runtime_error("The program's process block could not be found");
+  }
   const void* table = nullptr;
   ReadFrom(process,
            reinterpret_cast<const std::byte*>(information.PebBaseAddress) + TableInProcessBlock,

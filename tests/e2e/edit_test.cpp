@@ -278,6 +278,14 @@ TEST_F(EditTest, DeletingAllKeysAsksFirst) {
   EXPECT_EQ(window_->SelectedRow(), selected);
 }
 
+TEST_F(EditTest, RowWithTheListsFocusAloneIsNotEdited) {
+  StartAndLoad();
+  Select(L"cm_VerticalPanels");
+  window_->FocusByAutomation(window_->SelectedRow() - 2);
+  window_->ClickButton(IDC_Toolbar2, IDM_delete);
+  WaitForKeys(L"cm_VerticalPanels", L"---");
+}
+
 TEST_F(EditTest, ListFindsNoRowByWhatRowsDoNotHave) {
   StartAndLoad();
   EXPECT_EQ(window_->FindItem(LVFI_PARAM), -1);

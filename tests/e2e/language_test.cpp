@@ -62,8 +62,9 @@ class LanguageTest : public EndToEndTest {
     const HWND menu = window_->OpenMenu('D');
     for (const wchar_t* caption :
          {L"\u00D6&ffnen...", L"&Speichern", L"In die Z&wischenablage exportieren...",
-          L"&Zuletzt ge\u00F6ffnete Dateien", L"&Beenden"})
+          L"&Zuletzt ge\u00F6ffnete Dateien", L"&Beenden"}) {
       static_cast<void>(WaitForMenuEntry(menu, caption));
+    }
     window_->CloseMenus();
   }
 
@@ -92,16 +93,18 @@ class LanguageTest : public EndToEndTest {
   /// Labels, boxes, buttons and frames of all windows, and the order in which they stand.
   void ExpectDirection(bool fromTheRight) {
     for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2,
-                         IDC_cmdAllList, IDC_ListView1, IDC_Toolbar1})
+                         IDC_cmdAllList, IDC_ListView1, IDC_Toolbar1}) {
       EXPECT_EQ(Mirrored(*window_, id), fromTheRight) << id;
+    }
     EXPECT_EQ(LeftOf(*window_, IDC_lblHotkey) > LeftOf(*window_, IDC_chkCtrlAlt0), fromTheRight);
     window_->Command(IDM_mnuViewOptions);
     const Dialog options = NextDialog(L"frmOptions");
     for (const int id :
          {IDC_Frame1, IDC_chkShowgridlines, IDC_Frame7, IDC_Label3, IDC_Label4, IDC_cmdChangeFont,
           IDC_chkAlwaysRestartTC, IDC_optUseDefaultLanguage, IDC_optUseOtheLanguage,
-          IDC_cmdBrowseForLangFile, IDC_tbsOptions, IDC_cmdOK, IDC_cmdCancel, IDC_cmdApply})
+          IDC_cmdBrowseForLangFile, IDC_tbsOptions, IDC_cmdOK, IDC_cmdCancel, IDC_cmdApply}) {
       EXPECT_EQ(Mirrored(options, id), fromTheRight) << id;
+    }
     EXPECT_FALSE(Mirrored(options, IDC_txtLanguageFilePath)) << "paths read from the left";
     EXPECT_EQ(LeftOf(options, IDC_cmdOK) > LeftOf(options, IDC_cmdCancel), fromTheRight);
     PostMessageW(options.Handle(), WM_CLOSE, 0, 0);

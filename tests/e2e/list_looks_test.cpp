@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "resources/icons.h"
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Screen.h"
@@ -56,6 +57,19 @@ TEST_F(ListLooksTest, SelectedRowStandsOutFromTheUsersOwnColors) {
   GoToThePanel();
   WaitForColor(row + 1, shadow);
   WaitForColor(row, Text);  // the only one of them that can be told from it
+}
+
+TEST_F(ListLooksTest, HeadingsAndRowsWithKeysHaveTheirIcons) {
+  StartAndLoad();
+  Select(L"cm_SrcTree");
+  const auto waitForIcon = [&](int row, int id) {
+    const Picture icon = DrawProgramIcon(folder_.Executable(), id, 16, GetSysColor(COLOR_WINDOW));
+    const RECT place = window_->IconRectangle(row);
+    WaitFor("the icon of row " + std::to_string(row),
+            [&] { return TakePicture(place).HoldsSomewhere(icon); });
+  };
+  waitForIcon(0, IDI_COMMENTBLOCK);
+  waitForIcon(window_->FindCommand(L"cm_SrcShort"), IDI_HASKEY);
 }
 
 TEST_F(ListLooksTest, HeadingRunsOverAllColumnsWhenTheDescriptionIsTheFirst) {

@@ -124,8 +124,9 @@ class Pair {
       for (const auto& [row, isOverridden] : DefaultHolders(model_, key)) {
         expected.Defaults.push_back({row + 1, isOverridden});
       }
-      for (const std::size_t row : CurrentHolders(model_, key))
+      for (const std::size_t row : CurrentHolders(model_, key)) {
         expected.Currents.push_back(row + 1);
+      }
       ASSERT_EQ(holders, expected);
     }
   }

@@ -25,12 +25,15 @@ const std::map<std::wstring, int>& Codes() {
                                       {L"PGDN", 34},  {L"LEFT", 37},  {L"UP", 38},  {L"DOWN", 40},
                                       {L"RIGHT", 39}, {L"SPACE", 32}, {L"+", 107},  {L"-", 109},
                                       {L"*", 106},    {L"/", 111}};
-    for (int number = 1; number <= 12; ++number)
+    for (int number = 1; number <= 12; ++number) {
       named[L"F" + std::to_wstring(number)] = 111 + number;
-    for (int code = 'A'; code <= 'Z'; ++code)
+    }
+    for (int code = 'A'; code <= 'Z'; ++code) {
       named[std::wstring(1, static_cast<wchar_t>(code))] = code;
-    for (int code = '0'; code <= '9'; ++code)
+    }
+    for (int code = '0'; code <= '9'; ++code) {
       named[std::wstring(1, static_cast<wchar_t>(code))] = code;
+    }
     return named;
   }();
   return codes;

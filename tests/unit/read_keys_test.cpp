@@ -229,8 +229,9 @@ Names AllNames() {
   Names names = OddNames();
   for (const std::wstring_view prefix :
        {L"", L"C+", L"A+", L"CA+", L"S+", L"SC+", L"AS+", L"CAS+"}) {
-    for (const std::wstring_view key : KeyVocabulary())
+    for (const std::wstring_view key : KeyVocabulary()) {
       names.push_back(std::wstring(prefix).append(key));
+    }
   }
   return names;
 }

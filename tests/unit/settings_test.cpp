@@ -279,8 +279,9 @@ TEST_F(SettingsTest, OnlyReadKeysAreNotWritten) {
   settings.UserDefinedWincmd = L"C:\\w.ini";
   EXPECT_EQ(Save(settings), FileError::None);
   for (const char* const key : {"TCInstallDir", "UserDefinedWincmd", "ShowControlsBackColor",
-                                "DefaultHotKeysDataFile", "LanguageFile"})
+                                "DefaultHotKeysDataFile", "LanguageFile"}) {
     EXPECT_EQ(ValueOf(key), "(absent)") << key;
+  }
 }
 
 TEST_F(SettingsTest, KeysThatAreStoredOnceTheyWereUsedFollowAllOthers) {

@@ -44,8 +44,9 @@ BOOL CALLBACK CollectWindow(HWND window, LPARAM parameter) {
   std::array<wchar_t, 64> className{};
   GetClassNameW(window, className.data(), className.size());
   if (process == search.Process && IsWindowVisible(window) != FALSE &&
-      search.ClassName == className.data())
+      search.ClassName == className.data()) {
     search.Found.push_back(window);
+  }
   return TRUE;
 }
 
