@@ -187,6 +187,20 @@ TEST_F(LanguageTest, ChosenLanguageIsAppliedToEveryWindowAtOnce) {
   ExpectGermanDialogs();
 }
 
+TEST_F(LanguageTest, ArrowKeysGoFromOneChoiceToTheOther) {
+  StartAndLoad();
+  window_->Command(IDM_mnuViewOptions);
+  Dialog dialog = NextDialog(L"frmOptions");
+  dialog.ClickTab(IDC_tbsOptions, 3);
+  dialog.ClickControl(IDC_optUseDefaultLanguage);
+  WaitFor("the first choice", [&] { return dialog.HasFocus(IDC_optUseDefaultLanguage); });
+  for (const int next : {IDC_optUseOtheLanguage, IDC_optUseDefaultLanguage}) {
+    Press(VK_UP);
+    WaitFor("the other choice", [&] { return dialog.HasFocus(next); });
+  }
+  dialog.CloseBy(IDC_cmdCancel);
+}
+
 TEST_F(LanguageTest, StoredLanguageIsAppliedAtTheStart) {
   folder_.UseLanguageFile(folder_.ShippedLanguage(L"German.lng"));
   StartAndLoad();
@@ -336,15 +350,21 @@ TEST_F(LanguageTest, ChosenFileThatIsMissingIsToldAndTheTextsStayEnglish) {
   EXPECT_EQ(window_->Header(0).Text, L"Description");
 }
 
+constexpr COLORREF Aqua = RGB(0, 255, 255);
+
 TEST_F(LanguageTest, TranslatorsSeeTheRoomOfTextsInAqua) {
   WriteBytes(folder_.SettingsFile(), "[Common]\r\nShowControlsBackColor=1\r\n");
   StartAndLoad();
   Select(L"cm_SrcTree");
-  constexpr COLORREF Aqua = RGB(0, 255, 255);
   for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0}) {
     WaitFor("control " + std::to_string(id) + " to be aqua",
             [&] { return CountPixels(RectangleOf(window_->Control(id)), Aqua) > 100; });
   }
+}
+
+TEST_F(LanguageTest, NobodyElseSeesAqua) {
+  StartAndLoad();
+  EXPECT_EQ(CountPixels(RectangleOf(window_->Handle()), Aqua), 0);
 }
 
 }  // namespace

@@ -332,7 +332,7 @@ TEST_F(OptionsTest, PickedFontIsTheListsAfterCancelToo) {
   HWND fonts = NextSystemDialog(cmb3);
   const HWND colors = GetDlgItem(fonts, cmb4);
   const auto color = static_cast<WPARAM>(Send(colors, CB_GETCURSEL));
-  EXPECT_EQ(Send(colors, CB_GETITEMDATA, color), LRESULT{RGB(0, 0, 0)});
+  EXPECT_EQ(Send(colors, CB_GETITEMDATA, color), 0) << "black";
   AnswerByKey(fonts, VK_ESCAPE);
   EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
   EXPECT_EQ(Setting("FontSize"), "10");
