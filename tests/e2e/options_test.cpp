@@ -336,7 +336,6 @@ TEST_F(OptionsTest, PickedFontIsTheListsAfterCancelToo) {
   AnswerByKey(fonts, VK_ESCAPE);
   EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
   EXPECT_EQ(Setting("FontSize"), "10");
-
   dialog.ClickControl(IDC_cmdChangeFont);
   fonts = NextSystemDialog(cmb3);
   BringToFront(fonts);
