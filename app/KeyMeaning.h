@@ -19,6 +19,7 @@ struct ChooserState {
   bool Open = false;  ///< its own list is open
 };
 
+/// Of a key that is pressed, or released, anywhere in the window.
 [[nodiscard]] KeyMeaning MeaningOf(const KeyPress& press, bool pressed);
 
 /// True for a key-down that presses the button with the focus, where the panel leaves it over. One

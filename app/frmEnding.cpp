@@ -7,6 +7,7 @@
 #include "app/Failure.h"
 
 namespace tessera {
+
 frmEnding::frmEnding(Editor& editor, frmViews& views, MessageBoxes& messageBoxes)
     : editor_(editor), views_(views), messageBoxes_(messageBoxes) {}
 

@@ -8,6 +8,7 @@
 #include "resources/resource.h"
 
 namespace tessera {
+
 void frmStatusRow::Create(HWND frame) {
   frame_ = frame;
   // A group of their own: arrow keys do not lead from the button to the chooser.

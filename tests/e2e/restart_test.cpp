@@ -98,6 +98,23 @@ TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
   EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();
 }
 
+TEST_F(RestartTest, ChangesLieBesideTheFileWhenALogOffComesWhileItCloses) {
+  const std::wstring unsaved = folder_.WincmdIni() + L".unsaved";
+  WriteBytes(folder_.Commander() + L"slow", "");
+  StartStandIn();
+  StartAndLoad();
+  MakeAChange();
+  window_->Command(IDM_restarttc);
+  WaitFor("the close request", [&] { return Log().ends_with("close\n"); });
+  EXPECT_EQ(Send(window_->Handle(), WM_QUERYENDSESSION), FALSE);
+  EXPECT_NE(StandInWindow(), nullptr) << "it was asked too late to tell anything";
+  EXPECT_NE(ReadBytes(unsaved).find("cm_SrcShort"), std::string::npos);
+  WaitFor("the save to end", [&] { return !Modified(); });
+  EXPECT_FALSE(Exists(unsaved));
+  standIn_->WaitForEnd();
+  static_cast<void>(WaitForStandIn());
+}
+
 TEST_F(RestartTest, ItemsAreEnabledWhileItRunsAndThereAreChanges) {
   const std::wstring caption = L"Save and Restart Bainioka";
   const auto closeMenu = [&] {
