@@ -14,6 +14,16 @@ namespace {
 
 class RestartTest : public EndToEndTest {
  protected:
+  /// Leaves an unsaved change, whose save waits for a stand-in that takes seconds to close.
+  void SaveWhileItClosesSlowly() {
+    WriteBytes(folder_.Commander() + L"slow", "");
+    StartStandIn();
+    StartAndLoad();
+    MakeAChange();
+    window_->Command(IDM_restarttc);
+    WaitFor("the close request", [&] { return Log().ends_with("close\n"); });
+  }
+
   void SetUp() override {
     ASSERT_EQ(StandInWindow(), nullptr) << "A Total Commander is running already";
     original_ = ReadBytes(folder_.WincmdIni());
@@ -79,12 +89,7 @@ TEST_F(RestartTest, SaveAndRestartClosesItBeforeTheSaveAndStartsItAfterwards) {
 }
 
 TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
-  WriteBytes(folder_.Commander() + L"slow", "");
-  StartStandIn();
-  StartAndLoad();
-  MakeAChange();
-  window_->Command(IDM_restarttc);
-  WaitFor("the close request", [&] { return Log().ends_with("close\n"); });
+  SaveWhileItClosesSlowly();
   const HWND list = window_->Control(IDC_ListView1);
   InvalidateRect(list, nullptr, TRUE);
   WaitFor("the list to be painted", [&] { return GetUpdateRect(list, nullptr, FALSE) == FALSE; });
@@ -100,12 +105,7 @@ TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
 
 TEST_F(RestartTest, ChangesLieBesideTheFileWhenALogOffComesWhileItCloses) {
   const std::wstring unsaved = folder_.WincmdIni() + L".unsaved";
-  WriteBytes(folder_.Commander() + L"slow", "");
-  StartStandIn();
-  StartAndLoad();
-  MakeAChange();
-  window_->Command(IDM_restarttc);
-  WaitFor("the close request", [&] { return Log().ends_with("close\n"); });
+  SaveWhileItClosesSlowly();
   EXPECT_EQ(Send(window_->Handle(), WM_QUERYENDSESSION), FALSE);
   EXPECT_NE(StandInWindow(), nullptr) << "it was asked too late to tell anything";
   EXPECT_NE(ReadBytes(unsaved).find("cm_SrcShort"), std::string::npos);
