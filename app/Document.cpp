@@ -110,6 +110,7 @@ bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const Progr
   const WincmdIni wincmd = ReadWincmdIni(path, known);
   const bool unread = wincmd.Unread() != nullptr;
   if (unread && whenUnread == WhenUnread::KeepsOpenFile) return false;
+  SetModified(false);  // before a log-off or a failure in the load could ask
   ReadModifierNames();
   wincmdPath_ = path;
   known_ = std::move(known);
@@ -118,7 +119,6 @@ bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const Progr
   keepsUnknownShortcuts_ = settings_.KeepUnknownShortcuts != 0;
   showsUserCommands_ = settings_.ShowUserCommands != 0;
   News news = LoadCatalogue(wincmd, step);
-  SetModified(false);
   failure_.reset();
   if (!unread) {
     news.Kind = NewsKind::Opened;
@@ -214,16 +214,23 @@ BoxAnswer Document::AskToSaveChanges() {
 bool Document::KeepUnsaved() {
   if (loading_ || unread_ || !modified_) return false;
   if (!kept_) kept_.emplace(files_, UnsavedFiles::Targets::LeftAlone);
+  kept_->Begin();
   KnownContents known = known_;  // what is kept is not saved
   // The error of a file that cannot be read comes also when its changes lie there.
   static_cast<void>(WriteUnsavedShortcuts(catalogue_, notation_, SaveRequestOfNow(known), *kept_,
                                           system_.Clock, inputFiles_.CommanderVariables()));
-  return kept_->HoldAll();
+  return !kept_->Left().empty();
 }
 
 void Document::DropUnsaved() {
   if (kept_) kept_->TakeAway();
   kept_.reset();
+}
+
+bool Document::LeaveUnsaved() {
+  const bool isKept = KeepUnsaved();
+  kept_.reset();
+  return isKept;
 }
 
 SaveRequest Document::SaveRequestOfNow(KnownContents& known) const {
@@ -247,6 +254,7 @@ void Document::Save(bool restarts) {
   const std::wstring commander = wasRunning ? RunningTotalCommander(system_.Programs) : L"";
   const bool mayStart = restarts && Restart(true) != RestartResult::NotAllowed;
   kept_.reset();  // a save that succeeds takes it away, and one that fails writes its own
+  files_.Begin();
   const SaveOutcome outcome = SaveShortcuts(catalogue_, notation_, SaveRequestOfNow(known_), files_,
                                             system_.Clock, inputFiles_.CommanderVariables());
   if (outcome.Error == FileError::None) {

@@ -95,6 +95,9 @@ class Document : Pinned {
   bool KeepUnsaved();
   void DropUnsaved();
 
+  /// The same for an end that is certain: an open question, which ends with it, takes nothing away.
+  bool LeaveUnsaved();
+
   void FileSave();
   void FileSaveAndRestart();
 

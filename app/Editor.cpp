@@ -96,6 +96,8 @@ bool Editor::KeepUnsaved() { return document_.KeepUnsaved(); }
 
 void Editor::DropUnsaved() { document_.DropUnsaved(); }
 
+bool Editor::LeaveUnsaved() { return document_.LeaveUnsaved(); }
+
 void Editor::Unload(const WindowPlacement& placement, const ColumnLayout& columns) {
   StoreColumnLayout(columns, settings_);
   if (!placement.Minimised) {

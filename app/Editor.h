@@ -89,6 +89,7 @@ class Editor : Pinned {
   /// As Document's: at a log-off, and when the program must end.
   bool KeepUnsaved();
   void DropUnsaved();
+  bool LeaveUnsaved();
 
   /// Stores columns, window and settings.
   void Unload(const WindowPlacement& placement, const ColumnLayout& columns);

@@ -17,7 +17,7 @@ void Attempt(Step step) noexcept {
 
 void KeepAndTell(Editor& editor, MessageBoxes& messageBoxes) noexcept {
   bool isKept = false;
-  Attempt([&] { isKept = editor.KeepUnsaved(); });
+  Attempt([&] { isKept = editor.LeaveUnsaved(); });
   Attempt([&] {
     const TextId text = isKept ? TextId::MustEnd : TextId::MustEndNothingKept;
     messageBoxes.Show(editor.Language().GetLangText(text), BoxButtons::Ok, BoxIcon::Critical);

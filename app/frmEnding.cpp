@@ -22,23 +22,27 @@ bool frmEnding::MaySessionEnd() {
   // Without changes whatever is open goes with the window, and a load stops mattering.
   if (!editor_.Document().Modified()) return true;
   // First of all: the rest may wait for files, and the system does not wait long.
+  mayLoseChanges_ = false;
   ShutdownBlockReasonCreate(views_.Window(), editor_.Document().Caption().c_str());
   // The system soon covers the question, and lets its user end the program over it.
   editor_.KeepUnsaved();
   // Where nothing can be asked, the system tells the reason until all programs have answered.
   if (!views_.AcceptInput()) return false;
-  const bool closes = MayClose();
+  mayLoseChanges_ = MayClose();
   ShutdownBlockReasonDestroy(views_.Window());
-  return closes;
+  return mayLoseChanges_;
 }
 
 void frmEnding::OnSessionEnd(bool ends) {
   ShutdownBlockReasonDestroy(views_.Window());
-  if (ends) {
-    DestroyWindow(views_.Window());
-  } else {
+  const bool mayLoseChanges = std::exchange(mayLoseChanges_, false);
+  if (!ends) {
     editor_.DropUnsaved();  // another program has refused
+    return;
   }
+  // It ends also over an open question, and after one that was answered with Cancel.
+  if (!mayLoseChanges) editor_.LeaveUnsaved();
+  DestroyWindow(views_.Window());
 }
 
 void frmEnding::OnFailure() {

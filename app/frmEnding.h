@@ -30,6 +30,7 @@ class frmEnding : Pinned {
   Editor& editor_;
   frmViews& views_;
   MessageBoxes& messageBoxes_;
+  bool mayLoseChanges_ = false;  ///< at a log-off, since the user said so
   bool failed_ = false;
 };
 

@@ -7,12 +7,14 @@ namespace tessera {
 
 UnsavedFiles::UnsavedFiles(Files& files, Targets targets) : files_(files), targets_(targets) {}
 
-bool UnsavedFiles::HoldAll() const { return !former_.empty() && pending_.empty(); }
+void UnsavedFiles::Begin() {
+  left_.clear();
+  pending_.clear();
+}
 
 std::vector<std::wstring> UnsavedFiles::Left() const {
-  std::vector<std::wstring> paths;
-  for (const auto& [path, bytes] : former_) paths.push_back(path);
-  return paths;
+  if (!pending_.empty()) return {};
+  return {left_.begin(), left_.end()};
 }
 
 void UnsavedFiles::TakeAway() {
@@ -22,6 +24,7 @@ void UnsavedFiles::TakeAway() {
 FileError UnsavedFiles::PutBack(const std::wstring& path) {
   const auto former = former_.extract(path);
   if (former.empty()) return FileError::None;
+  left_.erase(path);
   return former.mapped() ? files_.Write(path, *former.mapped()) : files_.Remove(path);
 }
 
@@ -38,7 +41,12 @@ FileStamp UnsavedFiles::Stamp(const std::wstring& path) const { return files_.St
 std::wstring UnsavedFiles::Resolve(const std::wstring& path) const { return files_.Resolve(path); }
 
 FileError UnsavedFiles::Write(const std::wstring& path, std::string_view bytes) {
-  if (targets_ == Targets::LeftAlone) pending_.insert(path);
+  if (!path.ends_with(UnsavedEnding)) {
+    pending_.insert(path);
+  } else if (const auto former = former_.find(path);
+             former != former_.end() && former->second == bytes) {
+    former_.erase(former);  // another of this kind has put it back
+  }
   return files_.Write(path, bytes);
 }
 
@@ -48,12 +56,25 @@ FileError UnsavedFiles::Append(const std::wstring& path, std::string_view bytes)
 
 FileError UnsavedFiles::Replace(const std::wstring& target, const std::wstring& replacement,
                                 const std::wstring& backup) {
-  if (targets_ == Targets::Replaced) return files_.Replace(target, replacement, backup);
-  return Move(replacement, target + std::wstring(UnsavedEnding));
+  if (targets_ == Targets::LeftAlone) {
+    const FileError error = Move(replacement, target + std::wstring(UnsavedEnding));
+    // After these two a save would find another way to its target.
+    return error == FileError::NotFound || error == FileError::NotSupported ? FileError::Other
+                                                                            : error;
+  }
+  const FileError error = files_.Replace(target, replacement, backup);
+  if (error == FileError::None) pending_.erase(replacement);
+  return error;
 }
 
 FileError UnsavedFiles::Move(const std::wstring& from, const std::wstring& to) {
-  if (!to.ends_with(UnsavedEnding)) return files_.Move(from, to);
+  const FileError error =
+      to.ends_with(UnsavedEnding) ? MoveBeside(from, to) : files_.Move(from, to);
+  if (error == FileError::None) pending_.erase(from);
+  return error;
+}
+
+FileError UnsavedFiles::MoveBeside(const std::wstring& from, const std::wstring& to) {
   std::string bytes;
   const FileError read = former_.contains(to) ? FileError::None : files_.Read(to, bytes);
   // What cannot be put back is not written over.
@@ -61,7 +82,7 @@ FileError UnsavedFiles::Move(const std::wstring& from, const std::wstring& to) {
   const FileError error = files_.Move(from, to);
   if (error != FileError::None) return error;
   former_.try_emplace(to, read == FileError::None ? std::optional(bytes) : std::nullopt);
-  pending_.erase(from);
+  left_.insert(to);
   return FileError::None;
 }
 

@@ -24,10 +24,11 @@ class UnsavedFiles final : public Files {
   /// `files` must outlive this object.
   UnsavedFiles(Files& files, Targets targets);
 
-  /// All that was written for a save with targets left alone lies beside them; false for nothing.
-  [[nodiscard]] bool HoldAll() const;
+  /// To be called before each save: Left tells of that one.
+  void Begin();
 
-  /// Where content lies beside files now.
+  /// Where the content of the save lies beside files; nothing when that is not all of what it could
+  /// not put in place.
   [[nodiscard]] std::vector<std::wstring> Left() const;
 
   /// Takes the new content away again; what lay there before is put back.
@@ -47,6 +48,7 @@ class UnsavedFiles final : public Files {
   FileError Remove(const std::wstring& path) override;
 
  private:
+  FileError MoveBeside(const std::wstring& from, const std::wstring& to);
   FileError PutBack(const std::wstring& path);
 
   Files& files_;
@@ -54,7 +56,9 @@ class UnsavedFiles final : public Files {
 
   /// By path, what lay there before; nothing where there was no file.
   std::map<std::wstring, std::optional<std::string>> former_;
-  std::set<std::wstring> pending_;  ///< written, or to be, and not yet beside its target
+  std::set<std::wstring> left_;  ///< by the save, beside files
+  std::set<std::wstring>
+      pending_;  ///< written, or to be, and neither in place nor beside its target
 };
 
 }  // namespace tessera

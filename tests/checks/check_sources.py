@@ -41,6 +41,7 @@ OTHER_TESTS = {
     "fuzz_regressions": "replays what the fuzzers found, over all readers",
     "hostile_values": "gives the whole program values that no one should store",
     "ini_properties": "holds the whole INI engine to a second reader, over random files",
+    "kept_changes": "keeps beside the file what an end of the whole program would lose",
     "language_in_use": "starts and changes the language of the whole program",
     "other_programs": "lets another program hold and change every file that is saved",
     "profile_oracle": "compares the whole INI engine with the profile functions of the system",

@@ -30,10 +30,6 @@ struct Picture {
 /// The rectangle must lie on the screen.
 [[nodiscard]] Picture TakePicture(const RECT& rectangle);
 
-/// The icon of a program's file at that size in pixels, with the opacity of each in its highest
-/// byte.
-[[nodiscard]] Picture LoadIconPicture(const std::wstring& program, int id, int size);
-
 /// The part of a rectangle that lies on the screen; an empty one for none.
 [[nodiscard]] RECT PartOnScreen(const RECT& rectangle);
 

@@ -131,6 +131,48 @@ TEST_F(CloseTest, LogOffAsksTooAndIsRefusedByCancel) {
   EXPECT_EQ(program_->WaitForEnd(), 0U);
 }
 
+TEST_F(CloseTest, LogOffThatComesAllTheSameKeepsTheChanges) {
+  enum class Over { Question, CancelledQuestion, NoQuestion };
+  for (const Over over : {Over::Question, Over::CancelledQuestion, Over::NoQuestion}) {
+    if (!program_->Running()) StartAndLoad();
+    MakeAChange();
+    if (over == Over::Question) {
+      static_cast<void>(AskToClose());
+      EXPECT_FALSE(AskToLogOff().get());
+    } else if (over == Over::CancelledQuestion) {
+      std::future<bool> mayEnd = AskToLogOff();
+      Answer(NextBox(), IDCANCEL);
+      EXPECT_FALSE(mayEnd.get());
+      EXPECT_FALSE(std::filesystem::exists(Unsaved()));
+    }
+    PostMessageW(window_->Handle(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(program_->WaitForEnd(), 0U);
+    EXPECT_EQ(SectionValue(ReadBytes(Unsaved()), "Shortcuts", "CA+K"), "cm_SrcShort");
+    EXPECT_EQ(ReadBytes(folder_.WincmdIni()), original_);
+    std::filesystem::remove(Unsaved());
+  }
+}
+
+TEST_F(CloseTest, LogOffAfterNoKeepsNothing) {
+  MakeAChange();
+  std::future<bool> mayEnd = AskToLogOff();
+  Answer(NextBox(), IDNO);
+  EXPECT_TRUE(mayEnd.get());
+  PostMessageW(window_->Handle(), WM_ENDSESSION, TRUE, 0);
+  EXPECT_EQ(program_->WaitForEnd(), 0U);
+  EXPECT_FALSE(std::filesystem::exists(Unsaved()));
+  EXPECT_EQ(ReadBytes(folder_.WincmdIni()), original_);
+}
+
+TEST_F(CloseTest, FailureOverTheQuestionKeepsTheChanges) {
+  MakeAChange();
+  static_cast<void>(AskToClose());
+  PostMessageW(window_->Handle(), FailureMessage, 0, 0);
+  AnswerByKey(NextBox().Window, VK_RETURN);
+  EXPECT_EQ(program_->WaitForEnd(), 1U);
+  EXPECT_EQ(SectionValue(ReadBytes(Unsaved()), "Shortcuts", "CA+K"), "cm_SrcShort");
+}
+
 TEST_F(CloseTest, LogOffOverAnOpenDialogIsRefusedAndKeepsTheChangesMeanwhile) {
   MakeAChange();
   window_->Command(IDM_mnuViewOptions);

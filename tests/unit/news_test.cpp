@@ -105,6 +105,32 @@ TEST_F(NewsTest, AFailedSaveSaysWhyAndWhereTheKeysAreUntilTheNextOne) {
   EXPECT_FALSE(Editor.Document().Failure());
 }
 
+TEST_F(NewsTest, AFailedSaveNamesNoFileThatAnEarlierOneLeft) {
+  Assign(Pack, L"F9");
+  Files.ReplaceErrors = {FileError::DiskFull};
+  Editor.FileSave();
+  Assign(Pack, L"F8");
+  Files.WriteErrors = {FileError::DiskFull};
+  Editor.FileSave();
+  ASSERT_TRUE(Editor.Document().Failure());
+  EXPECT_EQ(Editor.Document().Failure()->KeptIn, std::vector<std::wstring>{});
+}
+
+TEST_F(NewsTest, AFileThatWasKeptAndPutBackIsNeitherNamedNorWrittenByASave) {
+  const std::wstring unsaved = IniFile + L".unsaved";
+  Files.Contents[unsaved] = "of an earlier run";
+  Assign(Pack, L"F9");
+  Editor.KeepUnsaved();
+  Editor.DropUnsaved();
+  Files.WriteErrors = {FileError::DiskFull};
+  Editor.FileSave();
+  ASSERT_TRUE(Editor.Document().Failure());
+  EXPECT_EQ(Editor.Document().Failure()->KeptIn, std::vector<std::wstring>{});
+  Files.Contents.erase(unsaved);  // by the user
+  Editor.FileSave();
+  EXPECT_FALSE(Files.Contents.contains(unsaved));
+}
+
 TEST_F(NewsTest, AnOpenEndsTheFailure) {
   Assign(Pack, L"F9");
   Files.ReplaceErrors = {FileError::DiskFull};
