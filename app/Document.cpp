@@ -64,9 +64,9 @@ std::wstring Document::Caption() const {
 
 const std::wstring& Document::Path() const { return wincmdPath_; }
 
-bool Document::Modified() const { return modified_; }
+bool Document::Modified() const { return !catalogue_.Edits.AtSaved(); }
 
-bool Document::SaveAndRestartEnabled() const { return saveAndRestartEnabled_; }
+bool Document::SaveAndRestartEnabled() const { return offersRestart_ && Modified(); }
 
 bool Document::RestartButtonEnabled() const { return restartButtonEnabled_; }
 
@@ -110,7 +110,7 @@ bool Document::Open(const std::wstring& path, WhenUnread whenUnread, const Progr
   const WincmdIni wincmd = ReadWincmdIni(path, known);
   const bool unread = wincmd.Unread() != nullptr;
   if (unread && whenUnread == WhenUnread::KeepsOpenFile) return false;
-  SetModified(false);  // before a log-off or a failure in the load could ask
+  catalogue_.Edits.Clear();  // before a log-off or a failure in the load could ask
   ReadModifierNames();
   wincmdPath_ = path;
   known_ = std::move(known);
@@ -196,14 +196,14 @@ std::wstring Document::ReadUserRows() {
 bool Document::ChangesMayGo() {
   if (Busy()) return false;
   const BoxAnswer answer = AskToSaveChanges();
-  const bool saveFailed = answer == BoxAnswer::Yes && modified_;
+  const bool saveFailed = answer == BoxAnswer::Yes && Modified();
   if (answer != BoxAnswer::Yes) DropUnsaved();
   return answer != BoxAnswer::Cancel && !saveFailed;
 }
 
 /// Yes, No or Cancel; No when there is nothing to save. After Yes the save has been tried.
 BoxAnswer Document::AskToSaveChanges() {
-  if (!modified_) return BoxAnswer::No;
+  if (!Modified()) return BoxAnswer::No;
   const BoxAnswer answer = system_.MessageBoxes.Show(
       texts_.GetLangText(TextId::SaveChangesTo) + L"  " + wincmdPath_ + L"\n",
       BoxButtons::YesNoCancel, BoxIcon::Exclamation);
@@ -212,7 +212,7 @@ BoxAnswer Document::AskToSaveChanges() {
 }
 
 bool Document::KeepUnsaved() {
-  if (loading_ || unread_ || !modified_) return false;
+  if (loading_ || unread_ || !Modified()) return false;
   if (!kept_) kept_.emplace(files_, UnsavedFiles::Targets::LeftAlone);
   kept_->Begin();
   KnownContents known = known_;  // what is kept is not saved
@@ -242,7 +242,7 @@ void Document::FileSave() { Save(settings_.AlwaysRestartTC != 0); }
 void Document::FileSaveAndRestart() { Save(true); }
 
 void Document::Save(bool restarts) {
-  if (Busy() || !modified_) return;
+  if (Busy() || !Modified()) return;
   if (unread_) {
     // A save would drop every key that the list does not show.
     system_.MessageBoxes.Beep();
@@ -259,7 +259,6 @@ void Document::Save(bool restarts) {
                                             system_.Clock, inputFiles_.CommanderVariables());
   if (outcome.Error == FileError::None) {
     seen_ = known_;
-    SetModified(false);
     failure_.reset();
     news_ = NewsOf(outcome, wincmdPath_);
   } else {
@@ -287,17 +286,13 @@ bool Document::StartCommander(const std::wstring& program) {
   return StartTotalCommander(system_.Programs, program, {.WincmdPath = wincmdPath_});
 }
 
-void Document::SetModified(bool modified) {
-  modified_ = modified;
-  saveAndRestartEnabled_ = modified;
-}
+void Document::NoteEdit() { offersRestart_ = true; }
 
 News Document::TakeNews() { return std::exchange(news_, {}); }
 
 void Document::RefreshRestartItems() {
-  const bool running = FindTotalCommander(system_.Programs) != 0;
-  restartButtonEnabled_ = running;
-  saveAndRestartEnabled_ = running && modified_;
+  restartButtonEnabled_ = FindTotalCommander(system_.Programs) != 0;
+  offersRestart_ = restartButtonEnabled_;
 }
 
 }  // namespace tessera

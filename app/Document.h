@@ -103,7 +103,9 @@ class Document : Pinned {
 
   /// Starts that program, a Total Commander, as a save with restart does; false when that fails.
   bool StartCommander(const std::wstring& program);
-  void SetModified(bool modified);
+
+  /// To be called after each edit: Save and Restart is offered again.
+  void NoteEdit();
 
   /// What the last open or save did; nothing when it was taken already.
   [[nodiscard]] News TakeNews();
@@ -139,9 +141,8 @@ class Document : Pinned {
   KnownContents seen_;                  ///< the same, when they were last opened or saved
   bool keepsUnknownShortcuts_ = false;  ///< the settings at the last open, where they act
   bool showsUserCommands_ = false;
-  bool modified_ = false;
   bool unread_ = false;  ///< the file is there, and reading it failed
-  bool saveAndRestartEnabled_ = false;
+  bool offersRestart_ = true;
   bool restartButtonEnabled_ = true;
   bool loading_ = false;  ///< so the rows are not whole
   bool saving_ = false;

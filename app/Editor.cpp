@@ -42,12 +42,9 @@ const Texts& Editor::Language() const { return texts_; }
 const News& Editor::LatestNews() const { return news_; }
 
 Reaction Editor::FollowUp(const Reaction& reaction) {
-  if (reaction.Changed) document_.SetModified(true);
-  if (reaction.Restored) {
-    document_.SetModified(!document_.Commands().Edits.AtSaved());
-    Tell({});  // what the last edit did may hold no longer
-  }
-  if (reaction.Searched) Tell({});  // how much was found is newer
+  if (reaction.Changed || reaction.Restored) document_.NoteEdit();
+  // What the last edit did may hold no longer, and how much was found is newer.
+  if (reaction.Restored || reaction.Searched) Tell({});
   if (reaction.FollowChooser) keysList_.FollowChooser();
   if (reaction.HideKeysList) keysList_.Hide();
   GatherNews();

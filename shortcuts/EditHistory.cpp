@@ -106,7 +106,7 @@ bool EditHistory::Make(Catalogue& catalogue, EditName name, const std::function<
     changed = edit();
     recording.NoteStartMenuKeys();
   }
-  if (IsEmpty(step.Values)) return changed;
+  if (!changed && IsEmpty(step.Values)) return false;
   if (changed) {
     step.Version = ++lastVersion_;
   } else {
