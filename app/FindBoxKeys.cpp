@@ -22,7 +22,7 @@ FindBoxKey MeaningInBox(const KeyEvent& event, bool pressed, bool boxIsEmpty) {
 
 }  // namespace
 
-FindBoxKey FindBoxKeys::MeaningOf(const KeyPress& press, bool pressed, bool boxIsEmpty) {
+FindBoxKey FindBoxKeys::Take(const KeyPress& press, bool pressed, bool boxIsEmpty) {
   const KeyEvent& event = press.Event;
   if (pressed && event.WasDown && event.Code == done_) return FindBoxKey::DoesNothing;
   if (pressed) done_ = {};

@@ -17,7 +17,7 @@ enum class FindBoxKey {
 class FindBoxKeys {
  public:
   /// To be asked about each press and release in the main window, in their order.
-  [[nodiscard]] FindBoxKey MeaningOf(const KeyPress& press, bool pressed, bool boxIsEmpty);
+  [[nodiscard]] FindBoxKey Take(const KeyPress& press, bool pressed, bool boxIsEmpty);
 
  private:
   KeyCode done_{};  ///< a key that has done its work, until another press

@@ -4,10 +4,11 @@
 #include <functional>
 
 #include "platform/Clock.h"
+#include "platform/Pinned.h"
 
 namespace tessera {
 
-class LoadProgress {
+class LoadProgress : Pinned {
  public:
   /// `show` is called at the start, at the end, and between them every 50 milliseconds. Then events
   /// are handled too: a short load has no time for them.
@@ -31,8 +32,8 @@ class LoadProgress {
   std::function<void(const LoadProgress&)> show_;
   bool visible_ = false;
   bool handlesEvents_ = false;
-  int maximum_ = 1500;
-  int value_ = 1;
+  int maximum_ = 0;
+  int value_ = 0;
   unsigned steps_ = 0;
   float handledAt_ = 0;  ///< when events were last; seconds since midnight
 };

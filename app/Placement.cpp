@@ -9,10 +9,6 @@
 namespace tessera {
 namespace {
 
-/// First-run size of the settings file.
-constexpr int RestoredWidthTwips = 10000;
-constexpr int RestoredHeightTwips = 7000;
-
 bool Holds(const Area& area, int left, int top) {
   return left >= area.Left && left < area.Left + area.Width && top >= area.Top &&
          top < area.Top + area.Height;
@@ -73,7 +69,7 @@ Area StoredPlace(const Settings& settings, const Surroundings& around) {
 }
 
 Area RestoredSize(int dpi) {
-  return {0, 0, TwipsToPixels(RestoredWidthTwips, dpi), TwipsToPixels(RestoredHeightTwips, dpi)};
+  return {0, 0, TwipsToPixels(FirstRunSize.Width, dpi), TwipsToPixels(FirstRunSize.Height, dpi)};
 }
 
 WindowPlacement PlacementToStore(const ShownWindow& window, const Area& placed,

@@ -251,7 +251,7 @@ std::wstring StatusText(const Editor& editor) {
   return OnOneLine(editor.Document().Rows().Row(row).Description);
 }
 
-bool StatusTelling::IsDue(const std::wstring& text, bool modifierHeld, bool timerRuns) {
+bool StatusTelling::TakeIfDue(const std::wstring& text, bool modifierHeld, bool timerRuns) {
   if (modifierHeld || timerRuns || text == told_) return false;
   told_ = text;
   return true;

@@ -17,7 +17,7 @@ class StatusTelling {
  public:
   /// True for a text that was not told before, unless a modifier is held, or Timer1 is to take its
   /// box yet. It then counts as told.
-  [[nodiscard]] bool IsDue(const std::wstring& text, bool modifierHeld, bool timerRuns);
+  [[nodiscard]] bool TakeIfDue(const std::wstring& text, bool modifierHeld, bool timerRuns);
 
  private:
   std::wstring told_;

@@ -175,7 +175,7 @@ bool frmCommandList::SelectRowAt(POINT place) {
   return position >= 0;
 }
 
-POINT frmCommandList::MenuPlace() {
+POINT frmCommandList::ScrollToMenuPlace() {
   ShowSelectedRow();
   RECT row{};
   const int selected = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);

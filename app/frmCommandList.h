@@ -47,7 +47,7 @@ class frmCommandList : Pinned {
 
   /// Scrolls to the selected row, and tells where a menu for it begins, on the screen: below its
   /// icon.
-  [[nodiscard]] POINT MenuPlace();
+  [[nodiscard]] POINT ScrollToMenuPlace();
 
   void Show();
   void Sync();
@@ -75,7 +75,7 @@ class frmCommandList : Pinned {
   void DrawRow(const NMCUSTOMDRAW& draw) const;
   void DrawIcon(HDC context, int position, const RowPlaces& places) const;
   void SyncTip(const MSG& message);
-  [[nodiscard]] bool HasPointerMoved(POINT place);
+  [[nodiscard]] bool NotePointer(POINT place);
   void SetTip(int position, int subItem);
   void HideTip();
   [[nodiscard]] std::array<int, 4> ColumnOrder() const;

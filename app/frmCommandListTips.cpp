@@ -19,7 +19,7 @@ void frmCommandList::SyncTip(const MSG& message) {
   if (!IsPointer(message.message)) return;
   LVHITTESTINFO hit{};
   hit.pt = {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
-  if (!HasPointerMoved(hit.pt)) return;
+  if (!NotePointer(hit.pt)) return;
   ListView_SubItemHitTest(ListView1_, &hit);
   if (tipCell_.x != hit.iSubItem || tipCell_.y != hit.iItem) {
     tipCell_ = {hit.iSubItem, hit.iItem};
@@ -30,7 +30,7 @@ void frmCommandList::SyncTip(const MSG& message) {
 
 /// A list that comes up beneath the pointer is told of it, too; a tip would cover what the user has
 /// not pointed at.
-bool frmCommandList::HasPointerMoved(POINT place) {
+bool frmCommandList::NotePointer(POINT place) {
   if (hasPointerMoved_) return true;
   ClientToScreen(ListView1_, &place);
   hasPointerMoved_ = place.x != pointerBefore_.x || place.y != pointerBefore_.y;

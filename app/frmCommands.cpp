@@ -12,10 +12,10 @@ frmCommands::frmCommands(Editor& editor, frmViews& views, frmWork& work, Clock& 
       frmOptions_(editor.Language(), editor.Options()) {}
 
 void frmCommands::Run(int id, HWND control) {
-  if (!IsCommand(id) || !views_.AcceptInput()) return;
+  if (!IsCommand(id) || !views_.AcceptsInput()) return;
   if (views_.IsMainToolbar(control)) clock_.DoEvents();
   // The events before it may have started something else.
-  const WindowTask task = views_.AcceptInput() ? RunCommand(editor_, id) : WindowTask::None;
+  const WindowTask task = views_.AcceptsInput() ? RunCommand(editor_, id) : WindowTask::None;
   views_.Sync();
   Do(task);
 }
@@ -73,7 +73,7 @@ void frmCommands::mnuViewOptions_Click() {
 }
 
 void frmCommands::OpenDropped(const std::wstring& path) {
-  if (!views_.AcceptInput() || path.empty()) return;
+  if (!views_.AcceptsInput() || path.empty()) return;
   SetForegroundWindow(views_.Window());
   editor_.OpenShortcutFile(false, path, true);
   views_.Sync();

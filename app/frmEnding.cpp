@@ -13,7 +13,7 @@ frmEnding::frmEnding(Editor& editor, frmViews& views, MessageBoxes& messageBoxes
 
 bool frmEnding::MayClose() {
   // While a message box is open the window is disabled: the box is to be answered first.
-  const bool closes = views_.AcceptInput() && editor_.QueryUnload();
+  const bool closes = views_.AcceptsInput() && editor_.QueryUnload();
   views_.Sync();
   return closes;
 }
@@ -27,7 +27,7 @@ bool frmEnding::MaySessionEnd() {
   // The system soon covers the question, and lets its user end the program over it.
   editor_.KeepUnsaved();
   // Where nothing can be asked, the system tells the reason until all programs have answered.
-  if (!views_.AcceptInput()) return false;
+  if (!views_.AcceptsInput()) return false;
   mayLoseChanges_ = MayClose();
   ShutdownBlockReasonDestroy(views_.Window());
   return mayLoseChanges_;

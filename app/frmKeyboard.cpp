@@ -73,10 +73,10 @@ KeyPress frmKeyboard::PressOf(const MSG& message) const {
 }
 
 bool frmKeyboard::FilterKey(const MSG& message) {
-  if (!views_.AcceptInput()) return false;
+  if (!views_.AcceptsInput()) return false;
   const bool pressed = IsPress(message.message);
   const KeyPress press = PressOf(message);
-  const FindBoxKey inFindBox = findKeys_.MeaningOf(press, pressed, views_.FindBox().IsEmpty());
+  const FindBoxKey inFindBox = findKeys_.Take(press, pressed, views_.FindBox().IsEmpty());
   if (inFindBox != FindBoxKey::IsElsewhere) return FilterFindKey(inFindBox);
   switch (MeaningOf(press, pressed)) {
     case KeyMeaning::ForControl:

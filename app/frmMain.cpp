@@ -151,10 +151,8 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
       ending_.OnFailure();
       return 0;
     case WM_SETTINGCHANGE:
-      if (wParam == SPI_SETNONCLIENTMETRICS) {
-        views_.ApplyFonts();  // the message font, by which texts become larger
-        views_.LayOut();
-      }
+      // The message font, by which texts become larger.
+      if (wParam == SPI_SETNONCLIENTMETRICS) views_.ApplyFonts();
       break;
     case WM_NCDESTROY:
       DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
@@ -226,7 +224,6 @@ void frmMain::OnDpiChanged(int dpi, const RECT& suggested) {
   ApplyDpi(dpi);
   SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-  views_.LayOut();
 }
 
 void frmMain::Form_Activate() {

@@ -3,6 +3,7 @@
 
 #include "app/Commands.h"
 #include "app/ToolbarButtons.h"
+#include "platform/Pinned.h"
 #include "platform/win32/Controls.h"
 
 namespace tessera {
@@ -13,7 +14,7 @@ namespace tessera {
 /// The context menu of the command list.
 [[nodiscard]] Unique<HMENU> ContextMenu(const Editor& editor);
 
-class frmMenus {
+class frmMenus : Pinned {
  public:
   /// `editor` must outlive it.
   explicit frmMenus(const Editor& editor);

@@ -78,9 +78,7 @@ void frmPanel::FocusOnChooser() { SetFocus(Combo1_); }
 
 bool frmPanel::PressFocusedButton() {
   const HWND focus = GetFocus();
-  if (focus == nullptr || (focus != statusRow_.ShowButton() && focus != statusRow_.UndoButton())) {
-    return false;
-  }
+  if (statusRow_.CommandOf(focus) == 0) return false;
   SendMessageW(focus, BM_CLICK, 0, 0);
   return true;
 }
@@ -165,11 +163,8 @@ void frmPanel::Sync() {
 void frmPanel::KeepFocusEnabled(bool inputsEnabled) const {
   const HWND focus = GetFocus();
   if (focus == nullptr || IsChild(Frame1_, focus) == FALSE) return;
-  bool staysEnabled = inputsEnabled;
-  if (focus == statusRow_.ShowButton()) staysEnabled = editor_.ShowEnabled();
-  if (focus == statusRow_.UndoButton()) {
-    staysEnabled = editor_.Document().Edits().ToUndo() != nullptr;
-  }
+  const int command = statusRow_.CommandOf(focus);
+  const bool staysEnabled = command != 0 ? CommandEnabled(editor_, command) : inputsEnabled;
   if (!staysEnabled) events_.GiveFocusAway();
 }
 
@@ -186,9 +181,11 @@ LRESULT CALLBACK frmPanel::FrameProcedure(HWND frame, UINT message, WPARAM wPara
 LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
-      return OnCommand(LOWORD(wParam), HIWORD(wParam))
-                 ? 0
-                 : SendMessageW(GetParent(Frame1_), message, wParam, lParam);
+      if (OnCommand(LOWORD(wParam), HIWORD(wParam))) return 0;
+      if (const int command = statusRow_.CommandOf(reinterpret_cast<HWND>(lParam)); command != 0) {
+        return SendMessageW(GetParent(Frame1_), WM_COMMAND, static_cast<WPARAM>(command), 0);
+      }
+      return SendMessageW(GetParent(Frame1_), message, wParam, lParam);
     case WM_NOTIFY:
       return SendMessageW(GetParent(Frame1_), message, wParam, lParam);
     case WM_TIMER:
@@ -230,10 +227,6 @@ bool frmPanel::OnCommand(int id, int notification) {
     events_.ChooserDropsDown();
   } else if (id == IDC_cmdAllList && notification == BN_CLICKED) {
     events_.ToggleKeysList();
-  } else if (id == IDC_cmdShow && notification == BN_CLICKED) {
-    SendMessageW(GetParent(Frame1_), WM_COMMAND, IDM_show, 0);
-  } else if (id == IDC_cmdUndo && notification == BN_CLICKED) {
-    SendMessageW(GetParent(Frame1_), WM_COMMAND, IDM_undo, 0);
   } else {
     return false;
   }

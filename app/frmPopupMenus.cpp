@@ -27,7 +27,7 @@ frmPopupMenus::frmPopupMenus(Editor& editor, frmViews& views, frmWork& work)
 
 void frmPopupMenus::ShowUnderButton(const NMTOOLBARW& notification) {
   const ToolbarButton* const button = ButtonOf(notification.iItem);
-  if (button == nullptr || !views_.AcceptInput()) return;
+  if (button == nullptr || !views_.AcceptsInput()) return;
   editor_.RefreshRestartItems();
   const Unique<HMENU> menu = MenuUnder(*button, editor_);
   ShowMenuUnderButton(notification, menu.get(), views_.Window(), editor_.Language().RightToLeft());
@@ -46,13 +46,13 @@ bool frmPopupMenus::ShowUnderFocusedButton() {
 // By keyboard it is the list's wherever the focus is: Shift, of Shift+F10, goes to the chooser.
 bool frmPopupMenus::ShowOverList(HWND control, LPARAM place) {
   const bool byKeyboard = place == -1;
-  if (!views_.AcceptInput() || (!byKeyboard && control != views_.List().Control())) return false;
+  if (!views_.AcceptsInput() || (!byKeyboard && control != views_.List().Control())) return false;
   POINT corner{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
   // Some systems send it for a key that the window has taken; with Shift it is that of Shift+F10.
   const bool isAlt = editor_.Panel().ContextMenuKeyIsAlt() && !IsHeld(VK_SHIFT);
   if (byKeyboard && isAlt) return true;
   if (byKeyboard) {
-    corner = views_.List().MenuPlace();
+    corner = views_.List().ScrollToMenuPlace();
   } else if (!views_.List().SelectRowAt(corner)) {
     return true;
   }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "app/Commands.h"
 #include "app/StepNames.h"
 #include "resources/resource.h"
 
@@ -19,6 +20,12 @@ void frmStatusRow::Create(HWND frame) {
   constexpr DWORD ButtonStyle = WS_VISIBLE | WS_DISABLED | WS_TABSTOP | BS_PUSHBUTTON;
   cmdShow_ = CreateControl(frame, WC_BUTTONW, ButtonStyle, 0, IDC_cmdShow);
   cmdUndo_ = CreateControl(frame, WC_BUTTONW, ButtonStyle, 0, IDC_cmdUndo);
+}
+
+int frmStatusRow::CommandOf(HWND button) const {
+  if (button == nullptr) return 0;
+  if (button == cmdShow_) return IDM_show;
+  return button == cmdUndo_ ? IDM_undo : 0;
 }
 
 void frmStatusRow::ApplyLanguage(const Texts& texts) {
@@ -63,8 +70,8 @@ void frmStatusRow::Sync(const Editor& editor) {
     SetText(cmdShow_, shown);
     LayOut(top_);
   }
-  SetEnabled(cmdShow_, editor.ShowEnabled());
-  const bool canUndo = editor.Document().Edits().ToUndo() != nullptr;
+  SetEnabled(cmdShow_, CommandEnabled(editor, IDM_show));
+  const bool canUndo = CommandEnabled(editor, IDM_undo);
   SetEnabled(cmdUndo_, canUndo);
   SetUndoTip(canUndo ? UndoCaption(editor) : L"");
 }
@@ -92,8 +99,9 @@ void frmStatusRow::SetUndoTip(const std::wstring& text) {
 
 void frmStatusRow::Tell(bool timerRuns) {
   const bool modifierHeld = std::ranges::any_of(std::array{VK_CONTROL, VK_MENU, VK_SHIFT}, IsHeld);
-  if (lblStatus_ == nullptr || !telling_.IsDue(TextOf(lblStatus_), modifierHeld, timerRuns)) return;
-  NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, lblStatus_, OBJID_CLIENT, CHILDID_SELF);
+  if (lblStatus_ != nullptr && telling_.TakeIfDue(TextOf(lblStatus_), modifierHeld, timerRuns)) {
+    NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, lblStatus_, OBJID_CLIENT, CHILDID_SELF);
+  }
 }
 
 bool frmStatusRow::LineIsCut(const std::wstring& text) const {

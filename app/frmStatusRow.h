@@ -17,8 +17,8 @@ class frmStatusRow : Pinned {
   /// Makes its controls in the panel's frame, at the end of the order by Tab.
   void Create(HWND frame);
 
-  [[nodiscard]] HWND ShowButton() const { return cmdShow_; }
-  [[nodiscard]] HWND UndoButton() const { return cmdUndo_; }
+  /// The command behind one of its buttons; 0 for any other window.
+  [[nodiscard]] int CommandOf(HWND button) const;
   [[nodiscard]] HWND Line() const { return lblStatus_; }
 
   void ApplyLanguage(const Texts& texts);

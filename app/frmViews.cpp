@@ -41,7 +41,7 @@ void frmViews::Create(HWND window, int dpi) {
   progressBar_.Create(window);
 }
 
-bool frmViews::AcceptInput() const {
+bool frmViews::AcceptsInput() const {
   return IsWindowEnabled(window_) != FALSE && !editor_.Document().Busy();
 }
 
@@ -104,6 +104,7 @@ void frmViews::ApplyFonts() {
   keysList_.ApplyFont(font.get(), dpi_);
   font_ = std::move(font);
   list_.ApplyFont();
+  LayOut();
 }
 
 void frmViews::ApplyDisplaySettings() {

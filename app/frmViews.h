@@ -28,7 +28,7 @@ class frmViews {
   [[nodiscard]] int Dpi() const { return dpi_; }
 
   /// What the user does counts: no load or save runs, and no box or dialog is open.
-  [[nodiscard]] bool AcceptInput() const;
+  [[nodiscard]] bool AcceptsInput() const;
 
   [[nodiscard]] FocusPlace Focus() const;
 

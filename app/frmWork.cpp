@@ -29,14 +29,14 @@ frmFindBox::Events frmWork::FindEvents() {
 frmCommandList::Events frmWork::ListEvents() {
   return {.SelectRow =
               [this](std::size_t position) {
-                if (views_.AcceptInput()) {
+                if (views_.AcceptsInput()) {
                   editor_.Work(&CommandList::SelectRow, position);
                   views_.SyncKeys();
                 }
               },
           .ClickColumn =
               [this](int column) {
-                if (views_.AcceptInput()) {
+                if (views_.AcceptsInput()) {
                   editor_.Work(&CommandList::SortByColumn, column);
                   views_.Sync();
                 }
@@ -46,12 +46,12 @@ frmCommandList::Events frmWork::ListEvents() {
 frmPanel::Events frmWork::PanelEvents() {
   return {.SetBox =
               [this](Modifier box, bool checked) {
-                if (views_.AcceptInput()) editor_.Work(&HotkeyPanel::SetBox, box, checked);
+                if (views_.AcceptsInput()) editor_.Work(&HotkeyPanel::SetBox, box, checked);
                 views_.SyncKeys();
               },
           .ChooseKey =
               [this](int index) {
-                if (views_.AcceptInput()) editor_.Work(&HotkeyPanel::ChooseKey, index);
+                if (views_.AcceptsInput()) editor_.Work(&HotkeyPanel::ChooseKey, index);
                 views_.SyncKeys();
               },
           .ChooserDropsDown =
@@ -72,7 +72,7 @@ frmKeysList::Events frmWork::KeysListEvents() {
 }
 
 void frmWork::ToggleKeysList() {
-  if (views_.AcceptInput()) React(editor_.Work(&KeysList::ToggleKeysList));
+  if (views_.AcceptsInput()) React(editor_.Work(&KeysList::ToggleKeysList));
 }
 
 void frmWork::HideKeysList() {
@@ -81,7 +81,7 @@ void frmWork::HideKeysList() {
 }
 
 void frmWork::Search(const std::wstring& text) {
-  if (views_.AcceptInput()) editor_.Work(&CommandList::Search, text);
+  if (views_.AcceptsInput()) editor_.Work(&CommandList::Search, text);
   views_.Sync();
   views_.List().ShowSelectedRow();
 }
@@ -99,7 +99,7 @@ void frmWork::React(const Reaction& reaction) {
   } else {
     views_.SyncKeys();
   }
-  if (!views_.AcceptInput() || reaction.FocusTo == Reaction::Focus::Unchanged) return;
+  if (!views_.AcceptsInput() || reaction.FocusTo == Reaction::Focus::Unchanged) return;
   if (reaction.FocusTo == Reaction::Focus::Chooser) {
     views_.Panel().FocusOnChooser();
   } else {

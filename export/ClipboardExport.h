@@ -7,13 +7,14 @@
 #include "export/ExportSelection.h"
 #include "localisation/Texts.h"
 #include "platform/Clipboard.h"
+#include "platform/Pinned.h"
 #include "settings/SettingsFile.h"
 #include "shortcuts/Catalogue.h"
 #include "shortcuts/HotkeyNotation.h"
 
 namespace tessera {
 
-class ClipboardExport {
+class ClipboardExport : Pinned {
  public:
   ClipboardExport(const Catalogue& catalogue, const HotkeyNotation& notation, const Texts& texts,
                   SettingsFile& settingsFile);

@@ -6,11 +6,12 @@
 
 #include "localisation/TextId.h"
 #include "platform/Files.h"
+#include "platform/Pinned.h"
 #include "settings/ini/ProfileFile.h"
 
 namespace tessera {
 
-class Texts {
+class Texts : Pinned {
  public:
   /// Starts with the built-in texts.
   explicit Texts(const Files& files);

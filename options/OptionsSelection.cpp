@@ -13,11 +13,12 @@ namespace tessera {
 namespace {
 
 /// The settings behind the boxes, in the order of OptionBox.
-constexpr std::array<short Settings::*, 9> BoxSettings{
+constexpr short Settings::*BoxSettings[] = {
     &Settings::CommandListShowLines, &Settings::FixedBorders,      &Settings::FlatUserInterface,
     &Settings::AlwaysRestartTC,      &Settings::UseContextMenuKey, &Settings::ReverseOrderHotkey,
     &Settings::KeepUnknownShortcuts, &Settings::ForgetKeysAtOpen,  &Settings::ShowUserCommands,
 };
+static_assert(std::size(BoxSettings) == static_cast<std::size_t>(OptionBox::Count));
 
 int Settings::*ColorSetting(OptionColor swatch) {
   return swatch == OptionColor::Foreground ? &Settings::ForegroundColor

@@ -7,6 +7,7 @@
 #include "dialogs/cCommonDialog.h"
 #include "platform/Dialogs.h"
 #include "platform/Environment.h"
+#include "platform/Pinned.h"
 #include "settings/Settings.h"
 
 namespace tessera {
@@ -22,12 +23,13 @@ enum class OptionBox {
   KeepUnknownShortcuts,
   ForgetKeysAtOpen,
   ShowUserCommands,
+  Count  ///< is none
 };
 
 /// The colour swatches.
 enum class OptionColor { Foreground, Background };
 
-class OptionsSelection {
+class OptionsSelection : Pinned {
  public:
   OptionsSelection(Settings& settings, Dialogs& dialogs, const Environment& environment);
 
@@ -75,7 +77,7 @@ class OptionsSelection {
   Settings& settings_;
   Dialogs& dialogs_;
   const Environment& environment_;
-  std::array<bool, 9> boxes_{};
+  std::array<bool, static_cast<std::size_t>(OptionBox::Count)> boxes_{};
   bool usesDefaultLanguage_ = true;
   std::wstring languageFilePath_;
   bool applyEnabled_ = false;

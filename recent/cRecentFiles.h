@@ -7,6 +7,7 @@
 
 #include "localisation/Texts.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Pinned.h"
 #include "settings/SettingsFile.h"
 
 namespace tessera {
@@ -20,7 +21,7 @@ struct RecentEntry {
 /// drive and its file name. A long path without "\" stays whole.
 [[nodiscard]] std::wstring ShortenPath(std::wstring_view path);
 
-class cRecentFiles {
+class cRecentFiles : Pinned {
  public:
   cRecentFiles(const Texts& texts, MessageBoxes& messageBoxes);
 

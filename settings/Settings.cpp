@@ -13,8 +13,6 @@
 namespace tessera {
 namespace {
 
-constexpr short FirstRunWidth = 10000;  // twips, as the next
-constexpr short FirstRunHeight = 7000;
 constexpr short FewestRecentFiles = 2;
 constexpr short MostRecentFiles = 16;
 
@@ -161,10 +159,10 @@ Settings Defaults(const Environment& environment) {
 
 void PlaceFirstWindow(Settings& settings, const Environment& environment) {
   const TwipsSize screen = environment.ScreenSize();
-  settings.MainWindowWidth = FirstRunWidth;
-  settings.MainWindowHeight = FirstRunHeight;
-  settings.MainWindowLeft = RoundTo16Bits((screen.Width - FirstRunWidth) / 2.0);
-  settings.MainWindowTop = RoundTo16Bits((screen.Height - FirstRunHeight) / 2.0);
+  settings.MainWindowWidth = FirstRunSize.Width;
+  settings.MainWindowHeight = FirstRunSize.Height;
+  settings.MainWindowLeft = RoundTo16Bits((screen.Width - FirstRunSize.Width) / 2.0);
+  settings.MainWindowTop = RoundTo16Bits((screen.Height - FirstRunSize.Height) / 2.0);
 }
 
 void Write(const Member& setting, const Settings& settings, ProfileFile& file) {

@@ -9,6 +9,9 @@
 
 namespace tessera {
 
+/// Of the window when there is no settings file.
+inline constexpr TwipsSize FirstRunSize{10000, 7000};
+
 /// The settings in force. Fields are named after their keys in the file.
 struct Settings {
   short CommandListShowLines = 0;

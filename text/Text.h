@@ -18,8 +18,7 @@ inline constexpr unsigned Utf8CodePage = 65001;
 /// Text to bytes. Characters that the code page cannot hold become "?".
 [[nodiscard]] std::string Encode(std::wstring_view text, unsigned codePage = AnsiCodePage);
 
-/// The text in lower case, character by character; its length stays.
-[[nodiscard]] std::wstring ToLower(std::wstring_view text);
+/// The text in upper case, character by character; its length stays.
 [[nodiscard]] std::wstring ToUpper(std::wstring_view text);
 
 /// True when both are the same text in upper case. The one comparison of this kind; TextHash.h has

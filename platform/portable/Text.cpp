@@ -72,12 +72,6 @@ std::string Encode(std::wstring_view text, unsigned codePage) {
   return codePage == Utf8CodePage ? Utf8FromWide(text) : Windows1252Of(text);
 }
 
-std::wstring ToLower(std::wstring_view text) {
-  std::wstring lower(text);
-  std::ranges::transform(lower, lower.begin(), LowerOf);
-  return lower;
-}
-
 std::wstring ToUpper(std::wstring_view text) {
   std::wstring upper(text);
   std::ranges::transform(upper, upper.begin(), UpperOf);

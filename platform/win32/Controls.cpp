@@ -8,6 +8,7 @@
 
 #include "platform/win32/Components.h"
 #include "platform/win32/SystemFunction.h"
+#include "text/Text.h"
 
 namespace tessera {
 namespace {
@@ -73,7 +74,7 @@ HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD ext
 bool IsTextBox(HWND window) {
   std::array<wchar_t, 8> name{};
   GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-  return lstrcmpiW(name.data(), WC_EDITW) == 0;
+  return EqualIgnoringCase(name.data(), WC_EDITW);
 }
 
 std::wstring TextOf(HWND window) {

@@ -34,18 +34,6 @@ std::string AsciiBytes(std::wstring_view text) {
   return bytes;
 }
 
-std::wstring Mapped(std::wstring_view text, wchar_t (*mapAscii)(wchar_t), DWORD mapping) {
-  std::wstring result(text);
-  if (IsAscii(text)) {
-    std::ranges::transform(text, result.begin(), mapAscii);
-    return result;
-  }
-  const int length = static_cast<int>(text.size());
-  LCMapStringEx(LOCALE_NAME_INVARIANT, mapping, text.data(), length, result.data(), length, nullptr,
-                nullptr, 0);
-  return result;
-}
-
 }  // namespace
 
 std::wstring Decode(std::string_view bytes, unsigned codePage) {
@@ -74,12 +62,16 @@ std::string Encode(std::wstring_view text, unsigned codePage) {
   return bytes;
 }
 
-std::wstring ToLower(std::wstring_view text) {
-  return Mapped(text, AsciiLower<wchar_t>, LCMAP_LOWERCASE);
-}
-
 std::wstring ToUpper(std::wstring_view text) {
-  return Mapped(text, AsciiUpper<wchar_t>, LCMAP_UPPERCASE);
+  std::wstring upper(text);
+  if (IsAscii(text)) {
+    std::ranges::transform(text, upper.begin(), AsciiUpper<wchar_t>);
+    return upper;
+  }
+  const int length = static_cast<int>(text.size());
+  LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_UPPERCASE, text.data(), length, upper.data(), length,
+                nullptr, nullptr, 0);
+  return upper;
 }
 
 int CompareTexts(std::wstring_view left, std::wstring_view right) {

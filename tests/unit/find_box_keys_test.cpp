@@ -19,8 +19,8 @@ KeyPress PressIn(FocusPlace focus, KeyCode code) {
 
 KeyPress InBox(KeyCode code) { return PressIn(FocusPlace::TextBox, code); }
 
-FindBoxKey MeaningOf(const KeyPress& press, bool pressed, bool boxIsEmpty) {
-  return FindBoxKeys().MeaningOf(press, pressed, boxIsEmpty);
+FindBoxKey Take(const KeyPress& press, bool pressed, bool boxIsEmpty) {
+  return FindBoxKeys().Take(press, pressed, boxIsEmpty);
 }
 
 KeyPress Repeated(KeyPress press) {
@@ -30,15 +30,15 @@ KeyPress Repeated(KeyPress press) {
 
 TEST(FindBoxKeys, DownAndEnterGoToTheList) {
   for (const bool boxIsEmpty : {Empty, Filled}) {
-    EXPECT_EQ(MeaningOf(InBox(KeyCode::Down), Pressed, boxIsEmpty), GoesToList);
-    EXPECT_EQ(MeaningOf(InBox(KeyCode::Enter), Pressed, boxIsEmpty), GoesToList);
-    EXPECT_EQ(MeaningOf(InBox(KeyCode::Enter), Released, boxIsEmpty), ForBox);
+    EXPECT_EQ(Take(InBox(KeyCode::Down), Pressed, boxIsEmpty), GoesToList);
+    EXPECT_EQ(Take(InBox(KeyCode::Enter), Pressed, boxIsEmpty), GoesToList);
+    EXPECT_EQ(Take(InBox(KeyCode::Enter), Released, boxIsEmpty), ForBox);
   }
 }
 
 TEST(FindBoxKeys, EscEmptiesTheBoxAndThenGoesToTheList) {
-  EXPECT_EQ(MeaningOf(InBox(KeyCode::Escape), Pressed, Filled), EmptiesBox);
-  EXPECT_EQ(MeaningOf(InBox(KeyCode::Escape), Pressed, Empty), GoesToList);
+  EXPECT_EQ(Take(InBox(KeyCode::Escape), Pressed, Filled), EmptiesBox);
+  EXPECT_EQ(Take(InBox(KeyCode::Escape), Pressed, Empty), GoesToList);
 }
 
 TEST(FindBoxKeys, AllOthersButTabAreForTheBoxAlone) {
@@ -47,8 +47,8 @@ TEST(FindBoxKeys, AllOthersButTabAreForTheBoxAlone) {
     if (key == KeyCode::Down || key == KeyCode::Enter || key == KeyCode::Escape) continue;
     const FindBoxKey expected = key == KeyCode::Tab ? MovesFocus : ForBox;
     for (const bool pressed : {Pressed, Released}) {
-      EXPECT_EQ(MeaningOf(InBox(key), pressed, Empty), expected) << code;
-      EXPECT_EQ(MeaningOf(InBox(key), pressed, Filled), expected) << code;
+      EXPECT_EQ(Take(InBox(key), pressed, Empty), expected) << code;
+      EXPECT_EQ(Take(InBox(key), pressed, Filled), expected) << code;
     }
   }
 }
@@ -60,7 +60,7 @@ TEST(FindBoxKeys, WithAModifierOnlyTabLeavesTheBox) {
       KeyPress press = InBox(code);
       press.Event.*modifier = true;
       const FindBoxKey expected = code == KeyCode::Tab ? MovesFocus : ForBox;
-      EXPECT_EQ(MeaningOf(press, Pressed, Filled), expected);
+      EXPECT_EQ(Take(press, Pressed, Filled), expected);
     }
   }
 }
@@ -69,8 +69,8 @@ TEST(FindBoxKeys, KeysElsewhereAreNotTheirs) {
   for (const FocusPlace focus : {FocusPlace::Elsewhere, FocusPlace::CommandList,
                                  FocusPlace::Chooser, FocusPlace::Toolbar, FocusPlace::KeysList}) {
     for (const KeyCode code : {KeyCode::Enter, KeyCode::Tab, KeyCode::LetterA}) {
-      EXPECT_EQ(MeaningOf(PressIn(focus, code), Pressed, Filled), IsElsewhere);
-      EXPECT_EQ(MeaningOf(Repeated(PressIn(focus, code)), Pressed, Filled), IsElsewhere);
+      EXPECT_EQ(Take(PressIn(focus, code), Pressed, Filled), IsElsewhere);
+      EXPECT_EQ(Take(Repeated(PressIn(focus, code)), Pressed, Filled), IsElsewhere);
     }
   }
 }
@@ -79,22 +79,22 @@ TEST(FindBoxKeys, AHeldKeyDoesNothingAfterItHasDoneItsWork) {
   for (const KeyCode code : {KeyCode::Enter, KeyCode::Escape}) {
     for (const bool boxIsEmpty : {Empty, Filled}) {
       FindBoxKeys keys;
-      EXPECT_NE(keys.MeaningOf(InBox(code), Pressed, boxIsEmpty), ForBox);
-      EXPECT_EQ(keys.MeaningOf(Repeated(InBox(code)), Pressed, Empty), DoesNothing);
+      EXPECT_NE(keys.Take(InBox(code), Pressed, boxIsEmpty), ForBox);
+      EXPECT_EQ(keys.Take(Repeated(InBox(code)), Pressed, Empty), DoesNothing);
       const KeyPress inList = PressIn(FocusPlace::CommandList, code);
-      EXPECT_EQ(keys.MeaningOf(Repeated(inList), Pressed, Empty), DoesNothing);
-      EXPECT_EQ(keys.MeaningOf(inList, Released, Empty), IsElsewhere);
-      EXPECT_EQ(keys.MeaningOf(inList, Pressed, Empty), IsElsewhere) << "pressed once more";
-      EXPECT_EQ(keys.MeaningOf(Repeated(inList), Pressed, Empty), IsElsewhere);
+      EXPECT_EQ(keys.Take(Repeated(inList), Pressed, Empty), DoesNothing);
+      EXPECT_EQ(keys.Take(inList, Released, Empty), IsElsewhere);
+      EXPECT_EQ(keys.Take(inList, Pressed, Empty), IsElsewhere) << "pressed once more";
+      EXPECT_EQ(keys.Take(Repeated(inList), Pressed, Empty), IsElsewhere);
     }
   }
 }
 
 TEST(FindBoxKeys, HeldDownGoesOnThroughTheList) {
   FindBoxKeys keys;
-  EXPECT_EQ(keys.MeaningOf(InBox(KeyCode::Down), Pressed, Filled), GoesToList);
+  EXPECT_EQ(keys.Take(InBox(KeyCode::Down), Pressed, Filled), GoesToList);
   const KeyPress inList = PressIn(FocusPlace::CommandList, KeyCode::Down);
-  EXPECT_EQ(keys.MeaningOf(Repeated(inList), Pressed, Filled), IsElsewhere);
+  EXPECT_EQ(keys.Take(Repeated(inList), Pressed, Filled), IsElsewhere);
 }
 
 }  // namespace

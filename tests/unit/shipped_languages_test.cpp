@@ -267,7 +267,7 @@ TEST_F(ShippedLanguages, UseNoMnemonicTwiceInOnePlace) {
       for (const TextId id : place) {
         const wchar_t mnemonic = MnemonicOf(texts.GetLangText(id));
         if (mnemonic == L'\0') continue;
-        EXPECT_TRUE(taken.insert(ToLower(std::wstring(1, mnemonic))).second) << NumberOf(id);
+        EXPECT_TRUE(taken.insert(ToUpper(std::wstring(1, mnemonic))).second) << NumberOf(id);
       }
     }
   });

@@ -344,12 +344,12 @@ TEST(StatusLine, OfAnEmptyListIsEmpty) {
 
 TEST(StatusTelling, TellsEachTextOnceWhenNothingIsHeld) {
   StatusTelling telling;
-  EXPECT_TRUE(telling.IsDue(L"a", false, false));
-  EXPECT_FALSE(telling.IsDue(L"a", false, false));
-  EXPECT_FALSE(telling.IsDue(L"b", true, false));
-  EXPECT_FALSE(telling.IsDue(L"c", false, true));
-  EXPECT_TRUE(telling.IsDue(L"c", false, false)) << "what it says when the keys are released";
-  EXPECT_FALSE(telling.IsDue(L"c", false, false));
+  EXPECT_TRUE(telling.TakeIfDue(L"a", false, false));
+  EXPECT_FALSE(telling.TakeIfDue(L"a", false, false));
+  EXPECT_FALSE(telling.TakeIfDue(L"b", true, false));
+  EXPECT_FALSE(telling.TakeIfDue(L"c", false, true));
+  EXPECT_TRUE(telling.TakeIfDue(L"c", false, false)) << "what it says when the keys are released";
+  EXPECT_FALSE(telling.TakeIfDue(L"c", false, false));
 }
 
 }  // namespace
