@@ -34,11 +34,6 @@ if(TESSERA_SANITIZE)
   target_link_options(tessera_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-option(TESSERA_COUNT "Count the blocks of code that tests run" OFF)
-if(TESSERA_COUNT)
-  target_compile_options(tessera_options INTERFACE -fsanitize-coverage=trace-pc)
-endif()
-
 # Half of what a small file takes to compile is reading the headers of others. What a file forgot to
 # include is then seen by tests/checks/check_headers.py.
 option(TESSERA_PRECOMPILE "Precompile headers of the standard library" OFF)
