@@ -1,15 +1,11 @@
-// The table of ratios.
+// The times of benchmarks by their names.
 #include "benchmarks/Ratios.h"
 
 #include <algorithm>
-#include <cmath>
-#include <iomanip>
-#include <iostream>
 #include <limits>
+#include <ostream>
 
 namespace tessera {
-
-RatioReporter::RatioReporter(std::vector<Ratio> ratios) : ratios_(std::move(ratios)) {}
 
 bool RatioReporter::ReportContext(const Context& context) {
   static_cast<void>(context);
@@ -28,22 +24,6 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
   }
 }
 
-void RatioReporter::Finalize() {
-  std::ostream& out = GetOutputStream();
-  out << std::left << std::setw(72) << "what, against which reference" << std::right << std::setw(8)
-      << "ratio" << std::setw(8) << "goal\n";
-  for (const Ratio& ratio : ratios_) {
-    const double measured = TimeOf(ratio.Measured);
-    const double reference = TimeOf(ratio.Reference);
-    const double value = measured / reference / ratio.Scale;
-    everyRatioKnown_ = everyRatioKnown_ && !std::isnan(value);
-    // Neither of the two was asked for.
-    if (std::isnan(measured) && std::isnan(reference)) continue;
-    PrintRatio(out, ratio.What, value, ratio.Goal);
-  }
-}
-
-/// Not a number for a benchmark that did not run, so that its row cannot meet a goal.
 double RatioReporter::TimeOf(const std::string& name) const {
   const auto found = times_.find(name);
   return found == times_.end() ? std::numeric_limits<double>::quiet_NaN() : found->second;

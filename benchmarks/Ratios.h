@@ -1,4 +1,4 @@
-// Results as ratios: each row of the table compares two benchmarks of the same run.
+// Results as ratios of the times of two benchmarks.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -19,25 +19,18 @@ struct Ratio {
   double Goal = NoGoal;   ///< the largest ratio wanted, if any is
 };
 
-/// Prints a table of ratios of processor times. Of repetitions the quickest counts: whatever else
-/// runs on the machine only ever adds time.
+/// Gathers processor times, and prints nothing but errors. Of repetitions the quickest counts:
+/// whatever else runs on the machine only ever adds time.
 class RatioReporter : public benchmark::BenchmarkReporter {
  public:
-  explicit RatioReporter(std::vector<Ratio> ratios);
-
   bool ReportContext(const Context& context) override;
   void ReportRuns(const std::vector<Run>& runs) override;
-  void Finalize() override;
 
-  /// False when a benchmark that a ratio needs gave no time.
-  [[nodiscard]] bool EveryRatioKnown() const { return everyRatioKnown_; }
-
- private:
+  /// Of the benchmark of that name; not a number for one that did not run.
   [[nodiscard]] double TimeOf(const std::string& name) const;
 
-  std::vector<Ratio> ratios_;
+ private:
   std::map<std::string, double> times_;
-  bool everyRatioKnown_ = true;
 };
 
 }  // namespace tessera

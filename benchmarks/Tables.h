@@ -10,6 +10,10 @@ namespace tessera {
 inline constexpr int FewCommands = 600;  ///< as many as Total Commander has
 inline constexpr int ManyCommands = 100'000;
 
+inline void ForSizes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(FewCommands)->Arg(ManyCommands);
+}
+
 [[nodiscard]] std::vector<Ratio> EditorRatios();
 [[nodiscard]] std::vector<Ratio> OpeningRatios();
 [[nodiscard]] std::vector<Ratio> IniRatios();

@@ -261,22 +261,14 @@ void ApplyTexts(benchmark::State& state) {
   }
 }
 
-void ForSizes(benchmark::internal::Benchmark* benchmark) {
-  benchmark->Arg(FewCommands)->Arg(ManyCommands);
-  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
-}
-
 void ForColumns(benchmark::internal::Benchmark* benchmark) {
   benchmark->ArgsProduct({{FewCommands, ManyCommands}, {1, 2, 3, 4}});
-  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
 }
 
 void ForWords(benchmark::internal::Benchmark* benchmark) {
   benchmark->ArgsProduct({{FewCommands, ManyCommands}, {0, 1, 2}});
-  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
 }
 
-// First, as it takes up to twice as long on a heap that the others have left in pieces.
 BENCHMARK(ApplyTexts)->Apply(ForSizes);
 BENCHMARK(Assign)->Apply(ForSizes);
 BENCHMARK(Delete)->Apply(ForSizes);

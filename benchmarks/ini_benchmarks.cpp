@@ -131,7 +131,6 @@ void CopyBytes(benchmark::State& state) {
 
 void Sizes(benchmark::internal::Benchmark* benchmark) {
   benchmark->Arg(Small)->Arg(Medium)->Arg(Large);
-  benchmark->Repetitions(3)->MinTime(0.2)->Unit(benchmark::kMicrosecond);
 }
 
 BENCHMARK(LookUpAll<Ours>)->Name("LookUpAll.Ours")->Apply(Sizes);

@@ -107,16 +107,10 @@ void OpenStep(benchmark::State& state) {
   }
 }
 
-void ForSizes(benchmark::internal::Benchmark* benchmark) {
-  benchmark->Arg(FewCommands)->Arg(ManyCommands);
-  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
-}
-
 void ForSteps(benchmark::internal::Benchmark* benchmark) {
   for (std::size_t step = 0; step < Steps.size(); ++step) {
     benchmark->Args({ManyCommands, static_cast<int64_t>(step)});
   }
-  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
 }
 
 BENCHMARK(Open)->Apply(ForSizes);

@@ -46,11 +46,6 @@ void ConcatenatePage(benchmark::State& state) {
   }
 }
 
-void ForSizes(benchmark::internal::Benchmark* benchmark) {
-  benchmark->Arg(FewCommands)->Arg(ManyCommands);
-  benchmark->Repetitions(3)->MinTime(0.1)->Unit(benchmark::kMicrosecond);
-}
-
 BENCHMARK(BuildPage)->Apply(ForSizes);
 BENCHMARK(ConcatenatePage)->Apply(ForSizes);
 

@@ -79,7 +79,7 @@ def belongs_to_windows(file):
 
 
 def may_use_the_system(file):
-    return belongs_to_windows(file) or file.parts[:2] == ("platform", "portable")
+    return belongs_to_windows(file) or file.parts[1:2] == ("portable",)
 
 
 def without_comments_and_texts(code):
