@@ -39,6 +39,7 @@ TEST(WindowsPrograms, WindowIsFoundByItsClassAndAskedToCloseOnce) {
   ASSERT_NE(window, nullptr);
   const WindowId found = programs.FindWindowOfClass(name);
   EXPECT_EQ(found, reinterpret_cast<WindowId>(window));
+  SetLastError(ERROR_ACCESS_DENIED);  // of a former call
   EXPECT_TRUE(programs.SendClose(found));
   EXPECT_FALSE(programs.AwaitsAnswer());
   EXPECT_EQ(closeRequests, 1);
@@ -88,6 +89,10 @@ TEST(WindowsPrograms, ProgramIsGivenTimeToClose) {
   EXPECT_TRUE(programs.SendClose(reinterpret_cast<WindowId>(window)));
   EXPECT_LT(clock.Milliseconds() - start, 150U) << "it does not wait";
   EXPECT_TRUE(programs.AwaitsAnswer());
+  PostQuitMessage(0);
+  EXPECT_FALSE(programs.AwaitsAnswer()) << "this program is to end";
+  MSG quit{};
+  ASSERT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
   while (programs.AwaitsAnswer()) {
     clock.DoEvents();
     clock.Sleep(5);
@@ -109,6 +114,7 @@ TEST(WindowsPrograms, WindowThatIsGoneIsNotAwaited) {
 TEST(WindowsPrograms, MissingProgramsAndDocumentsAreReported) {
   const OwnerWindow owner;
   WindowsPrograms programs(owner);
+  EXPECT_FALSE(programs.Start(L""));
   EXPECT_FALSE(programs.Start(L"C:\\no such folder\\none.exe /i=\"x\""));
   EXPECT_FALSE(programs.OpenDocument(L"C:\\no such folder\\none.chm"));
 }
@@ -125,6 +131,7 @@ TEST(WindowsPrograms, UnquotedPathWithBlanksStartsThatProgramAndNoOther) {
   const std::wstring made = folder + L"\\a b\\made here";  // in the folder of its own
   ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr));
   ASSERT_TRUE(CreateDirectoryW((folder + L"\\a b").c_str(), nullptr));
+  ASSERT_TRUE(CreateDirectoryW((folder + L"\\a b\\c").c_str(), nullptr));
   ASSERT_TRUE(CopyFileW(shell.c_str(), program.c_str(), TRUE));
   WindowsFiles files;
   ASSERT_EQ(files.Write(decoy, "not a program"), FileError::None);
@@ -142,6 +149,7 @@ TEST(WindowsPrograms, UnquotedPathWithBlanksStartsThatProgramAndNoOther) {
   for (int tries = 0; tries < 100 && files.Remove(program) == FileError::AccessDenied; ++tries) {
     Sleep(50);  // until the program has ended
   }
+  RemoveDirectoryW((folder + L"\\a b\\c").c_str());
   RemoveDirectoryW((folder + L"\\a b").c_str());
   RemoveDirectoryW(folder.c_str());
 }

@@ -61,6 +61,28 @@ TEST_F(WindowsRegistryTest, BinaryIsReadAsHexadecimal) {
   EXPECT_EQ(texts_.ReadValue(path_, L"b"), L"01AB");
 }
 
+TEST_F(WindowsRegistryTest, TextWithVariablesIsReadAsItIs) {
+  const std::wstring text = L"%ProgramFiles%\\\u0141";
+  ASSERT_TRUE(registry_.Set(RootKey::CurrentUser, subkey_, L"t", {REG_EXPAND_SZ, {}, text}));
+  const auto value = registry_.Query(RootKey::CurrentUser, subkey_, L"t", 2048);
+  ASSERT_TRUE(value);
+  EXPECT_EQ(value->Type, DWORD{REG_EXPAND_SZ});
+  EXPECT_TRUE(value->Text.starts_with(text));
+}
+
+TEST_F(WindowsRegistryTest, ListOfTextsIsReadAsBytesOfTheCodePage) {
+  const wchar_t list[] = L"one\0two\0";
+  const std::string stored(reinterpret_cast<const char*>(list), sizeof list);
+  ASSERT_TRUE(registry_.Set(RootKey::CurrentUser, subkey_, L"m", {REG_MULTI_SZ, stored}));
+  const auto value = registry_.Query(RootKey::CurrentUser, subkey_, L"m", 2048);
+  ASSERT_TRUE(value);
+  EXPECT_EQ(value->Bytes, std::string("one\0two\0", 9));
+}
+
+TEST_F(WindowsRegistryTest, NothingIsStoredBelowAnUnknownRoot) {
+  EXPECT_FALSE(registry_.Set(RootKey{1}, subkey_, L"t", {REG_SZ, {}, L"x"}));
+}
+
 TEST_F(WindowsRegistryTest, ValueAboveTheCapacityGivesNothing) {
   ASSERT_TRUE(registry_.Set(RootKey::CurrentUser, subkey_, L"b", {3, std::string(10, 'x')}));
   EXPECT_TRUE(registry_.Query(RootKey::CurrentUser, subkey_, L"b", 10));
