@@ -24,7 +24,7 @@ RETURN = re.compile(r"\breturn ([^;{}]+);")
 CONDITION = re.compile(r"\bif \(")
 DECIDES = re.compile(r"\s(?:[=!]=|[<>]=?|&&|\|\||=)\s|!")
 # The default of its type, or the name of a value that may be.
-MAYBE_DEFAULT = re.compile(r'(?:0|false|true|1|nullptr|std::nullopt|L?""|[A-Z]\w*(?:::\w+)+)$')
+MAYBE_DEFAULT = re.compile(r'(?:0|false|FALSE|true|1|nullptr|std::nullopt|L?""|[A-Z]\w*(?:::\w+)+)$')
 WITHOUT_CODE = re.compile(
     r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])+\''
     r"|^[ ]*#[^\n]*|\bstatic_assert\(.*?\);|\[\[nodiscard\]\][^;{]*;|\)(?: const)? = 0;", re.M | re.S)

@@ -35,6 +35,7 @@ CHANGES = {
     "  const Busy busy(state);": [],
     "  ids.reserve(count);": [],
     "return std::nullopt;": [],
+    "return FALSE;": [],
     "#include <vector>  // 1": [],
     "static_assert(size ==\n              1);": [],
     "[[nodiscard]] bool Find(int first = 0) const;": [],
