@@ -5,18 +5,17 @@
 #include <array>
 #include <utility>
 
+#include "platform/LongPath.h"
 #include "platform/win32/Handle.h"
 
 namespace tessera {
 namespace {
 
-constexpr std::size_t LongPath = 248;  // from here on a path needs the prefix below
+constexpr std::size_t LongPath = 248;  // from here on a path needs a prefix
 /// No file that this program reads comes near it; memory and 32-bit lengths stay within bounds.
 constexpr LONGLONG LargestFile = 1LL << 30;
 
 constexpr std::size_t LargestStep = 0x40000000;  // bytes read or written by one call
-constexpr std::wstring_view LongPrefix = L"\\\\?\\";
-constexpr std::wstring_view LongSharePrefix = L"\\\\?\\UNC\\";
 
 constexpr std::array<std::pair<DWORD, FileError>, 13> Errors{{
     {ERROR_FILE_NOT_FOUND, FileError::NotFound},
@@ -44,19 +43,11 @@ FileError ResultOf(BOOL succeeded) { return succeeded != FALSE ? FileError::None
 
 /// The path in a form that the system accepts at any length.
 std::wstring SystemPath(const std::wstring& path) {
-  if (path.size() < LongPath || path.starts_with(LongPrefix)) return path;
+  if (path.size() < LongPath || HasLongPrefix(path)) return path;
   const DWORD length = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
   std::wstring full(length, L'\0');
   full.resize(GetFullPathNameW(path.c_str(), length, full.data(), nullptr));
-  if (full.empty()) return path;
-  if (full.starts_with(L"\\\\")) return std::wstring(LongSharePrefix) + full.substr(2);
-  return std::wstring(LongPrefix) + full;
-}
-
-std::wstring WithoutLongPrefix(const std::wstring& path) {
-  if (path.starts_with(LongSharePrefix)) return L"\\\\" + path.substr(LongSharePrefix.size());
-  if (path.starts_with(LongPrefix)) return path.substr(LongPrefix.size());
-  return path;
+  return full.empty() ? path : WithLongPrefix(full);
 }
 
 /// The path behind an open file, with the volume named by its letter or by its number (`volume`);
