@@ -44,7 +44,6 @@ std::vector<WORD> EmptyTemplate(const wchar_t* className) {
   constexpr DWORD Style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
   DLGTEMPLATE head{};
   head.style = Style;
-  head.dwExtendedStyle = WS_EX_CONTROLPARENT;
   const auto* const words = reinterpret_cast<const WORD*>(&head);
   std::vector<WORD> whole(words, words + sizeof head / sizeof(WORD));
   whole.push_back(0);
@@ -133,7 +132,7 @@ INT_PTR frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return TRUE;
     case WM_NOTIFY:
       if (const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
-          header.hwndFrom == tabs_ && header.code == TCN_SELCHANGE) {
+          header.code == TCN_SELCHANGE) {
         ShowPage(TabCtrl_GetCurSel(tabs_));
       }
       return TRUE;
@@ -192,8 +191,7 @@ void frmDialog::OnInit() {
 
 void frmDialog::OnCommandMessage(int id, int notification) {
   if (id == IDOK || id == IDCANCEL) {
-    const HWND button = Control(plan_.Buttons[id == IDOK ? 0 : 1].Id);
-    if (IsWindowEnabled(button) != FALSE) OnCommand(GetDlgCtrlID(button), BN_CLICKED);
+    OnCommand(plan_.Buttons[id == IDOK ? 0 : 1].Id, BN_CLICKED);
     return;
   }
   OnCommand(id, notification);

@@ -24,9 +24,8 @@ class BitmapContext {
     former_ = SelectObject(context_, bitmap_);
   }
   ~BitmapContext() {
-    SelectObject(context_, former_);
-    DeleteObject(bitmap_);
     DeleteDC(context_);
+    DeleteObject(bitmap_);
   }
   BitmapContext(const BitmapContext&) = delete;
   BitmapContext& operator=(const BitmapContext&) = delete;

@@ -144,11 +144,9 @@ bool WindowsDialogs::Font(FontRecord& font) {
   dialog.hwndOwner = owner_.ForModal();
   dialog.hDC = printer.get();
   dialog.lpLogFont = &logical;
-  dialog.iPointSize = font.PointSizeInTenths;
   // Without a printer only the screen's fonts can be listed.
   dialog.Flags = (printer ? DWORD{CF_BOTH} : DWORD{CF_SCREENFONTS}) | CF_INITTOLOGFONTSTRUCT |
                  CF_EFFECTS | CF_FORCEFONTEXIST | CF_LIMITSIZE;
-  dialog.rgbColors = RGB(0, 0, 0);
   dialog.nSizeMin = SmallestPointSize;
   dialog.nSizeMax = LargestPointSize;
   if (!Show("ChooseFontW", dialog)) return false;
