@@ -213,6 +213,12 @@ TEST_F(ExportTest, CloseButtonCopiesTheTableOfTheLastOkAgain) {
   SetClipboardText(Before);
   OpenDialog().CloseByCaption();
   CheckClipboard(older + Unsaved);
+
+  SetClipboardText(Before);
+  OpenDialog().CloseBy(IDC_cmdCancel);
+  OpenDialog().CloseByCaption();
+  Select(L"cm_SrcTree");
+  EXPECT_EQ(ClipboardText(), Before) << "Cancel has forgotten it";
 }
 
 }  // namespace

@@ -194,9 +194,11 @@ TEST_F(LanguageTest, ArrowKeysGoFromOneChoiceToTheOther) {
   dialog.ClickTab(IDC_tbsOptions, 3);
   dialog.ClickControl(IDC_optUseDefaultLanguage);
   WaitFor("the first choice", [&] { return dialog.HasFocus(IDC_optUseDefaultLanguage); });
-  for (const int next : {IDC_optUseOtheLanguage, IDC_optUseDefaultLanguage}) {
-    Press(VK_UP);
-    WaitFor("the other choice", [&] { return dialog.HasFocus(next); });
+  // Both go round: neither to the text box behind them.
+  for (const auto& [key, next] : {std::pair{WORD{VK_UP}, IDC_optUseOtheLanguage},
+                                  std::pair{WORD{VK_DOWN}, IDC_optUseDefaultLanguage}}) {
+    Press(key);
+    WaitFor("the other choice", [&, id = next] { return dialog.HasFocus(id); });
   }
   dialog.CloseBy(IDC_cmdCancel);
 }
@@ -356,15 +358,32 @@ TEST_F(LanguageTest, TranslatorsSeeTheRoomOfTextsInAqua) {
   WriteBytes(folder_.SettingsFile(), "[Common]\r\nShowControlsBackColor=1\r\n");
   StartAndLoad();
   Select(L"cm_SrcTree");
-  for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0}) {
-    WaitFor("control " + std::to_string(id) + " to be aqua",
-            [&] { return CountPixels(RectangleOf(window_->Control(id)), Aqua) > 100; });
-  }
+  const auto expectAqua = [](const Window& window, std::initializer_list<int> ids) {
+    for (const int id : ids) {
+      WaitFor("control " + std::to_string(id) + " to be aqua",
+              [&] { return CountPixels(RectangleOf(window.Control(id)), Aqua) > 100; });
+    }
+  };
+  expectAqua(*window_, {IDC_lblHotkey, IDC_chkCtrlAlt0});
+  window_->Command(IDM_mnuViewOptions);
+  Dialog dialog = NextDialog(L"frmOptions");
+  expectAqua(dialog, {IDC_chkShowgridlines});
+  dialog.ClickTab(IDC_tbsOptions, 1);
+  expectAqua(dialog, {IDC_Label3});
+  dialog.ClickTab(IDC_tbsOptions, 3);
+  expectAqua(dialog, {IDC_optUseDefaultLanguage, IDC_txtLanguageFilePath});
 }
 
 TEST_F(LanguageTest, NobodyElseSeesAqua) {
   StartAndLoad();
   EXPECT_EQ(CountPixels(RectangleOf(window_->Handle()), Aqua), 0);
+  window_->Command(IDM_mnuViewOptions);
+  Dialog dialog = NextDialog(L"frmOptions");
+  dialog.ClickTab(IDC_tbsOptions, 3);
+  const RECT choice = RectangleOf(dialog.Control(IDC_optUseDefaultLanguage));
+  WaitFor("the page to be painted",
+          [&] { return CountPixels(choice, GetSysColor(COLOR_BTNTEXT)) > 0; });
+  EXPECT_EQ(CountPixels(RectangleOf(dialog.Handle()), Aqua), 0);
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
 // The options dialog: each control, the three buttons, and what follows in the window.
 // clang-format off
 #include <windows.h>  // must come first
-#include <colordlg.h>
 #include <commctrl.h>
-#include <dlgs.h>
 // clang-format on
 
 #include <optional>
@@ -70,30 +68,6 @@ class OptionsTest : public EndToEndTest {
             [&] { return dialog.Enabled(IDC_cmdApply) == enabled; });
   }
 
-  /// One of the system's dialogs, which has a control of that ID.
-  [[nodiscard]] HWND NextSystemDialog(int control) const {
-    return WaitFor("a dialog of the system", [&]() -> HWND {
-      for (const HWND window : VisibleWindows(program_->Id(), L"#32770")) {
-        if (GetDlgItem(window, control) != nullptr) return window;
-      }
-      return nullptr;
-    });
-  }
-
-  /// In the colour dialog that is open: the one in the corner of the basic colours.
-  void PickFirstBasicColor() {
-    constexpr int FromTheCorner = 8;  // pixels: inside the first cell
-    const HWND colors = NextSystemDialog(COLOR_BOX1);
-    const RECT place = RectangleOf(GetDlgItem(colors, COLOR_BOX1));
-    BringToFront(colors);
-    Click({place.left + FromTheCorner, place.top + FromTheCorner});
-    AnswerByKey(colors, VK_RETURN);
-  }
-
-  [[nodiscard]] COLORREF ListColor(UINT message) const {
-    return static_cast<COLORREF>(Send(window_->Control(IDC_ListView1), message));
-  }
-
   [[nodiscard]] LONG_PTR ListStyle(int which) const {
     return GetWindowLongPtrW(window_->Control(IDC_ListView1), which);
   }
@@ -140,11 +114,17 @@ TEST_F(OptionsTest, TabsAndControlsBearTheirTexts) {
       {IDC_Frame4, L"Change Language :"},
       {IDC_optUseDefaultLanguage, L"Use &Default Language"},
       {IDC_optUseOtheLanguage, L"&Other"},
+      {IDC_cmdBrowseForLangFile, L"..."},
       {IDC_cmdOK, L"OK"},
       {IDC_cmdCancel, L"Cancel"},
       {IDC_cmdApply, L"&Apply"}};
   for (const auto& [id, text] : texts) EXPECT_EQ(dialog.ControlText(id), text);
   EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
+  EXPECT_EQ(LOWORD(Send(dialog.Handle(), DM_GETDEFID)), IDC_cmdOK);
+  EXPECT_NE(Send(dialog.Control(IDC_cmdOK), WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON, 0);
+  for (const int id : {IDC_cmdOK, IDC_cmdCancel, IDC_cmdApply}) {
+    EXPECT_NE(GetWindowLongPtrW(dialog.Control(id), GWL_STYLE) & WS_GROUP, 0) << "no arrow goes on";
+  }
 }
 
 TEST_F(OptionsTest, KeysTurnThePages) {
@@ -153,9 +133,10 @@ TEST_F(OptionsTest, KeysTurnThePages) {
     const HeldKey ctrl(VK_CONTROL);
     std::optional<HeldKey> held;
     if (shift) held.emplace(WORD{VK_SHIFT});
-    Press(key);
+    KeyDown(key);
     WaitFor("tab " + std::to_string(expected),
             [&] { return dialog.ChosenTab(IDC_tbsOptions) == expected; });
+    KeyUp(key);
   };
   const auto waitForFocus = [&](int id) {
     WaitFor("control " + std::to_string(id) + " to have the focus",
@@ -165,6 +146,9 @@ TEST_F(OptionsTest, KeysTurnThePages) {
   turn(VK_TAB, false, ColorAndFont);
   waitForFocus(IDC_lblColorChange0);
   EXPECT_FALSE(dialog.Visible(IDC_chkShowgridlines));
+  const RECT swatch = RectangleOf(dialog.Control(IDC_lblColorChange0));
+  const RECT dots{swatch.left + 3, swatch.top + 3, swatch.right - 3, swatch.top + 4};
+  WaitFor("the focus to be seen", [&] { return CountPixels(dots, RGB(255, 255, 255)) > 0; });
   turn(VK_TAB, true, Layout);
   turn(VK_TAB, true, Language);
   waitForFocus(IDC_optUseDefaultLanguage);  // the one that is chosen
@@ -173,7 +157,16 @@ TEST_F(OptionsTest, KeysTurnThePages) {
   dialog.ClickTab(IDC_tbsOptions, Operation);
   turn(VK_NEXT, false, Language);
   EXPECT_TRUE(dialog.HasFocus(IDC_tbsOptions)) << "the tabs keep it";
+  Press(VK_LEFT);
+  WaitFor("the page before", [&] { return dialog.Visible(IDC_chkAlwaysRestartTC); });
   EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
+  turn(VK_NEXT, false, Language);
+  dialog.ClickControl(IDC_optUseOtheLanguage);
+  waitForFocus(IDC_optUseOtheLanguage);
+  turn(VK_PRIOR, false, Operation);
+  waitForFocus(IDC_chkAlwaysRestartTC);
+  turn(VK_NEXT, false, Language);
+  waitForFocus(IDC_optUseOtheLanguage);
   dialog.CloseByKey(VK_ESCAPE);
 }
 
@@ -287,72 +280,6 @@ TEST_F(OptionsTest, FocusGoesFromApplyToOk) {
   WaitForApply(dialog, false);
   EXPECT_TRUE(dialog.HasFocus(IDC_cmdOK));
   dialog.CloseByKey(VK_RETURN);
-}
-
-TEST_F(OptionsTest, PickedColorStaysAfterCancel) {
-  const std::vector<std::tuple<int, UINT, std::string>> swatches{
-      {IDC_lblColorChange0, LVM_GETTEXTCOLOR, "ForegroundColor"},
-      {IDC_lblColorChange1, LVM_GETBKCOLOR, "BackgroundColor"}};
-  for (const auto& [swatch, message, setting] : swatches) {
-    const COLORREF before = ListColor(message);
-    Dialog dialog = OpenOptions();
-    GoTo(dialog, ColorAndFont);
-    dialog.ClickControl(swatch);
-    AnswerByKey(NextSystemDialog(COLOR_BOX1), VK_ESCAPE);
-    EXPECT_FALSE(dialog.Enabled(IDC_cmdApply)) << "nothing was picked";
-    dialog.ClickControl(swatch);
-    PickFirstBasicColor();
-    WaitForApply(dialog, true);
-    const RECT place = RectangleOf(dialog.Control(swatch));
-    dialog.CloseBy(IDC_cmdCancel);
-    WaitFor("the list's colour", [&, &message = message] { return ListColor(message) != before; });
-    WaitFor("the setting", [&, &message = message, &setting = setting] {
-      return Setting(setting) == std::to_string(ListColor(message));
-    });
-
-    // The swatch shows the colour that the list has.
-    dialog = OpenOptions();
-    GoTo(dialog, ColorAndFont);
-    WaitFor("the swatch's colour", [&, &message = message] {
-      return CountPixels(place, ListColor(message)) > (place.right - place.left);
-    });
-    dialog.CloseBy(IDC_cmdCancel);
-  }
-}
-
-TEST_F(OptionsTest, PickedFontIsTheListsAfterCancelToo) {
-  const auto rowHeight = [&] {
-    const RECT cell = window_->CellRectangle(0, 1);
-    return cell.bottom - cell.top;
-  };
-  const LONG before = rowHeight();
-  Dialog dialog = OpenOptions();
-  GoTo(dialog, ColorAndFont);
-  dialog.ClickControl(IDC_cmdChangeFont);
-  HWND fonts = NextSystemDialog(cmb3);
-  const HWND colors = GetDlgItem(fonts, cmb4);
-  const auto color = static_cast<WPARAM>(Send(colors, CB_GETCURSEL));
-  EXPECT_EQ(Send(colors, CB_GETITEMDATA, color), 0) << "black";
-  AnswerByKey(fonts, VK_ESCAPE);
-  EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
-  EXPECT_EQ(Setting("FontSize"), "10");
-  dialog.ClickControl(IDC_cmdChangeFont);
-  fonts = NextSystemDialog(cmb3);
-  BringToFront(fonts);
-  const RECT sizes = RectangleOf(GetDlgItem(fonts, cmb3));
-  Click({sizes.left + 10, sizes.top + 10});
-  WaitFor("the next size", [&] {
-    const std::wstring size = TextOf(GetDlgItem(fonts, cmb3));
-    if (size == L"12") return true;
-    Press(VK_DOWN);
-    WaitFor("another size", [&] { return TextOf(GetDlgItem(fonts, cmb3)) != size; });
-    return false;
-  });
-  AnswerByKey(fonts, VK_RETURN);
-  WaitForApply(dialog, true);
-  dialog.CloseBy(IDC_cmdCancel);
-  WaitFor("the setting", [&] { return Setting("FontSize") == "12"; });
-  WaitFor("higher rows", [&] { return rowHeight() > before; });
 }
 
 TEST_F(OptionsTest, LanguageFileIsBrowsedForInTheFolderLanguages) {

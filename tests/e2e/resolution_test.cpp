@@ -79,6 +79,13 @@ class ResolutionTest : public EndToEndTest {
     WaitFor("the first row to be selected", [&] { return window_->SelectedRow() == 0; });
   }
 
+  /// With a language file that has those texts.
+  void StartWithTexts(const std::string& texts) {
+    const std::wstring name = L"Own.lng";
+    WriteBytes(folder_.ShippedLanguage(name), "[UserLanguage]\r\n" + texts);
+    StartWith(name);
+  }
+
   /// Tells a window that it stands on a screen of that resolution now, where it should take that
   /// place.
   void ChangeResolution(const Window& window, int dpi, const RECT& suggested) const {
@@ -153,6 +160,52 @@ class ResolutionTest : public EndToEndTest {
         << Utf8(window.Caption());
   }
 
+  /// The tabs and the controls on their pages have the room around them that they ask for.
+  void ExpectRoomAroundPages(const Dialog& dialog, int dpi, LONG margin) const {
+    const HWND tabs = dialog.Control(IDC_tbsOptions);
+    const Ruler ruler(dpi, &NONCLIENTMETRICSW::lfMessageFont);
+    const SIZE text = ruler.Measure(dialog.TabText(IDC_tbsOptions, 0));
+    const RECT tab = Ask<RECT>(tabs, TCM_GETITEMRECT);
+    EXPECT_GE(tab.right - tab.left, text.cx + 2 * MulDiv(10, dpi, 96));
+    RECT page{};
+    GetClientRect(tabs, &page);
+    memory_->Put(page);
+    Send(tabs, TCM_ADJUSTRECT, FALSE, memory_->At());
+    page = OnScreen(tabs, memory_->Get<RECT>());
+    const RECT frame = RectangleOf(dialog.Control(IDC_Frame1));
+    EXPECT_EQ(frame.left - page.left, margin);
+    EXPECT_EQ(frame.top - page.top, margin);
+    EXPECT_EQ(page.right - frame.right, margin);
+  }
+
+  /// What a dialog that reads from the left shows ends everywhere at the same distance from its
+  /// edges.
+  void ExpectEvenMargins(const Dialog& dialog, int dpi) const {
+    const bool hasTabs = GetDlgItem(dialog.Handle(), IDC_tbsOptions) != nullptr;
+    RECT inside{};
+    GetClientRect(dialog.Handle(), &inside);
+    inside = OnScreen(dialog.Handle(), inside);
+    const RECT pages = RectangleOf(dialog.Control(hasTabs ? IDC_tbsOptions : IDC_Frame1));
+    const RECT button = RectangleOf(dialog.Control(hasTabs ? IDC_cmdApply : IDC_cmdCancel));
+    const LONG margin = pages.left - inside.left;
+    EXPECT_GT(margin, 0);
+    EXPECT_EQ(pages.top - inside.top, margin);
+    EXPECT_EQ(inside.right - pages.right, margin);
+    EXPECT_EQ(button.top - pages.bottom, margin);
+    EXPECT_EQ(inside.right - button.right, margin);
+    // A caption that is higher at a resolution is so from the start on.
+    if (GetDpiForWindow(dialog.Handle()) == static_cast<UINT>(dpi)) {
+      EXPECT_EQ(inside.bottom - button.bottom, margin);
+    }
+    if (hasTabs) ExpectRoomAroundPages(dialog, dpi, margin);
+  }
+
+  void ExpectGoodLayout(const Dialog& dialog, int dpi) const {
+    ExpectThatAllFits(dialog, dpi);
+    ExpectThatTheTitleFits(dialog, dpi);
+    ExpectEvenMargins(dialog, dpi);
+  }
+
   /// Opens a dialog of the program, calls `look` with it, and closes it.
   template <typename Look>
   void WithDialog(int command, const std::wstring& className, Look look) {
@@ -225,10 +278,7 @@ TEST_F(ResolutionTest, ProgramStartsInIt) {
     EXPECT_GT(toolbar.bottom - toolbar.top, toolbarHeight);
     toolbarHeight = toolbar.bottom - toolbar.top;
     ExpectThatAllFits(*window_, dpi);
-    WithEachDialog([&](const Dialog& dialog) {
-      ExpectThatAllFits(dialog, dpi);
-      ExpectThatTheTitleFits(dialog, dpi);
-    });
+    WithEachDialog([&](const Dialog& dialog) { ExpectGoodLayout(dialog, dpi); });
     Close();
   }
 }
@@ -248,8 +298,9 @@ TEST_F(ResolutionTest, AllKeysButtonStandsInsideTheChooser) {
 }
 
 TEST_F(ResolutionTest, DialogMovesToThePlaceThatComesWithIt) {
-  StartWith(L"");
+  StartWithTexts("1008=All of this is as I want it\r\n1009=Nothing of this is as I want it\r\n");
   WithEachDialog([&](const Dialog& dialog) {
+    ExpectGoodLayout(dialog, 96);  // with buttons that are wider than all else
     const RECT former = RectangleOf(dialog.Handle());
     const RECT suggested{31, 43, 831, 643};
     ChangeResolution(dialog, 192, suggested);
@@ -261,10 +312,24 @@ TEST_F(ResolutionTest, DialogMovesToThePlaceThatComesWithIt) {
 }
 
 TEST_F(ResolutionTest, DialogIsLaidOutTheSameEachTime) {
-  StartWith(L"");
+  // Tabs in the one, and a title in the other, that are wider than all else.
+  StartWithTexts(
+      "1002=The looks of all windows\r\n1004=The colors and the font\r\n"
+      "1005=What the program does\r\n1006=The language of all\r\n"
+      "407=Which columns are to be exported?\r\n");
   WithEachDialog([&](const Dialog& dialog) {
     const RECT first = RectangleOf(dialog.Handle());
-    for (const int dpi : {96, 192, 96}) ChangeResolution(dialog, dpi, first);
+    for (const int dpi : {96, 192, 96}) {
+      ChangeResolution(dialog, dpi, first);
+      ExpectGoodLayout(dialog, dpi);
+    }
+    // After other fonts and colours, too.
+    for (const auto& [message, what] :
+         {std::pair{WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS}, std::pair{WM_SYSCOLORCHANGE, 0}}) {
+      SetWindowPos(dialog.Control(IDC_cmdOK), nullptr, 0, 0, 1, 1, SWP_NOZORDER | SWP_NOACTIVATE);
+      Send(dialog.Handle(), static_cast<UINT>(message), static_cast<WPARAM>(what));
+      ExpectGoodLayout(dialog, 96);
+    }
     const RECT last = RectangleOf(dialog.Handle());
     EXPECT_NE(EqualRect(&first, &last), FALSE)
         << first.right - first.left << " wide, then " << last.right - last.left;
