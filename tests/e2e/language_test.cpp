@@ -377,13 +377,6 @@ TEST_F(LanguageTest, TranslatorsSeeTheRoomOfTextsInAqua) {
 TEST_F(LanguageTest, NobodyElseSeesAqua) {
   StartAndLoad();
   EXPECT_EQ(CountPixels(RectangleOf(window_->Handle()), Aqua), 0);
-  window_->Command(IDM_mnuViewOptions);
-  Dialog dialog = NextDialog(L"frmOptions");
-  dialog.ClickTab(IDC_tbsOptions, 3);
-  const RECT choice = RectangleOf(dialog.Control(IDC_optUseDefaultLanguage));
-  WaitFor("the page to be painted",
-          [&] { return CountPixels(choice, GetSysColor(COLOR_BTNTEXT)) > 0; });
-  EXPECT_EQ(CountPixels(RectangleOf(dialog.Handle()), Aqua), 0);
 }
 
 }  // namespace

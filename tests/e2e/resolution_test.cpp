@@ -316,7 +316,7 @@ TEST_F(ResolutionTest, DialogIsLaidOutTheSameEachTime) {
   StartWithTexts(
       "1002=The looks of all windows\r\n1004=The colors and the font\r\n"
       "1005=What the program does\r\n1006=The language of all\r\n"
-      "407=Which columns are to be exported?\r\n");
+      "407=Which of all the columns are to be exported now?\r\n");
   WithEachDialog([&](const Dialog& dialog) {
     const RECT first = RectangleOf(dialog.Handle());
     for (const int dpi : {96, 192, 96}) {
