@@ -294,6 +294,7 @@ TEST_F(WindowsFilesTest, FileThatIsNoLinkResolvesToItself) {
   Put(L"a", "x");
   EXPECT_EQ(files_.Resolve(At(L"a")), At(L"a"));
   EXPECT_EQ(files_.Resolve(At(L"b")), At(L"b"));
+  EXPECT_EQ(files_.Resolve(L"C:\\"), L"C:\\") << "has no name";
 }
 
 TEST_F(WindowsFilesTest, FileResolvesToItsNameOnTheDisk) {
