@@ -2,6 +2,7 @@
 // clang-format off
 #include <windows.h>  // must come first
 #include <commctrl.h>
+#include <dlgs.h>
 // clang-format on
 
 #include <optional>
@@ -291,6 +292,8 @@ TEST_F(OptionsTest, LanguageFileIsBrowsedForInTheFolderLanguages) {
   EXPECT_TRUE(dialog.Enabled(IDC_txtLanguageFilePath));
   dialog.ClickControl(IDC_cmdBrowseForLangFile);
   const HWND files = WaitForFileDialog(program_->Id());
+  EXPECT_EQ(IsWindowEnabled(dialog.Handle()), FALSE);
+  EXPECT_EQ(TextOf(GetDlgItem(files, cmb1)), L"Language File (*.lng)");
   BringToFront(files);
   Type(L"German.lng");  // found only when the dialog stands in that folder
   AnswerByKey(files, VK_RETURN);
