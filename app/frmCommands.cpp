@@ -49,7 +49,6 @@ void frmCommands::mnuFileExportToClipboard_Click() {
   work_.HideKeysList();
   frmExportToClipboard_.Show(views_.Window(), editor_.BeginExport());
   editor_.EndExport();
-  views_.Sync();
 }
 
 void frmCommands::mnuViewOptions_Click() {

@@ -15,7 +15,7 @@ namespace {
 constexpr wchar_t WindowClass[] = L"frmMain";
 
 /// Posted at an activation, so that the window stands on the screen before files are loaded.
-constexpr UINT ActivationMessage = WM_APP + 1;
+constexpr UINT ActivationMessage = WM_APP;
 
 /// Goes with a drop of files; the headers do not name it.
 constexpr UINT CopyGlobalData = 0x0049;
@@ -82,7 +82,6 @@ void frmMain::ApplyDpi(int dpi) {
 
 void frmMain::Show(int showCommand) {
   const bool maximised = editor_.Options().MainWindowMaxmized == 1;
-  lastFocus_ = views_.List().Control();
   views_.LayOutFromNowOn();
   ShowWindow(window_, maximised ? SW_SHOWMAXIMIZED : showCommand);
 }
@@ -103,46 +102,47 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SIZE:
       views_.LayOut();
       views_.MoveKeysList();
-      return 0;
+      break;
     case WM_COMMAND:
       OnControl(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
-      return 0;
+      break;
     case WM_NOTIFY:
       return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
     case WM_DROPFILES:
       commands_.OpenDropped(TakeDroppedFile(reinterpret_cast<HDROP>(wParam)));
-      return 0;
+      break;
     case WM_MOVE:
       views_.MoveKeysList();
-      return 0;
+      break;
     case WM_INITMENUPOPUP:
       editor_.RefreshRestartItems();
       views_.SyncMenus();
-      return 0;
+      break;
     case WM_ACTIVATE:
       OnActivate(wParam);
-      return 0;
+      break;
     case ActivationMessage:
       Form_Activate();
-      return 0;
+      break;
     case WM_SETFOCUS:
-      // The find box may have been hidden meanwhile.
+      // None had it yet, or the find box, which may have been hidden meanwhile.
       SetFocus(IsWindowVisible(lastFocus_) != FALSE ? lastFocus_ : views_.List().Control());
-      return 0;
+      break;
     case WM_CLOSE:
       if (ending_.MayClose()) DestroyWindow(window_);
-      return 0;
+      break;
     case WM_QUERYENDSESSION:
       return ending_.MaySessionEnd() ? TRUE : FALSE;
     case WM_ENDSESSION:
       ending_.OnSessionEnd(wParam != FALSE);
-      return 0;
+      break;
     case WM_DESTROY:
       Form_Unload();
-      return 0;
+      break;
     default:
       return HandleDefault(message, wParam, lParam);
   }
+  return 0;
 }
 
 LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -213,7 +213,7 @@ void frmMain::OnActivate(WPARAM wParam) {
   const bool minimised = HIWORD(wParam) != 0;
   if (LOWORD(wParam) == WA_INACTIVE) {
     const HWND focus = GetFocus();
-    lastFocus_ = focus != nullptr && IsChild(window_, focus) != FALSE ? focus : lastFocus_;
+    if (IsChild(window_, focus) != FALSE) lastFocus_ = focus;
   } else if (!minimised) {
     SetFocus(window_);
     PostMessageW(window_, ActivationMessage, 0, 0);

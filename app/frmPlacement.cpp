@@ -4,6 +4,18 @@
 #include <vector>
 
 namespace tessera {
+namespace {
+
+void PlaceAsStored(const frmViews& views, const Settings& settings) {
+  const Size smallest = views.SmallestSize();
+  const std::vector<Screen> screens = Screens(views.Dpi());
+  Place(views.Window(), StoredPlace(settings, {.SmallestWidth = smallest.Width,
+                                               .SmallestHeight = smallest.Height,
+                                               .Screens = screens,
+                                               .Dpi = views.Dpi()}));
+}
+
+}  // namespace
 
 void frmPlacement::Apply(const frmViews& views, const Settings& settings) {
   const HWND window = views.Window();
@@ -13,17 +25,10 @@ void frmPlacement::Apply(const frmViews& views, const Settings& settings) {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     return;
   }
+  const int dpi = views.Dpi();
+  PlaceAsStored(views, settings);
   // Moving to another screen may change the resolution, and with it what the twips stand for.
-  int dpi = 0;
-  for (int attempt = 0; attempt < 2 && dpi != views.Dpi(); ++attempt) {
-    dpi = views.Dpi();
-    const Size smallest = views.SmallestSize();
-    const std::vector<Screen> screens = Screens(dpi);
-    Place(window, StoredPlace(settings, {.SmallestWidth = smallest.Width,
-                                         .SmallestHeight = smallest.Height,
-                                         .Screens = screens,
-                                         .Dpi = dpi}));
-  }
+  if (views.Dpi() != dpi) PlaceAsStored(views, settings);
   placed_ = WindowArea(window);
 }
 
