@@ -63,6 +63,9 @@ class MainWindow : public Window {
   /// What the tip says that is shown over a part of a control; empty while there is none.
   [[nodiscard]] std::wstring TipIn(int control) const;
 
+  /// What the tip says that is shown over a button of the panel; likewise.
+  [[nodiscard]] std::wstring TipOfButton(int button) const;
+
   void ClickRow(int position);
 
   /// Selects a row without input, as assistive programs do.
@@ -115,6 +118,7 @@ class MainWindow : public Window {
  private:
   [[nodiscard]] std::vector<RowTexts> ReadRows(int first, int count) const;
   void SetRowState(int position, UINT state);
+  [[nodiscard]] std::wstring TipOf(HWND window, UINT_PTR id) const;
   [[nodiscard]] int ButtonState(int toolbar, int command) const;
   [[nodiscard]] RECT RectangleBy(HWND control, UINT message, WPARAM item, const RECT& asked) const;
   [[nodiscard]] HWND DroppedList() const;

@@ -158,12 +158,18 @@ RECT MainWindow::IconRectangle(int position) const {
 
 std::wstring MainWindow::CellTip() const { return TipIn(IDC_ListView1); }
 
-std::wstring MainWindow::TipIn(int control) const {
+std::wstring MainWindow::TipIn(int control) const { return TipOf(Control(control), 1); }
+
+std::wstring MainWindow::TipOfButton(int button) const {
+  return TipOf(Control(IDC_Frame1), reinterpret_cast<UINT_PTR>(Control(button)));
+}
+
+std::wstring MainWindow::TipOf(HWND window, UINT_PTR id) const {
   for (const HWND tip : VisibleWindows(ProcessId(), TOOLTIPS_CLASSW)) {
     TTTOOLINFOW tool{};
     tool.cbSize = sizeof tool;
-    tool.hwnd = Control(control);
-    tool.uId = 1;
+    tool.hwnd = window;
+    tool.uId = id;
     tool.lpszText = static_cast<wchar_t*>(memory_.At(TextsAt));
     memory_.Put(tool);
     memory_.Put(Text{}, TextsAt);

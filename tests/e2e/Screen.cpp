@@ -159,6 +159,13 @@ Picture DrawLine(const std::wstring& text, const LOGFONTW& font, COLORREF color,
   return canvas.Copy();
 }
 
+Picture DrawControlText(const std::wstring& text, COLORREF back) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  return DrawLine(text, metrics.lfMessageFont, GetSysColor(COLOR_WINDOWTEXT), back, false);
+}
+
 Picture DrawProgramIcon(const std::wstring& program, int id, int size, COLORREF back) {
   const HMODULE file = LoadLibraryExW(program.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
   const auto icon = static_cast<HICON>(
@@ -187,6 +194,11 @@ std::wstring SaveScreenshot(const std::wstring& name) {
   WriteBytes(path, BytesOf(&file, sizeof file) + BytesOf(&info, sizeof info) +
                        BytesOf(picture.Pixels.data(), picture.Pixels.size() * sizeof(DWORD)));
   return path;
+}
+
+COLORREF ColorAt(POINT place) {
+  const Unique<HDC, ScreenReleaser> screen(GetDC(nullptr));
+  return GetPixel(screen.get(), place.x, place.y);
 }
 
 RECT PartOnScreen(const RECT& rectangle) {

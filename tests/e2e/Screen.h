@@ -30,12 +30,17 @@ struct Picture {
 /// The rectangle must lie on the screen.
 [[nodiscard]] Picture TakePicture(const RECT& rectangle);
 
+[[nodiscard]] COLORREF ColorAt(POINT place);
+
 /// The part of a rectangle that lies on the screen; an empty one for none.
 [[nodiscard]] RECT PartOnScreen(const RECT& rectangle);
 
 /// A line of text, "&" before a letter underlining it, as big as the text is.
 [[nodiscard]] Picture DrawLine(const std::wstring& text, const LOGFONTW& font, COLORREF color,
                                COLORREF back, bool lightEdge);
+
+/// The text of a control, enabled and in the font of messages.
+[[nodiscard]] Picture DrawControlText(const std::wstring& text, COLORREF back);
 
 /// The icon that a program's file has under that ID, `size` pixels wide and high.
 [[nodiscard]] Picture DrawProgramIcon(const std::wstring& program, int id, int size, COLORREF back);

@@ -77,23 +77,34 @@ TEST_F(KeysListTest, HasTheEntriesOfTheChooser) {
   const auto count = static_cast<int>(Send(entries, LB_GETCOUNT));
   ASSERT_GT(count, 50);
   ASSERT_EQ(count, Send(chooser, CB_GETCOUNT));
+  EXPECT_EQ(Send(chooser, CB_GETMINVISIBLE), 16);
   for (int index = 0; index < count; ++index) {
     EXPECT_EQ(Entry(entries, LB_GETTEXT, index), Entry(chooser, CB_GETLBTEXT, index)) << index;
   }
 }
 
-TEST_F(KeysListTest, OpensUnderThePanelFlushWithTheButton) {
-  const RECT button = RectangleOf(window_->Control(IDC_cmdAllList));
-  const RECT panel = RectangleOf(window_->Control(IDC_Frame1));
-  const RECT list = RectangleOf(OpenList().Handle());
-  EXPECT_EQ(list.right, button.right);
-  const bool below = list.top == panel.bottom;
-  const bool above = list.bottom == panel.top;
-  EXPECT_TRUE(below || above) << list.top << " to " << list.bottom;
-  if (above) {
-    EXPECT_GT(panel.bottom + (list.bottom - list.top), GetSystemMetrics(SM_CYSCREEN))
-        << "there was room below";
-  }
+TEST_F(KeysListTest, StandsUnderThePanelFlushWithTheButtonWhereverTheyGo) {
+  const Dialog open = OpenList();
+  const auto expectPlace = [&] {
+    const RECT button = RectangleOf(window_->Control(IDC_cmdAllList));
+    const RECT panel = RectangleOf(window_->Control(IDC_Frame1));
+    const RECT list = RectangleOf(open.Handle());
+    EXPECT_EQ(list.right, button.right);
+    const bool below = list.top == panel.bottom;
+    const bool above = list.bottom == panel.top;
+    EXPECT_TRUE(below || above) << list.top << " to " << list.bottom;
+    if (above) {
+      EXPECT_GT(panel.bottom + (list.bottom - list.top), GetSystemMetrics(SM_CYSCREEN))
+          << "there was room below";
+    }
+  };
+  expectPlace();
+  const auto move = [&](int width, int height, UINT flags) {
+    SetWindowPos(window_->Handle(), nullptr, 100, 50, width, height, flags | SWP_NOZORDER);
+    expectPlace();
+  };
+  move(0, 0, SWP_NOSIZE);
+  move(800, 520, SWP_NOMOVE);
 }
 
 TEST_F(KeysListTest, ArrowKeysChangeNothingUntilEnterChooses) {
@@ -196,13 +207,17 @@ TEST_F(KeysListTest, HidesBeforeAQuestionWhichBelongsToTheMainWindow) {
 }
 
 TEST_F(KeysListTest, HidesBeforeADialog) {
-  const Dialog list = OpenList();
-  window_->Command(IDM_mnuViewOptions);
-  Dialog options = NextDialog(L"frmOptions");
-  EXPECT_FALSE(IsWindowVisible(list.Handle()));
-  EXPECT_EQ(GetWindow(options.Handle(), GW_OWNER), window_->Handle());
-  options.CloseByKey(VK_ESCAPE);
-  WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
+  for (const auto& [command, className] :
+       {std::pair(IDM_mnuViewOptions, L"frmOptions"),
+        std::pair(IDM_mnuFileExportToClipboard, L"frmExportToClipboard")}) {
+    const Dialog list = OpenList();
+    window_->Command(command);
+    Dialog dialog = NextDialog(className);
+    EXPECT_FALSE(IsWindowVisible(list.Handle()));
+    EXPECT_EQ(GetWindow(dialog.Handle(), GW_OWNER), window_->Handle());
+    dialog.CloseByKey(VK_ESCAPE);
+    WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
+  }
 }
 
 TEST_F(KeysListTest, IsHiddenWhileTheWindowIsMinimised) {
@@ -259,6 +274,8 @@ TEST_F(KeysListTest, KeysThatSomebodyHasLookQuieterAndBearAMark) {
   const Dialog list = OpenList();
   WaitFor("Ctrl + A, which is taken", [&] { return bearsMark(list, A) && !isPlain(list, A); });
   WaitFor("Ctrl + G, which is free", [&] { return !bearsMark(list, G) && isPlain(list, G); });
+  const Picture g = DrawControlText(L"G", GetSysColor(COLOR_WINDOW));
+  EXPECT_TRUE(TakePicture(placeOf(list, G)).HoldsSomewhere(g)) << "in the font of messages";
   // Checked as a key does it, without the focus.
   Send(window_->Control(IDC_chkCtrlAlt1), BM_SETCHECK, BST_CHECKED);
   Send(window_->Control(IDC_Frame1), WM_COMMAND, MAKEWPARAM(IDC_chkCtrlAlt1, BN_CLICKED));

@@ -58,6 +58,9 @@ class LanguageTest : public EndToEndTest {
     EXPECT_EQ(window_->ControlText(IDC_chkCtrlAlt0), L"&Strg +");
     EXPECT_EQ(window_->ControlText(IDC_chkCtrlAlt1), L"A&lt +");
     EXPECT_EQ(window_->ControlText(IDC_chkCtrlAlt2), L"&Umschalt +");
+    EXPECT_EQ(window_->ControlText(IDC_cmdAllList), L"Tastenk\u00FCrzel:");
+    EXPECT_EQ(window_->ControlText(IDC_cmdShow), L"Zeigen");
+    EXPECT_EQ(window_->ControlText(IDC_cmdUndo), L"R\u00FCckg\u00E4ngig");
     EXPECT_EQ(window_->Caption(), folder_.WincmdIni() + L" - Tessera");
     const HWND menu = window_->OpenMenu('D');
     for (const wchar_t* caption :
@@ -360,11 +363,14 @@ TEST_F(LanguageTest, TranslatorsSeeTheRoomOfTextsInAqua) {
   Select(L"cm_SrcTree");
   const auto expectAqua = [](const Window& window, std::initializer_list<int> ids) {
     for (const int id : ids) {
+      const RECT place = RectangleOf(window.Control(id));
+      const int half = (place.right - place.left) * (place.bottom - place.top) / 2;
       WaitFor("control " + std::to_string(id) + " to be aqua",
-              [&] { return CountPixels(RectangleOf(window.Control(id)), Aqua) > 100; });
+              [&] { return CountPixels(place, Aqua) > half; });
     }
   };
-  expectAqua(*window_, {IDC_lblHotkey, IDC_chkCtrlAlt0});
+  expectAqua(*window_,
+             {IDC_lblHotkey, IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2, IDC_lblStatus});
   window_->Command(IDM_mnuViewOptions);
   Dialog dialog = NextDialog(L"frmOptions");
   expectAqua(dialog, {IDC_chkShowgridlines});

@@ -98,10 +98,15 @@ TEST_F(OpenTest, OtherFileIsSavedAndTheOneThatWasFoundIsNot) {
   EXPECT_EQ(ReadBytes(folder_.WincmdIni()), found);
 }
 
-TEST_F(OpenTest, DroppedFileIsOpened) {
+TEST_F(OpenTest, DroppedFileIsOpenedAndTheWindowComesToTheFront) {
   StartAndLoad();
+  const HWND other = CreateWindowW(L"STATIC", L"another program", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9,
+                                   nullptr, nullptr, nullptr, nullptr);
+  BringToFront(other);
   Drop(other_);
   ExpectOtherFile();
+  EXPECT_EQ(GetForegroundWindow(), window_->Handle());
+  DestroyWindow(other);
 }
 
 TEST_F(OpenTest, DroppedFileShowsItsFirstRow) {
@@ -118,7 +123,10 @@ TEST_F(OpenTest, DropAsksAboutUnsavedChangesFirst) {
   StartAndLoad();
   MakeAChange();
   Drop(other_);
-  Answer(NextBox(), IDCANCEL);
+  const Box question = NextBox();
+  Drop(other_);
+  Answer(question, IDCANCEL);
+  EXPECT_TRUE(NoBoxOpen()) << "a drop does not ask while a question is open";
   EXPECT_TRUE(Modified());
   EXPECT_EQ(window_->Caption(), folder_.WincmdIni() + L" - Tessera");
   Drop(other_);

@@ -75,9 +75,12 @@ class OptionsTest : public EndToEndTest {
 
   void WaitForToolbarEdges(bool border, bool edge) const {
     const HWND toolbar = window_->Control(IDC_Toolbar1);
-    WaitFor("the toolbar's edges", [&] {
+    WaitFor("the toolbar's edges around its buttons", [&] {
+      RECT inside{};
+      GetClientRect(toolbar, &inside);
       return ((GetWindowLongPtrW(toolbar, GWL_STYLE) & WS_BORDER) != 0) == border &&
-             ((GetWindowLongPtrW(toolbar, GWL_EXSTYLE) & WS_EX_STATICEDGE) != 0) == edge;
+             ((GetWindowLongPtrW(toolbar, GWL_EXSTYLE) & WS_EX_STATICEDGE) != 0) == edge &&
+             inside.bottom == HIWORD(Send(toolbar, TB_GETBUTTONSIZE));
     });
   }
 

@@ -20,6 +20,13 @@ class PlacementTest : public EndToEndTest {
     return place;
   }
 
+  void ExpectFirstSize() const {
+    const RECT place = Place();
+    const auto dpi = static_cast<int>(GetDpiForSystem());
+    EXPECT_NEAR(place.right - place.left, MulDiv(10000, dpi, 1440), 1);
+    EXPECT_NEAR(place.bottom - place.top, MulDiv(7000, dpi, 1440), 1);
+  }
+
   void WaitForPlace(const RECT& wanted) const {
     WaitFor("the window at its place", [&] {
       const RECT place = Place();
@@ -41,9 +48,7 @@ TEST_F(PlacementTest, FirstRunIsCentred) {
   const int height = place.bottom - place.top;
   EXPECT_NEAR(place.left, (GetSystemMetrics(SM_CXSCREEN) - width) / 2, 1);
   EXPECT_NEAR(place.top, (GetSystemMetrics(SM_CYSCREEN) - height) / 2, 1);
-  const auto dpi = static_cast<int>(GetDpiForSystem());
-  EXPECT_NEAR(width, MulDiv(10000, dpi, 1440), 1);
-  EXPECT_NEAR(height, MulDiv(7000, dpi, 1440), 1);
+  ExpectFirstSize();
 }
 
 TEST_F(PlacementTest, WindowComesBackWhereItWas) {
@@ -56,7 +61,7 @@ TEST_F(PlacementTest, WindowComesBackWhereItWas) {
   WaitForPlace(place);
 }
 
-TEST_F(PlacementTest, MaximisedWindowComesBackMaximisedAndKeepsItsFormerPlace) {
+TEST_F(PlacementTest, MaximisedWindowComesBackMaximisedAndItsFormerPlaceStaysStored) {
   StartAndLoad();
   const RECT place{120, 96, 120 + 720, 96 + 600};
   MoveTo(place);
@@ -71,6 +76,9 @@ TEST_F(PlacementTest, MaximisedWindowComesBackMaximisedAndKeepsItsFormerPlace) {
   EXPECT_EQ(SectionValue(settings, "Tessera", "MainWindowLeft"), "1800");
   StartAndLoad();
   EXPECT_NE(IsZoomed(window_->Handle()), FALSE);
+  ShowWindow(window_->Handle(), SW_RESTORE);
+  WaitFor("the window to be restored", [&] { return IsZoomed(window_->Handle()) == FALSE; });
+  ExpectFirstSize();
 }
 
 TEST_F(PlacementTest, ColumnsComeBackAsTheyWere) {

@@ -12,7 +12,9 @@
 
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Input.h"
 #include "tests/e2e/RemoteMemory.h"
+#include "tests/e2e/Screen.h"
 #include "tests/e2e/StartResolution.h"
 #include "tests/support/win32/Wait.h"
 
@@ -128,6 +130,8 @@ class ResolutionTest : public EndToEndTest {
     int measured = 0;
     for (const HWND control : ControlsOf(window)) {
       const int id = GetDlgCtrlID(control);
+      EXPECT_EQ(GetWindowLongPtrW(control, GWL_EXSTYLE) & WS_EX_DLGMODALFRAME, 0)
+          << id << " has a dialog's frame, which takes room";
       if (id == IDC_lblListView1 || id == IDC_lblFind) continue;  // never shown
       const SIZE needed = NeededBy(control, ruler);
       if (needed.cx == 0) continue;
@@ -240,6 +244,17 @@ class ResolutionTest : public EndToEndTest {
     return places;
   }
 
+  /// Waits until a control shows its text in the font of messages.
+  void WaitForMessageFont(int id) const {
+    const RECT place = RectangleOf(window_->Control(id));
+    const bool isButton = id == IDC_cmdShow || id == IDC_cmdUndo;
+    const Picture text = DrawControlText(
+        window_->ControlText(id),
+        isButton ? ColorAt({place.right - 5, place.bottom - 5}) : GetSysColor(COLOR_BTNFACE));
+    WaitFor("the text of control " + std::to_string(id),
+            [&] { return TakePicture(place).HoldsSomewhere(text); });
+  }
+
   /// Of the program, for what its windows are told and asked.
   std::unique_ptr<RemoteMemory> memory_;
 };
@@ -283,7 +298,7 @@ TEST_F(ResolutionTest, ProgramStartsInIt) {
   }
 }
 
-TEST_F(ResolutionTest, AllKeysButtonStandsInsideTheChooser) {
+TEST_F(ResolutionTest, PanelHasRoomInAWindowThatStaysAndItsAllKeysButtonStandsInTheChooser) {
   StartWith(L"");
   for (const int dpi : Resolutions) {
     SCOPED_TRACE(std::to_string(dpi) + " pixels an inch");
@@ -294,6 +309,8 @@ TEST_F(ResolutionTest, AllKeysButtonStandsInsideTheChooser) {
     EXPECT_GT(button.top, chooser.top);
     EXPECT_LT(button.right, chooser.right);
     EXPECT_LT(button.bottom, chooser.bottom);
+    EXPECT_LE(RectangleOf(window_->Control(IDC_cmdUndo)).bottom,
+              RectangleOf(window_->Control(IDC_Frame1)).bottom);
   }
 }
 
@@ -352,6 +369,19 @@ TEST_F(ResolutionTest, WindowFollowsItThereAndBack) {
   ChangeResolution(*window_, 96, place);
   EXPECT_EQ(Places(), places);
   EXPECT_EQ(window_->ColumnWidths(), widths);
+}
+
+TEST_F(ResolutionTest, TextsHaveTheFontOfMessages) {
+  StartAndLoad();
+  MakeAChange();
+  Select(L"cm_SrcTree");
+  Press(VK_ESCAPE);
+  window_->ChooseKey(L"F1");
+  MoveTo({1, 1});
+  for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2,
+                       IDC_lblStatus, IDC_cmdShow, IDC_cmdUndo}) {
+    WaitForMessageFont(id);
+  }
 }
 
 }  // namespace

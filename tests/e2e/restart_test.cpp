@@ -88,9 +88,18 @@ TEST_F(RestartTest, SaveAndRestartClosesItBeforeTheSaveAndStartsItAfterwards) {
                        CommandLineAfterRestart() + "\n");
 }
 
+HCURSOR ShownPointer() {
+  CURSORINFO information{};
+  information.cbSize = sizeof information;
+  GetCursorInfo(&information);
+  return information.hCursor;
+}
+
 TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
   SaveWhileItClosesSlowly();
   const HWND list = window_->Control(IDC_ListView1);
+  MoveTo(CenterOf(RectangleOf(list)));
+  const HCURSOR busy = ShownPointer();
   InvalidateRect(list, nullptr, TRUE);
   WaitFor("the list to be painted", [&] { return GetUpdateRect(list, nullptr, FALSE) == FALSE; });
   EXPECT_FALSE(window_->Enabled(IDC_txtFind));
@@ -98,6 +107,8 @@ TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
   EXPECT_TRUE(Modified()) << "the save comes after the close";
   WaitFor("the save to end", [&] { return !Modified(); });
   WaitFor("the find box to be enabled", [&] { return window_->Enabled(IDC_txtFind); });
+  MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblStatus))));
+  WaitFor("another pointer", [&] { return ShownPointer() != busy; });
   standIn_->WaitForEnd();
   static_cast<void>(WaitForStandIn());
   EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();

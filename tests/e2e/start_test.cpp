@@ -1,8 +1,15 @@
 // What the window shows once the program has started.
+// clang-format off
+#include <windows.h>  // must come first
+#include <commctrl.h>
+// clang-format on
+
+#include "resources/icons.h"
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"
+#include "tests/e2e/Screen.h"
 #include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e::start_test {
@@ -22,6 +29,7 @@ TEST_F(StartTest, FilesAreLoadedOnceTheWindowIsActivated) {
   Start({}, SW_SHOWNOACTIVATE);
   WaitFor("the empty list", [&] { return window_->Visible(IDC_ListView1); });
   EXPECT_EQ(window_->RowCount(), 0);
+  EXPECT_FALSE(Modified());
   BringToFront(window_->Handle());
   WaitFor("the rows", [&] { return window_->RowCount() > 0; });
 }
@@ -36,9 +44,44 @@ TEST_F(StartTest, HeadersNameTheColumnsAndNoneIsSortedBy) {
   EXPECT_FALSE(window_->ButtonPressed(IDC_Toolbar1, IDM_mnuViewSortList));
 }
 
-TEST_F(StartTest, CaptionIsThePathAndTheTitle) {
+TEST_F(StartTest, ALongLoadShowsItsProgressOverTheList) {
+  std::string commands;
+  for (int code = 10000; code < 300000; ++code) {
+    commands += "cm_Own" + std::to_string(code) + "=" + std::to_string(code) + ";Own command\r\n";
+  }
+  WriteBytes(folder_.TotalcmdInc(), commands);
+  Start({}, SW_SHOWNOACTIVATE);
+  const HWND bar = window_->Control(IDC_ProgressBar1);
+  EXPECT_FALSE(window_->Visible(IDC_ProgressBar1));
+  BringToFront(window_->Handle());
+  constexpr DWORD BetweenLooks = 1;  // milliseconds
+  WaitFor(
+      "the bar", [&] { return window_->Visible(IDC_ProgressBar1); }, UsualLimit, BetweenLooks);
+  WaitFor(
+      "the find box to be disabled", [&] { return !window_->Enabled(IDC_txtFind); }, UsualLimit,
+      BetweenLooks);
+  WaitFor("the bar to go", [&] { return !window_->Visible(IDC_ProgressBar1); });
+  EXPECT_EQ(GetTopWindow(window_->Handle()), bar);
+  const RECT place = RectangleOf(bar);
+  const RECT list = RectangleOf(window_->Control(IDC_ListView1));
+  EXPECT_GT(place.left, list.left);
+  EXPECT_GT(place.top, list.top);
+  EXPECT_LT(place.right, list.right);
+  EXPECT_LT(place.bottom, list.bottom);
+  EXPECT_EQ(Send(bar, PBM_GETRANGE, TRUE), 0);
+  EXPECT_GT(Send(bar, PBM_GETRANGE), 1500) << "it has grown";
+  EXPECT_GT(Send(bar, PBM_GETPOS), 1);
+}
+
+TEST_F(StartTest, CaptionIsThePathAndTheTitleBesideTheIcon) {
   StartAndLoad();
   EXPECT_EQ(Utf8(window_->Caption()), Utf8(folder_.WincmdIni() + L" - Tessera"));
+  BringToFront(window_->Handle());
+  const Picture icon =
+      DrawProgramIcon(folder_.Executable(), IDI_TESSERA, GetSystemMetrics(SM_CXSMICON),
+                      GetSysColor(COLOR_ACTIVECAPTION));
+  WaitFor("the icon",
+          [&] { return TakePicture(RectangleOf(window_->Handle())).HoldsSomewhere(icon); });
 }
 
 TEST_F(StartTest, NothingIsThereToSave) {

@@ -1,4 +1,9 @@
 // The line that tells who has a key, and the button that leads there, worked by the keyboard.
+// clang-format off
+#include <windows.h>  // must come first
+#include <commctrl.h>
+// clang-format on
+
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -145,6 +150,9 @@ TEST_F(StatusLineTest, ShowsAllOfItInATipWhereItIsCut) {
   WaitForLine(L"Does this & that", L"and more");
   MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblStatus))));
   WaitFor("the tip", [&] { return window_->TipIn(IDC_Frame1) == Line(); });
+  const HWND tip = VisibleWindows(program_->Id(), TOOLTIPS_CLASSW).front();
+  EXPECT_EQ(Send(tip, TTM_GETMAXTIPWIDTH), GetSystemMetrics(SM_CXSCREEN) / 2) << "then it breaks";
+  EXPECT_EQ(Send(tip, TTM_GETDELAYTIME, TTDT_AUTOPOP), 30000) << "time to read it";
   MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblHotkey))));
   WaitFor("the tip to go", [&] { return window_->TipIn(IDC_Frame1).empty(); });
 }

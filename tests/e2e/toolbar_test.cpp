@@ -49,13 +49,21 @@ TEST_F(ToolbarTest, ButtonsHaveTheirIconsAndOthersWhileTheyAreDisabled) {
     EXPECT_TRUE(window_->ButtonEnabled(button.Toolbar, button.Command)) << button.Command;
     WaitForIcon(button);
   }
+  const RECT allKeys = RectangleOf(window_->Control(IDC_cmdAllList));
+  const RECT middle{allKeys.left + 5, allKeys.top + 5, allKeys.right - 5, allKeys.bottom - 5};
+  EXPECT_LT(CountPixels(middle, GetSysColor(COLOR_BTNFACE)),
+            (middle.right - middle.left) * (middle.bottom - middle.top));
 }
 
-TEST_F(ToolbarTest, NoButtonIsPressedWithoutACause) {
+TEST_F(ToolbarTest, ButtonsShowNothingButTheirIconsAndNoneIsPressedWithoutACause) {
   StartAndLoad();
   for (const Button& button : Buttons) {
     EXPECT_FALSE(window_->ButtonPressed(button.Toolbar, button.Command)) << button.Command;
   }
+  const RECT sort = window_->ButtonRectangle(IDC_Toolbar1, IDM_mnuViewSortList);
+  const RECT options = window_->ButtonRectangle(IDC_Toolbar1, IDM_mnuViewOptions);
+  EXPECT_EQ(sort.right - sort.left, 16 + 8) << "the icon and what is around it";
+  EXPECT_EQ(options.left - sort.right, 8) << "a separator";
 }
 
 }  // namespace

@@ -22,6 +22,11 @@ class UndoTest : public EndToEndTest {
 
   void ClickUndo() const { window_->ClickControl(IDC_cmdUndo); }
 
+  void WaitForTip(const std::wstring& text) const {
+    MoveTo(CenterOf(RectangleOf(window_->Control(IDC_cmdUndo))));
+    WaitFor("the tip " + Utf8(text), [&] { return window_->TipOfButton(IDC_cmdUndo) == text; });
+  }
+
   void WaitForLine(const std::wstring& line) const {
     WaitFor("the line " + Utf8(line), [&] { return window_->ControlText(IDC_lblStatus) == line; });
   }
@@ -56,14 +61,19 @@ TEST_F(UndoTest, EnterPressesTheButtonWhileNoKeyIsChosen) {
        {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2, IDC_Combo1, IDC_Toolbar2, IDC_cmdUndo}) {
     Press(VK_TAB);
     WaitFor("the next control", [&] { return window_->HasFocus(control); });
+    if (control == IDC_chkCtrlAlt2) Press(VK_RETURN);
   }
+  EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt2)) << "Enter is for buttons";
   Press(VK_RETURN);
   WaitForLine(L"Taken back: K to cm_SrcTree.");
 }
 
-TEST_F(UndoTest, TheLineAndTheMenuNameTheStep) {
+TEST_F(UndoTest, TheTipTheLineAndTheMenuNameTheStep) {
   StartAndLoad();
+  Assign(L"cm_SrcComments", L"J");
+  WaitForTip(L"Undo: J to cm_SrcComments");
   Assign(L"cm_SrcTree", L"K");
+  WaitForTip(L"Undo: K to cm_SrcTree");
   Press(VK_ESCAPE);
   ClickUndo();
   WaitForLine(L"Taken back: K to cm_SrcTree.");
@@ -71,7 +81,7 @@ TEST_F(UndoTest, TheLineAndTheMenuNameTheStep) {
   WaitFor("the menu", [&] { return !window_->OpenMenus().empty(); });
   const HWND menu = window_->OpenMenus().front();
   EXPECT_TRUE(WaitForMenuEntry(menu, L"Redo: K to cm_SrcTree").Enabled);
-  EXPECT_FALSE(WaitForMenuEntry(menu, L"Undo").Enabled);
+  EXPECT_TRUE(WaitForMenuEntry(menu, L"Undo: J to cm_SrcComments").Enabled);
   window_->CloseMenus();
   window_->Command(IDM_redo);
   WaitForLine(L"Made again: K to cm_SrcTree.");
