@@ -139,7 +139,7 @@ TEST_F(ListMenuTest, OpensBesideThePointerWhereTextsRunFromTheRight) {
   window_->CloseMenus();
 }
 
-TEST_F(ListMenuTest, DownOpensTheMenuOfAToolbarsEnabledButton) {
+TEST_F(ListMenuTest, DownOpensTheMenuOfAToolbarsButton) {
   constexpr int DeletePlace = 2;
   StartAndLoad();
   Select(L"cm_SrcComments");
@@ -154,16 +154,6 @@ TEST_F(ListMenuTest, DownOpensTheMenuOfAToolbarsEnabledButton) {
   Press(VK_DOWN);
   WaitForMenu();
   window_->CloseMenus();
-  constexpr int SavePlace = 1;
-  EXPECT_FALSE(window_->ButtonEnabled(IDC_Toolbar1, IDM_mnuFileSave));
-  for (const int place : {SavePlace, -1}) {
-    Send(window_->Control(IDC_Toolbar1), TB_SETHOTITEM, static_cast<WPARAM>(place));
-    Press(VK_DOWN);
-    Press(VK_CONTROL);  // comes after it
-    WaitFor("the chooser to have the focus", [&] { return window_->HasFocus(IDC_Combo1); });
-    EXPECT_FALSE(window_->InMenu()) << place;
-    GoTo(IDC_Toolbar1);
-  }
 }
 
 }  // namespace

@@ -302,7 +302,7 @@ TEST_F(ResolutionTest, PanelHasRoomInAWindowThatStaysAndItsAllKeysButtonStandsIn
   StartWith(L"");
   for (const int dpi : Resolutions) {
     SCOPED_TRACE(std::to_string(dpi) + " pixels an inch");
-    ChangeResolution(*window_, dpi, RectangleOf(window_->Handle()));
+    ChangeResolution(*window_, dpi, {20, 20, 1220, 920});
     const RECT chooser = RectangleOf(window_->Control(IDC_Combo1));
     const RECT button = RectangleOf(window_->Control(IDC_cmdAllList));
     EXPECT_GT(button.left, chooser.left);

@@ -12,6 +12,13 @@
 namespace tessera::e2e::restart_test {
 namespace {
 
+HCURSOR ShownPointer() {
+  CURSORINFO information{};
+  information.cbSize = sizeof information;
+  GetCursorInfo(&information);
+  return information.hCursor;
+}
+
 class RestartTest : public EndToEndTest {
  protected:
   /// Leaves an unsaved change, whose save waits for a stand-in that takes seconds to close.
@@ -20,6 +27,7 @@ class RestartTest : public EndToEndTest {
     StartStandIn();
     StartAndLoad();
     MakeAChange();
+    usualPointer_ = ShownPointer();
     window_->Command(IDM_restarttc);
     WaitFor("the close request", [&] { return Log().ends_with("close\n"); });
   }
@@ -70,6 +78,7 @@ class RestartTest : public EndToEndTest {
 
   std::string original_;
   std::unique_ptr<Program> standIn_;
+  HCURSOR usualPointer_ = nullptr;
 };
 
 TEST_F(RestartTest, SaveAndRestartClosesItBeforeTheSaveAndStartsItAfterwards) {
@@ -88,18 +97,11 @@ TEST_F(RestartTest, SaveAndRestartClosesItBeforeTheSaveAndStartsItAfterwards) {
                        CommandLineAfterRestart() + "\n");
 }
 
-HCURSOR ShownPointer() {
-  CURSORINFO information{};
-  information.cbSize = sizeof information;
-  GetCursorInfo(&information);
-  return information.hCursor;
-}
-
-TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
+TEST_F(RestartTest, WindowStaysAliveUnderThePointerOfWaitingWhileItCloses) {
   SaveWhileItClosesSlowly();
   const HWND list = window_->Control(IDC_ListView1);
   MoveTo(CenterOf(RectangleOf(list)));
-  const HCURSOR busy = ShownPointer();
+  WaitFor("the pointer of waiting", [&] { return ShownPointer() != usualPointer_; });
   InvalidateRect(list, nullptr, TRUE);
   WaitFor("the list to be painted", [&] { return GetUpdateRect(list, nullptr, FALSE) == FALSE; });
   EXPECT_FALSE(window_->Enabled(IDC_txtFind));
@@ -108,7 +110,7 @@ TEST_F(RestartTest, WindowStaysAliveWhileItCloses) {
   WaitFor("the save to end", [&] { return !Modified(); });
   WaitFor("the find box to be enabled", [&] { return window_->Enabled(IDC_txtFind); });
   MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblStatus))));
-  WaitFor("another pointer", [&] { return ShownPointer() != busy; });
+  WaitFor("the usual pointer", [&] { return ShownPointer() == usualPointer_; });
   standIn_->WaitForEnd();
   static_cast<void>(WaitForStandIn());
   EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();

@@ -51,8 +51,9 @@ TEST_F(ToolbarTest, ButtonsHaveTheirIconsAndOthersWhileTheyAreDisabled) {
   }
   const RECT allKeys = RectangleOf(window_->Control(IDC_cmdAllList));
   const RECT middle{allKeys.left + 5, allKeys.top + 5, allKeys.right - 5, allKeys.bottom - 5};
-  EXPECT_LT(CountPixels(middle, GetSysColor(COLOR_BTNFACE)),
-            (middle.right - middle.left) * (middle.bottom - middle.top));
+  EXPECT_LT(CountPixels(middle, ColorAt({middle.left, middle.top})),
+            (middle.right - middle.left) * (middle.bottom - middle.top))
+      << "the icon of the all-keys button";
 }
 
 TEST_F(ToolbarTest, ButtonsShowNothingButTheirIconsAndNoneIsPressedWithoutACause) {
