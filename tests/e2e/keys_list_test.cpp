@@ -1,6 +1,7 @@
 // The pop-up list of all keys.
 #include <array>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "resources/resource.h"
@@ -165,12 +166,15 @@ TEST_F(KeysListTest, ClickChoosesAfterArrowKeysToo) {
   CheckClick(list, 6);
 }
 
-TEST_F(KeysListTest, RightArrowInTheChooserOpensIt) {
+TEST_F(KeysListTest, RightArrowInTheChooserOpensItAndItsDropDownEnablesTheToolbarAgain) {
   window_->ChooseKey(L"F5");
   Press(VK_RIGHT);
   const Dialog list = NextDialog(KeysListClass);
   EXPECT_FALSE(PanelToolbarEnabled());
   EXPECT_EQ(window_->ChosenKey(), L"F5");
+  const RECT chooser = RectangleOf(window_->Control(IDC_Combo1));
+  Click({chooser.left + 10, (chooser.top + chooser.bottom) / 2});
+  WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
 }
 
 TEST_F(KeysListTest, ClickOnARowHidesIt) {
@@ -207,9 +211,9 @@ TEST_F(KeysListTest, HidesBeforeAQuestionWhichBelongsToTheMainWindow) {
 }
 
 TEST_F(KeysListTest, HidesBeforeADialog) {
-  for (const auto& [command, className] :
-       {std::pair(IDM_mnuViewOptions, L"frmOptions"),
-        std::pair(IDM_mnuFileExportToClipboard, L"frmExportToClipboard")}) {
+  for (const auto& [command, className, focus] :
+       {std::tuple(IDM_mnuViewOptions, L"frmOptions", IDC_ListView1),
+        std::tuple(IDM_mnuFileExportToClipboard, L"frmExportToClipboard", IDC_cmdAllList)}) {
     const Dialog list = OpenList();
     window_->Command(command);
     Dialog dialog = NextDialog(className);
@@ -217,6 +221,7 @@ TEST_F(KeysListTest, HidesBeforeADialog) {
     EXPECT_EQ(GetWindow(dialog.Handle(), GW_OWNER), window_->Handle());
     dialog.CloseByKey(VK_ESCAPE);
     WaitFor("the panel toolbar to be enabled", [&] { return PanelToolbarEnabled(); });
+    WaitFor("the focus", [&, focus = focus] { return window_->HasFocus(focus); });
   }
 }
 

@@ -59,6 +59,7 @@ class LanguageTest : public EndToEndTest {
     EXPECT_EQ(window_->ControlText(IDC_chkCtrlAlt1), L"A&lt +");
     EXPECT_EQ(window_->ControlText(IDC_chkCtrlAlt2), L"&Umschalt +");
     EXPECT_EQ(window_->ControlText(IDC_cmdAllList), L"Tastenk\u00FCrzel:");
+    EXPECT_EQ(window_->ControlText(IDC_lblFind), L"Suchen:");
     EXPECT_EQ(window_->ControlText(IDC_cmdShow), L"Zeigen");
     EXPECT_EQ(window_->ControlText(IDC_cmdUndo), L"R\u00FCckg\u00E4ngig");
     EXPECT_EQ(window_->Caption(), folder_.WincmdIni() + L" - Tessera");

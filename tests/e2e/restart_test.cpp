@@ -245,6 +245,7 @@ TEST_F(RestartElsewhereTest, OneThatIsNotFoundAgainIsStartedByTheButtonBesideThe
   StartStandIn();
   StartAndLoad();
   EXPECT_EQ(window_->ControlText(IDC_cmdShow), L"Show");
+  const RECT show = RectangleOf(window_->Control(IDC_cmdShow));
   MakeAChange();
   window_->ChooseFromButtonMenu(IDC_Toolbar1, IDM_mnuFileSave, 1);
   WaitFor("the save to end", [&] { return !Modified(); });
@@ -253,6 +254,9 @@ TEST_F(RestartElsewhereTest, OneThatIsNotFoundAgainIsStartedByTheButtonBesideThe
   WaitFor("the button", [&] { return window_->ControlText(IDC_cmdShow) == L"Start It"; });
   EXPECT_EQ(window_->ControlText(IDC_lblStatus),
             L"Wincmd.ini is saved. Total Commander is closed and was not found again.");
+  const RECT start = RectangleOf(window_->Control(IDC_cmdShow));
+  EXPECT_LT(start.left, show.left) << "as the longer text needs";
+  EXPECT_EQ(start.top, show.top);
   window_->ClickControl(IDC_cmdShow);
   static_cast<void>(WaitForStandIn());
   EXPECT_TRUE(ReadBytes(folder_.Program() + L"stand-in.log")

@@ -49,11 +49,7 @@ TEST_F(ToolbarTest, ButtonsHaveTheirIconsAndOthersWhileTheyAreDisabled) {
     EXPECT_TRUE(window_->ButtonEnabled(button.Toolbar, button.Command)) << button.Command;
     WaitForIcon(button);
   }
-  const RECT allKeys = RectangleOf(window_->Control(IDC_cmdAllList));
-  const RECT middle{allKeys.left + 5, allKeys.top + 5, allKeys.right - 5, allKeys.bottom - 5};
-  EXPECT_LT(CountPixels(middle, ColorAt({middle.left, middle.top})),
-            (middle.right - middle.left) * (middle.bottom - middle.top))
-      << "the icon of the all-keys button";
+  EXPECT_NE(Send(window_->Control(IDC_cmdAllList), BM_GETIMAGE, IMAGE_ICON), 0);
 }
 
 TEST_F(ToolbarTest, ButtonsShowNothingButTheirIconsAndNoneIsPressedWithoutACause) {
