@@ -4,6 +4,8 @@
 #include <commctrl.h>
 // clang-format on
 
+#include <string>
+
 #include "resources/icons.h"
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"

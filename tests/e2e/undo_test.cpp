@@ -121,7 +121,7 @@ TEST_F(UndoTest, StandsBesideShowAtTwiceTheResolutionFromRightToLeft) {
   WaitFor("a step", [&] { return window_->Enabled(IDC_cmdUndo); });
   const RECT undo = RectangleOf(window_->Control(IDC_cmdUndo));
   const RECT show = RectangleOf(window_->Control(IDC_cmdShow));
-  EXPECT_LE(undo.right, show.left);
+  EXPECT_EQ(undo.right + 2 * 6, show.left);
   EXPECT_EQ(undo.top, show.top);
   ClickUndo();
   WaitFor("the button to be disabled", [&] { return !window_->Enabled(IDC_cmdUndo); });
