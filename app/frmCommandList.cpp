@@ -41,8 +41,7 @@ bool IsWidthChange(const NMHDR& header) {
 frmCommandList::frmCommandList(const Editor& editor, Events events)
     : editor_(editor), events_(std::move(events)) {}
 
-void frmCommandList::Create(HWND window, int dpi) {
-  dpi_ = dpi;
+void frmCommandList::Create(HWND window) {
   // For screen readers, which call a control by the label before it, a hidden one too.
   lblListView1_ = CreateControl(window, WC_STATICW, 0, 0, IDC_lblListView1);
   ListView1_ = CreateControl(window, WC_LISTVIEWW,
@@ -58,7 +57,6 @@ void frmCommandList::SetUpColumns() {
   for (std::size_t column = 0; column < widths.size(); ++column) {
     LVCOLUMNW added{};
     added.mask = LVCF_SUBITEM | LVCF_FMT | LVCF_WIDTH;
-    added.fmt = LVCFMT_LEFT;
     added.cx = widths[column];
     added.iSubItem = static_cast<int>(column);
     SendMessageW(ListView1_, LVM_INSERTCOLUMNW, column, reinterpret_cast<LPARAM>(&added));
@@ -99,13 +97,13 @@ LRESULT frmCommandList::OnNotify(NMHDR& header) {
   switch (header.code) {
     case LVN_GETDISPINFOW:
       FillCell(reinterpret_cast<NMLVDISPINFOW&>(header).item);
-      return 0;
+      break;
     case LVN_ITEMCHANGED:
       OnItemChanged(reinterpret_cast<const NMLISTVIEW&>(header));
-      return 0;
+      break;
     case LVN_COLUMNCLICK:
       events_.ClickColumn(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem + 1);
-      return 0;
+      break;
     case LVN_ODFINDITEMW:
       return FindItem(reinterpret_cast<const NMLVFINDITEMW&>(header));
     case NM_CLICK:
@@ -114,12 +112,13 @@ LRESULT frmCommandList::OnNotify(NMHDR& header) {
       SelectRow(reinterpret_cast<const NMITEMACTIVATE&>(header).iItem);
       // One beside the rows takes the highlight away, but the editor keeps its selected row.
       SyncSelection();
-      return 0;
+      break;
     case NM_CUSTOMDRAW:
       return OnCustomDraw(reinterpret_cast<const NMLVCUSTOMDRAW&>(header).nmcd);
     default:
-      return 0;
+      break;
   }
+  return 0;
 }
 
 LRESULT CALLBACK frmCommandList::ListProcedure(HWND list, UINT message, WPARAM wParam,
@@ -152,13 +151,9 @@ void frmCommandList::FillCell(LVITEMW& item) const {
 }
 
 void frmCommandList::OnItemChanged(const NMLISTVIEW& change) {
-  const bool selected = (change.uChanged & LVIF_STATE) != 0 &&
-                        (change.uNewState & LVIS_SELECTED) != 0 &&
-                        (change.uOldState & LVIS_SELECTED) == 0;
-  if (syncing_ || !selected) return;
-  const int position =
-      change.iItem >= 0 ? change.iItem : ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
-  SelectRow(position);
+  const bool selected =
+      (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
+  if (selected && !syncing_) SelectRow(change.iItem);
 }
 
 void frmCommandList::SelectRow(int position) const {
@@ -196,11 +191,9 @@ LRESULT frmCommandList::FindItem(const NMLVFINDITEMW& search) const {
 
 void frmCommandList::Sync() {
   const auto count = static_cast<int>(editor_.List().Shown().Count());
-  syncing_ = true;
   if (ListView_GetItemCount(ListView1_) != count) {
     ListView_SetItemCountEx(ListView1_, count, LVSICF_NOSCROLL);
   }
-  syncing_ = false;
   SyncSelection();
   SyncHeaderIcons();
   HideTip();

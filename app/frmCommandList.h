@@ -23,7 +23,7 @@ class frmCommandList : Pinned {
   frmCommandList(const Editor& editor, Events events);
 
   /// Makes the list, hidden and without columns.
-  void Create(HWND window, int dpi);
+  void Create(HWND window);
 
   /// Gives it the columns of the settings, once it has its language and its looks.
   void SetUpColumns();

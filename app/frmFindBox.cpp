@@ -6,12 +6,6 @@
 #include "resources/resource.h"
 
 namespace tessera {
-namespace {
-
-/// Far beyond any search, and what the system's boxes hold by themselves.
-constexpr WPARAM MostCharacters = 30000;
-
-}  // namespace
 
 frmFindBox::frmFindBox(const Editor& editor, Events events)
     : editor_(editor), events_(std::move(events)) {}
@@ -21,7 +15,6 @@ void frmFindBox::Create(HWND window) {
   lblFind_ = CreateControl(window, WC_STATICW, 0, 0, IDC_lblFind);
   txtFind_ =
       CreateControl(window, WC_EDITW, WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE, IDC_txtFind);
-  SendMessageW(txtFind_, EM_SETLIMITTEXT, MostCharacters, 0);
 }
 
 bool frmFindBox::HasFocus() const { return txtFind_ != nullptr && GetFocus() == txtFind_; }

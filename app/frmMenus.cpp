@@ -14,6 +14,8 @@ void Append(HMENU menu, int id, const std::wstring& caption, bool enabled) {
               caption.c_str());
 }
 
+void AppendSeparator(HMENU menu) { AppendMenuW(menu, MF_SEPARATOR, 0, nullptr); }
+
 HMENU AppendSubmenu(HMENU menu, const std::wstring& caption) {
   const HMENU submenu = CreatePopupMenu();
   AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), caption.c_str());
@@ -43,7 +45,7 @@ Unique<HMENU> ContextMenu(const Editor& editor) {
   Unique<HMENU> menu(CreatePopupMenu());
   for (const MenuEntry& entry : ListMenu()) {
     if (entry.Kind == MenuEntryKind::Separator) {
-      AppendMenuW(menu.get(), MF_SEPARATOR, 0, nullptr);
+      AppendSeparator(menu.get());
       continue;
     }
     Append(menu.get(), entry.Command, ListMenuCaption(entry, editor),
@@ -71,7 +73,7 @@ void frmMenus::Build(HWND window) {
         mnuRecent_ = AppendSubmenu(menu, caption);
         break;
       case MenuEntryKind::Separator:
-        AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+        AppendSeparator(menu);
         break;
     }
   }
@@ -85,7 +87,7 @@ void frmMenus::FillRecentFiles() const {
   }
   const cRecentFiles& files = editor_.RecentFiles();
   AppendRecentFiles(mnuRecent_, files);
-  AppendMenuW(mnuRecent_, MF_SEPARATOR, 0, nullptr);
+  AppendSeparator(mnuRecent_);
   const RecentEntry clear = files.ClearEntry();
   Append(mnuRecent_, IDM_mnuRecentClear, clear.Caption, clear.Enabled);
 }

@@ -35,7 +35,7 @@ void frmViews::Create(HWND window, int dpi) {
   // Tab goes through them in the order in which they are made, and round: the find box comes after
   // the toolbar, and lies above it.
   findBox_.Create(window);
-  list_.Create(window, dpi);
+  list_.Create(window);
   panel_.Create(window);
   Toolbar1_.Create(window, IDC_Toolbar1);
   progressBar_.Create(window);

@@ -155,7 +155,7 @@ LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
       if (HIWORD(wParam) == LBN_SELCHANGE) events_.Select(ListBox_GetCurSel(List1_));
-      return 0;
+      break;
     case WM_DRAWITEM:
       DrawKey(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
       return TRUE;
@@ -167,19 +167,20 @@ LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case WM_SETFOCUS:
       SetFocus(List1_);
-      return 0;
+      break;
     case WM_CLOSE:
       events_.Close();
-      return 0;
+      break;
     case WM_DESTROY:
       ClearAccessibleName(List1_);
-      return 0;
+      break;
     case WM_NCDESTROY:
       List1_ = nullptr;
       return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
     default:
       return DefWindowProcW(window_, message, wParam, lParam);
   }
+  return 0;
 }
 
 LRESULT CALLBACK frmKeysList::ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
