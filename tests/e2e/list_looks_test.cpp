@@ -28,6 +28,23 @@ class ListLooksTest : public EndToEndTest {
             [&] { return CountPixels(cell, color) > AreaOf(cell) / 2; });
   }
 
+  /// Waits until a row's command stands at its place in the font of FontStyle 15.
+  void WaitForText(int position, const std::wstring& text, COLORREF color, COLORREF back) const {
+    constexpr int Margin = 6;  // pixels
+    LOGFONTW font{};
+    font.lfHeight = -16;  // of 12 points
+    font.lfWeight = FW_BOLD;
+    font.lfItalic = font.lfStrikeOut = font.lfUnderline = TRUE;
+    lstrcpyW(font.lfFaceName, L"Tahoma");
+    const Picture line = DrawLine(text, font, color, back, false);
+    const RECT cell = window_->CellRectangle(position, 1);
+    ASSERT_GT(cell.right - cell.left, Margin + line.Width);
+    WaitFor("the text of row " + std::to_string(position), [&] {
+      const Picture shown = TakePicture(cell);
+      return shown.Holds(line, Margin, (shown.Height - line.Height + 1) / 2);
+    });
+  }
+
   /// Gives the panel the focus.
   void GoToThePanel() {
     window_->ClickControl(IDC_chkCtrlAlt0);
@@ -37,26 +54,34 @@ class ListLooksTest : public EndToEndTest {
 
 TEST_F(ListLooksTest, SelectedRowStaysVisibleWhileTheFocusIsInThePanel) {
   StartAndLoad();
+  WaitForColor(0, GetSysColor(COLOR_HIGHLIGHT));
   Select(L"cm_SrcTree");
   const int row = window_->SelectedRow();
   WaitForColor(row, GetSysColor(COLOR_HIGHLIGHT));
+  WaitForColor(0, GetSysColor(COLOR_WINDOW));
+  RECT left = window_->CellRectangle(0, 0);
+  left.right = left.left + 2;
+  EXPECT_EQ(CountPixels(left, GetSysColor(COLOR_HIGHLIGHT)), 0) << "nothing of it stays";
   WaitForColor(row + 1, GetSysColor(COLOR_WINDOW));
   GoToThePanel();
   WaitForColor(row, GetSysColor(COLOR_BTNSHADOW));
   WaitForColor(row + 1, GetSysColor(COLOR_WINDOW));
 }
 
-TEST_F(ListLooksTest, SelectedRowStandsOutFromTheUsersOwnColors) {
+TEST_F(ListLooksTest, RowsHaveTheUsersColorsAndFontAndTheSelectedOneStandsOut) {
   const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
   constexpr COLORREF Text = RGB(0, 0, 64);
   WriteBytes(folder_.SettingsFile(), "[Tessera]\r\nBackgroundColor=" + std::to_string(shadow) +
-                                         "\r\nForegroundColor=" + std::to_string(Text) + "\r\n");
+                                         "\r\nForegroundColor=" + std::to_string(Text) +
+                                         "\r\nFontName=Tahoma\r\nFontSize=12\r\nFontStyle=15\r\n");
   StartAndLoad();
   Select(L"cm_SrcTree");
   const int row = window_->SelectedRow();
   GoToThePanel();
   WaitForColor(row + 1, shadow);
   WaitForColor(row, Text);  // the only one of them that can be told from it
+  WaitForText(row, L"cm_SrcTree", shadow, Text);
+  WaitForText(window_->FindCommand(L"cm_SrcShort"), L"cm_SrcShort", Text, shadow);
 }
 
 TEST_F(ListLooksTest, HeadingsAndRowsWithKeysHaveTheirIcons) {
@@ -89,7 +114,7 @@ TEST_F(ListLooksTest, HeadingRunsOverAllColumnsWhenTheDescriptionIsTheFirst) {
   EXPECT_EQ(window_->Row(0), heading);
 }
 
-TEST_F(ListLooksTest, HeadingStaysWholeWhenAColumnChangesItsWidth) {
+TEST_F(ListLooksTest, HeadingStaysWholeAndCellsAreCutWhenAColumnChangesItsWidth) {
   StartAndLoad();
   Select(L"cm_SrcTree");
   WaitForColor(0, GetSysColor(COLOR_WINDOW));
@@ -100,6 +125,9 @@ TEST_F(ListLooksTest, HeadingStaysWholeWhenAColumnChangesItsWidth) {
   const RECT second = window_->CellRectangle(1, 1);
   WaitFor("the column to be narrower",
           [&] { return CountPixels(second, GetSysColor(COLOR_WINDOW)) < AreaOf(second); });
+  const RECT margin{second.left, second.top, second.left + 5, second.bottom};
+  WaitFor("the description to be cut",
+          [&] { return CountPixels(margin, GetSysColor(COLOR_WINDOW)) == AreaOf(margin); });
   WaitFor("the heading to be as it was", [&] { return TakePicture(place).Pixels == before; });
 }
 
