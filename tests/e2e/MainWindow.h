@@ -47,7 +47,7 @@ class MainWindow : public Window {
   [[nodiscard]] int SelectedRow() const;
 
   /// The row that the list finds by such a search, as assistive programs use it; -1 for none.
-  [[nodiscard]] int FindItem(UINT flags) const;
+  [[nodiscard]] int FindItem(UINT flags, const std::wstring& text = {}) const;
   [[nodiscard]] HeaderShows Header(int column) const;
 
   /// True when the icons of the headers are not those of the rows.

@@ -102,10 +102,12 @@ int MainWindow::SelectedRow() const {
       Send(Control(IDC_ListView1), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
-int MainWindow::FindItem(UINT flags) const {
+int MainWindow::FindItem(UINT flags, const std::wstring& text) const {
   LVFINDINFOW search{};
   search.flags = flags;
+  search.psz = static_cast<const wchar_t*>(memory_.At(TextsAt));
   memory_.Put(search);
+  memory_.Write(text.c_str(), (text.size() + 1) * sizeof(wchar_t), TextsAt);
   return static_cast<int>(
       Send(Control(IDC_ListView1), LVM_FINDITEMW, static_cast<WPARAM>(-1), memory_.At()));
 }

@@ -58,6 +58,12 @@ TEST_F(EditTest, TakingADefaultKeyAsksFirst) {
   // Drawn before it.
   EXPECT_EQ(CountPixels(window_->CellRectangle(window_->FindCommand(L"cm_SrcByDateTime"), 1), Red),
             0);
+  Select(L"cm_SrcByDateTime");
+  const COLORREF highlight = GetSysColor(COLOR_HIGHLIGHT);
+  const RECT beside = window_->CellRectangle(window_->SelectedRow(), 3);
+  WaitFor("the row to stand out", [&] { return CountPixels(beside, highlight) > 0; });
+  EXPECT_LT(CountPixels(cell, highlight), CountPixels(cell, GetSysColor(COLOR_WINDOW)));
+  EXPECT_GT(CountPixels(cell, Red), 0) << "which can be read on it";
 }
 
 TEST_F(EditTest, TakingAnotherCommandsKeyAsksFirst) {
@@ -178,11 +184,15 @@ TEST_F(EditTest, AClickBesideTheRowsKeepsTheSelectedOne) {
   for (WPARAM column = 0; column < 4; ++column) Send(list, LVM_SETCOLUMNWIDTH, column, LPARAM{90});
   Select(L"cm_SrcTree");
   const int selected = window_->SelectedRow();
-  const RECT last = window_->CellRectangle(selected, 3);
+  const int seen = window_->RowCount() / 2;
+  Send(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(seen));
+  const LRESULT top = Send(list, LVM_GETTOPINDEX);
+  const RECT last = window_->CellRectangle(seen, 3);
   Click({last.right + 30, (last.top + last.bottom) / 2});
   window_->ClickControl(IDC_chkCtrlAlt0);  // answered after the click on the list
   WaitFor("box Ctrl to be checked", [&] { return window_->BoxChecked(IDC_chkCtrlAlt0); });
   EXPECT_EQ(window_->SelectedRow(), selected);
+  EXPECT_EQ(Send(list, LVM_GETTOPINDEX), top) << "nothing scrolls";
 }
 
 TEST_F(EditTest, AKeypadOperatorIsGivenAsNum) {
@@ -286,8 +296,12 @@ TEST_F(EditTest, RowWithTheListsFocusAloneIsNotEdited) {
   WaitForKeys(L"cm_VerticalPanels", L"---");
 }
 
-TEST_F(EditTest, ListFindsNoRowByWhatRowsDoNotHave) {
+TEST_F(EditTest, ListFindsRowsByTheirDescriptionsAndWhatIsTypedByTheirNamesToo) {
   StartAndLoad();
+  const int row = window_->FindCommand(L"cm_SrcTree");
+  EXPECT_EQ(window_->FindItem(LVFI_STRING, window_->Row(row)[0]), row);
+  EXPECT_EQ(window_->FindItem(LVFI_STRING, L"cm_SrcTree"), -1);
+  EXPECT_EQ(window_->FindItem(LVFI_STRING | LVFI_PARTIAL, L"cm_SrcTree"), row);
   EXPECT_EQ(window_->FindItem(LVFI_PARAM), -1);
 }
 
