@@ -4,6 +4,8 @@
 #include <commctrl.h>
 // clang-format on
 
+#include <algorithm>
+#include <cstdlib>
 #include <string>
 
 #include "resources/resource.h"
@@ -63,10 +65,27 @@ TEST_F(ListMenuTest, RightButtonOpensItForTheRowUnderThePointer) {
   EXPECT_TRUE(WaitForMenuEntry(menu, L"Add Hotkey").Enabled);
   EXPECT_TRUE(WaitForMenuEntry(menu, L"Delete All Hotkeys").Enabled);
   EXPECT_TRUE(WaitForMenuEntry(menu, L"Copy Command Name").Enabled);
-  EXPECT_TRUE(WaitForMenuEntry(menu, L"Copy Row").Enabled);
-  EXPECT_TRUE(WaitForMenuEntry(menu, L"Copy as Table").Enabled);
-  EXPECT_TRUE(WaitForMenuEntry(menu, L"Keys as a page...").Enabled);
+  const MenuEntry copyRow = WaitForMenuEntry(menu, L"Copy Row");
+  const MenuEntry copyTable = WaitForMenuEntry(menu, L"Copy as Table");
+  const MenuEntry page = WaitForMenuEntry(menu, L"Keys as a page...");
+  EXPECT_TRUE(copyRow.Enabled && copyTable.Enabled && page.Enabled);
+  EXPECT_GT(page.Top - copyTable.Top, copyTable.Top - copyRow.Top) << "a line is between them";
   window_->CloseMenus();
+  // As assistive programs may ask for it.
+  const HWND list = window_->Control(IDC_ListView1);
+  const auto open = [&](POINT place) {
+    PostMessageW(window_->Handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list),
+                 MAKELPARAM(place.x, place.y));
+  };
+  for (const int row : {3, 0}) {
+    open(CenterOf(window_->CellRectangle(row, 1)));
+    EXPECT_EQ(WaitForMenuEntry(WaitForMenu(), L"Copy Row").Enabled, row != 0);
+    EXPECT_EQ(window_->SelectedRow(), row);
+    window_->CloseMenus();
+  }
+  open(CenterOf(RectangleOf(window_->Control(IDC_Frame1))));
+  Select(L"cm_SrcTree");  // answered after it
+  EXPECT_FALSE(window_->InMenu());
 }
 
 TEST_F(ListMenuTest, CopiesGoToTheClipboard) {
@@ -96,10 +115,14 @@ TEST_F(ListMenuTest, CopiesGoToTheClipboard) {
 TEST_F(ListMenuTest, ContextMenuKeyAndShiftF10OpenItAtTheSelectedRow) {
   StartAndLoad();
   Select(L"cm_SrcComments");
+  const RECT row = window_->CellRectangle(window_->SelectedRow(), 0);
+  Send(window_->Control(IDC_ListView1), LVM_ENSUREVISIBLE,
+       static_cast<WPARAM>(window_->RowCount() - 1));
   Press(VK_APPS);
   const HWND menu = WaitForMenu();
-  const RECT row = window_->CellRectangle(window_->SelectedRow(), 0);
-  EXPECT_NEAR(RectangleOf(menu).top, row.bottom, 4);
+  const RECT shown = window_->CellRectangle(window_->SelectedRow(), 0);
+  EXPECT_LE(shown.top, row.top) << "scrolled back to";
+  EXPECT_NEAR(RectangleOf(menu).top, shown.bottom, 4);
   window_->CloseMenus();
   {
     const HeldKey shift(VK_SHIFT);
@@ -117,9 +140,14 @@ TEST_F(ListMenuTest, WhereTheContextMenuKeyStandsForAltItOpensForHeadingsOnly) {
   StartAndLoad();
   window_->ClickRow(0);
   Press(VK_APPS);
-  EXPECT_FALSE(WaitForMenuEntry(WaitForMenu(), L"Copy Row").Enabled);
+  const HWND menu = WaitForMenu();
+  EXPECT_FALSE(WaitForMenuEntry(menu, L"Copy Row").Enabled);
+  EXPECT_NEAR(RectangleOf(menu).top, window_->CellRectangle(0, 0).bottom, 4);
   window_->CloseMenus();
   Select(L"cm_SrcComments");
+  // Some systems send it for such a key.
+  PostMessageW(window_->Handle(), WM_CONTEXTMENU,
+               reinterpret_cast<WPARAM>(window_->Control(IDC_ListView1)), -1);
   Press(VK_APPS);
   WaitFor("box Alt to be checked", [&] { return window_->BoxChecked(IDC_chkCtrlAlt1); });
   Press(VK_F7);
@@ -146,7 +174,13 @@ TEST_F(ListMenuTest, DownOpensTheMenuOfAToolbarsButton) {
   GoTo(IDC_Toolbar2);
   Send(window_->Control(IDC_Toolbar2), TB_SETHOTITEM, DeletePlace);
   Press(VK_DOWN);
-  EXPECT_TRUE(WaitForMenuEntry(WaitForMenu(), L"Delete All Hotkeys").Enabled);
+  const HWND menu = WaitForMenu();
+  EXPECT_TRUE(WaitForMenuEntry(menu, L"Delete All Hotkeys").Enabled);
+  const RECT button = window_->ButtonRectangle(IDC_Toolbar2, IDM_delete);
+  const RECT place = RectangleOf(menu);
+  EXPECT_NEAR(place.left, button.left, 4);
+  // Above it where there is no room below.
+  EXPECT_LE(std::min(std::abs(place.top - button.bottom), std::abs(place.bottom - button.top)), 4);
   window_->CloseMenus();
   EXPECT_TRUE(window_->HasFocus(IDC_Toolbar2));
   GoTo(IDC_Toolbar1);

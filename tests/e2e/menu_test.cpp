@@ -11,6 +11,7 @@
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Input.h"
 #include "tests/e2e/MenuPicture.h"
+#include "tests/e2e/Screen.h"
 #include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e::menu_test {
@@ -27,6 +28,14 @@ class MenuTest : public EndToEndTest {
       EXPECT_GT(entry.Top, above) << Utf8(caption);
       above = entry.Top;
     }
+  }
+
+  /// Of an entry that is not highlighted.
+  [[nodiscard]] static bool HasTick(HWND menu, const std::wstring& caption) {
+    const LONG left = RectangleOf(menu).left + 4;
+    const LONG top = WaitForMenuEntry(menu, caption).Top;
+    constexpr LONG Size = 12;  // pixels: most of what is before the text
+    return CountPixels({left, top, left + Size, top + Size}, GetSysColor(COLOR_MENU)) < Size * Size;
   }
 
   void CloseFileDialog() { AnswerByKey(WaitForFileDialog(program_->Id()), VK_ESCAPE); }
@@ -88,8 +97,11 @@ TEST_F(MenuTest, SortedListIsSwitchedBothWays) {
     });
   };
   expectSorted(false);
-  window_->ChooseFromMenu('V', 'L');
+  EXPECT_FALSE(HasTick(window_->OpenMenu('V'), L"Sorted &List"));
+  Press('L');
   expectSorted(true);
+  EXPECT_TRUE(HasTick(window_->OpenMenu('V'), L"Sorted &List"));
+  window_->CloseMenus();
   window_->ClickButton(IDC_Toolbar1, IDM_mnuViewSortList);
   expectSorted(false);
   window_->ClickButton(IDC_Toolbar1, IDM_mnuViewSortList);

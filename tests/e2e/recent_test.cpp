@@ -100,8 +100,15 @@ class RecentTest : public EndToEndTest {
 TEST_F(RecentTest, OpenedFileComesFirst) {
   StartAndLoad();
   const std::wstring own = folder_.WincmdIni();
-  ExpectCaptions(OpenRecentMenu(), {L"&1 " + Shortened(own), L"&2 " + Shortened(others_[0]),
-                                    L"&3 " + Shortened(others_[1]), L"Clear List"});
+  const HWND menu = OpenRecentMenu();
+  ExpectCaptions(menu, {L"&1 " + Shortened(own), L"&2 " + Shortened(others_[0]),
+                        L"&3 " + Shortened(others_[1]), L"Clear List"});
+  const auto topOf = [&](const std::wstring& caption) {
+    return WaitForMenuEntry(menu, caption).Top;
+  };
+  const LONG last = topOf(L"&3 " + Shortened(others_[1]));
+  EXPECT_GT(topOf(L"Clear List") - last, last - topOf(L"&2 " + Shortened(others_[0])))
+      << "a line is between them";
   EXPECT_EQ(Stored(), Paths({own, others_[0], others_[1]}));
 }
 
