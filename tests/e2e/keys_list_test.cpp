@@ -44,6 +44,21 @@ class KeysListTest : public EndToEndTest {
     return Selected(list) < 0 ? L"" : Entry(list.Control(IDC_List1), LB_GETTEXT, Selected(list));
   }
 
+  /// On the screen.
+  static RECT PlaceOf(const Dialog& list, int index) {
+    RECT place{};
+    const HWND entries = list.Control(IDC_List1);
+    Send(entries, LB_GETITEMRECT, static_cast<WPARAM>(index), &place);
+    return OnScreen(entries, place);
+  }
+
+  static LOGFONTW MessageFont() {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    return metrics.lfMessageFont;
+  }
+
   static void MoveTo(const Dialog& list, int index) {
     for (int next = Selected(list) + 1; next <= index; ++next) {
       Press(VK_DOWN);
@@ -52,11 +67,8 @@ class KeysListTest : public EndToEndTest {
   }
 
   void CheckClick(const Dialog& list, int index) {
-    const HWND entries = list.Control(IDC_List1);
-    RECT place{};
-    Send(entries, LB_GETITEMRECT, static_cast<WPARAM>(index), &place);
-    const std::wstring key = Entry(entries, LB_GETTEXT, index);
-    Click(CenterOf(OnScreen(entries, place)));
+    const std::wstring key = Entry(list.Control(IDC_List1), LB_GETTEXT, index);
+    Click(CenterOf(PlaceOf(list, index)));
     list.WaitUntilClosed();
     WaitFor("key " + Utf8(key), [&] { return window_->ChosenKey() == key; });
     ExpectClosed();
@@ -106,6 +118,19 @@ TEST_F(KeysListTest, StandsUnderThePanelFlushWithTheButtonWhereverTheyGo) {
   };
   move(0, 0, SWP_NOSIZE);
   move(800, 520, SWP_NOMOVE);
+
+  const HWND entries = open.Control(IDC_List1);
+  const RECT list = RectangleOf(open.Handle());
+  const RECT inside = RectangleOf(entries);
+  for (const LONG margin : {inside.left - list.left, inside.top - list.top,
+                            list.right - inside.right, list.bottom - inside.bottom}) {
+    EXPECT_EQ(margin, 7) << "of the whole list";
+  }
+  const LRESULT height = Send(entries, LB_GETITEMHEIGHT);
+  EXPECT_EQ(height, DrawLine(L"Xg", MessageFont(), 0, 0, false).Height + 1);
+  RECT client{};
+  GetClientRect(entries, &client);
+  EXPECT_EQ(client.bottom, 22 * height) << "of whole entries";
 }
 
 TEST_F(KeysListTest, ArrowKeysChangeNothingUntilEnterChooses) {
@@ -115,6 +140,14 @@ TEST_F(KeysListTest, ArrowKeysChangeNothingUntilEnterChooses) {
   MoveTo(list, 3);
   EXPECT_EQ(window_->ChosenKey(), L"");
   const std::wstring key = SelectedText(list);
+  RECT place = PlaceOf(list, 3);
+  WaitFor("the entry to stand out", [&] {
+    return CountPixels(place, GetSysColor(COLOR_HIGHLIGHT)) >
+           (place.right - place.left) * (place.bottom - place.top) / 2;
+  });
+  place.bottom = place.top + 1;
+  EXPECT_LT(CountPixels(place, GetSysColor(COLOR_HIGHLIGHT)), place.right - place.left)
+      << "the focus shows";
   Press(VK_RETURN);
   list.WaitUntilClosed();
   WaitFor("the key to be chosen", [&] { return window_->ChosenKey() == key; });
@@ -153,6 +186,9 @@ TEST_F(KeysListTest, SecondClickOnTheButtonClosesIt) {
   ExpectClosed();
   const Dialog again = OpenList();
   EXPECT_FALSE(PanelToolbarEnabled());
+  const RECT chooser = RectangleOf(window_->Control(IDC_Combo1));
+  Click({chooser.left + 10, (chooser.top + chooser.bottom) / 2});
+  WaitFor("the panel toolbar for the chooser's own list", [&] { return PanelToolbarEnabled(); });
 }
 
 TEST_F(KeysListTest, ClickChooses) {
@@ -260,27 +296,34 @@ TEST_F(KeysListTest, IsBeforeTheWindowWhenThatIsRestored) {
 TEST_F(KeysListTest, KeysThatSomebodyHasLookQuieterAndBearAMark) {
   constexpr int A = 12;
   constexpr int G = 18;
-  const auto placeOf = [](const Dialog& list, int index) {
-    RECT place{};
-    const HWND entries = list.Control(IDC_List1);
-    Send(entries, LB_GETITEMRECT, static_cast<WPARAM>(index), &place);
-    return OnScreen(entries, place);
-  };
   const auto bearsMark = [&](const Dialog& list, int index) {
-    RECT end = placeOf(list, index);
+    RECT end = PlaceOf(list, index);
     end.left = (end.left + end.right) / 2;
     const int all = static_cast<int>((end.right - end.left) * (end.bottom - end.top));
     return CountPixels(end, GetSysColor(COLOR_WINDOW)) < all;
   };
   const auto isPlain = [&](const Dialog& list, int index) {
-    return CountPixels(placeOf(list, index), GetSysColor(COLOR_WINDOWTEXT)) > 0;
+    return CountPixels(PlaceOf(list, index), GetSysColor(COLOR_WINDOWTEXT)) > 0;
   };
   window_->ClickControl(IDC_chkCtrlAlt0);
   const Dialog list = OpenList();
   WaitFor("Ctrl + A, which is taken", [&] { return bearsMark(list, A) && !isPlain(list, A); });
   WaitFor("Ctrl + G, which is free", [&] { return !bearsMark(list, G) && isPlain(list, G); });
-  const Picture g = DrawControlText(L"G", GetSysColor(COLOR_WINDOW));
-  EXPECT_TRUE(TakePicture(placeOf(list, G)).HoldsSomewhere(g)) << "in the font of messages";
+  ASSERT_EQ(GetSysColor(COLOR_WINDOWTEXT), RGB(0, 0, 0));
+  ASSERT_EQ(GetSysColor(COLOR_WINDOW), RGB(255, 255, 255));
+  constexpr COLORREF Quiet = RGB(85, 85, 85);
+  const RECT taken = PlaceOf(list, A);
+  const LONG middle = (taken.top + taken.bottom) / 2;
+  // The middle of the mark, of a diameter of 5 and 8 from the end.
+  EXPECT_EQ(CountPixels({taken.right - 11, middle, taken.right - 10, middle + 1}, Quiet), 1);
+  EXPECT_EQ(CountPixels({taken.right - 8, taken.top, taken.right, taken.bottom}, Quiet), 0);
+  const auto hasText = [&](int index, const std::wstring& text, COLORREF color) {
+    const Picture line = DrawLine(text, MessageFont(), color, GetSysColor(COLOR_WINDOW), false);
+    const Picture shown = TakePicture(PlaceOf(list, index));
+    return shown.Holds(line, 2, (shown.Height - line.Height + 1) / 2);
+  };
+  EXPECT_TRUE(hasText(A, L"A", Quiet));
+  EXPECT_TRUE(hasText(G, L"G", GetSysColor(COLOR_WINDOWTEXT)));
   // Checked as a key does it, without the focus.
   Send(window_->Control(IDC_chkCtrlAlt1), BM_SETCHECK, BST_CHECKED);
   Send(window_->Control(IDC_Frame1), WM_COMMAND, MAKEWPARAM(IDC_chkCtrlAlt1, BN_CLICKED));
