@@ -73,8 +73,13 @@ class OptionsTest : public EndToEndTest {
     return GetWindowLongPtrW(window_->Control(IDC_ListView1), which);
   }
 
-  void WaitForToolbarEdges(bool border, bool edge) const {
+  void WaitForEdges(bool border, bool edge, bool listBorder, bool listEdge) const {
     const HWND toolbar = window_->Control(IDC_Toolbar1);
+    WaitFor("the list's edges", [&] {
+      return ((ListStyle(GWL_STYLE) & WS_BORDER) != 0) == listBorder &&
+             ((ListStyle(GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0) == listEdge;
+    });
+    EXPECT_EQ(ListStyle(GWL_EXSTYLE) & WS_EX_DLGMODALFRAME, 0);
     WaitFor("the toolbar's edges around its buttons", [&] {
       RECT inside{};
       GetClientRect(toolbar, &inside);
@@ -248,20 +253,20 @@ TEST_F(OptionsTest, LayoutIsAppliedToTheList) {
           [&] { return !has(GWL_STYLE, WS_BORDER) && !has(GWL_EXSTYLE, WS_EX_CLIENTEDGE); });
 }
 
-TEST_F(OptionsTest, BothLooksReachTheToolbarCrosswise) {
-  WaitForToolbarEdges(false, true);
+TEST_F(OptionsTest, BothLooksReachTheListAndCrosswiseTheToolbar) {
+  WaitForEdges(false, true, false, true);
   const auto toggle = [&](const BoxCase& box) {
     Dialog dialog = OpenOptions();
     Toggle(dialog, box);
     dialog.CloseBy(IDC_cmdOK);
   };
   toggle(Boxes[1]);  // borders no longer fixed
-  WaitForToolbarEdges(true, false);
+  WaitForEdges(true, false, false, false);
   toggle(Boxes[2]);  // flat
-  WaitForToolbarEdges(false, false);
+  WaitForEdges(false, false, false, false);
   toggle(Boxes[1]);
   WaitUntilApplied();
-  WaitForToolbarEdges(false, false);
+  WaitForEdges(false, false, true, false);
 }
 
 TEST_F(OptionsTest, LanguageThatIsChosenAlreadyIsNoChange) {
