@@ -10,6 +10,7 @@
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"
+#include "tests/e2e/Screen.h"
 #include "tests/e2e/StartResolution.h"
 #include "tests/support/win32/Wait.h"
 
@@ -128,9 +129,24 @@ void FindTest::ChooseLanguage(const std::wstring& language) {
 
 TEST_F(FindTest, ShowsWhatIsTypedAndGoesToTheList) {
   StartWith(L"", 96);
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  const Picture cue = DrawLine(L"Find a command or a key", metrics.lfMessageFont,
+                               GetSysColor(COLOR_GRAYTEXT), GetSysColor(COLOR_WINDOW), false);
+  WaitFor("what to type", [&] {
+    return TakePicture(RectangleOf(window_->Control(IDC_txtFind))).HoldsSomewhere(cue);
+  });
+  EXPECT_EQ(window_->ControlText(IDC_lblFind), L"Find:");
   UseBox();
   EXPECT_EQ(RectangleOf(window_->Control(IDC_txtFind)).right,
             RectangleOf(window_->Control(IDC_ListView1)).right);
+  Find(L"cm_rightviewmode9");
+  Press(VK_ESCAPE);
+  ExpectAllRows();
+  const RECT found = window_->CellRectangle(window_->SelectedRow(), 0);
+  EXPECT_EQ(window_->Row(window_->SelectedRow())[1], L"cm_RightViewMode9");
+  EXPECT_LE(found.bottom, RectangleOf(window_->Control(IDC_ListView1)).bottom) << "scrolled to";
   // By Tab, after the toolbar and before the list.
   GoToBox();
   Press(VK_TAB);
