@@ -77,7 +77,6 @@ void frmMenus::Build(HWND window) {
         break;
     }
   }
-  FillRecentFiles();
   const Unique<HMENU> former(GetMenu(window_));
   SetMenu(window_, bar);
 }
