@@ -121,14 +121,18 @@ TEST_F(ListLooksTest, HeadingStaysWholeAndCellsAreCutWhenAColumnChangesItsWidth)
   RECT place = window_->CellRectangle(0, 0);
   place.right = place.left + 400;  // pixels: more than the first column, less than all after it
   const std::vector<DWORD> before = TakePicture(place).Pixels;
-  Send(window_->Control(IDC_ListView1), LVM_SETCOLUMNWIDTH, 0, 60);
-  const RECT second = window_->CellRectangle(1, 1);
-  WaitFor("the column to be narrower",
-          [&] { return CountPixels(second, GetSysColor(COLOR_WINDOW)) < AreaOf(second); });
-  const RECT margin{second.left, second.top, second.left + 5, second.bottom};
-  WaitFor("the description to be cut",
-          [&] { return CountPixels(margin, GetSysColor(COLOR_WINDOW)) == AreaOf(margin); });
+  const auto narrow = [&](int width) {
+    Send(window_->Control(IDC_ListView1), LVM_SETCOLUMNWIDTH, 0, width);
+    const RECT second = window_->CellRectangle(1, 1);
+    WaitFor("the column to be narrower",
+            [&] { return CountPixels(second, GetSysColor(COLOR_WINDOW)) < AreaOf(second); });
+    const RECT margin{second.left, second.top, second.left + 5, second.bottom};
+    WaitFor("what is in it to be cut",
+            [&] { return CountPixels(margin, GetSysColor(COLOR_WINDOW)) == AreaOf(margin); });
+  };
+  narrow(60);
   WaitFor("the heading to be as it was", [&] { return TakePicture(place).Pixels == before; });
+  narrow(12);  // less than an icon
 }
 
 }  // namespace
