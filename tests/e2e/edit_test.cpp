@@ -242,8 +242,13 @@ TEST_F(EditTest, DeleteKeyTakesTheKeysAwayAndFreesTheDefaultOnes) {
   const std::wstring marked = RowOf(L"cm_RereadSource")[2];
   ASSERT_TRUE(marked.ends_with(L" *")) << Utf8(marked);
   Select(L"cm_RenameSingleFile");
+  const RECT cell = window_->CellRectangle(window_->SelectedRow(), 3);
+  const COLORREF highlight = GetSysColor(COLOR_HIGHLIGHT);
+  WaitFor("the row to stand out", [&] { return CountPixels(cell, highlight) > 0; });
+  const int withKey = CountPixels(cell, highlight);
   Press(VK_DELETE);
   WaitForKeys(L"cm_RenameSingleFile", L"---");
+  WaitFor("the cell to show it", [&] { return CountPixels(cell, highlight) != withKey; });
   EXPECT_EQ(RowOf(L"cm_RereadSource")[2], marked.substr(0, marked.size() - 2));
   EXPECT_TRUE(Modified());
 }
