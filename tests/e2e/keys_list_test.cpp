@@ -83,8 +83,9 @@ class KeysListTest : public EndToEndTest {
   }
 };
 
-TEST_F(KeysListTest, HasTheEntriesOfTheChooser) {
+TEST_F(KeysListTest, HasTheNameAndTheEntriesOfTheChooser) {
   const Dialog list = OpenList();
+  EXPECT_EQ(list.Caption(), window_->ControlText(IDC_lblHotkey));
   const HWND entries = list.Control(IDC_List1);
   const HWND chooser = window_->Control(IDC_Combo1);
   const auto count = static_cast<int>(Send(entries, LB_GETCOUNT));

@@ -240,6 +240,9 @@ TEST_F(LanguageTest, ArabicReadsFromTheRight) {
   folder_.UseLanguageFile(folder_.ShippedLanguage(L"Arabic.lng"));
   StartAndLoad();
   EXPECT_EQ(window_->Header(0).Text, L"\u0627\u0644\u0648\u0635\u0641");
+  EXPECT_EQ(Send(window_->Control(IDC_ListView1), LVM_GETEXTENDEDLISTVIEWSTYLE) &
+                (LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER),
+            0);
   ExpectDirection(true);
   ExpectMenuAtTheRight(true);
   ExpectButtonMenusAtTheRight(true);

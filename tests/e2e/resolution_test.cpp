@@ -366,6 +366,7 @@ TEST_F(ResolutionTest, WindowFollowsItThereAndBack) {
     EXPECT_NEAR(window_->ColumnWidths().at(column), widths.at(column) * 3 / 2, 1);
   }
   EXPECT_NE(Places(), places);
+  EXPECT_TRUE(window_->HeaderHasOwnImages());
   ChangeResolution(*window_, 96, place);
   EXPECT_EQ(Places(), places);
   EXPECT_EQ(window_->ColumnWidths(), widths);
