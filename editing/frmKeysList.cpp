@@ -133,7 +133,10 @@ void frmKeysList::MoveTo(const Area& area) { Place(window_, area); }
 
 void frmKeysList::BringToFront() {
   if (window_ == nullptr) return;
-  SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  // Where a system takes it to be before its owner already, the second alone changes nothing.
+  for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST}) {
+    SetWindowPos(window_, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
 }
 
 void frmKeysList::Show() {
