@@ -35,10 +35,7 @@ std::array<Looks, 6> PossibleLooks() {
 }
 
 Picture Draw(const std::wstring& caption, const Looks& looks) {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof metrics;
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-  return DrawLine(caption, metrics.lfMenuFont, looks.Text, looks.Back, looks.LightEdge);
+  return DrawLine(caption, SystemMetrics().lfMenuFont, looks.Text, looks.Back, looks.LightEdge);
 }
 
 /// A text that goes on to the right, or begins further to the left, is another one.

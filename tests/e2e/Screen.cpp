@@ -159,11 +159,15 @@ Picture DrawLine(const std::wstring& text, const LOGFONTW& font, COLORREF color,
   return canvas.Copy();
 }
 
-Picture DrawControlText(const std::wstring& text, COLORREF back) {
+NONCLIENTMETRICSW SystemMetrics() {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
   SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-  return DrawLine(text, metrics.lfMessageFont, GetSysColor(COLOR_WINDOWTEXT), back, false);
+  return metrics;
+}
+
+Picture DrawControlText(const std::wstring& text, COLORREF back) {
+  return DrawLine(text, SystemMetrics().lfMessageFont, GetSysColor(COLOR_WINDOWTEXT), back, false);
 }
 
 Picture DrawProgramIcon(const std::wstring& program, int id, int size, COLORREF back) {

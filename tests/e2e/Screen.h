@@ -39,6 +39,9 @@ struct Picture {
 [[nodiscard]] Picture DrawLine(const std::wstring& text, const LOGFONTW& font, COLORREF color,
                                COLORREF back, bool lightEdge);
 
+/// The system's fonts and sizes.
+[[nodiscard]] NONCLIENTMETRICSW SystemMetrics();
+
 /// The text of a control, enabled and in the font of messages.
 [[nodiscard]] Picture DrawControlText(const std::wstring& text, COLORREF back);
 

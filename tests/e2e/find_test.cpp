@@ -129,10 +129,7 @@ void FindTest::ChooseLanguage(const std::wstring& language) {
 
 TEST_F(FindTest, ShowsWhatIsTypedAndGoesToTheList) {
   StartWith(L"", 96);
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof metrics;
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-  const Picture cue = DrawLine(L"Find a command or a key", metrics.lfMessageFont,
+  const Picture cue = DrawLine(L"Find a command or a key", SystemMetrics().lfMessageFont,
                                GetSysColor(COLOR_GRAYTEXT), GetSysColor(COLOR_WINDOW), false);
   WaitFor("what to type", [&] {
     return TakePicture(RectangleOf(window_->Control(IDC_txtFind))).HoldsSomewhere(cue);

@@ -52,13 +52,6 @@ class KeysListTest : public EndToEndTest {
     return OnScreen(entries, place);
   }
 
-  static LOGFONTW MessageFont() {
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    return metrics.lfMessageFont;
-  }
-
   static void MoveTo(const Dialog& list, int index) {
     for (int next = Selected(list) + 1; next <= index; ++next) {
       Press(VK_DOWN);
@@ -128,7 +121,7 @@ TEST_F(KeysListTest, StandsUnderThePanelFlushWithTheButtonWhereverTheyGo) {
     EXPECT_EQ(margin, 7) << "of the whole list";
   }
   const LRESULT height = Send(entries, LB_GETITEMHEIGHT);
-  EXPECT_EQ(height, DrawLine(L"Xg", MessageFont(), 0, 0, false).Height + 1);
+  EXPECT_EQ(height, DrawLine(L"Xg", SystemMetrics().lfMessageFont, 0, 0, false).Height + 1);
   RECT client{};
   GetClientRect(entries, &client);
   EXPECT_EQ(client.bottom, 22 * height) << "of whole entries";
@@ -319,7 +312,8 @@ TEST_F(KeysListTest, KeysThatSomebodyHasLookQuieterAndBearAMark) {
   EXPECT_EQ(CountPixels({taken.right - 11, middle, taken.right - 10, middle + 1}, Quiet), 1);
   EXPECT_EQ(CountPixels({taken.right - 8, taken.top, taken.right, taken.bottom}, Quiet), 0);
   const auto hasText = [&](int index, const std::wstring& text, COLORREF color) {
-    const Picture line = DrawLine(text, MessageFont(), color, GetSysColor(COLOR_WINDOW), false);
+    const Picture line =
+        DrawLine(text, SystemMetrics().lfMessageFont, color, GetSysColor(COLOR_WINDOW), false);
     const Picture shown = TakePicture(PlaceOf(list, index));
     return shown.Holds(line, 2, (shown.Height - line.Height + 1) / 2);
   };

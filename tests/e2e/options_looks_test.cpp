@@ -84,11 +84,8 @@ class OptionsLooksTest : public EndToEndTest {
 
 TEST_F(OptionsLooksTest, TextsStandOnTheColorOfThePage) {
   Dialog dialog = OpenColorAndFont();
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof metrics;
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-  const Picture text =
-      DrawLine(L"Foreground", metrics.lfMessageFont, GetSysColor(COLOR_BTNTEXT), ThemedPage, false);
+  const Picture text = DrawLine(L"Foreground", SystemMetrics().lfMessageFont,
+                                GetSysColor(COLOR_BTNTEXT), ThemedPage, false);
   const RECT label = RectangleOf(dialog.Control(IDC_Label3));
   WaitFor("the label's text", [&] { return TakePicture(label).Holds(text, 0, 0); });
   dialog.ClickTab(IDC_tbsOptions, 0);
