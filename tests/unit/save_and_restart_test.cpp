@@ -84,6 +84,9 @@ TEST_F(EditorTest, SaveAndRestartIsEnabledOnlyWhileTotalCommanderRunsAndChangesW
   Editor.RefreshRestartItems();
   EXPECT_FALSE(Editor.Document().SaveAndRestartEnabled());
   EXPECT_FALSE(Editor.Document().RestartButtonEnabled());
+  Assign(Pack, L"Y");
+  EXPECT_TRUE(Editor.Document().SaveAndRestartEnabled()) << "until the menu opens";
+  EXPECT_FALSE(Editor.Document().RestartButtonEnabled());
   Programs.Windows[L"TTOTAL_CMD"] = 7;
   Editor.RefreshRestartItems();
   EXPECT_TRUE(Editor.Document().SaveAndRestartEnabled());

@@ -73,6 +73,16 @@ TEST_F(UnsavedFilesTest, WhatLayThereBeforeStaysWhenItCannotBeReplaced) {
   EXPECT_EQ(files_.Contents, before);
 }
 
+TEST_F(UnsavedFilesTest, NothingIsSaidToLieThereWhenItIsNotAll) {
+  files_.Contents = {{Path, "old"}};
+  EXPECT_EQ(Save("new"), FileError::None);
+  EXPECT_EQ(unsaved_.Left(), std::vector{Unsaved});
+  files_.WriteErrors = {FileError::DiskFull};
+  EXPECT_EQ(ReplaceContent(unsaved_, clock_, L"C:\\b.ini", "new", KeepCopies::Yes),
+            FileError::DiskFull);
+  EXPECT_EQ(unsaved_.Left(), std::vector<std::wstring>{});
+}
+
 TEST_F(UnsavedFilesTest, NoOtherWayIsTriedToTheTarget) {
   const FileTable before{{Path, "old"}};
   for (const FileError error : {FileError::NotFound, FileError::NotSupported}) {
