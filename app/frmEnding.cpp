@@ -21,8 +21,8 @@ bool frmEnding::MayClose() {
 bool frmEnding::MaySessionEnd() {
   // Without changes whatever is open goes with the window, and a load stops mattering.
   if (!editor_.Document().Modified()) return true;
-  // First of all: the rest may wait for files, and the system does not wait long.
   mayLoseChanges_ = false;
+  // First of all: the rest may wait for files, and the system does not wait long.
   ShutdownBlockReasonCreate(views_.Window(), editor_.Document().Caption().c_str());
   // The system soon covers the question, and lets its user end the program over it.
   editor_.KeepUnsaved();

@@ -182,7 +182,8 @@ LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
       if (OnCommand(LOWORD(wParam), HIWORD(wParam))) return 0;
-      if (const int command = statusRow_.CommandOf(reinterpret_cast<HWND>(lParam)); command != 0) {
+      if (const int command = statusRow_.CommandOf(reinterpret_cast<HWND>(lParam));
+          command != 0 && HIWORD(wParam) == BN_CLICKED) {
         return SendMessageW(GetParent(Frame1_), WM_COMMAND, static_cast<WPARAM>(command), 0);
       }
       return SendMessageW(GetParent(Frame1_), message, wParam, lParam);
