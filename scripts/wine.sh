@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # Wine prefixes and X displays of our own; to be sourced by scripts at the root of the repository.
 #
+#   processor_keep N          the calling shell, and what it starts, on one processor
 #   display_start             a private X display; sets DISPLAY
 #   prefix_use NAME [desktop] a fresh prefix out/wine/NAME; sets WINEPREFIX
 #   prefix_value KEY NAME TEXT  a text in the prefix's HKEY_CURRENT_USER, before its first process
@@ -16,6 +17,15 @@ display_process=
 
 # What a Windows program calls an absolute path of this machine.
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
+
+# N counts from 0, and after the last of those that may be used comes the first again. Between two, most
+# of what a program does is waiting for the other one to wake up whenever Wine's server or the window
+# system is called.
+processor_keep() {
+  local allowed
+  read -ra allowed < <(python3 -c 'import os; print(*sorted(os.sched_getaffinity(0)))')
+  taskset --cpu-list --pid "${allowed[$1 % ${#allowed[@]}]}" "$BASHPID" >/dev/null
+}
 
 display_start() {
   local number_file number

@@ -5,7 +5,7 @@
 #include <dlgs.h>
 // clang-format on
 
-#include <optional>
+#include <initializer_list>
 #include <string>
 
 #include "resources/resource.h"
@@ -130,47 +130,53 @@ TEST_F(OptionsTest, TabsAndControlsBearTheirTexts) {
   for (const auto& [id, text] : texts) EXPECT_EQ(dialog.ControlText(id), text);
   EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
   EXPECT_EQ(LOWORD(Send(dialog.Handle(), DM_GETDEFID)), IDC_cmdOK);
-  for (const int id : {IDC_cmdOK, IDC_cmdCancel, IDC_cmdApply}) {
-    EXPECT_NE(GetWindowLongPtrW(dialog.Control(id), GWL_STYLE) & WS_GROUP, 0) << "no arrow goes on";
+  const auto goesOn = [&](int id) {
+    return (GetWindowLongPtrW(dialog.Control(id), GWL_STYLE) & WS_GROUP) == 0;
+  };
+  for (const int id :
+       {IDC_cmdOK, IDC_cmdCancel, IDC_cmdApply, IDC_tbsOptions, IDC_Frame1, IDC_chkShowgridlines,
+        IDC_chkFixedBorders, IDC_optUseDefaultLanguage, IDC_txtLanguageFilePath}) {
+    EXPECT_FALSE(goesOn(id)) << "no arrow goes to " << id;
   }
+  EXPECT_TRUE(goesOn(IDC_optUseOtheLanguage)) << "arrows go from option to option";
 }
 
 TEST_F(OptionsTest, KeysTurnThePages) {
   Dialog dialog = OpenOptions();
-  const auto turn = [&](WORD key, bool shift, Tab expected) {
-    const HeldKey ctrl(VK_CONTROL);
-    std::optional<HeldKey> held;
-    if (shift) held.emplace(WORD{VK_SHIFT});
-    KeyDown(key);
+  // At once: what the display reports of its keyboard meanwhile would have Ctrl released.
+  const auto turn = [&](std::initializer_list<WORD> keys, Tab expected) {
+    PressTogether(keys);
     WaitFor("tab " + std::to_string(expected),
             [&] { return dialog.ChosenTab(IDC_tbsOptions) == expected; });
-    KeyUp(key);
   };
   const auto waitForFocus = [&](int id) {
     WaitFor("control " + std::to_string(id) + " to have the focus",
             [&] { return dialog.HasFocus(id); });
   };
   waitForFocus(IDC_chkShowgridlines);
-  turn(VK_TAB, false, ColorAndFont);
+  turn({VK_CONTROL, VK_TAB}, ColorAndFont);
   waitForFocus(IDC_lblColorChange0);
   EXPECT_FALSE(dialog.Visible(IDC_chkShowgridlines));
   const RECT swatch = RectangleOf(dialog.Control(IDC_lblColorChange0));
   const RECT dots{swatch.left + 3, swatch.top + 3, swatch.right - 3, swatch.top + 4};
   WaitFor("the focus to be seen", [&] { return CountPixels(dots, RGB(255, 255, 255)) > 0; });
-  turn(VK_TAB, true, Layout);
-  turn(VK_TAB, true, Language);
+  EXPECT_EQ(CountPixels(dots, RGB(255, 255, 255)) + CountPixels(dots, RGB(0, 0, 0)),
+            dots.right - dots.left)
+      << "black, and black turned round";
+  turn({VK_CONTROL, VK_SHIFT, VK_TAB}, Layout);
+  turn({VK_CONTROL, VK_SHIFT, VK_TAB}, Language);
   waitForFocus(IDC_optUseDefaultLanguage);  // the one that is chosen
-  turn(VK_NEXT, false, Layout);
-  turn(VK_PRIOR, false, Language);
+  turn({VK_CONTROL, VK_NEXT}, Layout);
+  turn({VK_CONTROL, VK_PRIOR}, Language);
   dialog.ClickTab(IDC_tbsOptions, Operation);
-  turn(VK_NEXT, false, Language);
+  turn({VK_CONTROL, VK_NEXT}, Language);
   EXPECT_TRUE(dialog.HasFocus(IDC_tbsOptions)) << "the tabs keep it";
   EXPECT_FALSE(dialog.Enabled(IDC_cmdApply));
   dialog.ClickControl(IDC_optUseOtheLanguage);
   waitForFocus(IDC_optUseOtheLanguage);
-  turn(VK_PRIOR, false, Operation);
+  turn({VK_CONTROL, VK_PRIOR}, Operation);
   waitForFocus(IDC_chkAlwaysRestartTC);
-  turn(VK_NEXT, false, Language);
+  turn({VK_CONTROL, VK_NEXT}, Language);
   waitForFocus(IDC_optUseOtheLanguage);
   dialog.CloseByKey(VK_ESCAPE);
 }

@@ -12,11 +12,13 @@
 namespace tessera::e2e::restart_test {
 namespace {
 
-HCURSOR ShownPointer() {
-  CURSORINFO information{};
-  information.cbSize = sizeof information;
-  GetCursorInfo(&information);
-  return information.hCursor;
+/// What its thread shows; the system would tell the pointer of whoever is in front.
+HCURSOR PointerOf(HWND window) {
+  const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+  AttachThreadInput(GetCurrentThreadId(), thread, TRUE);
+  const HCURSOR shown = GetCursor();
+  AttachThreadInput(GetCurrentThreadId(), thread, FALSE);
+  return shown;
 }
 
 class RestartTest : public EndToEndTest {
@@ -27,7 +29,7 @@ class RestartTest : public EndToEndTest {
     StartStandIn();
     StartAndLoad();
     MakeAChange();
-    usualPointer_ = ShownPointer();
+    usualPointer_ = PointerOf(window_->Handle());
     window_->Command(IDM_restarttc);
     WaitFor("the close request", [&] { return Log().ends_with("close\n"); });
   }
@@ -101,7 +103,7 @@ TEST_F(RestartTest, WindowStaysAliveUnderThePointerOfWaitingWhileItCloses) {
   SaveWhileItClosesSlowly();
   const HWND list = window_->Control(IDC_ListView1);
   MoveTo(CenterOf(RectangleOf(list)));
-  WaitFor("the pointer of waiting", [&] { return ShownPointer() != usualPointer_; });
+  WaitFor("the pointer of waiting", [&] { return PointerOf(list) != usualPointer_; });
   InvalidateRect(list, nullptr, TRUE);
   WaitFor("the list to be painted", [&] { return GetUpdateRect(list, nullptr, FALSE) == FALSE; });
   EXPECT_FALSE(window_->Enabled(IDC_txtFind));
@@ -110,7 +112,7 @@ TEST_F(RestartTest, WindowStaysAliveUnderThePointerOfWaitingWhileItCloses) {
   WaitFor("the save to end", [&] { return !Modified(); });
   WaitFor("the find box to be enabled", [&] { return window_->Enabled(IDC_txtFind); });
   MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblStatus))));
-  WaitFor("the usual pointer", [&] { return ShownPointer() == usualPointer_; });
+  WaitFor("the usual pointer", [&] { return PointerOf(list) == usualPointer_; });
   standIn_->WaitForEnd();
   static_cast<void>(WaitForStandIn());
   EXPECT_TRUE(Log().ends_with("close\nstart " + CommandLineAfterRestart() + "\n")) << Log();
