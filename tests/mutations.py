@@ -25,6 +25,12 @@ CONDITION = re.compile(r"\bif \(")
 DECIDES = re.compile(r"\s(?:[=!]=|[<>]=?|&&|\|\||=)\s|!")
 # The default of its type, or the name of a value that may be.
 MAYBE_DEFAULT = re.compile(r'(?:0|false|FALSE|true|1|nullptr|std::nullopt|L?""|[A-Z]\w*(?:::\w+)+)$')
+# Numbers that the system does not look at: the parameters of a message that has none, and the place or
+# the size of a window that keeps it.
+IGNORED = re.compile(
+    r"\b(?:Send|Post)MessageW\([^;]*?,\s+(0,\s+0)\)"
+    r"|\bSetWindowPos\([^;]*?,\s+(0, 0),\s+(?=[^;]*\bSWP_NOMOVE)(?:(0, 0),\s+(?=[^;]*\bSWP_NOSIZE))?"
+    r"|\bSetWindowPos\([^;]*?,\s+(0, 0),\s+(?=SWP_NOSIZE)")
 WITHOUT_CODE = re.compile(
     r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])+\''
     r"|^[ ]*#[^\n]*|\bstatic_assert\(.*?\);|\[\[nodiscard\]\][^;{]*;|\)(?: const)? = 0;", re.M | re.S)
@@ -65,7 +71,10 @@ def mutants_of(file, text):
     for match in RETURN.finditer(code):
         if not MAYBE_DEFAULT.match(text[match.start(1):match.end(1)]):
             found.append(Mutant(file, *match.span(1), "{}"))
-    return sorted(set(found), key=lambda mutant: mutant[1:])
+    ignored = {place for match in IGNORED.finditer(code)
+               for group in range(1, 1 + IGNORED.groups) for place in range(*match.span(group))}
+    return sorted({mutant for mutant in found if mutant.begin not in ignored},
+                  key=lambda mutant: mutant[1:])
 
 
 def line_of(text, place):

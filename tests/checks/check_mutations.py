@@ -37,6 +37,14 @@ CHANGES = {
     "return std::nullopt;": [],
     "return FALSE;": [],
     "#include <vector>  // 1": [],
+    "  PostMessageW(Owner(window), WM_CLOSE, 0, 0);": ["{}"],
+    "  SendMessageW(list, WM_ACTIVATE, 0, 0), Send(0);": [
+        "SendMessageW(list, WM_ACTIVATE, 0, 0), Send(1);"],
+    "  SetWindowPos(window, nullptr, 0, 0, width, 0, SWP_NOMOVE);": [
+        "{}", "SetWindowPos(window, nullptr, 0, 0, width, 1, SWP_NOMOVE);"],
+    "  SetWindowPos(window, HWND_TOP, 0, 0, 0, 0,\n      SWP_NOMOVE | SWP_NOSIZE);": ["{}"],
+    "  SetWindowPos(window, nullptr, 0, Top(window), 0, 0,\n      SWP_NOSIZE);": [
+        "{}", "SetWindowPos(window, nullptr, 1, Top(window), 0, 0,"],
     "static_assert(size ==\n              1);": [],
     "[[nodiscard]] bool Find(int first = 0) const;": [],
     "virtual void Stop() = 0;": [],
