@@ -29,11 +29,8 @@ int LoadProgress::Maximum() const { return maximum_; }
 
 int LoadProgress::Value() const { return value_; }
 
-bool LoadProgress::HandlesEvents() const { return handlesEvents_; }
-
 void LoadProgress::Start() {
   visible_ = true;
-  handlesEvents_ = false;
   maximum_ = FirstMaximum;
   value_ = FirstValue;
   handledAt_ = clock_.SecondsSinceMidnight();
@@ -56,7 +53,6 @@ void LoadProgress::ShowWhenDue() {
   const float elapsed = clock_.SecondsSinceMidnight() - handledAt_;
   // Less than none: midnight has passed.
   if (elapsed < SecondsBetweenEvents && elapsed >= 0) return;
-  handlesEvents_ = true;
   show_(*this);
   clock_.DoEvents();
   handledAt_ = clock_.SecondsSinceMidnight();

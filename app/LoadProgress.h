@@ -18,9 +18,6 @@ class LoadProgress : Pinned {
   [[nodiscard]] int Maximum() const;
   [[nodiscard]] int Value() const;
 
-  /// The load has become so long that events are handled meanwhile.
-  [[nodiscard]] bool HandlesEvents() const;
-
   void Start();
   void Step();
   void Finish();
@@ -31,7 +28,6 @@ class LoadProgress : Pinned {
   Clock& clock_;
   std::function<void(const LoadProgress&)> show_;
   bool visible_ = false;
-  bool handlesEvents_ = false;
   int maximum_ = 0;
   int value_ = 0;
   unsigned steps_ = 0;

@@ -7,6 +7,7 @@
 
 #include "app/Columns.h"
 #include "app/FindRow.h"
+#include "app/ListCell.h"
 #include "platform/win32/Guarded.h"
 #include "resources/resource.h"
 
@@ -43,11 +44,10 @@ frmCommandList::frmCommandList(const Editor& editor, Events events)
 
 void frmCommandList::Create(HWND window) {
   // For screen readers, which call a control by the label before it, a hidden one too.
-  lblListView1_ = CreateControl(window, WC_STATICW, 0, 0, IDC_lblListView1);
-  ListView1_ = CreateControl(window, WC_LISTVIEWW,
+  lblListView1_ = CreateControl(window, WC_STATICW, IDC_lblListView1);
+  ListView1_ = CreateControl(window, WC_LISTVIEWW, IDC_ListView1,
                              WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
-                                 LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
-                             0, IDC_ListView1);
+                                 LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS);
   SetWindowSubclass(ListView1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
@@ -124,7 +124,7 @@ LRESULT frmCommandList::OnNotify(NMHDR& header) {
 LRESULT CALLBACK frmCommandList::ListProcedure(HWND list, UINT message, WPARAM wParam,
                                                LPARAM lParam, UINT_PTR /*id*/, DWORD_PTR self) {
   return Guarded(list, [&] {
-    reinterpret_cast<frmCommandList*>(self)->SyncTip({list, message, wParam, lParam, 0, {}});
+    reinterpret_cast<frmCommandList*>(self)->SyncTip(message, wParam, lParam);
     const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
     // The list has moved the columns after one that changed its width, with what runs over them.
     if (message == WM_NOTIFY && IsWidthChange(*reinterpret_cast<const NMHDR*>(lParam))) {
@@ -136,17 +136,15 @@ LRESULT CALLBACK frmCommandList::ListProcedure(HWND list, UINT message, WPARAM w
 }
 
 void frmCommandList::FillCell(LVITEMW& item) const {
-  const ShownRows& rows = editor_.List().Shown();
-  const auto position = static_cast<std::size_t>(item.iItem);
-  if (position >= rows.Count() || item.iSubItem < 0 || item.iSubItem >= 4) return;
-  const CommandEntry& row = rows.At(position);
+  const auto cell = CellAt(editor_.List().Shown(), item.iItem, item.iSubItem);
+  if (!cell) return;
   if ((item.mask & LVIF_TEXT) != 0) {
-    const std::wstring text(CellText(row, AllColumns[static_cast<std::size_t>(item.iSubItem)]));
+    const std::wstring text(CellText(cell->Row, cell->Of));
     lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
   }
   if ((item.mask & LVIF_IMAGE) != 0) {
     // By an image that the list lacks the text stays in line with the others.
-    item.iImage = ImageOf(row.Icon).value_or(ImageList_GetImageCount(ilsListView_.get()));
+    item.iImage = ImageOf(cell->Row.Icon).value_or(ImageList_GetImageCount(ilsListView_.get()));
   }
 }
 
@@ -154,6 +152,10 @@ void frmCommandList::OnItemChanged(const NMLISTVIEW& change) {
   const bool selected =
       (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
   if (selected && !syncing_) SelectRow(change.iItem);
+}
+
+int frmCommandList::SelectedRow() const {
+  return ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
 }
 
 void frmCommandList::SelectRow(int position) const {
@@ -173,7 +175,7 @@ bool frmCommandList::SelectRowAt(POINT place) {
 POINT frmCommandList::ScrollToMenuPlace() {
   ShowSelectedRow();
   RECT row{};
-  const int selected = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
+  const int selected = SelectedRow();
   if (selected >= 0) ListView_GetItemRect(ListView1_, selected, &row, LVIR_ICON);
   POINT place{row.left, row.bottom};
   ClientToScreen(ListView1_, &place);
@@ -203,43 +205,44 @@ void frmCommandList::Sync() {
 
 void frmCommandList::SyncSelection() {
   const auto position = editor_.List().Shown().PositionOf(editor_.List().SelectedRow());
-  const int shown = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
+  const int shown = SelectedRow();
   const int wanted = position ? static_cast<int>(*position) : -1;
   if (shown == wanted || editor_.Document().Busy()) return;
   syncing_ = true;
-  const int top = ListView_GetTopIndex(ListView1_);
+  const LONG top = TopOfRows();
   constexpr UINT Both = LVIS_SELECTED | LVIS_FOCUSED;
   ListView_SetItemState(ListView1_, -1, 0, LVIS_SELECTED);
   if (wanted >= 0) ListView_SetItemState(ListView1_, wanted, Both, Both);
   // Some lists scroll to the row that gets the focus; the user's view of the list is to stay.
-  RECT row{};
-  const int moved = top - ListView_GetTopIndex(ListView1_);
-  if (moved != 0 && ListView_GetItemRect(ListView1_, 0, &row, LVIR_BOUNDS) != FALSE) {
-    ListView_Scroll(ListView1_, 0, moved * (row.bottom - row.top));
-  }
+  ListView_Scroll(ListView1_, 0, TopOfRows() - top);
   syncing_ = false;
 }
 
-void frmCommandList::ShowSelectedRow() {
-  const int selected = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
-  if (selected >= 0) ListView_EnsureVisible(ListView1_, selected, FALSE);
+LONG frmCommandList::TopOfRows() const {
+  RECT first{};
+  ListView_GetItemRect(ListView1_, 0, &first, LVIR_BOUNDS);
+  return first.top;
 }
+
+void frmCommandList::ShowSelectedRow() { ListView_EnsureVisible(ListView1_, SelectedRow(), FALSE); }
 
 void frmCommandList::SyncHeaderIcons() {
   const HWND header = ListView_GetHeader(ListView1_);
-  for (std::size_t column = 0; column < AllColumns.size(); ++column) {
-    const HeaderIcon icon = editor_.List().IconOf(AllColumns[column]);
-    HDITEMW item{};
-    item.mask = HDI_FORMAT | HDI_IMAGE;
-    SendMessageW(header, HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&item));
-    const int shownFormat = item.fmt;
-    const int shownImage = item.iImage;
+  for (const Column column : AllColumns) {
+    const HeaderIcon icon = editor_.List().IconOf(column);
+    HDITEMW shown{};
+    shown.mask = HDI_FORMAT | HDI_IMAGE;
+    SendMessageW(header, HDM_GETITEMW, IndexOf(column), reinterpret_cast<LPARAM>(&shown));
+    HDITEMW wanted = shown;
     constexpr int IconFormat = HDF_IMAGE | HDF_BITMAP_ON_RIGHT;
-    const bool hasIcon = icon != HeaderIcon::None;
-    item.fmt = hasIcon ? shownFormat | IconFormat : shownFormat & ~IconFormat;
-    item.iImage = hasIcon ? static_cast<int>(icon) - 1 : 0;
-    if (item.fmt != shownFormat || (hasIcon && item.iImage != shownImage)) {
-      SendMessageW(header, HDM_SETITEMW, column, reinterpret_cast<LPARAM>(&item));
+    if (icon == HeaderIcon::None) {
+      wanted.fmt &= ~IconFormat;
+    } else {
+      wanted.fmt |= IconFormat;
+      wanted.iImage = static_cast<int>(icon) - 1;
+    }
+    if (wanted.fmt != shown.fmt || wanted.iImage != shown.iImage) {
+      SendMessageW(header, HDM_SETITEMW, IndexOf(column), reinterpret_cast<LPARAM>(&wanted));
     }
   }
 }

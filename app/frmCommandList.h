@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 #include "app/Editor.h"
 #include "app/frmTip.h"
@@ -70,11 +72,12 @@ class frmCommandList : Pinned {
   static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
                                         UINT_PTR id, DWORD_PTR self);
   void LoadIcons();
+  [[nodiscard]] int IconSize() const;  ///< in pixels, each way
   void ApplyColumnWidths(const std::array<int, 4>& twips);
   [[nodiscard]] LRESULT OnCustomDraw(const NMCUSTOMDRAW& draw);
   void DrawRow(const NMCUSTOMDRAW& draw) const;
   void DrawIcon(HDC context, int position, const RowPlaces& places) const;
-  void SyncTip(const MSG& message);
+  void SyncTip(UINT message, WPARAM wParam, LPARAM lParam);
   [[nodiscard]] bool NotePointer(POINT place);
   void SetTip(int position, int subItem);
   void HideTip();
@@ -83,10 +86,14 @@ class frmCommandList : Pinned {
   [[nodiscard]] RECT TextPlace(const CommandEntry& row, Column column,
                                const RowPlaces& places) const;
   void OnItemChanged(const NMLISTVIEW& change);
+  [[nodiscard]] int SelectedRow() const;  ///< as the list has it; -1 for none
   void SelectRow(int position) const;
   [[nodiscard]] LRESULT FindItem(const NMLVFINDITEMW& search) const;
   void FillCell(LVITEMW& item) const;
   void SyncSelection();
+
+  /// Where the first row begins, be it scrolled away: in pixels, below the upper edge of the list.
+  [[nodiscard]] LONG TopOfRows() const;
   void SyncHeaderIcons();
 
   const Editor& editor_;
@@ -101,7 +108,7 @@ class frmCommandList : Pinned {
   // Of one row: asking the list for those of each cell takes it longer than drawing them.
   RowPlaces drawnPlaces_;
   frmTip tip_;
-  POINT tipCell_{-1, -1};  ///< its column and row; -1 for none
+  std::optional<std::pair<int, int>> tipCell_;  ///< the row and the column under the pointer
   POINT pointerBefore_{};  ///< where it was on the screen when the list came up
   bool hasPointerMoved_ = false;
   Unique<HFONT> font_;

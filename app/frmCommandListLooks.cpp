@@ -1,7 +1,7 @@
 // How the command list looks: its texts, icons, font and colours.
-#include <algorithm>
 #include <utility>
 
+#include "app/Borders.h"
 #include "app/Columns.h"
 #include "app/frmCommandList.h"
 #include "app/ListFont.h"
@@ -19,8 +19,7 @@ LOGFONTW FontOf(const Settings& settings, int dpi) {
   const ListFont chosen = ReadListFont(settings, dpi);
   LOGFONTW font = chosen.HasMessageFace ? MessageFont(dpi, chosen.CharacterSet) : LOGFONTW{};
   if (!chosen.HasMessageFace) {
-    const std::size_t length = std::min<std::size_t>(chosen.FaceName.size(), LF_FACESIZE - 1);
-    std::copy_n(chosen.FaceName.begin(), length, font.lfFaceName);
+    lstrcpynW(font.lfFaceName, chosen.FaceName.c_str(), LF_FACESIZE);
     font.lfCharSet = static_cast<BYTE>(chosen.CharacterSet);
   }
   font.lfHeight = -chosen.HeightPixels;
@@ -53,10 +52,11 @@ void frmCommandList::ApplyDpi(int dpi) {
   ApplyColumnWidths(widths);
 }
 
+int frmCommandList::IconSize() const { return Scaled(16, dpi_); }
+
 void frmCommandList::LoadIcons() {
-  const int size = Scaled(16, dpi_);
-  Unique<HIMAGELIST> rows = LoadImages(RowIcons, size);
-  Unique<HIMAGELIST> headers = LoadImages(HeaderIcons, size);
+  Unique<HIMAGELIST> rows = LoadImages(RowIcons, IconSize());
+  Unique<HIMAGELIST> headers = LoadImages(HeaderIcons, IconSize());
   ListView_SetImageList(ListView1_, rows.get(), LVSIL_SMALL);
   Header_SetImageList(ListView_GetHeader(ListView1_), headers.get());
   ilsListView_ = std::move(rows);
@@ -82,10 +82,9 @@ void frmCommandList::ApplyColumnWidths(const std::array<int, 4>& twips) {
 
 void frmCommandList::ApplyDisplaySettings() {
   const Settings& settings = editor_.Options();
-  const bool border = settings.FixedBorders != 0;
-  const bool raised = settings.FlatUserInterface == 0;
-  SetStyleBits(ListView1_, GWL_STYLE, WS_BORDER, border && !raised);
-  SetStyleBits(ListView1_, GWL_EXSTYLE, WS_EX_CLIENTEDGE, border && raised);
+  const Border border = ListBorder(settings);
+  SetStyleBits(ListView1_, GWL_STYLE, WS_BORDER, border == Border::Line);
+  SetStyleBits(ListView1_, GWL_EXSTYLE, WS_EX_CLIENTEDGE, border == Border::Sunken);
   const DWORD lines = settings.CommandListShowLines != 0 ? LVS_EX_GRIDLINES : 0;
   // A mirrored list may draw its texts mirrored too while it is buffered.
   const DWORD buffer = editor_.Language().RightToLeft() ? 0 : LVS_EX_DOUBLEBUFFER;

@@ -45,7 +45,7 @@ void Write(HDC context, RECT place, std::wstring_view text) {
 LRESULT frmCommandList::OnCustomDraw(const NMCUSTOMDRAW& draw) {
   if (draw.dwDrawStage == CDDS_PREPAINT) {
     drawnColors_ = ColorsOfList(editor_.Options());
-    drawnSelection_ = ListView_GetNextItem(ListView1_, -1, LVNI_SELECTED);
+    drawnSelection_ = SelectedRow();
     drawnFocus_ = GetFocus() == ListView1_;
     drawnPlaces_ = PlacesOf(ListView_GetTopIndex(ListView1_));
     return CDRF_NOTIFYITEMDRAW;
@@ -89,13 +89,11 @@ void frmCommandList::DrawIcon(HDC context, int position, const RowPlaces& places
   FillCell(item);
   const RECT& place = places.Icon;
   const LONG room = places.Cells[IndexOf(Column::Description)].right - place.left;
-  int width = 0;
-  int height = 0;
-  ImageList_GetIconSize(ilsListView_.get(), &width, &height);
+  const int size = IconSize();
   if (room <= 0) return;
   ImageList_DrawEx(ilsListView_.get(), item.iImage, context, place.left,
-                   (place.top + place.bottom - height) / 2, std::min<int>(width, room), height,
-                   CLR_NONE, CLR_NONE, ILD_NORMAL);
+                   (place.top + place.bottom - size) / 2, std::min<int>(size, room), size, CLR_NONE,
+                   CLR_NONE, ILD_NORMAL);
 }
 
 frmCommandList::RowPlaces frmCommandList::RowPlaces::MovedTo(LONG top) const {

@@ -1,6 +1,9 @@
 // The tips over the cells of the command list.
+#include <utility>
+
 #include "app/CellTip.h"
 #include "app/frmCommandList.h"
+#include "app/ListCell.h"
 
 namespace tessera {
 namespace {
@@ -14,18 +17,16 @@ bool MovesRows(UINT message) {
 
 }  // namespace
 
-void frmCommandList::SyncTip(const MSG& message) {
-  if (MovesRows(message.message)) HideTip();
-  if (!IsPointer(message.message)) return;
+void frmCommandList::SyncTip(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (MovesRows(message)) HideTip();
+  if (!IsPointer(message)) return;
   LVHITTESTINFO hit{};
-  hit.pt = {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+  hit.pt = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   if (!NotePointer(hit.pt)) return;
   ListView_SubItemHitTest(ListView1_, &hit);
-  if (tipCell_.x != hit.iSubItem || tipCell_.y != hit.iItem) {
-    tipCell_ = {hit.iSubItem, hit.iItem};
-    SetTip(hit.iItem, hit.iSubItem);
-  }
-  tip_.Follow(message);
+  const std::pair cell(hit.iItem, hit.iSubItem);
+  if (std::exchange(tipCell_, cell) != cell) SetTip(hit.iItem, hit.iSubItem);
+  tip_.Follow(ListView1_, message, wParam, lParam);
 }
 
 /// A list that comes up beneath the pointer is told of it, too; a tip would cover what the user has
@@ -38,27 +39,23 @@ bool frmCommandList::NotePointer(POINT place) {
 }
 
 void frmCommandList::SetTip(int position, int subItem) {
-  const ShownRows& rows = editor_.List().Shown();
-  const auto shown = static_cast<std::size_t>(position);
-  if (position < 0 || shown >= rows.Count() || subItem < 0) {
+  const auto cell = CellAt(editor_.List().Shown(), position, subItem);
+  if (!cell) {
     tip_.Set(ListView1_, {}, {}, font_.get());
     return;
   }
-  const CommandEntry& row = rows.At(shown);
+  const CommandEntry& row = cell->Row;
   const RowPlaces places = PlacesOf(position);
-  const Column column = RunsOverAllColumns(row, places.Order)
-                            ? Column::Description
-                            : AllColumns[static_cast<std::size_t>(subItem)];
+  const Column column = RunsOverAllColumns(row, places.Order) ? Column::Description : cell->Of;
   const RECT place = TextPlace(row, column, places);
   const std::wstring text(CellText(row, column));
-  const LRESULT length =
-      SendMessageW(ListView1_, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str()));
   RECT inside{};
   GetClientRect(ListView1_, &inside);
-  const bool isCut = IsCut({.TextBegin = place.left,
-                            .TextLength = static_cast<int>(length),
-                            .CellEnd = place.right,
-                            .ListEnd = inside.right});
+  const bool isCut =
+      IsCut({.TextBegin = place.left,
+             .TextLength = TextSize(ListView1_, font_.get(), text, DT_NOPREFIX).Width,
+             .CellEnd = place.right,
+             .ListEnd = inside.right});
   const tessera::Document& document = editor_.Document();
   const std::size_t inTable = document.Rows().PositionOf(row.Key).value();
   tip_.Set(
@@ -68,7 +65,7 @@ void frmCommandList::SetTip(int position, int subItem) {
 }
 
 void frmCommandList::HideTip() {
-  tipCell_ = {-1, -1};
+  tipCell_.reset();
   tip_.Set(ListView1_, {}, {}, font_.get());
 }
 

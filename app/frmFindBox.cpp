@@ -12,9 +12,9 @@ frmFindBox::frmFindBox(const Editor& editor, Events events)
 
 void frmFindBox::Create(HWND window) {
   // Screen readers call a control by the label before it, a hidden one too.
-  lblFind_ = CreateControl(window, WC_STATICW, 0, 0, IDC_lblFind);
+  lblFind_ = CreateControl(window, WC_STATICW, IDC_lblFind);
   txtFind_ =
-      CreateControl(window, WC_EDITW, WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE, IDC_txtFind);
+      CreateControl(window, WC_EDITW, IDC_txtFind, WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE);
 }
 
 bool frmFindBox::HasFocus() const { return txtFind_ != nullptr && GetFocus() == txtFind_; }
@@ -28,13 +28,11 @@ void frmFindBox::ApplyLanguage() {
   SendMessageW(txtFind_, EM_SETCUEBANNER, WithFocusToo, reinterpret_cast<LPARAM>(cue.c_str()));
 }
 
-void frmFindBox::ApplyFont(HFONT font) {
-  font_ = font;
-  GiveFont(txtFind_, font);
-}
+void frmFindBox::ApplyFont(HFONT font) { GiveFont(txtFind_, font); }
 
 Size frmFindBox::CueSize() const {
-  return TextSize(txtFind_, font_, editor_.Language().GetLangText(TextId::FindCue));
+  return TextSize(txtFind_, GetWindowFont(txtFind_),
+                  editor_.Language().GetLangText(TextId::FindCue));
 }
 
 void frmFindBox::PlaceAt(const Area& area) {

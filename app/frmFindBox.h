@@ -62,7 +62,6 @@ class frmFindBox : Pinned {
   Events events_;
   HWND lblFind_ = nullptr;
   HWND txtFind_ = nullptr;
-  HFONT font_ = nullptr;
   bool fits_ = false;
   bool hadFocus_ = false;  ///< when it was disabled
 };

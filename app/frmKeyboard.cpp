@@ -45,11 +45,9 @@ bool frmKeyboard::FilterMessage(MSG& message) {
 
 bool frmKeyboard::Filter(MSG& message) {
   const HWND window = views_.Window();
-  if (window == nullptr || (message.hwnd != window && IsChild(window, message.hwnd) == FALSE)) {
-    return false;
-  }
+  if (window == nullptr || GetAncestor(message.hwnd, GA_ROOT) != window) return false;
   // Those that come to a disabled box do nothing there.
-  if (editor_.Document().Busy()) views_.FindBox().SyncEnabled();
+  views_.FindBox().SyncEnabled();
   if (IsKeyMessage(message.message) && FilterKey(message)) return true;
   // Else letters with Alt would reach the panel's boxes.
   const bool movesFocus = IsPress(message.message) && message.wParam == VK_TAB;
@@ -81,18 +79,18 @@ bool frmKeyboard::FilterKey(const MSG& message) {
   switch (MeaningOf(press, pressed)) {
     case KeyMeaning::ForControl:
       return false;
-    case KeyMeaning::OpensKeysList:
-      work_.ToggleKeysList();
-      return true;
-    case KeyMeaning::OpensHelp:
-      commands_.Run(IDM_mnuHelpHelpTopics, nullptr);
-      return true;
     case KeyMeaning::OpensButtonMenu:
       return popupMenus_.ShowUnderFocusedButton();
     case KeyMeaning::ForPanel:
+      return pressed ? KeyDown(press) : KeyUp(press.Event);
+    case KeyMeaning::OpensKeysList:
+      work_.ToggleKeysList();
+      break;
+    case KeyMeaning::OpensHelp:
+      commands_.Run(IDM_mnuHelpHelpTopics, nullptr);
       break;
   }
-  return pressed ? KeyDown(press) : KeyUp(press.Event);
+  return true;
 }
 
 bool frmKeyboard::FilterFindKey(FindBoxKey meaning) {

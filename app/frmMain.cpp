@@ -7,12 +7,11 @@
 #include "platform/win32/Guarded.h"
 #include "platform/win32/Icons.h"
 #include "platform/win32/InputMethod.h"
+#include "platform/win32/TellFailure.h"
 #include "resources/icons.h"
 
 namespace tessera {
 namespace {
-
-constexpr wchar_t WindowClass[] = L"frmMain";
 
 /// Posted at an activation, so that the window stands on the screen before files are loaded.
 constexpr UINT ActivationMessage = WM_APP;
@@ -40,7 +39,9 @@ frmMain::~frmMain() { windowsSystem_.SetMessageFilter(nullptr); }
 
 bool frmMain::Form_Load(std::wstring fileToOpen) {
   editor_.Load(std::move(fileToOpen));
-  if (!Create()) return false;
+  Create();
+  if (window_ == nullptr) return false;
+  AcceptDrops();
   windowsSystem_.SetMainWindow(window_, [this] { work_.HideKeysList(); });
   views_.Create(window_, static_cast<int>(GetDpiForWindow(window_)));
   TurnOffInputMethod(window_);
@@ -53,19 +54,20 @@ bool frmMain::Form_Load(std::wstring fileToOpen) {
   return true;
 }
 
-bool frmMain::Create() {
-  RegisterWindowClass(WindowClass, WindowProcedure);
+void frmMain::Create() {
+  RegisterWindowClass(MainWindowClass, WindowProcedure);
   const DWORD direction = editor_.Language().RightToLeft() ? WS_EX_LAYOUTRTL : 0;
-  CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES | direction, WindowClass,
+  CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES | direction, MainWindowClass,
                   editor_.Document().Caption().c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                  CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr),
-                  this);
-  if (window_ == nullptr) return false;
-  // A program of lower rights, as the desktop is for an elevated window, may drop files too.
+                  CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
+                  GetModuleHandleW(nullptr), this);
+}
+
+// A program of lower rights, as the desktop is for an elevated window, may drop files too.
+void frmMain::AcceptDrops() {
   for (const UINT message : {UINT{WM_DROPFILES}, UINT{WM_COPYDATA}, CopyGlobalData}) {
     ChangeWindowMessageFilterEx(window_, message, MSGFLT_ALLOW, nullptr);
   }
-  return true;
 }
 
 void frmMain::ApplyDpi(int dpi) {
@@ -114,6 +116,12 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOVE:
       views_.MoveKeysList();
       break;
+    case WM_CONTEXTMENU:
+      if (!popupMenus_.IsForList(reinterpret_cast<HWND>(wParam), lParam)) {
+        return HandleDefault(message, wParam, lParam);
+      }
+      popupMenus_.ShowOverList(lParam);
+      break;
     case WM_INITMENUPOPUP:
       editor_.RefreshRestartItems();
       views_.SyncMenus();
@@ -128,6 +136,22 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       // None had it yet, or the find box, which may have been hidden meanwhile.
       SetFocus(IsWindowVisible(lastFocus_) != FALSE ? lastFocus_ : views_.List().Control());
       break;
+    case WM_GETMINMAXINFO: {
+      const Size smallest = views_.SmallestSize();
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest.Width, smallest.Height};
+      break;
+    }
+    case WM_DPICHANGED:
+      OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+      break;
+    default:
+      return HandleEnd(message, wParam, lParam);
+  }
+  return 0;
+}
+
+LRESULT frmMain::HandleEnd(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
     case WM_CLOSE:
       if (ending_.MayClose()) DestroyWindow(window_);
       break;
@@ -136,8 +160,15 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ENDSESSION:
       ending_.OnSessionEnd(wParam != FALSE);
       break;
+    case FailureMessage:
+      ending_.OnFailure();
+      break;
     case WM_DESTROY:
       Form_Unload();
+      break;
+    case WM_NCDESTROY:
+      DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
+      views_.Forget();
       break;
     default:
       return HandleDefault(message, wParam, lParam);
@@ -145,24 +176,13 @@ LRESULT frmMain::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   return 0;
 }
 
+// These the system handles too.
 LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case FailureMessage:
-      ending_.OnFailure();
-      return 0;
     case WM_SETTINGCHANGE:
       // The message font, by which texts become larger.
       if (wParam == SPI_SETNONCLIENTMETRICS) views_.ApplyFonts();
       break;
-    case WM_NCDESTROY:
-      DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
-      views_.Forget();
-      return 0;
-    case WM_GETMINMAXINFO: {
-      const Size smallest = views_.SmallestSize();
-      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest.Width, smallest.Height};
-      return 0;
-    }
     case WM_SETCURSOR:
       if (editor_.Document().Busy() && LOWORD(lParam) == HTCLIENT) {
         SetCursor(LoadCursorW(nullptr, IDC_WAIT));
@@ -174,12 +194,6 @@ LRESULT frmMain::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
       // would have it painted once more.
       views_.List().Show();
       break;
-    case WM_CONTEXTMENU:
-      if (popupMenus_.ShowOverList(reinterpret_cast<HWND>(wParam), lParam)) return 0;
-      break;
-    case WM_DPICHANGED:
-      OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
-      return 0;
     case WM_SYSCOLORCHANGE:
       views_.Forward(message, wParam, lParam);
       views_.ApplyDisplaySettings();
@@ -202,11 +216,11 @@ void frmMain::OnControl(WORD id, WORD notification, HWND control) {
 }
 
 LRESULT frmMain::OnNotify(NMHDR& header) {
+  if (header.hwndFrom == views_.List().Control()) return views_.List().OnNotify(header);
   if (header.code == TBN_DROPDOWN) {
     popupMenus_.ShowUnderButton(reinterpret_cast<const NMTOOLBARW&>(header));
-    return TBDDRET_DEFAULT;
   }
-  return header.hwndFrom == views_.List().Control() ? views_.List().OnNotify(header) : 0;
+  return 0;  // of a drop-down, that it has been dealt with
 }
 
 void frmMain::OnActivate(WPARAM wParam) {

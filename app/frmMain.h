@@ -37,6 +37,7 @@ class frmMain : Pinned {
  private:
   static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT HandleEnd(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT HandleDefault(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnNotify(NMHDR& header);
   void OnControl(WORD id, WORD notification, HWND control);
@@ -44,7 +45,8 @@ class frmMain : Pinned {
   void OnDpiChanged(int dpi, const RECT& suggested);
   void Form_Activate();
   void Form_Unload();
-  bool Create();
+  void Create();
+  void AcceptDrops();
   void ApplyDpi(int dpi);
 
   WindowsSystem& windowsSystem_;

@@ -9,7 +9,7 @@
 namespace tessera {
 namespace {
 
-void Append(HMENU menu, int id, const std::wstring& caption, bool enabled) {
+void Append(HMENU menu, int id, const std::wstring& caption, bool enabled = true) {
   AppendMenuW(menu, MF_STRING | (enabled ? MF_ENABLED : MF_GRAYED), static_cast<UINT_PTR>(id),
               caption.c_str());
 }
@@ -67,7 +67,7 @@ void frmMenus::Build(HWND window) {
         menu = AppendSubmenu(bar, caption);
         break;
       case MenuEntryKind::Command:
-        Append(menu, entry.Command, caption, true);
+        Append(menu, entry.Command, caption);
         break;
       case MenuEntryKind::RecentFiles:
         mnuRecent_ = AppendSubmenu(menu, caption);

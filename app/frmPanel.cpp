@@ -36,28 +36,28 @@ frmPanel::frmPanel(const Editor& editor, Events events)
 void frmPanel::Create(HWND window) {
   translatorsBrush_.reset(CreateSolidBrush(TranslatorsColor));
   RegisterWindowClass(FrameClass, FrameProcedure);
-  Frame1_ = CreateControl(window, FrameClass, WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
-                          IDC_Frame1);
+  Frame1_ = CreateControl(window, FrameClass, IDC_Frame1, WS_VISIBLE | WS_CLIPCHILDREN,
+                          WS_EX_CONTROLPARENT);
   SetWindowLongPtrW(Frame1_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   for (std::size_t box = 0; box < chkCtrlAlt_.size(); ++box) {
-    // Arrow keys stay within a group.
-    const DWORD group = box == 0 ? WS_GROUP : 0;
-    chkCtrlAlt_[box] = CreateControl(
-        Frame1_, WC_BUTTONW, InputStyle | WS_TABSTOP | BS_AUTOCHECKBOX | group, 0, BoxIds[box]);
+    chkCtrlAlt_[box] =
+        CreateControl(Frame1_, WC_BUTTONW, BoxIds[box], InputStyle | WS_TABSTOP | BS_AUTOCHECKBOX);
   }
+  // Arrow keys stay within a group.
+  SetStyleBits(chkCtrlAlt_.front(), GWL_STYLE, WS_GROUP, true);
   // Screen readers call a control without a text of its own by the label before it.
-  lblHotkey_ = CreateControl(Frame1_, WC_STATICW, WS_VISIBLE | WS_GROUP, 0, IDC_lblHotkey);
-  Combo1_ = CreateControl(Frame1_, WC_COMBOBOXW,
-                          InputStyle | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, 0, IDC_Combo1);
+  lblHotkey_ = CreateControl(Frame1_, WC_STATICW, IDC_lblHotkey, WS_VISIBLE | WS_GROUP);
+  Combo1_ = CreateControl(Frame1_, WC_COMBOBOXW, IDC_Combo1,
+                          InputStyle | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST);
   // Each string would have the scroll bar set up anew.
-  SendMessageW(Combo1_, WM_SETREDRAW, FALSE, 0);
+  SetWindowRedraw(Combo1_, FALSE);
   for (const std::wstring_view key : KeyVocabulary()) {
     SendMessageW(Combo1_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
   }
-  SendMessageW(Combo1_, WM_SETREDRAW, TRUE, 0);
-  SendMessageW(Combo1_, CB_SETMINVISIBLE, RowsOfOpenChooser, 0);
+  SetWindowRedraw(Combo1_, TRUE);
+  ComboBox_SetMinVisible(Combo1_, RowsOfOpenChooser);
   cmdAllList_ =
-      CreateControl(Frame1_, WC_BUTTONW, InputStyle | BS_PUSHBUTTON | BS_ICON, 0, IDC_cmdAllList);
+      CreateControl(Frame1_, WC_BUTTONW, IDC_cmdAllList, InputStyle | BS_PUSHBUTTON | BS_ICON);
   Toolbar2_.Create(Frame1_, IDC_Toolbar2);
   statusRow_.Create(Frame1_);
 }
@@ -162,7 +162,7 @@ void frmPanel::Sync() {
 /// A control that is about to be disabled must not keep the focus, where no key would reach it.
 void frmPanel::KeepFocusEnabled(bool inputsEnabled) const {
   const HWND focus = GetFocus();
-  if (focus == nullptr || IsChild(Frame1_, focus) == FALSE) return;
+  if (IsChild(Frame1_, focus) == FALSE) return;
   const int command = statusRow_.CommandOf(focus);
   const bool staysEnabled = command != 0 ? CommandEnabled(editor_, command) : inputsEnabled;
   if (!staysEnabled) events_.GiveFocusAway();
@@ -181,7 +181,7 @@ LRESULT CALLBACK frmPanel::FrameProcedure(HWND frame, UINT message, WPARAM wPara
 LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
-      if (OnCommand(LOWORD(wParam), HIWORD(wParam))) return 0;
+      if (OnCommand(LOWORD(wParam), HIWORD(wParam))) break;
       if (const int command = statusRow_.CommandOf(reinterpret_cast<HWND>(lParam));
           command != 0 && HIWORD(wParam) == BN_CLICKED) {
         return SendMessageW(GetParent(Frame1_), WM_COMMAND, static_cast<WPARAM>(command), 0);
@@ -191,18 +191,13 @@ LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return SendMessageW(GetParent(Frame1_), message, wParam, lParam);
     case WM_TIMER:
       OnTimer();
-      return 0;
+      break;
     case WM_SIZE:
       statusRow_.LayOut(controlsHeight_);
-      return 0;
+      break;
     case WM_MOUSEMOVE:
-      statusRow_.FollowPointer({.hwnd = Frame1_,
-                                .message = message,
-                                .wParam = wParam,
-                                .lParam = lParam,
-                                .time = 0,
-                                .pt = {}});
-      return 0;
+      statusRow_.FollowPointer(wParam, lParam);
+      break;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
       if (editor_.Options().ShowControlsBackColor != 0 &&
@@ -210,11 +205,11 @@ LRESULT frmPanel::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         SetBkColor(reinterpret_cast<HDC>(wParam), TranslatorsColor);
         return reinterpret_cast<LRESULT>(translatorsBrush_.get());
       }
-      break;
+      [[fallthrough]];
     default:
-      break;
+      return DefWindowProcW(Frame1_, message, wParam, lParam);
   }
-  return DefWindowProcW(Frame1_, message, wParam, lParam);
+  return 0;
 }
 
 bool frmPanel::OnCommand(int id, int notification) {

@@ -7,6 +7,9 @@
 namespace tessera {
 namespace {
 
+/// In WM_CONTEXTMENU.
+constexpr LPARAM ByKeyboard = -1;
+
 /// Shows a menu under the button that a notification names; its commands go to `owner`.
 void ShowMenuUnderButton(const NMTOOLBARW& button, HMENU menu, HWND owner, bool rightToLeft) {
   const HWND toolbar = button.hdr.hwndFrom;
@@ -44,17 +47,21 @@ bool frmPopupMenus::ShowUnderFocusedButton() {
 }
 
 // By keyboard it is the list's wherever the focus is: Shift, of Shift+F10, goes to the chooser.
-bool frmPopupMenus::ShowOverList(HWND control, LPARAM place) {
-  const bool byKeyboard = place == -1;
-  if (!views_.AcceptsInput() || (!byKeyboard && control != views_.List().Control())) return false;
+bool frmPopupMenus::IsForList(HWND control, LPARAM place) const {
+  return place == ByKeyboard || control == views_.List().Control();
+}
+
+void frmPopupMenus::ShowOverList(LPARAM place) {
+  if (!views_.AcceptsInput()) return;
+  const bool byKeyboard = place == ByKeyboard;
   POINT corner{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
   // Some systems send it for a key that the window has taken; with Shift it is that of Shift+F10.
   const bool isAlt = editor_.Panel().ContextMenuKeyIsAlt() && !IsHeld(VK_SHIFT);
-  if (byKeyboard && isAlt) return true;
+  if (byKeyboard && isAlt) return;
   if (byKeyboard) {
     corner = views_.List().ScrollToMenuPlace();
   } else if (!views_.List().SelectRowAt(corner)) {
-    return true;
+    return;
   }
   const Unique<HMENU> menu = ContextMenu(editor_);
   const UINT direction = editor_.Language().RightToLeft() ? TPM_LAYOUTRTL : 0;
@@ -65,7 +72,6 @@ bool frmPopupMenus::ShowOverList(HWND control, LPARAM place) {
   if (withShift && !IsHeld(VK_SHIFT)) {
     work_.React(editor_.Work(&HotkeyPanel::KeyUp, KeyEvent{.Code = KeyCode::Shift}));
   }
-  return true;
 }
 
 }  // namespace tessera

@@ -20,8 +20,11 @@ class frmPopupMenus : Pinned {
   /// The same for the button that has the keyboard's focus; false when it has no menu.
   bool ShowUnderFocusedButton();
 
-  /// Answers WM_CONTEXTMENU; false when the message is not for the list.
-  bool ShowOverList(HWND control, LPARAM place);
+  /// Of a WM_CONTEXTMENU for that control, with that place.
+  [[nodiscard]] bool IsForList(HWND control, LPARAM place) const;
+
+  /// Answers one that is.
+  void ShowOverList(LPARAM place);
 
  private:
   Editor& editor_;

@@ -6,7 +6,7 @@
 namespace tessera {
 
 void frmProgressBar::Create(HWND window) {
-  ProgressBar1_ = CreateControl(window, PROGRESS_CLASSW, 0, 0, IDC_ProgressBar1);
+  ProgressBar1_ = CreateControl(window, PROGRESS_CLASSW, IDC_ProgressBar1);
   SetWindowPos(ProgressBar1_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 

@@ -13,13 +13,12 @@ namespace tessera {
 void frmStatusRow::Create(HWND frame) {
   frame_ = frame;
   // A group of their own: arrow keys do not lead from the button to the chooser.
-  lblStatus_ = CreateControl(frame, WC_STATICW,
-                             WS_VISIBLE | WS_GROUP | SS_NOPREFIX | SS_ENDELLIPSIS | SS_CENTERIMAGE,
-                             0, IDC_lblStatus);
+  lblStatus_ = CreateControl(frame, WC_STATICW, IDC_lblStatus,
+                             WS_VISIBLE | WS_GROUP | SS_NOPREFIX | SS_ENDELLIPSIS | SS_CENTERIMAGE);
   // As long as there is nothing to show or to undo.
   constexpr DWORD ButtonStyle = WS_VISIBLE | WS_DISABLED | WS_TABSTOP | BS_PUSHBUTTON;
-  cmdShow_ = CreateControl(frame, WC_BUTTONW, ButtonStyle, 0, IDC_cmdShow);
-  cmdUndo_ = CreateControl(frame, WC_BUTTONW, ButtonStyle, 0, IDC_cmdUndo);
+  cmdShow_ = CreateControl(frame, WC_BUTTONW, IDC_cmdShow, ButtonStyle);
+  cmdUndo_ = CreateControl(frame, WC_BUTTONW, IDC_cmdUndo, ButtonStyle);
 }
 
 int frmStatusRow::CommandOf(HWND button) const {
@@ -39,14 +38,12 @@ int frmStatusRow::ApplyFont(HFONT font, int dpi) {
   GiveFont(lblStatus_, font);
   GiveFont(cmdShow_, font);
   GiveFont(cmdUndo_, font);
-  return RowIn(0, 0).Height;
+  return Row().Height;
 }
 
 void frmStatusRow::LayOut(int top) {
   top_ = top;
-  RECT inside{};
-  GetClientRect(frame_, &inside);
-  const StatusRow row = RowIn(inside.right, top);
+  const StatusRow row = Row();
   Place(lblStatus_, row.Line);
   Place(cmdShow_, row.Buttons[0]);
   Place(cmdUndo_, row.Buttons[1]);
@@ -54,10 +51,13 @@ void frmStatusRow::LayOut(int top) {
   tipText_.clear();
 }
 
-StatusRow frmStatusRow::RowIn(int width, int top) const {
+StatusRow frmStatusRow::Row() const {
+  RECT inside{};
+  GetClientRect(frame_, &inside);
   const Size show = TextSize(cmdShow_, font_, TextOf(cmdShow_));
   const Size undo = TextSize(cmdUndo_, font_, TextOf(cmdUndo_));
-  return LayOutStatusRow({.TextHeight = show.Height, .Captions = {show, undo}}, width, top, dpi_);
+  return LayOutStatusRow({.TextHeight = show.Height, .Captions = {show, undo}}, inside.right, top_,
+                         dpi_);
 }
 
 void frmStatusRow::Sync(const Editor& editor) {
@@ -80,21 +80,13 @@ void frmStatusRow::Sync(const Editor& editor) {
 void frmStatusRow::SetUndoTip(const std::wstring& text) {
   if (text == undoTipText_) return;
   undoTipText_ = text;
-  TTTOOLINFOW tool{};
-  tool.cbSize = sizeof tool;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS | (IsRightToLeft(frame_) ? TTF_RTLREADING : 0);
-  tool.hwnd = frame_;
-  tool.uId = reinterpret_cast<UINT_PTR>(cmdUndo_);
+  TTTOOLINFOW tool = TipTool(frame_, reinterpret_cast<UINT_PTR>(cmdUndo_));
+  tool.uFlags |= TTF_IDISHWND | TTF_SUBCLASS;
   tool.lpszText = undoTipText_.data();
-  const auto parameter = reinterpret_cast<LPARAM>(&tool);
-  if (undoTip_ == nullptr) {
-    undoTip_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0,
-                               0, 0, 0, GetAncestor(frame_, GA_ROOT), nullptr,
-                               GetModuleHandleW(nullptr), nullptr);
-    SendMessageW(undoTip_, TTM_ADDTOOLW, 0, parameter);
-  } else {
-    SendMessageW(undoTip_, TTM_SETTOOLINFOW, 0, parameter);
-  }
+  const bool isNew = undoTip_ == nullptr;
+  if (isNew) undoTip_ = CreateTip(frame_);
+  SendMessageW(undoTip_, isNew ? TTM_ADDTOOLW : TTM_SETTOOLINFOW, 0,
+               reinterpret_cast<LPARAM>(&tool));
 }
 
 void frmStatusRow::Tell(bool timerRuns) {
@@ -108,18 +100,18 @@ bool frmStatusRow::LineIsCut(const std::wstring& text) const {
   return TextSize(lblStatus_, font_, text, DT_NOPREFIX).Width > WindowArea(lblStatus_).Width;
 }
 
-void frmStatusRow::FollowPointer(const MSG& message) {
-  const POINT pointer{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+void frmStatusRow::FollowPointer(WPARAM wParam, LPARAM lParam) {
+  const POINT pointer{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   RECT place{};
   GetWindowRect(lblStatus_, &place);
   MapWindowPoints(nullptr, frame_, reinterpret_cast<POINT*>(&place), 2);
   std::wstring text = PtInRect(&place, pointer) != FALSE ? TextOf(lblStatus_) : L"";
-  if (!text.empty() && !LineIsCut(text)) text.clear();
+  if (!LineIsCut(text)) text.clear();
   if (text != tipText_) {
     tip_.Set(frame_, place, text, font_);
     tipText_ = text;
   }
-  tip_.Follow(message);
+  tip_.Follow(frame_, WM_MOUSEMOVE, wParam, lParam);
 }
 
 void frmStatusRow::Forget() {

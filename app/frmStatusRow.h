@@ -34,14 +34,14 @@ class frmStatusRow : Pinned {
   /// Tells screen readers what the line says, unless it is too early.
   void Tell(bool timerRuns);
 
-  /// Takes a mouse message of the frame: over the line, a tip shows what does not fit.
-  void FollowPointer(const MSG& message);
+  /// Takes what WM_MOUSEMOVE brings the frame: over the line, a tip shows what does not fit.
+  void FollowPointer(WPARAM wParam, LPARAM lParam);
 
   /// To be called once its windows are destroyed: their numbers may become those of others.
   void Forget();
 
  private:
-  [[nodiscard]] StatusRow RowIn(int width, int top) const;
+  [[nodiscard]] StatusRow Row() const;
   [[nodiscard]] bool LineIsCut(const std::wstring& text) const;
   void SetUndoTip(const std::wstring& text);
 

@@ -9,26 +9,29 @@ constexpr UINT_PTR Tool = 1;
 /// Some texts take a while to read.
 constexpr WORD ShownMilliseconds = 30000;
 
-TTTOOLINFOW ToolOf(HWND window) {
-  TTTOOLINFOW tool{};
-  tool.cbSize = sizeof tool;
-  tool.hwnd = window;
-  tool.uId = Tool;
-  return tool;
-}
-
 void Tell(HWND tip, UINT message, const void* parameter) {
   SendMessageW(tip, message, 0, reinterpret_cast<LPARAM>(parameter));
 }
 
 }  // namespace
 
+HWND CreateTip(HWND window) {
+  return CreatePopup(GetAncestor(window, GA_ROOT), TOOLTIPS_CLASSW, TTS_NOPREFIX, WS_EX_TOPMOST);
+}
+
+TTTOOLINFOW TipTool(HWND window, UINT_PTR id) {
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = IsRightToLeft(window) ? TTF_RTLREADING : 0;
+  tool.hwnd = window;
+  tool.uId = id;
+  return tool;
+}
+
 void frmTip::Create(HWND window) {
-  tip_ =
-      CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0, 0,
-                      GetAncestor(window, GA_ROOT), nullptr, GetModuleHandleW(nullptr), nullptr);
+  tip_ = CreateTip(window);
   SendMessageW(tip_, TTM_SETDELAYTIME, TTDT_AUTOPOP, ShownMilliseconds);
-  const TTTOOLINFOW tool = ToolOf(window);
+  const TTTOOLINFOW tool = TipTool(window, Tool);
   Tell(tip_, TTM_ADDTOOLW, &tool);
 }
 
@@ -40,15 +43,15 @@ void frmTip::Set(HWND window, const RECT& part, const std::wstring& text, HFONT 
   // With a greatest width it takes line breaks.
   SendMessageW(tip_, TTM_SETMAXTIPWIDTH, 0, WorkArea(window).Width / 2);
   std::wstring shown = text;
-  TTTOOLINFOW tool = ToolOf(window);
-  tool.uFlags = IsRightToLeft(window) ? TTF_RTLREADING : 0;
+  TTTOOLINFOW tool = TipTool(window, Tool);
   tool.rect = part;
   tool.lpszText = shown.data();
   Tell(tip_, TTM_SETTOOLINFOW, &tool);
 }
 
-void frmTip::Follow(const MSG& message) const {
-  if (tip_ != nullptr) Tell(tip_, TTM_RELAYEVENT, &message);
+void frmTip::Follow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const {
+  const MSG relayed{window, message, wParam, lParam, {}, {}};
+  if (tip_ != nullptr) Tell(tip_, TTM_RELAYEVENT, &relayed);
 }
 
 }  // namespace tessera

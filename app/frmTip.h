@@ -9,6 +9,12 @@
 
 namespace tessera {
 
+/// A tip control for parts of a window, as yet without any. It goes with the window's top one.
+[[nodiscard]] HWND CreateTip(HWND window);
+
+/// How such a control knows a part of the window: by that number, and read as the window is.
+[[nodiscard]] TTTOOLINFOW TipTool(HWND window, UINT_PTR id);
+
 class frmTip : Pinned {
  public:
   /// From now on the tip over that part of the window; an empty text for none. It is made when
@@ -16,7 +22,7 @@ class frmTip : Pinned {
   void Set(HWND window, const RECT& part, const std::wstring& text, HFONT font);
 
   /// Takes a mouse message of the window: after a rest over the part the tip shows.
-  void Follow(const MSG& message) const;
+  void Follow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const;
 
   /// To be called once its windows are destroyed: their numbers may become those of others.
   void Forget() { tip_ = nullptr; }

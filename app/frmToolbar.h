@@ -36,6 +36,8 @@ class frmToolbar {
   void Forget() { toolbar_ = nullptr; }
 
  private:
+  LRESULT Send(UINT message, WPARAM first = 0, LPARAM second = 0) const;
+
   std::span<const ToolbarButton> buttons_;
   HWND toolbar_ = nullptr;
   Unique<HIMAGELIST> images_;

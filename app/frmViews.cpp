@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "app/Borders.h"
 #include "localisation/Mnemonic.h"
 #include "resources/resource.h"
 
@@ -69,12 +70,11 @@ int frmViews::FocusedButton() const {
 
 Size frmViews::SmallestSize() const {
   const Size inside = SmallestInside(panel_.WholeSize(), dpi_);
-  RECT frame{0, 0, inside.Width, inside.Height};
-  AdjustWindowRectExForDpi(&frame, WS_OVERLAPPEDWINDOW, TRUE, 0, static_cast<UINT>(dpi_));
+  const Size frame = FrameSize(window_, dpi_, true);
   // Texts of any length must not make the window larger than its screen.
   const Area screen = WorkArea(window_);
-  return {std::min<int>(frame.right - frame.left, screen.Width),
-          std::min<int>(frame.bottom - frame.top, screen.Height)};
+  return {std::min(inside.Width + frame.Width, screen.Width),
+          std::min(inside.Height + frame.Height, screen.Height)};
 }
 
 void frmViews::ApplyLanguage() {
@@ -108,13 +108,10 @@ void frmViews::ApplyFonts() {
 }
 
 void frmViews::ApplyDisplaySettings() {
-  const Settings& settings = editor_.Options();
-  const bool border = settings.FixedBorders != 0;
-  const bool raised = settings.FlatUserInterface == 0;
+  const Border border = ToolbarBorder(editor_.Options());
   list_.ApplyDisplaySettings();
-  // The two settings reach the toolbar crosswise, deliberately.
-  SetStyleBits(Toolbar1_.Control(), GWL_STYLE, WS_BORDER, raised && !border);
-  SetStyleBits(Toolbar1_.Control(), GWL_EXSTYLE, WS_EX_STATICEDGE, raised && border);
+  SetStyleBits(Toolbar1_.Control(), GWL_STYLE, WS_BORDER, border == Border::Line);
+  SetStyleBits(Toolbar1_.Control(), GWL_EXSTYLE, WS_EX_STATICEDGE, border == Border::Sunken);
   LayOut();
 }
 
@@ -158,11 +155,7 @@ void frmViews::Forward(UINT message, WPARAM wParam, LPARAM lParam) const {
   }
 }
 
-void frmViews::Show(const LoadProgress& progress) {
-  // A load that handles no events is over before anything is typed.
-  if (progress.HandlesEvents()) findBox_.SyncEnabled();
-  progressBar_.Show(progress);
-}
+void frmViews::Show(const LoadProgress& progress) { progressBar_.Show(progress); }
 
 void frmViews::Sync() {
   // The controls go before their window.

@@ -3,16 +3,6 @@
 #include "app/frmWork.h"
 
 namespace tessera {
-namespace {
-
-bool MenuIsOpen() {
-  GUITHREADINFO information{};
-  information.cbSize = sizeof information;
-  return GetGUIThreadInfo(GetCurrentThreadId(), &information) != FALSE &&
-         (information.flags & GUI_INMENUMODE) != 0;
-}
-
-}  // namespace
 
 frmWork::frmWork(Editor& editor, frmViews& views) : editor_(editor), views_(views) {}
 
@@ -87,8 +77,8 @@ void frmWork::Search(const std::wstring& text) {
 }
 
 void frmWork::OnTimer() {
-  // The released Alt key has put the menu bar into its keyboard mode, where it would take the keys.
-  if (MenuIsOpen()) EndMenu();
+  // A released Alt key has put the menu bar into its keyboard mode, where it would take the keys.
+  EndMenu();
   React(editor_.Work(&HotkeyPanel::TimerTick));
 }
 

@@ -2,30 +2,27 @@
 #include <windows.h>
 #include <commctrl.h>
 
-#include <array>
 #include <cstdlib>
 #include <exception>
 #include <span>
 #include <string>
-#include <string_view>
 
 #include "app/Arguments.h"
 #include "app/frmMain.h"
 #include "app/PageRun.h"
 #include "localisation/TextTable.h"
 #include "platform/MessageBoxes.h"
-#include "platform/win32/Guarded.h"
 #include "platform/win32/StandardError.h"
+#include "platform/win32/SystemText.h"
+#include "platform/win32/TellFailure.h"
 #include "platform/win32/WindowsSystem.h"
 
 namespace {
 
 std::wstring FullPath(const std::wstring& argument) {
-  if (argument.empty()) return {};
-  std::wstring path(GetFullPathNameW(argument.c_str(), 0, nullptr, nullptr), L'\0');
-  path.resize(
-      GetFullPathNameW(argument.c_str(), static_cast<DWORD>(path.size()), path.data(), nullptr));
-  return path;
+  return tessera::SystemText([&argument](wchar_t* buffer, DWORD size) {
+    return GetFullPathNameW(argument.c_str(), size, buffer, nullptr);
+  });
 }
 
 /// With full paths. The run-time library has split the line: the system's function for that is in
@@ -53,22 +50,10 @@ int RunForPage(const tessera::Arguments& arguments) {
   return EXIT_FAILURE;
 }
 
-BOOL CALLBACK FindMainWindow(HWND window, LPARAM found) {
-  std::array<wchar_t, 16> name{};
-  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-  if (std::wstring_view(name.data()) != L"frmMain") return TRUE;
-  *reinterpret_cast<HWND*>(found) = window;
-  return FALSE;
-}
-
 /// After an exception that nothing could catch the window does what it does after one that a window
 /// procedure caught. Then it is all over: this must not return.
 [[noreturn]] void OnTerminate() {
-  HWND window = nullptr;
-  EnumThreadWindows(GetCurrentThreadId(), FindMainWindow, reinterpret_cast<LPARAM>(&window));
-  if (window != nullptr) {
-    SendMessageW(window, tessera::FailureMessage, 0, 0);
-  } else {
+  if (!tessera::TellFailure()) {
     MessageBoxW(nullptr, tessera::BuiltInTextOf(tessera::TextId::MustEndNothingKept).data(),
                 tessera::ProgramTitle, MB_ICONERROR);
   }

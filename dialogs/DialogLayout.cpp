@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace tessera {
 namespace {
@@ -14,11 +15,20 @@ constexpr int SwatchWidth = 64;
 constexpr int TextBoxWidth = 260;
 constexpr int SmallestButtonWidth = 75;
 constexpr int SideButtonWidth = 30;
+constexpr int SmallestPageWidth = 210;
+constexpr int TitleRoom = 70;  ///< the close button, and what is around the title
+constexpr int TabFrame = 6;
 
 int RowHeight(ControlKind kind, const DialogMetrics& metrics) {
   const bool marked = kind == ControlKind::CheckBox || kind == ControlKind::OptionButton;
   return marked ? std::max(metrics.TextHeight + Scaled(3, metrics.Dpi), Scaled(17, metrics.Dpi))
                 : std::max(metrics.TextHeight + Scaled(8, metrics.Dpi), Scaled(23, metrics.Dpi));
+}
+
+/// The size of a push button with a text of that width.
+Size ButtonSize(int textWidth, const DialogMetrics& metrics) {
+  return {std::max(Scaled(SmallestButtonWidth, metrics.Dpi), textWidth + Scaled(24, metrics.Dpi)),
+          RowHeight(ControlKind::Button, metrics)};
 }
 
 class PageStack {
@@ -127,6 +137,21 @@ int WidthOfRow(const MeasuredControl& control, int labelWidth, const DialogMetri
   }
 }
 
+/// Buttons side by side that end at `right`; the first is the leftmost.
+std::vector<Area> LayOutButtons(std::span<const int> textWidths, const DialogMetrics& metrics,
+                                int right, int top) {
+  const int gap = Scaled(Gap, metrics.Dpi);
+  std::vector<Area> areas;
+  int left = right + gap;
+  for (const int textWidth : textWidths) left -= ButtonSize(textWidth, metrics).Width + gap;
+  for (const int textWidth : textWidths) {
+    const Size size = ButtonSize(textWidth, metrics);
+    areas.push_back({left, top, size.Width, size.Height});
+    left += size.Width + gap;
+  }
+  return areas;
+}
+
 }  // namespace
 
 PagesLayout LayOutPages(std::span<const MeasuredControl> controls, const DialogMetrics& metrics,
@@ -150,31 +175,36 @@ PagesLayout LayOutPages(std::span<const MeasuredControl> controls, const DialogM
   return layout;
 }
 
-Area ButtonSize(int textWidth, const DialogMetrics& metrics) {
-  return {0, 0,
-          std::max(Scaled(SmallestButtonWidth, metrics.Dpi), textWidth + Scaled(24, metrics.Dpi)),
-          RowHeight(ControlKind::Button, metrics)};
+int NarrowestPages(const OuterTexts& texts, const DialogMetrics& metrics) {
+  int tabs = 0;
+  for (const int tab : texts.Tabs) {
+    tabs += tab + 2 * Scaled(TabPadding, metrics.Dpi) + Scaled(TabFrame, metrics.Dpi);
+  }
+  int buttons = 0;
+  for (const int button : texts.Buttons) {
+    buttons += ButtonSize(button, metrics).Width + Scaled(Gap, metrics.Dpi);
+  }
+  const int title = texts.Title + Scaled(TitleRoom, metrics.Dpi);
+  return std::max({tabs, buttons, title, Scaled(SmallestPageWidth, metrics.Dpi)});
 }
 
-std::vector<Area> LayOutButtons(std::span<const int> textWidths, const DialogMetrics& metrics,
-                                int right, int top) {
-  std::vector<Area> areas;
-  int width = -DialogGap(metrics);
-  for (const int textWidth : textWidths) {
-    areas.push_back(ButtonSize(textWidth, metrics));
-    width += areas.back().Width + DialogGap(metrics);
+DialogLayout LayOutDialog(PagesLayout pages, const Area& around, std::span<const int> buttonTexts,
+                          const DialogMetrics& metrics) {
+  const int margin = DialogMargin(metrics);
+  for (Area& control : pages.Controls) {
+    control.Left += margin - around.Left;
+    control.Top += margin - around.Top;
   }
-  int left = right - width;
-  for (Area& area : areas) {
-    area.Left = left;
-    area.Top = top;
-    left += area.Width + DialogGap(metrics);
-  }
-  return areas;
+  const int right = margin + around.Width;
+  const int top = margin + around.Height + margin;
+  std::vector<Area> buttons = LayOutButtons(buttonTexts, metrics, right, top);
+  const Size inside{right + margin, top + RowHeight(ControlKind::Button, metrics) + margin};
+  return {{margin, margin, around.Width, around.Height},
+          std::move(pages.Controls),
+          std::move(buttons),
+          inside};
 }
 
 int DialogMargin(const DialogMetrics& metrics) { return Scaled(Margin, metrics.Dpi); }
-
-int DialogGap(const DialogMetrics& metrics) { return Scaled(Gap, metrics.Dpi); }
 
 }  // namespace tessera

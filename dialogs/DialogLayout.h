@@ -43,15 +43,34 @@ struct PagesLayout {
 [[nodiscard]] PagesLayout LayOutPages(std::span<const MeasuredControl> controls,
                                       const DialogMetrics& metrics, int smallestWidth);
 
-/// The size of a push button with a text of that width.
-[[nodiscard]] Area ButtonSize(int textWidth, const DialogMetrics& metrics);
+/// The width of the texts that stand around the pages of a dialog, in pixels.
+struct OuterTexts {
+  int Title = 0;
+  std::vector<int> Tabs{};  ///< none: one page, without tabs
+  std::vector<int> Buttons{};
+};
 
-/// Buttons side by side that end at `right`; the first is the leftmost.
-[[nodiscard]] std::vector<Area> LayOutButtons(std::span<const int> textWidths,
-                                              const DialogMetrics& metrics, int right, int top);
+/// How wide pages have to be for what is around them.
+[[nodiscard]] int NarrowestPages(const OuterTexts& texts, const DialogMetrics& metrics);
 
-/// The room between the edge of a dialog and its controls, and between two buttons.
+/// Within a dialog, in pixels.
+struct DialogLayout {
+  Area Tabs;  ///< around the pages
+  std::vector<Area> Controls;
+  std::vector<Area> Buttons;
+  Size Inside;  ///< of the whole dialog
+};
+
+/// Puts the buttons below the pages, side by side, so that the last one ends with them. `around` is
+/// what the tabs take, or else the pages, from the upper left corner of these.
+[[nodiscard]] DialogLayout LayOutDialog(PagesLayout pages, const Area& around,
+                                        std::span<const int> buttonTexts,
+                                        const DialogMetrics& metrics);
+
+/// Between the edges of a tab and its text, for 96 pixels an inch.
+inline constexpr int TabPadding = 10;
+
+/// The room between the edge of a dialog, or of a tab's page, and its controls.
 [[nodiscard]] int DialogMargin(const DialogMetrics& metrics);
-[[nodiscard]] int DialogGap(const DialogMetrics& metrics);
 
 }  // namespace tessera

@@ -15,8 +15,8 @@ namespace {
 struct ControlClass {
   ControlKind Kind{};
   const wchar_t* Name = nullptr;
-  DWORD Style = 0;
-  DWORD ExtendedStyle = 0;
+  DWORD Style{};
+  DWORD ExtendedStyle{};
 };
 
 constexpr ControlClass Classes[] = {
@@ -129,22 +129,22 @@ INT_PTR frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
       OnCommandMessage(LOWORD(wParam), HIWORD(wParam));
-      return TRUE;
+      break;
     case WM_NOTIFY:
       if (const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
           header.code == TCN_SELCHANGE) {
         ShowPage(TabCtrl_GetCurSel(tabs_));
       }
-      return TRUE;
+      break;
     case WM_CLOSE:
       OnCloseButton();
-      return TRUE;
+      break;
     case WM_ERASEBKGND:
       DrawBackground(reinterpret_cast<HDC>(wParam));
-      return TRUE;
+      break;
     case WM_DRAWITEM:
       DrawSwatch(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-      return TRUE;
+      break;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
     case WM_CTLCOLOREDIT:
@@ -152,14 +152,11 @@ INT_PTR frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DPICHANGED: {
       const auto& suggested = *reinterpret_cast<const RECT*>(lParam);
       ApplyDpi(HIWORD(wParam), POINT{suggested.left, suggested.top});
-      return TRUE;
+      break;
     }
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
-      for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
-           child = GetWindow(child, GW_HWNDNEXT)) {
-        SendMessageW(child, message, wParam, lParam);
-      }
+      for (const HWND child : ChildrenOf(window_)) SendMessageW(child, message, wParam, lParam);
       LayOut();
       return FALSE;
     case WM_SETTINGCHANGE:
@@ -175,6 +172,7 @@ INT_PTR frmDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       return FALSE;
   }
+  return TRUE;
 }
 
 void frmDialog::OnInit() {
@@ -199,8 +197,8 @@ void frmDialog::OnCommandMessage(int id, int notification) {
 
 HWND frmDialog::Create(const DialogControl& control, bool startsGroup) {
   const ControlClass& kind = ClassOf(control.Kind);
-  const HWND made = CreateControl(window_, kind.Name, kind.Style | (startsGroup ? WS_GROUP : 0),
-                                  kind.ExtendedStyle, control.Id);
+  const HWND made = CreateControl(window_, kind.Name, control.Id, kind.Style, kind.ExtendedStyle);
+  SetStyleBits(made, GWL_STYLE, WS_GROUP, startsGroup);
   // A frame lies before what it encloses, which must not be clipped by it.
   SetStyleBits(made, GWL_STYLE, WS_CLIPSIBLINGS, false);
   if (control.Kind == ControlKind::TextBox) {
@@ -212,11 +210,10 @@ HWND frmDialog::Create(const DialogControl& control, bool startsGroup) {
 void frmDialog::CreateControls() {
   translatorsBrush_.reset(CreateSolidBrush(TranslatorsColor));
   SetStyleBits(window_, GWL_EXSTYLE, WS_EX_LAYOUTRTL, texts_.RightToLeft());
-  bool optionBefore = false;
-  for (const DialogControl& control : plan_.Controls) {
-    const bool option = control.Kind == ControlKind::OptionButton;
-    Create(control, !(option && optionBefore));
-    optionBefore = option;
+  for (ControlKind before{}; const DialogControl& control : plan_.Controls) {
+    // The arrow keys go from one option to the next.
+    Create(control, control.Kind != ControlKind::OptionButton || control.Kind != before);
+    before = control.Kind;
   }
   for (const DialogControl& button : plan_.Buttons) ShowWindow(Create(button, true), SW_SHOWNA);
   SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(plan_.Buttons.front().Id), 0);
@@ -224,7 +221,7 @@ void frmDialog::CreateControls() {
   if (plan_.TabsId != 0) {
     // Made last, the tabs lie below the controls of their pages.
     tabs_ =
-        CreateControl(window_, WC_TABCONTROLW, WS_VISIBLE | WS_TABSTOP | WS_GROUP, 0, plan_.TabsId);
+        CreateControl(window_, WC_TABCONTROLW, plan_.TabsId, WS_VISIBLE | WS_TABSTOP | WS_GROUP);
     PadTabs(static_cast<int>(GetDpiForWindow(window_)));
   }
 }

@@ -78,9 +78,8 @@ class frmDialog {
   /// Counts for tabs that are inserted, and for a font that is given, afterwards.
   void PadTabs(int dpi) const;
   [[nodiscard]] int TextWidth(TextId text) const;
-  [[nodiscard]] int TabsWidth() const;
-  void PlaceAll(const PagesLayout& pages, POINT origin) const;
-  void Resize(int width, int height, std::optional<POINT> corner);
+  void PlaceAll(std::span<const DialogControl> controls, const std::vector<Area>& areas) const;
+  void Resize(const Size& inside, std::optional<POINT> corner);
   void CenterForm();
   void ShowPage(int page);
   bool TurnPage(WPARAM key);

@@ -1,5 +1,6 @@
 // How a dialog looks: resolution, layout and colours.
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "dialogs/frmDialog.h"
@@ -7,42 +8,6 @@
 
 namespace tessera {
 namespace {
-
-/// For 96 pixels an inch.
-constexpr int SmallestPageWidth = 210;
-constexpr int TitleRoom = 70;  ///< the close button, and what is around the title
-constexpr int TabPadding = 10;
-
-/// A device context that draws into a bitmap, which is released with it.
-class BitmapContext {
- public:
-  BitmapContext(HWND window, SIZE size) {
-    const HDC screen = GetDC(window);
-    context_ = CreateCompatibleDC(screen);
-    bitmap_ = CreateCompatibleBitmap(screen, size.cx, size.cy);
-    ReleaseDC(window, screen);
-    former_ = SelectObject(context_, bitmap_);
-  }
-  ~BitmapContext() {
-    DeleteDC(context_);
-    DeleteObject(bitmap_);
-  }
-  BitmapContext(const BitmapContext&) = delete;
-  BitmapContext& operator=(const BitmapContext&) = delete;
-
-  [[nodiscard]] HDC Context() const { return context_; }
-
-  /// The drawn bitmap as a brush.
-  [[nodiscard]] Unique<HBRUSH> Brush() const {
-    SelectObject(context_, former_);
-    return Unique<HBRUSH>(CreatePatternBrush(bitmap_));
-  }
-
- private:
-  HDC context_ = nullptr;
-  HBITMAP bitmap_ = nullptr;
-  HGDIOBJ former_ = nullptr;
-};
 
 bool IsTranslatorsControl(ControlKind kind) {
   return kind == ControlKind::Label || kind == ControlKind::CheckBox ||
@@ -55,10 +20,7 @@ void frmDialog::ApplyDpi(int dpi, std::optional<POINT> corner) {
   if (tabs_ != nullptr) PadTabs(dpi);
   const LOGFONTW messageFont = MessageFont(dpi, settings_.FontScript);
   Unique<HFONT> font(CreateFontIndirectW(&messageFont));
-  for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
-       child = GetWindow(child, GW_HWNDNEXT)) {
-    GiveFont(child, font.get());
-  }
+  for (const HWND child : ChildrenOf(window_)) GiveFont(child, font.get());
   font_ = std::move(font);
   metrics_ = {.Dpi = dpi, .TextHeight = TextSize(window_, font_.get(), L"Xg").Height};
   LayOut(corner);
@@ -73,66 +35,46 @@ int frmDialog::TextWidth(TextId text) const {
   return TextSize(window_, font_.get(), texts_.GetLangText(text)).Width;
 }
 
-int frmDialog::TabsWidth() const {
-  int width = 0;
-  for (const TextId text : plan_.TabCaptions) {
-    width += TextWidth(text) + 2 * Scaled(TabPadding, metrics_.Dpi) + Scaled(6, metrics_.Dpi);
-  }
-  return width;
-}
-
 void frmDialog::LayOut(std::optional<POINT> corner) {
   std::vector<MeasuredControl> measured;
   for (const DialogControl& control : plan_.Controls) {
     measured.push_back({control.Kind, control.Page, TextWidth(control.Caption)});
   }
-  std::vector<int> buttonTexts;
-  int buttonsWidth = 0;
+  OuterTexts outer{.Title = TextWidth(plan_.Title)};
+  for (const TextId tab : plan_.TabCaptions) outer.Tabs.push_back(TextWidth(tab));
   for (const DialogControl& button : plan_.Buttons) {
-    buttonTexts.push_back(TextWidth(button.Caption));
-    buttonsWidth += ButtonSize(buttonTexts.back(), metrics_).Width + DialogGap(metrics_);
+    outer.Buttons.push_back(TextWidth(button.Caption));
   }
-  const int margin = DialogMargin(metrics_);
-  const int title = TextWidth(plan_.Title) + Scaled(TitleRoom, metrics_.Dpi);
-  const PagesLayout pages = LayOutPages(
-      measured, metrics_,
-      std::max({TabsWidth(), buttonsWidth, title, Scaled(SmallestPageWidth, metrics_.Dpi)}));
+  PagesLayout pages = LayOutPages(measured, metrics_, NarrowestPages(outer, metrics_));
   RECT around{0, 0, pages.Width, pages.Height};
-  POINT origin{margin, margin};
   if (tabs_ != nullptr) {
+    const int margin = DialogMargin(metrics_);
     InflateRect(&around, margin, margin);
     TabCtrl_AdjustRect(tabs_, TRUE, &around);
-    origin = {margin - around.left, margin - around.top};
-    Place(tabs_, {margin, margin, around.right - around.left, around.bottom - around.top});
-    DrawTabBackground({around.right - around.left, around.bottom - around.top});
   }
-  PlaceAll(pages, origin);
-  const int width = around.right - around.left;
-  const int top = margin + around.bottom - around.top + margin;
-  const std::vector<Area> areas = LayOutButtons(buttonTexts, metrics_, margin + width, top);
-  for (std::size_t index = 0; index < areas.size(); ++index) {
-    Place(Control(plan_.Buttons[index].Id), areas[index]);
+  const DialogLayout layout =
+      LayOutDialog(std::move(pages), AreaOf(around), outer.Buttons, metrics_);
+  if (tabs_ != nullptr) {
+    Place(tabs_, layout.Tabs);
+    DrawTabBackground({layout.Tabs.Width, layout.Tabs.Height});
   }
-  Resize(width + 2 * margin, top + areas.front().Height + margin, corner);
+  PlaceAll(plan_.Controls, layout.Controls);
+  PlaceAll(plan_.Buttons, layout.Buttons);
+  Resize(layout.Inside, corner);
 }
 
-void frmDialog::PlaceAll(const PagesLayout& pages, POINT origin) const {
-  for (std::size_t index = 0; index < pages.Controls.size(); ++index) {
-    Area area = pages.Controls[index];
-    area.Left += origin.x;
-    area.Top += origin.y;
-    Place(Control(plan_.Controls[index].Id), area);
+void frmDialog::PlaceAll(std::span<const DialogControl> controls,
+                         const std::vector<Area>& areas) const {
+  for (auto area = areas.begin(); const DialogControl& control : controls) {
+    Place(Control(control.Id), *area++);
   }
 }
 
-void frmDialog::Resize(int width, int height, std::optional<POINT> corner) {
-  RECT frame{0, 0, width, height};
-  AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_STYLE)), FALSE,
-                           static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_EXSTYLE)),
-                           static_cast<UINT>(metrics_.Dpi));
+void frmDialog::Resize(const Size& inside, std::optional<POINT> corner) {
+  const Size frame = FrameSize(window_, metrics_.Dpi);
   const POINT place = corner.value_or(POINT{});
-  SetWindowPos(window_, nullptr, place.x, place.y, frame.right - frame.left,
-               frame.bottom - frame.top,
+  SetWindowPos(window_, nullptr, place.x, place.y, inside.Width + frame.Width,
+               inside.Height + frame.Height,
                (corner ? 0U : SWP_NOMOVE) | SWP_NOZORDER | SWP_NOACTIVATE);
   InvalidateRect(window_, nullptr, TRUE);
 }
@@ -147,10 +89,15 @@ void frmDialog::CenterForm() {
 
 // A themed page has a colour that no function tells: the tabs draw themselves into a brush.
 void frmDialog::DrawTabBackground(SIZE size) {
-  const BitmapContext drawn(tabs_, size);
-  SendMessageW(tabs_, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(drawn.Context()),
-               PRF_CLIENT | PRF_ERASEBKGND);
-  tabBackground_ = drawn.Brush();
+  const WindowContext screen(tabs_);
+  const Unique<HDC> context(CreateCompatibleDC(screen.Get()));
+  const Unique<HBITMAP> bitmap(CreateCompatibleBitmap(screen.Get(), size.cx, size.cy));
+  {
+    const SelectedObject target(context.get(), bitmap.get());
+    SendMessageW(tabs_, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(context.get()),
+                 PRF_CLIENT | PRF_ERASEBKGND);
+  }
+  tabBackground_.reset(CreatePatternBrush(bitmap.get()));
 }
 
 // Themed controls ask the dialog, and not the tabs below them, for what is behind them.

@@ -45,23 +45,20 @@ void DrawMark(HDC context, const RECT& row, int dpi, COLORREF color) {
 frmKeysList::frmKeysList(Events events) : events_(std::move(events)) {}
 
 frmKeysList::~frmKeysList() {
-  if (window_ != nullptr) {
-    SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
-    RemoveWindowSubclass(List1_, ListProcedure, ListSubclass);
-  }
+  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+  RemoveWindowSubclass(List1_, ListProcedure, ListSubclass);
 }
 
 void frmKeysList::Create(HWND owner) {
   RegisterWindowClass(WindowClass, WindowProcedure, CS_DROPSHADOW);
-  window_ = CreateWindowExW(WS_EX_TOOLWINDOW, WindowClass, L"", WS_POPUP | WS_BORDER, 0, 0, 0, 0,
-                            owner, nullptr, GetModuleHandleW(nullptr), nullptr);
+  window_ = CreatePopup(owner, WindowClass, WS_BORDER, WS_EX_TOOLWINDOW);
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  List1_ = CreateControl(window_, WC_LISTBOXW,
+  List1_ = CreateControl(window_, WC_LISTBOXW, IDC_List1,
                          WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT |
                              LBS_OWNERDRAWFIXED | LBS_HASSTRINGS,
-                         WS_EX_CLIENTEDGE, IDC_List1);
+                         WS_EX_CLIENTEDGE);
   for (const std::wstring_view key : KeyVocabulary()) {
-    SendMessageW(List1_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(key).c_str()));
+    ListBox_AddString(List1_, std::wstring(key).c_str());
   }
   TurnOffInputMethod(window_);
   SetWindowSubclass(List1_, ListProcedure, ListSubclass, reinterpret_cast<DWORD_PTR>(this));
@@ -132,7 +129,6 @@ void frmKeysList::DrawKey(const DRAWITEMSTRUCT& draw) const {
 void frmKeysList::MoveTo(const Area& area) { Place(window_, area); }
 
 void frmKeysList::BringToFront() {
-  if (window_ == nullptr) return;
   // Where a system takes it to be before its owner already, the second alone changes nothing.
   for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST}) {
     SetWindowPos(window_, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -155,6 +151,7 @@ LRESULT CALLBACK frmKeysList::WindowProcedure(HWND window, UINT message, WPARAM 
 }
 
 LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  const HWND window = window_;
   switch (message) {
     case WM_COMMAND:
       if (HIWORD(wParam) == LBN_SELCHANGE) events_.Select(ListBox_GetCurSel(List1_));
@@ -165,25 +162,26 @@ LRESULT frmKeysList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ACTIVATE: {
       // It takes the focus, but is part of its owner, whose title is to stay an active one.
       const WPARAM active = LOWORD(wParam) != WA_INACTIVE ? TRUE : FALSE;
-      SendMessageW(GetWindow(window_, GW_OWNER), WM_NCACTIVATE, active, 0);
-      return DefWindowProcW(window_, message, wParam, lParam);
+      SendMessageW(GetWindow(window, GW_OWNER), WM_NCACTIVATE, active, 0);
+      break;
     }
     case WM_SETFOCUS:
       SetFocus(List1_);
       break;
     case WM_CLOSE:
       events_.Close();
-      break;
+      return 0;
     case WM_DESTROY:
       ClearAccessibleName(List1_);
       break;
     case WM_NCDESTROY:
       List1_ = nullptr;
-      return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
+      window_ = nullptr;
+      break;
     default:
-      return DefWindowProcW(window_, message, wParam, lParam);
+      break;
   }
-  return 0;
+  return DefWindowProcW(window, message, wParam, lParam);
 }
 
 LRESULT CALLBACK frmKeysList::ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,

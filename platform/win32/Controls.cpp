@@ -5,6 +5,7 @@
 #include <shellscalingapi.h>
 
 #include <array>
+#include <optional>
 
 #include "platform/win32/Components.h"
 #include "platform/win32/SystemFunction.h"
@@ -26,14 +27,36 @@ BOOL CALLBACK AddMonitor(HMONITOR monitor, HDC /*context*/, RECT* /*area*/, LPAR
   return TRUE;
 }
 
+/// Empty when the monitor has gone.
+std::optional<MONITORINFO> InformationOf(HMONITOR monitor) {
+  MONITORINFO information{};
+  information.cbSize = sizeof information;
+  if (GetMonitorInfoW(monitor, &information) == FALSE) return std::nullopt;
+  return information;
+}
+
 /// `otherwise` where the system does not tell.
 int ResolutionOf(HMONITOR monitor, int otherwise) {
   auto* const ask = SystemFunction<decltype(GetDpiForMonitor)>(L"shcore.dll", "GetDpiForMonitor");
-  UINT horizontal = 0;
-  UINT vertical = 0;
+  UINT horizontal{};
+  UINT vertical{};
   const bool told =
       ask != nullptr && SUCCEEDED(ask(monitor, MDT_EFFECTIVE_DPI, &horizontal, &vertical));
   return told ? static_cast<int>(horizontal) : otherwise;
+}
+
+HWND CreateUnplaced(HWND parent, const wchar_t* className, DWORD style, DWORD extendedStyle,
+                    int id = 0) {
+  return CreateWindowExW(extendedStyle, className, L"", style, 0, 0, 0, 0, parent,
+                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                         GetModuleHandleW(nullptr), nullptr);
+}
+
+/// Calls a function with the names of controls for screen readers, where the system has these.
+template <typename Use>
+void UseAccessibleNames(Use use) {
+  const UniqueComponent services = CreateComponent(AccessibleProperties, AccessibleInterface);
+  if (services != nullptr) use(static_cast<IAccPropServices&>(*services));
 }
 
 }  // namespace
@@ -64,11 +87,22 @@ void GiveFont(HWND control, HFONT font) {
   SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD extendedStyle,
-                   int id) {
-  return CreateWindowExW(extendedStyle, className, L"", WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 0,
-                         0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                         GetModuleHandleW(nullptr), nullptr);
+HWND CreatePopup(HWND owner, const wchar_t* className, DWORD style, DWORD extendedStyle) {
+  return CreateUnplaced(owner, className, WS_POPUP | style, extendedStyle);
+}
+
+HWND CreateControl(HWND parent, const wchar_t* className, int id, DWORD style,
+                   DWORD extendedStyle) {
+  return CreateUnplaced(parent, className, WS_CHILD | WS_CLIPSIBLINGS | style, extendedStyle, id);
+}
+
+std::vector<HWND> ChildrenOf(HWND window) {
+  std::vector<HWND> children;
+  for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    children.push_back(child);
+  }
+  return children;
 }
 
 bool IsTextBox(HWND window) {
@@ -89,17 +123,17 @@ void SetText(HWND window, const std::wstring& text) {
 }
 
 void SetAccessibleName(HWND control, const std::wstring& name) {
-  const UniqueComponent services = CreateComponent(AccessibleProperties, AccessibleInterface);
-  if (services == nullptr) return;
-  static_cast<IAccPropServices&>(*services).SetHwndPropStr(
-      control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, AccessibleName, name.c_str());
+  UseAccessibleNames([&](IAccPropServices& names) {
+    names.SetHwndPropStr(control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, AccessibleName,
+                         name.c_str());
+  });
 }
 
 void ClearAccessibleName(HWND control) {
-  const UniqueComponent services = CreateComponent(AccessibleProperties, AccessibleInterface);
-  if (services == nullptr) return;
-  static_cast<IAccPropServices&>(*services).ClearHwndProps(
-      control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &AccessibleName, 1);
+  UseAccessibleNames([&](IAccPropServices& names) {
+    names.ClearHwndProps(control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &AccessibleName,
+                         1);
+  });
 }
 
 void SetEnabled(HWND control, bool enabled) {
@@ -116,13 +150,11 @@ void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on) {
 }
 
 Size TextSize(HWND control, HFONT font, const std::wstring& text, UINT format) {
-  const HDC context = GetDC(control);
-  const HGDIOBJ former = SelectObject(context, font);
+  const WindowContext context(control);
+  const SelectedObject selected(context.Get(), font);
   RECT room{};
-  DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &room,
+  DrawTextW(context.Get(), text.c_str(), static_cast<int>(text.size()), &room,
             DT_CALCRECT | DT_SINGLELINE | format);
-  SelectObject(context, former);
-  ReleaseDC(control, context);
   return {room.right, room.bottom};
 }
 
@@ -139,6 +171,14 @@ Area AreaOf(const RECT& rectangle) {
           rectangle.bottom - rectangle.top};
 }
 
+Size FrameSize(HWND window, int dpi, bool withMenuBar) {
+  RECT frame{};
+  AdjustWindowRectExForDpi(
+      &frame, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)), withMenuBar ? TRUE : FALSE,
+      static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE)), static_cast<UINT>(dpi));
+  return {frame.right - frame.left, frame.bottom - frame.top};
+}
+
 Area WindowArea(HWND window) {
   RECT rectangle{};
   GetWindowRect(window, &rectangle);
@@ -146,10 +186,8 @@ Area WindowArea(HWND window) {
 }
 
 Area WorkArea(HWND window) {
-  MONITORINFO information{};
-  information.cbSize = sizeof information;
-  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &information);
-  return AreaOf(information.rcWork);
+  const auto information = InformationOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST));
+  return information ? AreaOf(information->rcWork) : Area{};
 }
 
 std::vector<Screen> Screens(int dpi) {
@@ -157,14 +195,13 @@ std::vector<Screen> Screens(int dpi) {
   EnumDisplayMonitors(nullptr, nullptr, AddMonitor, reinterpret_cast<LPARAM>(&monitors));
   std::vector<Screen> screens;
   for (const HMONITOR monitor : monitors) {
-    MONITORINFO information{};
-    information.cbSize = sizeof information;
-    if (GetMonitorInfoW(monitor, &information) == FALSE) continue;
-    const bool primary = (information.dwFlags & MONITORINFOF_PRIMARY) != 0;
+    const auto information = InformationOf(monitor);
+    if (!information) continue;
+    const bool primary = (information->dwFlags & MONITORINFOF_PRIMARY) != 0;
     // A single one is not asked: the library for that would delay the start.
     screens.insert(
         primary ? screens.begin() : screens.end(),
-        {AreaOf(information.rcWork), monitors.size() > 1 ? ResolutionOf(monitor, dpi) : dpi});
+        {AreaOf(information->rcWork), monitors.size() > 1 ? ResolutionOf(monitor, dpi) : dpi});
   }
   return screens;
 }
@@ -182,10 +219,7 @@ void SetRightToLeft(HWND window, bool rightToLeft) {
   if (IsRightToLeft(window) == rightToLeft) return;
   SetStyleBits(window, GWL_EXSTYLE, WS_EX_LAYOUTRTL, rightToLeft);
   InvalidateRect(window, nullptr, TRUE);
-  for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
-       child = GetWindow(child, GW_HWNDNEXT)) {
-    SetRightToLeft(child, rightToLeft);
-  }
+  for (const HWND child : ChildrenOf(window)) SetRightToLeft(child, rightToLeft);
 }
 
 }  // namespace tessera

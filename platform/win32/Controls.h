@@ -18,6 +18,7 @@ struct ObjectReleaser {
   void operator()(HFONT font) const noexcept { DeleteObject(font); }
   void operator()(HBRUSH brush) const noexcept { DeleteObject(brush); }
   void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
+  void operator()(HDC context) const noexcept { DeleteDC(context); }
   void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }
   void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
   void operator()(HIMAGELIST images) const noexcept { ImageList_Destroy(images); }
@@ -25,6 +26,35 @@ struct ObjectReleaser {
 
 template <typename Object>
 using Unique = std::unique_ptr<std::remove_pointer_t<Object>, ObjectReleaser>;
+
+/// A device context for drawing in a window, or for measuring.
+class WindowContext {
+ public:
+  explicit WindowContext(HWND window) : window_(window), context_(GetDC(window)) {}
+  ~WindowContext() { ReleaseDC(window_, context_); }
+  WindowContext(const WindowContext&) = delete;
+  WindowContext& operator=(const WindowContext&) = delete;
+
+  [[nodiscard]] HDC Get() const { return context_; }
+
+ private:
+  HWND window_;
+  HDC context_;
+};
+
+/// A font, a bitmap or the like, in use by a device context for as long as this lives.
+class SelectedObject {
+ public:
+  SelectedObject(HDC context, HGDIOBJ object)
+      : context_(context), former_(SelectObject(context, object)) {}
+  ~SelectedObject() { SelectObject(context_, former_); }
+  SelectedObject(const SelectedObject&) = delete;
+  SelectedObject& operator=(const SelectedObject&) = delete;
+
+ private:
+  HDC context_;
+  HGDIOBJ former_;
+};
 
 /// Registers a class of windows on the colour of buttons, under the arrow pointer. `style` has the
 /// CS_ bits of the class; each window gets `extraBytes` more. A class that exists stays as it is.
@@ -36,8 +66,16 @@ void RegisterWindowClass(const wchar_t* name, WNDPROC procedure, UINT style = 0,
 
 void GiveFont(HWND control, HFONT font);
 
-/// A child of `parent`, without text, not yet placed.
-HWND CreateControl(HWND parent, const wchar_t* className, DWORD style, DWORD extendedStyle, int id);
+/// A window before its owner, without text, not yet placed. WS_ and WS_EX_ bits; WS_POPUP is added.
+HWND CreatePopup(HWND owner, const wchar_t* className, DWORD style, DWORD extendedStyle);
+
+/// A child of `parent`, without text, not yet placed. WS_ and WS_EX_ bits; WS_CHILD and
+/// WS_CLIPSIBLINGS are added.
+HWND CreateControl(HWND parent, const wchar_t* className, int id, DWORD style = 0,
+                   DWORD extendedStyle = 0);
+
+/// Its direct children, the uppermost first.
+[[nodiscard]] std::vector<HWND> ChildrenOf(HWND window);
 
 /// False for no window, too.
 [[nodiscard]] bool IsTextBox(HWND window);
@@ -72,6 +110,9 @@ void SetStyleBits(HWND control, int styleIndex, DWORD bits, bool on);
 
 /// Behind texts, for translators, who see by it how much room these have.
 inline constexpr COLORREF TranslatorsColor = RGB(0, 255, 255);
+
+/// What a window's styles add to its inside: frame, caption, and a menu bar of one line.
+[[nodiscard]] Size FrameSize(HWND window, int dpi, bool withMenuBar = false);
 
 [[nodiscard]] Area WindowArea(HWND window);
 [[nodiscard]] Area AreaOf(const RECT& rectangle);

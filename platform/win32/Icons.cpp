@@ -8,23 +8,21 @@
 namespace tessera {
 namespace {
 
-/// Null when there is no such resource.
+/// One that this program has.
 void* Resource(int id, const wchar_t* type) {
   const HMODULE module = GetModuleHandleW(nullptr);
-  const HRSRC place = FindResourceW(module, MAKEINTRESOURCEW(id), type);
-  return place == nullptr ? nullptr : LockResource(LoadResource(module, place));
+  return LockResource(LoadResource(module, FindResourceW(module, MAKEINTRESOURCEW(id), type)));
 }
 
 /// The pixels of the picture of exactly that size, line by line from the bottom; null when an icon
 /// has none, or has it compressed.
 const DWORD* PixelsOf(int iconId, int size) {
   void* const directory = Resource(iconId, RT_GROUP_ICON);
-  if (directory == nullptr) return nullptr;
   const int picture =
       LookupIconIdFromDirectoryEx(static_cast<BYTE*>(directory), TRUE, size, size, LR_DEFAULTCOLOR);
   const auto* const header = static_cast<const BITMAPINFOHEADER*>(Resource(picture, RT_ICON));
-  const bool suits = header != nullptr && header->biSize == sizeof *header &&
-                     header->biWidth == size && header->biBitCount == 32;
+  const bool suits =
+      header->biSize == sizeof *header && header->biWidth == size && header->biBitCount == 32;
   return suits ? reinterpret_cast<const DWORD*>(header + 1) : nullptr;
 }
 

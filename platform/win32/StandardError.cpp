@@ -11,8 +11,8 @@ namespace {
 
 /// False where nothing can be written.
 bool Write(HANDLE target, const std::wstring& text) {
-  DWORD mode = 0;
-  DWORD count = 0;
+  DWORD mode{};
+  DWORD count{};
   if (GetConsoleMode(target, &mode) != FALSE) {
     return WriteConsoleW(target, text.data(), static_cast<DWORD>(text.size()), &count, nullptr) !=
            FALSE;

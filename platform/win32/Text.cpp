@@ -17,13 +17,13 @@ unsigned Effective(unsigned codePage) {
   return known ? codePage : GetACP();
 }
 
-/// Some code pages, such as UTF-7, take neither flags nor a default character.
-std::string EncodePlainly(std::wstring_view text, unsigned codePage) {
+/// Empty when the code page takes no such flags, or no default character. `instead` may be null.
+std::string Converted(std::wstring_view text, unsigned codePage, DWORD flags, const char* instead) {
   const int length = static_cast<int>(text.size());
   const int size =
-      WideCharToMultiByte(codePage, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+      WideCharToMultiByte(codePage, flags, text.data(), length, nullptr, 0, instead, nullptr);
   std::string bytes(static_cast<std::size_t>(size), '\0');
-  WideCharToMultiByte(codePage, 0, text.data(), length, bytes.data(), size, nullptr, nullptr);
+  WideCharToMultiByte(codePage, flags, text.data(), length, bytes.data(), size, instead, nullptr);
   return bytes;
 }
 
@@ -52,14 +52,9 @@ std::string Encode(std::wstring_view text, unsigned codePage) {
   if (codePage == AnsiCodePage && IsAscii(text)) return AsciiBytes(text);
   const unsigned page = Effective(codePage);
   if (page == Utf8CodePage) return Utf8FromWide(text);
-  const int length = static_cast<int>(text.size());
-  const int size = WideCharToMultiByte(page, WC_NO_BEST_FIT_CHARS, text.data(), length, nullptr, 0,
-                                       "?", nullptr);
-  if (size == 0) return EncodePlainly(text, page);
-  std::string bytes(static_cast<std::size_t>(size), '\0');
-  WideCharToMultiByte(page, WC_NO_BEST_FIT_CHARS, text.data(), length, bytes.data(), size, "?",
-                      nullptr);
-  return bytes;
+  const std::string bytes = Converted(text, page, WC_NO_BEST_FIT_CHARS, "?");
+  // Some code pages, such as UTF-7, take neither.
+  return bytes.empty() ? Converted(text, page, 0, nullptr) : bytes;
 }
 
 std::wstring ToUpper(std::wstring_view text) {

@@ -3,12 +3,13 @@
 
 #include <algorithm>
 #include <memory>
+#include <span>
 
 namespace tessera {
 namespace {
 
-constexpr int OpenAttempts = 10;
-constexpr DWORD PauseBetweenAttempts = 50;  // milliseconds
+constexpr int Pauses = 9;          // between ten attempts to open it
+constexpr DWORD PauseLength = 50;  // milliseconds
 
 struct GlobalDeleter {
   void operator()(void* memory) const noexcept { GlobalFree(memory); }
@@ -19,9 +20,9 @@ using UniqueGlobal = std::unique_ptr<void, GlobalDeleter>;
 /// The clipboard, open for as long as this object lives.
 class OpenedClipboard {
  public:
-  explicit OpenedClipboard(HWND owner) {
-    for (int attempt = 1; !isOpen_ && attempt <= OpenAttempts; ++attempt) {
-      if (attempt > 1) Sleep(PauseBetweenAttempts);
+  explicit OpenedClipboard(HWND owner) : isOpen_(OpenClipboard(owner) != FALSE) {
+    for (int pause = 0; !isOpen_ && pause < Pauses; ++pause) {
+      Sleep(PauseLength);
       isOpen_ = OpenClipboard(owner) != FALSE;
     }
   }
@@ -35,7 +36,7 @@ class OpenedClipboard {
   [[nodiscard]] bool IsOpen() const { return isOpen_; }
 
  private:
-  bool isOpen_ = false;
+  bool isOpen_;
 };
 
 /// The text with its terminator in movable memory; empty when there is no memory for it.
@@ -51,11 +52,27 @@ UniqueGlobal ToGlobal(const Text& text) {
   return memory;
 }
 
-/// What the clipboard has taken belongs to the system.
-bool Put(UINT format, UniqueGlobal& memory) {
-  if (SetClipboardData(format, memory.get()) == nullptr) return false;
-  static_cast<void>(memory.release());
+struct Content {
+  UINT Format;
+  UniqueGlobal Memory;
+};
+
+bool Put(Content& content) {
+  if (SetClipboardData(content.Format, content.Memory.get()) == nullptr) return false;
+  // What the clipboard has taken belongs to the system.
+  static_cast<void>(content.Memory.release());
   return true;
+}
+
+/// Puts all of it in the place of what was there, or leaves nothing there.
+bool Replace(HWND owner, std::span<Content> contents) {
+  const auto isMade = [](const Content& content) { return content.Memory != nullptr; };
+  if (!std::ranges::all_of(contents, isMade)) return false;
+  const OpenedClipboard clipboard(owner);
+  if (!clipboard.IsOpen() || EmptyClipboard() == FALSE) return false;
+  if (std::ranges::all_of(contents, Put)) return true;
+  EmptyClipboard();
+  return false;
 }
 
 }  // namespace
@@ -63,22 +80,14 @@ bool Put(UINT format, UniqueGlobal& memory) {
 WindowsClipboard::WindowsClipboard(const OwnerWindow& owner) : owner_(owner) {}
 
 bool WindowsClipboard::SetText(const std::wstring& text) {
-  UniqueGlobal memory = ToGlobal(text);
-  if (!memory) return false;
-  const OpenedClipboard clipboard(owner_.Current());
-  return clipboard.IsOpen() && EmptyClipboard() != FALSE && Put(CF_UNICODETEXT, memory);
+  Content contents[] = {{CF_UNICODETEXT, ToGlobal(text)}};
+  return Replace(owner_.Current(), contents);
 }
 
 bool WindowsClipboard::SetTextAndHtml(const std::wstring& text, const std::string& html) {
-  const UINT htmlFormat = RegisterClipboardFormatW(L"HTML Format");
-  UniqueGlobal textMemory = ToGlobal(text);
-  UniqueGlobal htmlMemory = ToGlobal(html);
-  if (!textMemory || !htmlMemory || htmlFormat == 0) return false;
-  const OpenedClipboard clipboard(owner_.Current());
-  if (!clipboard.IsOpen() || EmptyClipboard() == FALSE) return false;
-  if (Put(htmlFormat, htmlMemory) && Put(CF_UNICODETEXT, textMemory)) return true;
-  EmptyClipboard();
-  return false;
+  Content contents[] = {{RegisterClipboardFormatW(L"HTML Format"), ToGlobal(html)},
+                        {CF_UNICODETEXT, ToGlobal(text)}};
+  return Replace(owner_.Current(), contents);
 }
 
 }  // namespace tessera

@@ -4,11 +4,11 @@
 #include <commdlg.h>
 
 #include <algorithm>
-#include <memory>
-#include <type_traits>
 
 #include "platform/win32/Components.h"
+#include "platform/win32/Controls.h"
 #include "platform/win32/SystemFunction.h"
+#include "platform/win32/SystemText.h"
 
 namespace tessera {
 namespace {
@@ -32,15 +32,14 @@ bool Show(const char* function, Dialog& dialog) {
 /// one, which then cannot be removed, as a stick cannot that is to be ejected.
 class KeptFolder {
  public:
-  KeptFolder() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0') {
-    GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data());
-  }
+  KeptFolder() = default;
   ~KeptFolder() { SetCurrentDirectoryW(folder_.c_str()); }
   KeptFolder(const KeptFolder&) = delete;
   KeptFolder& operator=(const KeptFolder&) = delete;
 
  private:
-  std::wstring folder_;
+  std::wstring folder_ =
+      SystemText([](wchar_t* buffer, DWORD size) { return GetCurrentDirectoryW(size, buffer); });
 };
 
 const wchar_t* TextOrNull(const std::wstring& text) {
@@ -52,8 +51,9 @@ std::optional<std::wstring> ChooseFile(const char* function, DWORD flags, HWND o
                                        const FileDialogRequest& request) {
   std::wstring filter = request.Filter + L'|';  // the list ends with an empty description
   std::ranges::replace(filter, L'|', L'\0');
-  std::wstring file = request.FileName.substr(0, FileBufferLength - 1);
+  std::wstring file = request.FileName;
   file.resize(FileBufferLength);
+  file.back() = L'\0';
 
   OPENFILENAMEW dialog{};
   dialog.lStructSize = sizeof dialog;
@@ -70,21 +70,15 @@ std::optional<std::wstring> ChooseFile(const char* function, DWORD flags, HWND o
   return file.substr(0, file.find(L'\0'));
 }
 
-struct DeviceContextDeleter {
-  void operator()(HDC context) const noexcept { DeleteDC(context); }
-};
-
-using UniqueDeviceContext = std::unique_ptr<std::remove_pointer_t<HDC>, DeviceContextDeleter>;
-
 /// The device context of the default printer; empty when there is no printer.
-UniqueDeviceContext DefaultPrinter() {
+Unique<HDC> DefaultPrinter() {
   PRINTDLGW dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.Flags = PD_RETURNDEFAULT | PD_RETURNDC | PD_NOWARNING;
   if (!Show("PrintDlgW", dialog)) return {};
-  if (dialog.hDevMode != nullptr) GlobalFree(dialog.hDevMode);
-  if (dialog.hDevNames != nullptr) GlobalFree(dialog.hDevNames);
-  return UniqueDeviceContext(dialog.hDC);
+  GlobalFree(dialog.hDevMode);
+  GlobalFree(dialog.hDevNames);
+  return Unique<HDC>(dialog.hDC);
 }
 
 LOGFONTW ToLogicalFont(const FontRecord& font) {
@@ -138,7 +132,7 @@ std::optional<std::uint32_t> WindowsDialogs::Color() {
 
 bool WindowsDialogs::Font(FontRecord& font) {
   LOGFONTW logical = ToLogicalFont(font);
-  const UniqueDeviceContext printer = DefaultPrinter();
+  const Unique<HDC> printer = DefaultPrinter();
   CHOOSEFONTW dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = owner_.ForModal();

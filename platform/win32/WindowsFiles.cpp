@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 #include "platform/LongPath.h"
 #include "platform/win32/Handle.h"
+#include "platform/win32/SystemText.h"
 
 namespace tessera {
 namespace {
@@ -44,43 +46,34 @@ FileError ResultOf(BOOL succeeded) { return succeeded != FALSE ? FileError::None
 /// The path in a form that the system accepts at any length.
 std::wstring SystemPath(const std::wstring& path) {
   if (path.size() < LongPath || HasLongPrefix(path)) return path;
-  const DWORD length = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
-  std::wstring full(length, L'\0');
-  full.resize(GetFullPathNameW(path.c_str(), length, full.data(), nullptr));
+  const std::wstring full = SystemText([&path](wchar_t* buffer, DWORD size) {
+    return GetFullPathNameW(path.c_str(), size, buffer, nullptr);
+  });
   return full.empty() ? path : WithLongPrefix(full);
 }
 
 /// The path behind an open file, with the volume named by its letter or by its number (`volume`);
-/// empty where it has no such name.
+/// empty where it has no such name, and for a file that could not be opened.
 std::wstring FinalPath(HANDLE file, DWORD volume) {
-  const DWORD length = GetFinalPathNameByHandleW(file, nullptr, 0, volume);
-  std::wstring path(length, L'\0');
-  const DWORD written = GetFinalPathNameByHandleW(file, path.data(), length, volume);
-  path.resize(written < length ? written : 0);
-  return path;
+  return SystemText([file, volume](wchar_t* buffer, DWORD size) {
+    return GetFinalPathNameByHandleW(file, buffer, size, volume);
+  });
 }
 
-bool IsProtected(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+/// Empty when there is no such file or folder. Some file systems give a file no bit at all.
+std::optional<DWORD> AttributesOf(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return std::nullopt;
+  return attributes;
 }
 
-bool IsFolder(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+bool HasAttribute(const std::wstring& path, DWORD attribute) {
+  return (AttributesOf(path).value_or(0) & attribute) != 0;
 }
 
-/// Takes a file's protection from being written away; false when there is none, or it stays.
-bool RemoveProtection(const std::wstring& path) {
-  return IsProtected(path) &&
-         SetFileAttributesW(path.c_str(), GetFileAttributesW(path.c_str()) &
-                                              ~DWORD{FILE_ATTRIBUTE_READONLY}) != FALSE;
-}
-
-void Protect(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) return;
-  SetFileAttributesW(path.c_str(), attributes | FILE_ATTRIBUTE_READONLY);
+FileError MoveOver(const std::wstring& from, const std::wstring& to) {
+  return ResultOf(MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(),
+                              MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
 }
 
 UniqueHandle OpenExisting(const std::wstring& path, DWORD access) {
@@ -106,7 +99,7 @@ DWORD NextStep(std::size_t remaining) {
 
 FileError WriteAndFlush(HANDLE file, std::string_view bytes) {
   while (!bytes.empty()) {
-    DWORD count = 0;
+    DWORD count{};
     if (WriteFile(file, bytes.data(), NextStep(bytes.size()), &count, nullptr) == FALSE) {
       return LastError();
     }
@@ -120,9 +113,7 @@ FileError WriteAndFlush(HANDLE file, std::string_view bytes) {
 }  // namespace
 
 bool WindowsFiles::Exists(const std::wstring& path) const {
-  WIN32_FILE_ATTRIBUTE_DATA data{};
-  return GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) != FALSE &&
-         (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+  return AttributesOf(path) && !HasAttribute(path, FILE_ATTRIBUTE_DIRECTORY);
 }
 
 FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const {
@@ -134,7 +125,7 @@ FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const
   std::string content(static_cast<std::size_t>(size.QuadPart), '\0');
   std::size_t done = 0;
   while (done < content.size()) {
-    DWORD count = 0;
+    DWORD count{};
     if (ReadFile(file.get(), content.data() + done, NextStep(content.size() - done), &count,
                  nullptr) == FALSE) {
       return LastError();
@@ -153,7 +144,7 @@ FileError WindowsFiles::Read(const std::wstring& path, std::string& bytes) const
 }
 
 bool WindowsFiles::IsReadOnly(const std::wstring& path) const {
-  return IsProtected(SystemPath(path));
+  return HasAttribute(path, FILE_ATTRIBUTE_READONLY);
 }
 
 FileStamp WindowsFiles::Stamp(const std::wstring& path) const {
@@ -166,11 +157,9 @@ FileStamp WindowsFiles::Stamp(const std::wstring& path) const {
 }
 
 std::wstring WindowsFiles::Resolve(const std::wstring& path) const {
-  const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) return path;
-  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return WithNameOnDisk(path);
+  if (!AttributesOf(path)) return path;
+  if (!HasAttribute(path, FILE_ATTRIBUTE_REPARSE_POINT)) return WithNameOnDisk(path);
   const UniqueHandle file = OpenExisting(path, FILE_READ_ATTRIBUTES);
-  if (!file) return path;
   const std::wstring named = FinalPath(file.get(), VOLUME_NAME_DOS);
   if (!named.empty()) return WithoutLongPrefix(named);
   // A volume that is mounted in a folder alone has no letter; its number needs the prefix.
@@ -191,33 +180,31 @@ FileError WindowsFiles::Append(const std::wstring& path, std::string_view bytes)
   LARGE_INTEGER end{};
   if (!file || SetFilePointerEx(file.get(), {}, &end, FILE_END) == FALSE) return LastError();
   const FileError error = WriteAndFlush(file.get(), bytes);
-  if (error == FileError::None) return error;
-  if (SetFilePointerEx(file.get(), end, nullptr, FILE_BEGIN) != FALSE) SetEndOfFile(file.get());
+  if (error != FileError::None && SetFilePointerEx(file.get(), end, nullptr, FILE_BEGIN) != FALSE) {
+    SetEndOfFile(file.get());
+  }
   return error;
 }
 
 FileError WindowsFiles::Replace(const std::wstring& target, const std::wstring& replacement,
                                 const std::wstring& backup) {
   // Wine finds another error, after which the folder would be renamed.
-  if (IsFolder(SystemPath(target))) return FileError::AccessDenied;
+  if (HasAttribute(target, FILE_ATTRIBUTE_DIRECTORY)) return FileError::AccessDenied;
   return ResultOf(ReplaceFileW(SystemPath(target).c_str(), SystemPath(replacement).c_str(),
                                SystemPath(backup).c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                                nullptr));
 }
 
 FileError WindowsFiles::Move(const std::wstring& from, const std::wstring& to) {
-  const auto move = [from = SystemPath(from), to = SystemPath(to)] {
-    return ResultOf(
-        MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
-  };
-  const FileError error = move();
+  const FileError error = MoveOver(from, to);
+  if (error != FileError::AccessDenied || !IsReadOnly(to)) return error;
   // Whoever moves has decided that `to` may go. A backup, for one, is as protected as the file was
   // that it was made of.
-  const bool again = error == FileError::AccessDenied && RemoveProtection(SystemPath(to));
-  if (!again) return error;
-  const FileError second = move();
+  const DWORD attributes = AttributesOf(to).value_or(FILE_ATTRIBUTE_READONLY);
+  SetFileAttributesW(SystemPath(to).c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+  const FileError second = MoveOver(from, to);
   // The denial came from somewhere else.
-  if (second != FileError::None) Protect(SystemPath(to));
+  if (second != FileError::None) SetFileAttributesW(SystemPath(to).c_str(), attributes);
   return second;
 }
 

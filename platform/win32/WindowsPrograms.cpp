@@ -10,6 +10,7 @@
 #include "platform/CommandLine.h"
 #include "platform/win32/Components.h"
 #include "platform/win32/SystemFunction.h"
+#include "platform/win32/WindowsFiles.h"
 
 namespace tessera {
 namespace {
@@ -21,10 +22,7 @@ constexpr std::intptr_t LargestShellExecuteError = 32;  // as that function coun
 
 HWND ToHandle(WindowId window) { return reinterpret_cast<HWND>(window); }
 
-bool IsFile(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
+bool IsFile(const std::wstring& path) { return WindowsFiles().Exists(path); }
 
 using Answer = std::shared_ptr<bool>;
 

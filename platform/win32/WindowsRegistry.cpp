@@ -31,8 +31,8 @@ UniqueKey OpenKey(RootKey root, const std::wstring& subkey, REGSAM access) {
 bool IsText(DWORD type) { return type == REG_SZ || type == REG_EXPAND_SZ; }
 
 std::optional<RegistryValue> QueryIn(HKEY key, const std::wstring& name) {
-  DWORD type = 0;
-  DWORD size = 0;
+  DWORD type{};
+  DWORD size{};
   if (RegQueryValueExW(key, name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS) {
     return std::nullopt;
   }

@@ -307,6 +307,7 @@ TEST_F(EditTest, ListFindsRowsByTheirDescriptionsAndWhatIsTypedByTheirNamesToo) 
   EXPECT_EQ(window_->FindItem(LVFI_STRING, window_->Row(row)[0]), row);
   EXPECT_EQ(window_->FindItem(LVFI_STRING, L"cm_SrcTree"), -1);
   EXPECT_EQ(window_->FindItem(LVFI_STRING | LVFI_PARTIAL, L"cm_SrcTree"), row);
+  EXPECT_EQ(window_->FindItem(LVFI_STRING), 0) << "which begins with no letter, as any row";
   EXPECT_EQ(window_->FindItem(LVFI_PARAM), -1);
 }
 

@@ -122,6 +122,7 @@ TEST_F(ExportTest, DialogStandsInTheMiddleOfTheScreenAndDisablesTheWindow) {
   const POINT middle = CenterOf(RectangleOf(dialog.Handle()));
   EXPECT_NEAR(middle.x, CenterOf(room).x, 1);
   EXPECT_NEAR(middle.y, CenterOf(room).y, 1);
+  EXPECT_TRUE(dialog.HasFocus(IDC_chkColumn0));
 }
 
 TEST_F(ExportTest, OneBoxOfEachPairStaysChecked) {

@@ -279,6 +279,10 @@ TEST_F(FindTest, TakesWhateverIsTyped) {
   Post(std::wstring(60, L' ') + L"tree");
   WaitFor("the rows with tree",
           [&] { return WithoutHeadings(window_->Rows()) == Matching(all_, L"tree"); });
+  Send(window_->Handle(), WM_SYSCOMMAND, SC_MINIMIZE);
+  Send(window_->Handle(), WM_SYSCOMMAND, SC_RESTORE);
+  EXPECT_EQ(Found().size(), 64U) << "a minimised window has room for no box, and keeps the text";
+  EXPECT_EQ(WithoutHeadings(window_->Rows()), Matching(all_, L"tree"));
 }
 
 }  // namespace

@@ -77,6 +77,8 @@ class KeysListTest : public EndToEndTest {
 };
 
 TEST_F(KeysListTest, HasTheNameAndTheEntriesOfTheChooser) {
+  RECT title = RectangleOf(window_->Handle());
+  title.bottom = title.top + GetSystemMetrics(SM_CYFRAME) + GetSystemMetrics(SM_CYCAPTION);
   const Dialog list = OpenList();
   EXPECT_EQ(list.Caption(), window_->ControlText(IDC_lblHotkey));
   const HWND entries = list.Control(IDC_List1);
@@ -88,6 +90,8 @@ TEST_F(KeysListTest, HasTheNameAndTheEntriesOfTheChooser) {
   for (int index = 0; index < count; ++index) {
     EXPECT_EQ(Entry(entries, LB_GETTEXT, index), Entry(chooser, CB_GETLBTEXT, index)) << index;
   }
+  // By now the window's title would be that of one which is not active.
+  EXPECT_EQ(CountPixels(title, GetSysColor(COLOR_INACTIVECAPTION)), 0) << "the list is part of it";
 }
 
 TEST_F(KeysListTest, StandsUnderThePanelFlushWithTheButtonWhereverTheyGo) {
@@ -142,6 +146,10 @@ TEST_F(KeysListTest, ArrowKeysChangeNothingUntilEnterChooses) {
   place.bottom = place.top + 1;
   EXPECT_LT(CountPixels(place, GetSysColor(COLOR_HIGHLIGHT)), place.right - place.left)
       << "the focus shows";
+  place = PlaceOf(list, 5);
+  place.bottom = place.top + 1;
+  EXPECT_EQ(CountPixels(place, GetSysColor(COLOR_WINDOW)), place.right - place.left)
+      << "another entry has no focus";
   Press(VK_RETURN);
   list.WaitUntilClosed();
   WaitFor("the key to be chosen", [&] { return window_->ChosenKey() == key; });
@@ -311,6 +319,11 @@ TEST_F(KeysListTest, KeysThatSomebodyHasLookQuieterAndBearAMark) {
   // The middle of the mark, of a diameter of 5 and 8 from the end.
   EXPECT_EQ(CountPixels({taken.right - 11, middle, taken.right - 10, middle + 1}, Quiet), 1);
   EXPECT_EQ(CountPixels({taken.right - 8, taken.top, taken.right, taken.bottom}, Quiet), 0);
+  const LONG top = (taken.top + taken.bottom - 5) / 2;
+  const RECT end{(taken.left + taken.right) / 2, taken.top, taken.right, taken.bottom};
+  const int mark = CountPixels({taken.right - 13, top, taken.right - 8, top + 5}, Quiet);
+  EXPECT_GT(mark, 5 * 5 / 2) << "it is filled";
+  EXPECT_EQ(CountPixels(end, Quiet), mark) << "and no larger";
   const auto hasText = [&](int index, const std::wstring& text, COLORREF color) {
     const Picture line =
         DrawLine(text, SystemMetrics().lfMessageFont, color, GetSysColor(COLOR_WINDOW), false);

@@ -82,6 +82,9 @@ TEST_F(ListLooksTest, RowsHaveTheUsersColorsAndFontAndTheSelectedOneStandsOut) {
   WaitForColor(row, Text);  // the only one of them that can be told from it
   WaitForText(row, L"cm_SrcTree", shadow, Text);
   WaitForText(window_->FindCommand(L"cm_SrcShort"), L"cm_SrcShort", Text, shadow);
+  const HWND list = window_->Control(IDC_ListView1);
+  EXPECT_EQ(static_cast<COLORREF>(Send(list, LVM_GETBKCOLOR)), shadow) << "beside the rows, too";
+  EXPECT_EQ(static_cast<COLORREF>(Send(list, LVM_GETTEXTCOLOR)), Text);
 }
 
 TEST_F(ListLooksTest, HeadingsAndRowsWithKeysHaveTheirIcons) {

@@ -169,6 +169,7 @@ TEST_F(ListMenuTest, OpensBesideThePointerWhereTextsRunFromTheRight) {
 
 TEST_F(ListMenuTest, DownOpensTheMenuOfAToolbarsButton) {
   constexpr int DeletePlace = 2;
+  constexpr int OptionsPlace = 5;
   StartAndLoad();
   Select(L"cm_SrcComments");
   GoTo(IDC_Toolbar2);
@@ -184,6 +185,17 @@ TEST_F(ListMenuTest, DownOpensTheMenuOfAToolbarsButton) {
   window_->CloseMenus();
   EXPECT_TRUE(window_->HasFocus(IDC_Toolbar2));
   GoTo(IDC_Toolbar1);
+  for (const int hot : {OptionsPlace, -1}) {  // neither has a menu
+    Send(window_->Control(IDC_Toolbar1), TB_SETHOTITEM, static_cast<WPARAM>(hot));
+    EXPECT_EQ(Send(window_->Control(IDC_Toolbar1), TB_GETHOTITEM), hot);
+    Press(VK_DOWN);
+    Press(VK_CONTROL);  // handled after it
+    WaitFor("box Ctrl to change", [&] { return window_->BoxChecked(IDC_chkCtrlAlt0); });
+    EXPECT_FALSE(window_->InMenu());
+    Press(VK_CONTROL);
+    WaitFor("box Ctrl to change", [&] { return !window_->BoxChecked(IDC_chkCtrlAlt0); });
+    GoTo(IDC_Toolbar1);
+  }
   Send(window_->Control(IDC_Toolbar1), TB_SETHOTITEM, 0);
   Press(VK_DOWN);
   WaitForMenu();

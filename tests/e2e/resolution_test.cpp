@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "resources/icons.h"
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Input.h"
@@ -305,10 +306,12 @@ TEST_F(ResolutionTest, PanelHasRoomInAWindowThatStaysAndItsAllKeysButtonStandsIn
     ChangeResolution(*window_, dpi, {20, 20, 1220, 920});
     const RECT chooser = RectangleOf(window_->Control(IDC_Combo1));
     const RECT button = RectangleOf(window_->Control(IDC_cmdAllList));
+    EXPECT_GT(chooser.bottom - chooser.top, MulDiv(16, dpi, 96)) << "with its font";
     EXPECT_GT(button.left, chooser.left);
     EXPECT_GT(button.top, chooser.top);
     EXPECT_LT(button.right, chooser.right);
     EXPECT_LT(button.bottom, chooser.bottom);
+    EXPECT_GE(RectangleOf(window_->Control(IDC_lblStatus)).top, chooser.bottom);
     EXPECT_LE(RectangleOf(window_->Control(IDC_cmdUndo)).bottom,
               RectangleOf(window_->Control(IDC_Frame1)).bottom);
   }
@@ -370,9 +373,19 @@ TEST_F(ResolutionTest, WindowFollowsItThereAndBack) {
   ChangeResolution(*window_, 96, place);
   EXPECT_EQ(Places(), places);
   EXPECT_EQ(window_->ColumnWidths(), widths);
+  // All is laid out again after other fonts and looks, too.
+  for (const auto& [message, what] :
+       {std::pair{WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS}, std::pair{WM_SYSCOLORCHANGE, 0},
+        std::pair{WM_THEMECHANGED, 0}}) {
+    SetWindowPos(window_->Control(IDC_ListView1), nullptr, 0, 0, 9, 9,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_NE(Places(), places);
+    Send(window_->Handle(), static_cast<UINT>(message), static_cast<WPARAM>(what));
+    EXPECT_EQ(Places(), places) << message;
+  }
 }
 
-TEST_F(ResolutionTest, TextsHaveTheFontOfMessages) {
+TEST_F(ResolutionTest, TextsHaveTheFontOfMessagesAndTheAllKeysButtonItsIcon) {
   StartAndLoad();
   MakeAChange();
   Select(L"cm_SrcTree");
@@ -383,6 +396,12 @@ TEST_F(ResolutionTest, TextsHaveTheFontOfMessages) {
                        IDC_lblStatus, IDC_cmdShow, IDC_cmdUndo}) {
     WaitForMessageFont(id);
   }
+  const RECT button = RectangleOf(window_->Control(IDC_cmdAllList));
+  const Picture icon = DrawProgramIcon(folder_.Executable(), IDI_ALLKEYS, 16,
+                                       ColorAt({button.left + 2, button.top + 2}));
+  const Picture shown = TakePicture(button);
+  // Away from the button's edges.
+  for (int x = 3; x < 13; ++x) EXPECT_EQ(shown.At(x, 4), icon.At(x, 4)) << "of its icon";
 }
 
 }  // namespace

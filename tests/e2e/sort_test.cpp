@@ -1,10 +1,12 @@
 // The sorted view, and the way back to file order.
 #include <algorithm>
 
+#include "resources/icons.h"
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Expected.h"
 #include "tests/e2e/Input.h"
+#include "tests/e2e/Screen.h"
 #include "tests/support/win32/Wait.h"
 
 namespace tessera::e2e::sort_test {
@@ -23,11 +25,26 @@ class SortTest : public EndToEndTest {
     });
   }
 
+  void ExpectIconInHeader(int column, bool descending) const {
+    const RECT row = window_->CellRectangle(0, 1);
+    // The first cell is given as all of its row.
+    const RECT cell = window_->CellRectangle(0, column);
+    const RECT header{cell.left, RectangleOf(window_->Control(IDC_ListView1)).top,
+                      column == 0 ? row.left : cell.right, row.top};
+    WaitFor("the icon of column " + std::to_string(column), [&] {
+      const COLORREF back = ColorAt({header.right - 4, (header.top + header.bottom) / 2});
+      const int icon = descending ? IDI_DESCENDING : IDI_ASCENDING;
+      return TakePicture(header).HoldsSomewhere(
+          DrawProgramIcon(folder_.Executable(), icon, 16, back));
+    });
+  }
+
   /// Expects the rows in that order, none missing, and the one icon in that column's header.
   void ExpectSorted(std::size_t column, bool descending) {
     std::vector<RowTexts> rows = window_->Rows();
     EXPECT_TRUE(Sorted(rows, column, descending)) << "column " << column << ", " << descending;
     EXPECT_TRUE(window_->HeaderHasOwnImages());
+    ExpectIconInHeader(static_cast<int>(column), descending);
     for (std::size_t header = 0; header < 4; ++header) {
       EXPECT_EQ(window_->Header(static_cast<int>(header)).HasIcon, header == column) << header;
     }

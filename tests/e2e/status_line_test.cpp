@@ -148,13 +148,22 @@ TEST_F(StatusLineTest, ShowsAllOfItInATipWhereItIsCut) {
   StartAndLoad();
   Select(L"cm_Long");
   WaitForLine(L"Does this & that", L"and more");
-  MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblStatus))));
-  WaitFor("the tip", [&] { return window_->TipIn(IDC_Frame1) == Line(); });
+  const auto pointAtTheLine = [&] {
+    MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblStatus))));
+    WaitFor("the tip", [&] { return window_->TipIn(IDC_Frame1) == Line(); });
+  };
+  pointAtTheLine();
   const HWND tip = VisibleWindows(program_->Id(), TOOLTIPS_CLASSW).front();
   EXPECT_EQ(Send(tip, TTM_GETMAXTIPWIDTH), GetSystemMetrics(SM_CXSCREEN) / 2) << "then it breaks";
   EXPECT_EQ(Send(tip, TTM_GETDELAYTIME, TTDT_AUTOPOP), 30000) << "time to read it";
+  const auto waitForNoTip = [&] {
+    WaitFor("the tip to go", [&] { return window_->TipIn(IDC_Frame1).empty(); });
+  };
+  SetWindowPos(window_->Handle(), nullptr, 0, 0, 760, 520, SWP_NOMOVE | SWP_NOZORDER);
+  waitForNoTip();
+  pointAtTheLine();
   MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblHotkey))));
-  WaitFor("the tip to go", [&] { return window_->TipIn(IDC_Frame1).empty(); });
+  waitForNoTip();
 }
 
 /// The windows whose change of name the program tells to screen readers, while this object lives.

@@ -57,12 +57,21 @@ TEST_F(UndoTest, EnterPressesTheButtonWhileNoKeyIsChosen) {
   Press(VK_ESCAPE);
   WaitFor("no key", [&] { return window_->ChosenKey().empty(); });
   WaitFor("the button to be enabled", [&] { return window_->Enabled(IDC_cmdUndo); });
+  // Round twice: of all keys Enter alone presses the button.
   for (const int control :
-       {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2, IDC_Combo1, IDC_Toolbar2, IDC_cmdUndo}) {
+       {IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2, IDC_Combo1, IDC_Toolbar2, IDC_cmdUndo,
+        IDC_Toolbar1, IDC_txtFind, IDC_ListView1, IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2,
+        IDC_Combo1, IDC_Toolbar2, IDC_cmdUndo}) {
     Press(VK_TAB);
     WaitFor("the next control", [&] { return window_->HasFocus(control); });
     if (control == IDC_chkCtrlAlt2) Press(VK_RETURN);
   }
+  const auto beginsAGroup = [&](int control) {
+    return (GetWindowLongPtrW(window_->Control(control), GWL_STYLE) & WS_GROUP) != 0;
+  };
+  // Arrow keys stay among the boxes, and so on.
+  EXPECT_TRUE(beginsAGroup(IDC_chkCtrlAlt0) && !beginsAGroup(IDC_chkCtrlAlt1));
+  EXPECT_TRUE(beginsAGroup(IDC_lblHotkey) && beginsAGroup(IDC_lblStatus));
   EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt2)) << "Enter is for buttons";
   Press(VK_RETURN);
   WaitForLine(L"Taken back: K to cm_SrcTree.");

@@ -136,21 +136,44 @@ TEST(DialogLayout, PagesHaveTheSameSize) {
   EXPECT_GE(layout.Width, 500);
 }
 
-TEST(DialogLayout, ButtonsEndAtTheRight) {
+TEST(DialogLayout, ButtonsEndBelowTheEndOfThePages) {
   constexpr int TextWidths[] = {20, 100};
-  const std::vector<Area> buttons = LayOutButtons(TextWidths, Metrics, 300, 50);
-  EXPECT_EQ(buttons[0], (Area{94, 50, 75, 23}));
-  EXPECT_EQ(buttons[1], (Area{176, 50, 124, 23}));
-  EXPECT_EQ(ButtonSize(100, Metrics), (Area{0, 0, 124, 23}));
+  const DialogLayout dialog = LayOutDialog({}, {0, 0, 289, 28}, TextWidths, Metrics);
+  EXPECT_EQ(dialog.Buttons[0], (Area{94, 50, 75, 23}));
+  EXPECT_EQ(dialog.Buttons[1], (Area{176, 50, 124, 23}));
+  EXPECT_EQ(dialog.Inside.Width, 300 + 11);
+  EXPECT_EQ(dialog.Inside.Height, 50 + 23 + 11);
+}
+
+TEST(DialogLayout, TabsAndWhatIsInThemStandWithinTheMargin) {
+  PagesLayout pages{.Controls = {{0, 0, 50, 17}, {13, 24, 60, 18}}, .Width = 90, .Height = 42};
+  const DialogLayout dialog = LayOutDialog(pages, {-14, -30, 118, 86}, {}, Metrics);
+  EXPECT_EQ(dialog.Tabs, (Area{11, 11, 118, 86}));
+  EXPECT_EQ(dialog.Controls, (std::vector<Area>{{25, 41, 50, 17}, {38, 65, 60, 18}}));
+}
+
+TEST(DialogLayout, PagesAreAsWideAsWhatIsAroundThemNeeds) {
+  EXPECT_EQ(NarrowestPages({}, Metrics), 210);
+  EXPECT_EQ(NarrowestPages({.Title = 200}, Metrics), 270);
+  EXPECT_EQ(NarrowestPages({.Title = 200, .Tabs = {100, 200}}, Metrics), 126 + 226);
+  EXPECT_EQ(NarrowestPages({.Tabs = {100}, .Buttons = {200, 20, 100}}, Metrics),
+            224 + 7 + 75 + 7 + 124 + 7);
+  EXPECT_EQ(NarrowestPages({.Tabs = {200}}, {.Dpi = 120}), 263) << "210 at this resolution";
+  EXPECT_EQ(NarrowestPages({.Tabs = {300}}, {.Dpi = 120}), 300 + 2 * 13 + 8);
 }
 
 TEST(DialogLayout, GrowsWithTheResolution) {
   constexpr DialogMetrics Double{.Dpi = 192, .TextHeight = 26};
   EXPECT_EQ(DialogMargin(Metrics), 11);
   EXPECT_EQ(DialogMargin(Double), 22);
-  EXPECT_EQ(DialogGap(Metrics), 7);
-  EXPECT_EQ(DialogGap(Double), 14);
-  EXPECT_EQ(ButtonSize(40, Double).Height, 2 * ButtonSize(20, Metrics).Height);
+  const auto buttons = [](const DialogMetrics& metrics, std::vector<int> texts) {
+    return LayOutDialog({}, {}, texts, metrics).Buttons;
+  };
+  const std::vector<Area> small = buttons(Metrics, {20, 100});
+  const std::vector<Area> large = buttons(Double, {40, 200});
+  EXPECT_EQ(large[0].Height, 2 * small[0].Height);
+  EXPECT_EQ(large[1].Width, 2 * small[1].Width);
+  EXPECT_EQ(large[1].Left - large[0].Left, 2 * (small[1].Left - small[0].Left));
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "app/LoadProgress.h"
 #include "tests/support/FakeClock.h"
 
@@ -49,7 +47,6 @@ TEST(LoadProgress, HandlesNoEventsWhileALoadIsShort) {
   progress.Start();
   clock.Seconds += 0.03F;
   for (int step = 0; step < 1500; ++step) progress.Step();
-  EXPECT_FALSE(progress.HandlesEvents());
   progress.Finish();
   EXPECT_EQ(shown, 2);
   EXPECT_EQ(clock.DoEventsCount, 0);
@@ -78,20 +75,6 @@ TEST(LoadProgress, HandlesEventsAfterJust50Milliseconds) {
   clock.Seconds = 0.05F;
   for (int step = 0; step < 16; ++step) progress.Step();
   EXPECT_EQ(clock.DoEventsCount, 1);
-}
-
-TEST(LoadProgress, TellsBeforeTheFirstEventsThatTheyAreHandled) {
-  std::vector<bool> told;
-  FakeClock clock;
-  LoadProgress progress(clock,
-                        [&](const LoadProgress& bar) { told.push_back(bar.HandlesEvents()); });
-  for (int load = 0; load < 2; ++load) {
-    progress.Start();
-    clock.Seconds += 0.0625F;
-    for (int step = 0; step < 16; ++step) progress.Step();
-    progress.Finish();
-  }
-  EXPECT_EQ(told, (std::vector<bool>{false, true, true, false, true, true}));
 }
 
 TEST(LoadProgress, HandlesEventsWhenMidnightHasPassed) {

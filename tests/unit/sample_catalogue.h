@@ -31,6 +31,20 @@ inline CommandEntry SampleCommand(RowKey key, const std::wstring& name,
   return row;
 }
 
+/// Rows with these descriptions and the keys 1, 2 and so on.
+inline DisplayTable DescribedRows(const std::vector<std::wstring>& descriptions) {
+  std::vector<CommandEntry> rows;
+  for (const std::wstring& description : descriptions) {
+    CommandEntry row;
+    row.Key = rows.size() + 1;
+    row.Description = Kept(description);
+    rows.push_back(std::move(row));
+  }
+  DisplayTable table;
+  table.Fill(std::move(rows));
+  return table;
+}
+
 inline Catalogue SampleCatalogue(const HotkeyNotation& notation = {}) {
   CommandEntry heading;
   heading.Key = sample::Heading;

@@ -12,7 +12,7 @@ class ControlsTest : public testing::Test {
   ~ControlsTest() override { DestroyWindow(window_); }
 
   HWND Make(const wchar_t* className) {
-    const HWND made = CreateControl(window_, className, WS_VISIBLE, 0, 7);
+    const HWND made = CreateControl(window_, className, 7, WS_VISIBLE);
     SetWindowPos(made, nullptr, 11, 12, 50, 40, SWP_NOZORDER);
     return made;
   }
@@ -46,7 +46,7 @@ TEST_F(ControlsTest, MessageFontGrowsWithTheResolutionAndKeepsTheCharacterSet) {
 }
 
 TEST_F(ControlsTest, ControlIsMadeWithoutTextAndSize) {
-  const HWND made = CreateControl(window_, WC_EDITW, ES_NUMBER, WS_EX_RIGHT, 7);
+  const HWND made = CreateControl(window_, WC_EDITW, 7, ES_NUMBER, WS_EX_RIGHT);
   EXPECT_EQ(GetDlgItem(window_, 7), made);
   EXPECT_EQ(TextOf(made), L"");
   EXPECT_EQ(WindowArea(made), (Area{100, 60, 0, 0}));
@@ -110,6 +110,21 @@ TEST_F(ControlsTest, AreaHasItsCornerAndItsSize) {
   const HWND control = Make(WC_STATICW);
   Place(control, {1, 2, 30, 40});
   EXPECT_EQ(WindowArea(control), (Area{101, 62, 30, 40}));
+}
+
+TEST_F(ControlsTest, FrameIsWhatStandsAroundTheInside) {
+  const HMENU bar = CreateMenu();
+  AppendMenuW(bar, MF_STRING, 1, L"File");
+  const HWND framed = CreateWindowW(L"STATIC", L"", WS_OVERLAPPEDWINDOW, 100, 60, 300, 200, nullptr,
+                                    nullptr, nullptr, nullptr);
+  for (const bool withMenuBar : {false, true}) {
+    if (withMenuBar) SetMenu(framed, bar);
+    const RECT inside = Inside(framed);
+    const Size frame = FrameSize(framed, static_cast<int>(GetDpiForWindow(framed)), withMenuBar);
+    EXPECT_EQ(frame.Width, 300 - inside.right);
+    EXPECT_EQ(frame.Height, 200 - inside.bottom);
+  }
+  DestroyWindow(framed);
 }
 
 TEST_F(ControlsTest, ScreenHasItsRoomAndTheGivenResolution) {

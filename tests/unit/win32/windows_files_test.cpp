@@ -132,6 +132,15 @@ TEST_F(WindowsFilesTest, NothingIsAppendedToAProtectedFile) {
   EXPECT_EQ(ContentOf(L"a"), "x");
 }
 
+TEST_F(WindowsFilesTest, FullDiskIsTold) {
+  if (!UnderWine()) {
+    GTEST_SKIP() << "Linux has a file that is always full";
+  }
+  const std::wstring full = L"\\\\?\\unix\\dev\\full";
+  EXPECT_EQ(files_.Write(full, "x"), FileError::DiskFull);
+  EXPECT_EQ(files_.Append(full, "x"), FileError::DiskFull);
+}
+
 TEST_F(WindowsFilesTest, ReplaceLeavesTheFormerFileAsBackup) {
   Put(L"a", "old");
   Put(L"b", "new");
@@ -295,6 +304,7 @@ TEST_F(WindowsFilesTest, FileThatIsNoLinkResolvesToItself) {
   EXPECT_EQ(files_.Resolve(At(L"a")), At(L"a"));
   EXPECT_EQ(files_.Resolve(At(L"b")), At(L"b"));
   EXPECT_EQ(files_.Resolve(L"C:\\"), L"C:\\") << "has no name";
+  EXPECT_EQ(files_.Resolve(At(L"*")), At(L"*")) << "names no file, though it suits one";
 }
 
 TEST_F(WindowsFilesTest, FileResolvesToItsNameOnTheDisk) {
