@@ -81,6 +81,13 @@ void EndToEndTest::Select(const std::wstring& command) {
   window_->ClickRow(position);
 }
 
+void EndToEndTest::SelectNext() {
+  const int next = window_->SelectedRow() + 1;
+  Press(VK_DOWN);
+  WaitFor("row " + std::to_string(next) + " to be selected",
+          [&] { return window_->SelectedRow() == next; });
+}
+
 RowTexts EndToEndTest::RowOf(const std::wstring& command) const {
   return window_->Row(window_->FindCommand(command));
 }

@@ -42,6 +42,9 @@ class EndToEndTest : public testing::Test {
 
   /// Clicks the row of a command.
   void Select(const std::wstring& command);
+  /// Selects the row below the selected one by its key, which is answered after all of a click; the
+  /// release of the button may still be to come when the click has selected a row.
+  void SelectNext();
 
   /// The texts of a command's row.
   [[nodiscard]] RowTexts RowOf(const std::wstring& command) const;

@@ -183,6 +183,7 @@ TEST_F(EditTest, AClickBesideTheRowsKeepsTheSelectedOne) {
   const HWND list = window_->Control(IDC_ListView1);
   for (WPARAM column = 0; column < 4; ++column) Send(list, LVM_SETCOLUMNWIDTH, column, LPARAM{90});
   Select(L"cm_SrcTree");
+  SelectNext();
   const int selected = window_->SelectedRow();
   const int seen = window_->RowCount() / 2;
   Send(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(seen));

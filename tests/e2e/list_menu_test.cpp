@@ -115,6 +115,7 @@ TEST_F(ListMenuTest, CopiesGoToTheClipboard) {
 TEST_F(ListMenuTest, ContextMenuKeyAndShiftF10OpenItAtTheSelectedRow) {
   StartAndLoad();
   Select(L"cm_SrcComments");
+  SelectNext();
   const RECT row = window_->CellRectangle(window_->SelectedRow(), 0);
   Send(window_->Control(IDC_ListView1), LVM_ENSUREVISIBLE,
        static_cast<WPARAM>(window_->RowCount() - 1));
