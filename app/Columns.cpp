@@ -8,10 +8,8 @@
 namespace tessera {
 
 std::array<int, 4> OrderOfPositions(const std::array<int, 4>& positions) {
-  std::array<int, 4> order{};
-  for (std::size_t column = 0; column < positions.size(); ++column) {
-    order.at(static_cast<std::size_t>(positions[column] - 1)) = static_cast<int>(column);
-  }
+  std::array<int, 4> order{0, 1, 2, 3};
+  std::ranges::sort(order, {}, [&](int column) { return positions.at(static_cast<std::size_t>(column)); });
   return order;
 }
 

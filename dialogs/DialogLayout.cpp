@@ -58,24 +58,22 @@ class PageStack {
 
   void OpenFrame(const MeasuredControl& control, Area& area) {
     CloseFrame();
-    const int top = bottom_ > 0 ? bottom_ + At(Margin) : 0;
-    area = {0, top, width_, 0};
+    const int top = bottom_ == 0 ? 0 : bottom_ + At(Margin);
+    area.Top = top;
+    area.Width = width_;
     frame_ = &area;
     indent_ = At(Margin);
     bottom_ = top + (control.TextWidth > 0 ? metrics_.TextHeight : At(Gap) / 2);
   }
 
   void CloseFrame() {
-    if (frame_ != nullptr) {
-      bottom_ += At(Margin);
-      frame_->Height = bottom_ - frame_->Top;
-      frame_ = nullptr;
-    }
-    indent_ = 0;
+    if (frame_ == nullptr) return;
+    bottom_ += At(Margin);
+    frame_->Height = bottom_ - frame_->Top;
   }
 
   void StartRow(ControlKind kind) {
-    rowTop_ = bottom_ > 0 ? bottom_ + At(Gap) : 0;
+    rowTop_ = bottom_ == 0 ? 0 : bottom_ + At(Gap);
     rowHeight_ = RowHeight(kind, metrics_);
     bottom_ = rowTop_ + rowHeight_;
   }

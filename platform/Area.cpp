@@ -2,13 +2,12 @@
 #include "platform/Area.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessera {
 
 int Proportion(int value, int numerator, int denominator) {
-  const auto product = static_cast<long long>(value) * numerator;
-  const int half = product < 0 ? -denominator / 2 : denominator / 2;
-  return static_cast<int>((product + half) / denominator);
+  return static_cast<int>(std::llround(static_cast<double>(value) * numerator / denominator));
 }
 
 int Scaled(int pixelsAt96, int dpi) { return Proportion(pixelsAt96, dpi, 96); }

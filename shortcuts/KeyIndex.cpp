@@ -36,7 +36,6 @@ void RemoveFromGroup(Groups& groups, std::size_t hash, Id id) {
   const auto group = groups.find(hash);
   if (group == groups.end()) return;
   group->second.erase(id);
-  if (group->second.empty()) groups.erase(group);
 }
 
 /// The first entry of a group that really is meant: different texts may share a hash.

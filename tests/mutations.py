@@ -24,7 +24,8 @@ RETURN = re.compile(r"\breturn ([^;{}]+);")
 CONDITION = re.compile(r"\bif \(")
 DECIDES = re.compile(r"\s(?:[=!]=|[<>]=?|&&|\|\||=)\s|!")
 # The default of its type, or the name of a value that may be.
-MAYBE_DEFAULT = re.compile(r'(?:0|false|FALSE|true|1|nullptr|std::nullopt|L?""|[A-Z]\w*(?:::\w+)+)$')
+MAYBE_DEFAULT = re.compile(
+    r"""(?:0|false|FALSE|true|1|nullptr|std::nullopt|L?""|L?'\\0'|[A-Z]\w*(?:::\w+)+)$""")
 # Numbers that the system does not look at: the parameters of a message that has none, and the place or
 # the size of a window that keeps it.
 IGNORED = re.compile(

@@ -284,7 +284,6 @@ std::string IniDocument::Text() const {
 void IniDocument::Reset(std::string text) {
   content_ = std::make_shared<const std::string>(std::move(text));
   Divide();
-  written_.clear();
 }
 
 std::string_view IniDocument::Store(std::string text) {
@@ -293,9 +292,10 @@ std::string_view IniDocument::Store(std::string text) {
 
 void IniDocument::AppendSection(std::string text) {
   IniSection& last = sections_.back();
-  std::size_t number = last.Lines().size();
-  while (number > 0 && last.Lines()[number - 1].empty()) --number;
-  if (number > 0) EndLine(last, number - 1);
+  const auto& lines = last.Lines();
+  const auto end = std::find_if(lines.rbegin(), lines.rend(),
+                                [](std::string_view line) { return !line.empty(); });
+  if (end != lines.rend()) EndLine(last, static_cast<std::size_t>(lines.rend() - end - 1));
   AddSection(Store(std::move(text)));
 }
 

@@ -36,6 +36,8 @@ CHANGES = {
     "  ids.reserve(count);": [],
     "return std::nullopt;": [],
     "return FALSE;": [],
+    r"return L'\0';": [],
+    "return L'x';": ["return {};"],
     "#include <vector>  // 1": [],
     "  PostMessageW(Owner(window), WM_CLOSE, 0, 0);": ["{}"],
     "  SendMessageW(list, WM_ACTIVATE, 0, 0), Send(0);": [

@@ -73,7 +73,9 @@ TEST(LoadProgress, HandlesEventsAfterJust50Milliseconds) {
   for (int step = 0; step < 16; ++step) progress.Step();
   EXPECT_EQ(clock.DoEventsCount, 0) << "no time has passed";
   clock.Seconds = 0.05F;
-  for (int step = 0; step < 16; ++step) progress.Step();
+  for (int step = 1; step < 16; ++step) progress.Step();
+  EXPECT_EQ(clock.DoEventsCount, 0) << "it looks at each 16th step";
+  progress.Step();
   EXPECT_EQ(clock.DoEventsCount, 1);
 }
 

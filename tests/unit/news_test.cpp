@@ -74,6 +74,9 @@ TEST_F(NewsTest, ADeletionTellsTheKeysThatAreGone) {
   Editor.Work(&HotkeyPanel::DeleteAll);
   EXPECT_EQ(Latest().Kind, NewsKind::DeletedAll);
   EXPECT_EQ(Latest().Rows, 2U);
+  Assign(Pack, L"F9");
+  Editor.Work(&HotkeyPanel::DeleteAll);
+  EXPECT_EQ(Latest().Rows, 1U);
 }
 
 TEST_F(NewsTest, AnEditThatIsRefusedIsNone) {

@@ -21,6 +21,7 @@ TEST(LeadingNumber, StopsWhereTheNumberEnds) {
       {L"\u0661", 0},   {L"1e-999", 0}, {L"1e999", std::numeric_limits<double>::max()},
   };
   for (const auto& [text, number] : cases) EXPECT_EQ(LeadingNumber(text), number);
+  EXPECT_EQ(LeadingNumber(std::wstring(400, L'9') + L"e-"), std::numeric_limits<double>::max());
 }
 
 TEST(Rounding, IsHalfToEvenAndStaysInRange) {

@@ -106,6 +106,15 @@ TEST_F(RestartTotalCommanderTest, The64BitProgramStartsOnlyWhenItIsAlone) {
   files_.Contents[L"C:\\TC\\Totalcmd.exe"] = "";
   Run(false);
   EXPECT_EQ(log_.back(), L"Start C:\\TC\\Totalcmd.exe /i=\"C:\\My Files\\Wincmd.ini\"");
+
+  environment_.Variables[L"Commander_Path"] = L"\\\\server\\TC";
+  files_.Contents[L"\\\\server\\TC\\Totalcmd64.exe"] = "";
+  Run(false);
+  EXPECT_EQ(log_.back(),
+            L"Start \\\\server\\TC\\Totalcmd64.exe /i=\"C:\\My Files\\Wincmd.ini\"");
+  files_.Contents[L"\\\\server\\TC\\Totalcmd.exe"] = "";
+  Run(false);
+  EXPECT_EQ(log_.back(), L"Start \\\\server\\TC\\Totalcmd.exe /i=\"C:\\My Files\\Wincmd.ini\"");
 }
 
 TEST_F(RestartTotalCommanderTest, FailedStartIsIgnored) {
@@ -145,6 +154,13 @@ TEST(Pause, LastsHalfASecondWhenTheTimeIsSetBack) {
   };
   Pause(clock);
   EXPECT_EQ(clock.SleptMilliseconds, 500);
+}
+
+TEST(Pause, EndsWhenTheTimeIsSetToItsEnd) {
+  FakeClock clock;
+  clock.OnDoEvents = [&] { clock.SetBackBy = -0.495; };
+  Pause(clock);
+  EXPECT_EQ(clock.SleptMilliseconds, 5);
 }
 
 TEST(Pause, IsNoneWhenItWouldNotEndAfterMidnight) {
