@@ -59,6 +59,7 @@ TEST(HotkeyNotation, TakesSeparatorsOfAnyLength) {
       EXPECT_EQ(column, first + L" " + separator + L" " + second);
       EXPECT_EQ(notation.KeysOf(column), (Strings{first, second}));
       EXPECT_EQ(notation.DataFileToDisplay(L"Ctrl+F1=F2"), first + L" " + separator + L" F2");
+      EXPECT_EQ(notation.DataFileToDisplay(L"Ctrl+F1" + separator + L"Alt+Num +"), column);
     }
   }
 }

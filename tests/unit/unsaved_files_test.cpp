@@ -83,6 +83,15 @@ TEST_F(UnsavedFilesTest, NothingIsSaidToLieThereWhenItIsNotAll) {
   EXPECT_EQ(unsaved_.Left(), std::vector<std::wstring>{});
 }
 
+TEST_F(UnsavedFilesTest, FilesThatAreInPlaceAreNotLeft) {
+  UnsavedFiles files(files_, UnsavedFiles::Targets::Replaced);
+  files_.Contents = {{L"C:\\b.ini", "old"}, {Path, "old"}};
+  files_.ReplaceErrors = {FileError::None, FileError::Other};
+  EXPECT_EQ(ReplaceContent(files, clock_, L"C:\\b.ini", "new", KeepCopies::Yes), FileError::None);
+  EXPECT_EQ(ReplaceContent(files, clock_, Path, "new", KeepCopies::Yes), FileError::Other);
+  EXPECT_EQ(files.Left(), std::vector{Unsaved});
+}
+
 TEST_F(UnsavedFilesTest, NoOtherWayIsTriedToTheTarget) {
   const FileTable before{{Path, "old"}};
   for (const FileError error : {FileError::NotFound, FileError::NotSupported}) {
