@@ -9,7 +9,8 @@ namespace tessera {
 
 std::array<int, 4> OrderOfPositions(const std::array<int, 4>& positions) {
   std::array<int, 4> order{0, 1, 2, 3};
-  std::ranges::sort(order, {}, [&](int column) { return positions.at(static_cast<std::size_t>(column)); });
+  std::ranges::sort(order, {},
+                    [&](int column) { return positions.at(static_cast<std::size_t>(column)); });
   return order;
 }
 

@@ -2,7 +2,6 @@
 #include "dialogs/DialogLayout.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 namespace tessera {
@@ -63,7 +62,7 @@ class PageStack {
     area.Width = width_;
     frame_ = &area;
     indent_ = At(Margin);
-    bottom_ = top + (control.TextWidth > 0 ? metrics_.TextHeight : At(Gap) / 2);
+    bottom_ = top + (control.TextWidth != 0 ? metrics_.TextHeight : At(Gap) / 2);
   }
 
   void CloseFrame() {
@@ -73,13 +72,13 @@ class PageStack {
   }
 
   void StartRow(ControlKind kind) {
-    rowTop_ = bottom_ == 0 ? 0 : bottom_ + At(Gap);
-    rowHeight_ = RowHeight(kind, metrics_);
-    bottom_ = rowTop_ + rowHeight_;
+    row_.Top = bottom_ == 0 ? 0 : bottom_ + At(Gap);
+    row_.Height = RowHeight(kind, metrics_);
+    bottom_ = row_.Top + row_.Height;
   }
 
   [[nodiscard]] Area CentredInRow(int width, int height) const {
-    return {indent_, rowTop_ + (rowHeight_ - height) / 2, width, height};
+    return {indent_, row_.Top + (row_.Height - height) / 2, width, height};
   }
 
   [[nodiscard]] Area InRow(const MeasuredControl& control) const {
@@ -89,15 +88,15 @@ class PageStack {
       case ControlKind::Label:
         return CentredInRow(labelWidth_, metrics_.TextHeight);
       case ControlKind::Swatch:
-        return {indent_ + labelWidth_ + At(Margin), rowTop_, At(SwatchWidth), rowHeight_};
+        return {indent_ + labelWidth_ + At(Margin), row_.Top, At(SwatchWidth), row_.Height};
       case ControlKind::TextBox:
         return CentredInRow(right - indent_ - side - At(Gap), metrics_.TextHeight + At(7));
       case ControlKind::SideButton:
-        return {right - side, rowTop_, side, rowHeight_};
+        return {right - side, row_.Top, side, row_.Height};
       case ControlKind::Button:
-        return {indent_, rowTop_, ButtonSize(control.TextWidth, metrics_).Width, rowHeight_};
+        return {indent_, row_.Top, ButtonSize(control.TextWidth, metrics_).Width, row_.Height};
       default:
-        return {indent_, rowTop_, control.TextWidth + At(MarkWidth), rowHeight_};
+        return {indent_, row_.Top, control.TextWidth + At(MarkWidth), row_.Height};
     }
   }
 
@@ -106,8 +105,7 @@ class PageStack {
   int width_;
   Area* frame_ = nullptr;
   int indent_ = 0;
-  int rowTop_ = 0;
-  int rowHeight_ = 0;
+  Area row_;  ///< by its top and height alone
   int bottom_ = 0;
 };
 
@@ -159,17 +157,15 @@ PagesLayout LayOutPages(std::span<const MeasuredControl> controls, const DialogM
   for (const MeasuredControl& control : controls) {
     layout.Width = std::max(layout.Width, WidthOfRow(control, labelWidth, metrics));
   }
-  std::optional<PageStack> stack;
-  int page = 0;
-  for (std::size_t index = 0; index < controls.size(); ++index) {
-    if (!stack || controls[index].Page != page) {
-      layout.Height = std::max(layout.Height, stack ? stack->Close() : 0);
-      page = controls[index].Page;
-      stack.emplace(metrics, labelWidth, layout.Width);
-    }
-    stack->Add(controls[index], layout.Controls[index]);
+  auto area = layout.Controls.begin();
+  for (auto control = controls.begin(); control != controls.end();) {
+    const auto nextPage = std::find_if(
+        control, controls.end(),
+        [page = control->Page](const MeasuredControl& other) { return other.Page != page; });
+    PageStack stack(metrics, labelWidth, layout.Width);
+    while (control != nextPage) stack.Add(*control++, *area++);
+    layout.Height = std::max(layout.Height, stack.Close());
   }
-  layout.Height = std::max(layout.Height, stack ? stack->Close() : 0);
   return layout;
 }
 

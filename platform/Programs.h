@@ -16,7 +16,8 @@ class Programs {
   /// A top-level window of that class, whatever its title; 0 when there is none.
   [[nodiscard]] virtual WindowId FindWindowOfClass(const std::wstring& className) const = 0;
 
-  /// The full path of the program that the window belongs to; empty when the system does not tell.
+  /// The full path of the program that the window belongs to; empty when the system does not tell,
+  /// and for 0.
   [[nodiscard]] virtual std::wstring PathOf(WindowId window) const = 0;
 
   virtual void SetForeground(WindowId window) = 0;

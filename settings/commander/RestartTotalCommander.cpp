@@ -75,8 +75,7 @@ RestartResult RestartTotalCommander(Programs& programs, Clock& clock, const File
 }
 
 std::wstring RunningTotalCommander(const Programs& programs) {
-  const WindowId window = FindTotalCommander(programs);
-  const std::wstring path = window != 0 ? programs.PathOf(window) : L"";
+  const std::wstring path = programs.PathOf(FindTotalCommander(programs));
   const std::wstring_view name = std::wstring_view(path).substr(path.rfind(L'\\') + 1);
   const bool isKnown =
       EqualIgnoringCase(name, UsualProgram) || EqualIgnoringCase(name, Program64Bit);

@@ -25,7 +25,7 @@ HEADERS = {
     "atomic": "atomic",
     "charconv": "from_chars to_chars chars_format errc",
     "chrono": "chrono::",
-    "cmath": "isfinite isnan nearbyint pow",
+    "cmath": "isfinite isnan llround nearbyint pow",
     "cstddef": "size_t ptrdiff_t nullptr_t byte",
     "cstdint": "uint8_t uint16_t uint32_t uint64_t int8_t int16_t int32_t int64_t intptr_t uintptr_t",
     "cstdlib": "abs exit _Exit getenv",

@@ -60,6 +60,7 @@ TEST(DialogLayout, SwatchesAreAlignedBesideTheirLabels) {
                                           {ControlKind::Label, 0, 90},
                                           {ControlKind::Swatch, 0, 0}};
   const PagesLayout layout = LayOutPages(Controls, Metrics, 0);
+  EXPECT_EQ(layout.Controls[0], (Area{0, 5, 90, 13}));
   EXPECT_EQ(layout.Controls[1].Left, layout.Controls[3].Left);
   EXPECT_GE(layout.Controls[1].Left, 90);
   EXPECT_EQ(layout.Controls[3].Top, layout.Controls[1].Top + layout.Controls[1].Height + 7);

@@ -77,6 +77,8 @@ TEST_F(NewsTest, ADeletionTellsTheKeysThatAreGone) {
   Assign(Pack, L"F9");
   Editor.Work(&HotkeyPanel::DeleteAll);
   EXPECT_EQ(Latest().Rows, 1U);
+  Editor.Work(&HotkeyPanel::DeleteAll);
+  EXPECT_EQ(Latest().Rows, 1U) << "nothing is left to delete";
 }
 
 TEST_F(NewsTest, AnEditThatIsRefusedIsNone) {

@@ -110,8 +110,7 @@ TEST_F(RestartTotalCommanderTest, The64BitProgramStartsOnlyWhenItIsAlone) {
   environment_.Variables[L"Commander_Path"] = L"\\\\server\\TC";
   files_.Contents[L"\\\\server\\TC\\Totalcmd64.exe"] = "";
   Run(false);
-  EXPECT_EQ(log_.back(),
-            L"Start \\\\server\\TC\\Totalcmd64.exe /i=\"C:\\My Files\\Wincmd.ini\"");
+  EXPECT_EQ(log_.back(), L"Start \\\\server\\TC\\Totalcmd64.exe /i=\"C:\\My Files\\Wincmd.ini\"");
   files_.Contents[L"\\\\server\\TC\\Totalcmd.exe"] = "";
   Run(false);
   EXPECT_EQ(log_.back(), L"Start \\\\server\\TC\\Totalcmd.exe /i=\"C:\\My Files\\Wincmd.ini\"");

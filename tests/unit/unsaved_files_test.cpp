@@ -92,6 +92,34 @@ TEST_F(UnsavedFilesTest, FilesThatAreInPlaceAreNotLeft) {
   EXPECT_EQ(files.Left(), std::vector{Unsaved});
 }
 
+TEST_F(UnsavedFilesTest, EachSaveIsToldOfByItself) {
+  files_.Contents = {{Path, "old"}, {L"C:\\b.ini", "old"}};
+  files_.WriteErrors = {FileError::DiskFull};
+  EXPECT_EQ(ReplaceContent(unsaved_, clock_, L"C:\\b.ini", "new", KeepCopies::Yes),
+            FileError::DiskFull);
+  unsaved_.Begin();
+  EXPECT_EQ(Save("new"), FileError::None);
+  EXPECT_EQ(unsaved_.Left(), std::vector{Unsaved});
+  unsaved_.Begin();
+  EXPECT_EQ(unsaved_.Left(), std::vector<std::wstring>{});
+}
+
+TEST_F(UnsavedFilesTest, WhatIsTakenAwayIsNoLongerLeft) {
+  files_.Contents = {{Path, "old"}};
+  EXPECT_EQ(Save("new"), FileError::None);
+  unsaved_.TakeAway();
+  EXPECT_EQ(unsaved_.Left(), std::vector<std::wstring>{});
+}
+
+TEST_F(UnsavedFilesTest, ReadOnlyFileIsNotReplacedWhereFilesAreOnlyMoved) {
+  UnsavedFiles files(files_, UnsavedFiles::Targets::Replaced);
+  files_.Contents = {{Path, "old"}};
+  files_.ReadOnly = {Path};
+  files_.ReplaceErrors.assign(100, FileError::NotSupported);
+  EXPECT_EQ(ReplaceContent(files, clock_, Path, "new", KeepCopies::Yes), FileError::AccessDenied);
+  EXPECT_EQ(files_.Contents, (FileTable{{Path, "old"}, {Unsaved, "new"}}));
+}
+
 TEST_F(UnsavedFilesTest, NoOtherWayIsTriedToTheTarget) {
   const FileTable before{{Path, "old"}};
   for (const FileError error : {FileError::NotFound, FileError::NotSupported}) {

@@ -216,7 +216,7 @@ void SetLength(HANDLE file, LONGLONG length) {
 class RestlessWriter {
  public:
   static constexpr LONGLONG Short = 1000;
-  /// Reading so many takes so long that the writer has its turn meanwhile on a single processor too.
+  /// Reading so many takes so long that the writer has its turn meanwhile on one processor too.
   static constexpr LONGLONG Long = 1 << 25;
 
   /// `next` gives the length that follows another.

@@ -67,6 +67,7 @@ TEST(WindowsPrograms, PathIsThatOfTheWindowsProgram) {
   EXPECT_EQ(programs.PathOf(reinterpret_cast<WindowId>(window)), own);
   DestroyWindow(window);
   EXPECT_EQ(programs.PathOf(reinterpret_cast<WindowId>(window)), L"");
+  EXPECT_EQ(programs.PathOf(0), L"");
 }
 
 TEST(WindowsPrograms, ProgramIsGivenTimeToClose) {
