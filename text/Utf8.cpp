@@ -24,7 +24,7 @@ std::size_t LengthFromLead(char lead) {
 
 /// Takes one character, or one byte that begins none, and moves `position` past it.
 char32_t TakeUtf8(std::string_view bytes, std::size_t& position) {
-  static constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+  static constexpr char32_t smallest[] = {0x80, 0x800, 0x10000};  // of two bytes and more
   const std::size_t begin = position++;
   const std::size_t length = LengthFromLead(bytes[begin]);
   if (length == 1) return static_cast<unsigned char>(bytes[begin]);
@@ -34,7 +34,7 @@ char32_t TakeUtf8(std::string_view bytes, std::size_t& position) {
     if (!IsContinuation(bytes[begin + i])) return replacement;
     character = character << 6 | (static_cast<unsigned char>(bytes[begin + i]) & 0x3F);
   }
-  if (character < smallest[length] || character > 0x10FFFF) return replacement;
+  if (character < smallest[length - 2] || character > 0x10FFFF) return replacement;
   position = begin + length;
   return character;
 }

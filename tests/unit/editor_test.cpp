@@ -22,6 +22,15 @@ TEST_F(EditorTest, TheFirstActivationShowsEveryRowInFileOrder) {
   EXPECT_TRUE(MessageBoxes.Shown.empty());
 }
 
+TEST_F(EditorTest, KeysAreShownInTheStoredNotation) {
+  StoredSettings() =
+      "[Tessera]\r\nMultiHotkeySeparator=|\r\nUndefinedHotkey=none\r\nReverseOrderHotkey=1\r\n";
+  Ini() = "[Shortcuts]\r\nC+F3=cm_View\r\nF4=cm_View\r\n";
+  Start();
+  EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"F3 + Ctrl | F4");
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"none");
+}
+
 TEST_F(EditorTest, ASecondActivationDoesNothing) {
   Start();
   const int reads = Files.Reads;
