@@ -54,13 +54,16 @@ bool PointerIsAt(POINT place) {
 }
 
 /// A click on the spot of the last one becomes a double click unless it comes late enough.
-void KeepClicksApart(POINT place) {
+void ClickApart(POINT place, DWORD down, DWORD up) {
   static POINT lastPlace{-1, -1};
   static ULONGLONG lastTime = 0;
   if (place.x == lastPlace.x && place.y == lastPlace.y) {
     const ULONGLONG earliest = lastTime + GetDoubleClickTime() + 50;
     WaitFor("the end of the double click time", [&] { return GetTickCount64() >= earliest; });
   }
+  MoveTo(place);
+  SendMouse(place, down);
+  SendMouse(place, up);
   lastPlace = place;
   lastTime = GetTickCount64();
 }
@@ -115,18 +118,9 @@ HeldKey::HeldKey(WORD key) : key_(key) { KeyDown(key_); }
 
 HeldKey::~HeldKey() { KeyUp(key_); }
 
-void Click(POINT place) {
-  KeepClicksApart(place);
-  MoveTo(place);
-  SendMouse(place, MOUSEEVENTF_LEFTDOWN);
-  SendMouse(place, MOUSEEVENTF_LEFTUP);
-}
+void Click(POINT place) { ClickApart(place, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP); }
 
-void RightClick(POINT place) {
-  MoveTo(place);
-  SendMouse(place, MOUSEEVENTF_RIGHTDOWN);
-  SendMouse(place, MOUSEEVENTF_RIGHTUP);
-}
+void RightClick(POINT place) { ClickApart(place, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP); }
 
 void BringToFront(HWND window) {
   DWORD wanted = 0;

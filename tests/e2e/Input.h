@@ -34,8 +34,7 @@ class HeldKey {
 /// Moves the pointer there, and waits until it stays there.
 void MoveTo(POINT place);
 
-/// Clicks with the left button at a place of the screen. Two clicks on one spot are never a double
-/// click.
+/// Clicks at a place of the screen. Two clicks on one spot are never a double click.
 void Click(POINT place);
 void RightClick(POINT place);
 

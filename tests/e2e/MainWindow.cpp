@@ -113,11 +113,13 @@ bool MainWindow::InMenu() const {
 }
 
 void MainWindow::CloseMenus() {
-  WaitFor("the menus to close", [&] {
-    if (!InMenu()) return true;
+  // One that no menu takes would reset the panel.
+  while (InMenu()) {
+    const std::size_t open = OpenMenus().size();
     Press(VK_ESCAPE);
-    return false;
-  });
+    WaitFor("a menu to close", [&] { return !InMenu() || OpenMenus().size() < open; });
+  }
+  WaitFor("the menus to go", [&] { return OpenMenus().empty(); });
 }
 
 HWND MainWindow::OpenMenu(WORD letter) {

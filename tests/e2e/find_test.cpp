@@ -143,10 +143,7 @@ TEST_F(FindTest, ShowsWhatIsTypedAndGoesToTheList) {
   Press(VK_TAB);
   WaitFor("the list", [&] { return window_->HasFocus(IDC_ListView1); });
   GoToBox();
-  {
-    const HeldKey shift(VK_SHIFT);
-    Press(VK_TAB);
-  }
+  PressTogether(std::array<WORD, 2>{VK_SHIFT, VK_TAB});
   WaitFor("the toolbar", [&] { return window_->HasFocus(IDC_Toolbar1); });
   EXPECT_FALSE(window_->BoxChecked(IDC_chkCtrlAlt2));
   Press(VK_TAB);
@@ -205,10 +202,12 @@ TEST_F(FindTest, KeysInTheBoxDoNotReachThePanel) {
   EXPECT_TRUE(window_->HasFocus(IDC_txtFind));
   EXPECT_FALSE(window_->InMenu());
 
-  KeyDown(VK_RETURN);  // and repeats
-  KeyDown(VK_RETURN);
-  KeyUp(VK_RETURN);
+  PressTogether(std::array<WORD, 2>{VK_RETURN, VK_RETURN});  // it repeats
   WaitFor("the list", [&] { return window_->HasFocus(IDC_ListView1); });
+  Press(VK_DOWN);  // answered after the repeat
+  WaitFor("the next row", [&] { return window_->SelectedRow() == selected + 1; });
+  Press(VK_UP);
+  WaitFor("the row", [&] { return window_->SelectedRow() == selected; });
   EXPECT_EQ(window_->Row(selected)[3], L"---") << "held Enter assigns nothing";
   EXPECT_FALSE(Modified());
   Press(VK_RETURN);

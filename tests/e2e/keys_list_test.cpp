@@ -144,12 +144,14 @@ TEST_F(KeysListTest, ArrowKeysChangeNothingUntilEnterChooses) {
            (place.right - place.left) * (place.bottom - place.top) / 2;
   });
   place.bottom = place.top + 1;
-  EXPECT_LT(CountPixels(place, GetSysColor(COLOR_HIGHLIGHT)), place.right - place.left)
-      << "the focus shows";
+  WaitFor("the focus", [&] {
+    return CountPixels(place, GetSysColor(COLOR_HIGHLIGHT)) < place.right - place.left;
+  });
   place = PlaceOf(list, 5);
   place.bottom = place.top + 1;
-  EXPECT_EQ(CountPixels(place, GetSysColor(COLOR_WINDOW)), place.right - place.left)
-      << "another entry has no focus";
+  WaitFor("another entry, which has no focus", [&] {
+    return CountPixels(place, GetSysColor(COLOR_WINDOW)) == place.right - place.left;
+  });
   Press(VK_RETURN);
   list.WaitUntilClosed();
   WaitFor("the key to be chosen", [&] { return window_->ChosenKey() == key; });
@@ -287,7 +289,8 @@ TEST_F(KeysListTest, IsBeforeTheWindowWhenThatIsRestored) {
   Picture shown;
   WaitFor("the list to be painted", [&] {
     const Picture before = std::exchange(shown, TakePicture(place));
-    return before.Pixels == shown.Pixels && CountPixels(place, GetSysColor(COLOR_WINDOWTEXT)) > 0;
+    return GetUpdateRect(list.Control(IDC_List1), nullptr, FALSE) == FALSE &&
+           before.Pixels == shown.Pixels && CountPixels(place, GetSysColor(COLOR_WINDOWTEXT)) > 0;
   });
   PostMessageW(window_->Handle(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
   list.WaitUntilClosed();

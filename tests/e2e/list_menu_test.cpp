@@ -5,6 +5,7 @@
 // clang-format on
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <string>
 
@@ -125,10 +126,7 @@ TEST_F(ListMenuTest, ContextMenuKeyAndShiftF10OpenItAtTheSelectedRow) {
   EXPECT_LE(shown.top, row.top) << "scrolled back to";
   EXPECT_NEAR(RectangleOf(menu).top, shown.bottom, 4);
   window_->CloseMenus();
-  {
-    const HeldKey shift(VK_SHIFT);
-    Press(VK_F10);
-  }
+  PressTogether(std::array<WORD, 2>{VK_SHIFT, VK_F10});
   EXPECT_TRUE(WaitForMenuEntry(WaitForMenu(), L"Copy Row").Enabled);
   window_->CloseMenus();
   WaitFor("box Shift to be checked", [&] { return window_->BoxChecked(IDC_chkCtrlAlt2); });

@@ -111,7 +111,9 @@ TEST_F(StatusLineTest, AHeadingDoesNotTakeTheFocusFromShow) {
   Select(L"cm_SrcTree");
   window_->ChooseKey(L"F1");
   WaitFor("a holder", [&] { return window_->Enabled(IDC_cmdShow); });
+  const int row = window_->SelectedRow();
   window_->ClickControl(IDC_cmdShow);
+  WaitFor("the holder's row", [&] { return window_->SelectedRow() != row; });
   WaitFor("the focus", [&] { return window_->HasFocus(IDC_cmdShow); });
   window_->SelectByAutomation(0);
   WaitFor("the panel to be disabled", [&] { return !window_->Enabled(IDC_Combo1); });

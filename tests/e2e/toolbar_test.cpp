@@ -40,11 +40,12 @@ class ToolbarTest : public EndToEndTest {
 };
 
 TEST_F(ToolbarTest, ButtonsHaveTheirIconsAndOthersWhileTheyAreDisabled) {
+  MoveTo({1, 1});  // a button beneath the pointer looks otherwise
   StartAndLoad();
   EXPECT_FALSE(window_->ButtonEnabled(IDC_Toolbar1, IDM_mnuFileSave));
   for (const Button& button : Buttons) WaitForIcon(button);
   MakeAChange();
-  MoveTo({1, 1});  // a button beneath the pointer looks otherwise
+  MoveTo({1, 1});
   for (const Button& button : Buttons) {
     EXPECT_TRUE(window_->ButtonEnabled(button.Toolbar, button.Command)) << button.Command;
     WaitForIcon(button);

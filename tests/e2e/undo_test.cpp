@@ -1,4 +1,6 @@
 // Taking edits back by the button beside the line and by the menu of the list.
+#include <array>
+
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Input.h"
@@ -121,11 +123,7 @@ TEST_F(UndoTest, StandsBesideShowAtTwiceTheResolutionFromRightToLeft) {
   folder_.UseLanguageFile(folder_.ShippedLanguage(L"Arabic.lng"));
   StartAndLoad();
   Select(L"cm_SrcTree");
-  {
-    const HeldKey control(VK_CONTROL);
-    const HeldKey alt(VK_MENU);
-    Press('K');
-  }
+  PressTogether(std::array<WORD, 3>{VK_CONTROL, VK_MENU, 'K'});
   Press(VK_RETURN);
   WaitFor("a step", [&] { return window_->Enabled(IDC_cmdUndo); });
   const RECT undo = RectangleOf(window_->Control(IDC_cmdUndo));
