@@ -224,7 +224,6 @@ bool Document::KeepUnsaved() {
 
 void Document::DropUnsaved() {
   if (kept_) kept_->TakeAway();
-  kept_.reset();
 }
 
 bool Document::LeaveUnsaved() {

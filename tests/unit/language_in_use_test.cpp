@@ -32,7 +32,7 @@ TEST_F(EditorTest, AMissingLanguageFileIsReportedAndTheBuiltInTextsAreUsed) {
 
 TEST_F(EditorTest, KeysAreShownWithTheModifierNamesOfTheLanguage) {
   StoredSettings() = "[Tessera]\r\nUseDefaultLanguage=0\r\n[Common]\r\nLanguageFile=C:\\de.lng\r\n";
-  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n405=\" \"\r\n";
+  Files.Contents[L"C:\\de.lng"] = "[UserLanguage]\r\n404=Strg\r\n405=\" \"\r\n406=Hoch\r\n";
   Start();
   EXPECT_EQ(Editor.Document().Rows().At(View).CurrentKeys, L"Strg + F3");
   Editor.Work(&HotkeyPanel::SetBox, Modifier::Alt, true);
@@ -41,6 +41,9 @@ TEST_F(EditorTest, KeysAreShownWithTheModifierNamesOfTheLanguage) {
   Editor.FileSave();
   EXPECT_NE(Ini().find("[Shortcuts]\r\nF3=cm_Copy\r\nC+F3=cm_View\r\nA+X=cm_Pack\r\n"),
             std::string::npos);
+  Compose(4, L"Y");
+  Editor.Work(&HotkeyPanel::Assign);
+  EXPECT_EQ(Editor.Document().Rows().At(Pack).CurrentKeys, L"Hoch + Y");
 }
 
 TEST_F(EditorTest, AnotherLanguageIsInUseAfterTheOptions) {
