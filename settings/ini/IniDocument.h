@@ -133,7 +133,7 @@ class IniDocument {
   Encoding encoding_ = Encoding::Ansi;
   std::string oddByte_;  ///< the half of a character at the end of a UTF-16 file
   std::shared_ptr<const std::string> content_;  ///< the text that sections are views of
-  std::list<std::string> written_;              ///< every line written since
+  std::list<std::string> written_;              ///< every line that was written into it
   std::vector<IniSection> sections_;            ///< the first holds what stands before all headers
   // Made when first asked for: with it, a load takes 3.4 times a copy of the bytes, without it 1.5.
   mutable std::optional<SectionIndex> sectionsByName_;  ///< of equal names the first one
