@@ -35,7 +35,7 @@ display_start() {
     </dev/null >/dev/null 2>&1 &
   display_process=$!
   exec {number_channel}>&-
-  for _ in {1..100}; do
+  for _ in {1..600}; do
     number=$(<"$number_file")
     [[ -n $number ]] && break
     kill -0 "$display_process" 2>/dev/null || break

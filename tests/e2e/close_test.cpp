@@ -1,4 +1,5 @@
 // Closing with unsaved changes, and what the next start finds.
+#include <array>
 #include <filesystem>
 #include <future>
 #include <stdexcept>
@@ -23,8 +24,7 @@ class CloseTest : public EndToEndTest {
 
   void PressAltF4() {
     BringToFront(window_->Handle());
-    const HeldKey alt(VK_MENU);
-    Press(VK_F4);
+    PressTogether(std::array<WORD, 2>{VK_MENU, VK_F4});
   }
 
   /// Clicks the close button of the caption, and gives the question that comes.
