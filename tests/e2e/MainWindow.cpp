@@ -102,7 +102,7 @@ void MainWindow::ChooseFromButtonMenu(int toolbar, int command, int entry) {
   OpenButtonMenu(toolbar, command);
   for (int step = 0; step < entry; ++step) Press(VK_DOWN);
   Press(VK_RETURN);
-  WaitFor("the button's menu to close", [&] { return !InMenu(); });
+  WaitFor("the button's menu to close", [&] { return !InMenu() && OpenMenus().empty(); });
 }
 
 bool MainWindow::InMenu() const {
@@ -113,7 +113,9 @@ bool MainWindow::InMenu() const {
 }
 
 void MainWindow::CloseMenus() {
-  // One that no menu takes would reset the panel.
+  // A menu is on the screen a moment before it takes keys, and a key that none takes would reset
+  // the panel.
+  WaitFor("the menu to take keys", [&] { return InMenu() || OpenMenus().empty(); });
   while (InMenu()) {
     const std::size_t open = OpenMenus().size();
     Press(VK_ESCAPE);

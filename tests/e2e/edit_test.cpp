@@ -62,8 +62,10 @@ TEST_F(EditTest, TakingADefaultKeyAsksFirst) {
   const COLORREF highlight = GetSysColor(COLOR_HIGHLIGHT);
   const RECT beside = window_->CellRectangle(window_->SelectedRow(), 3);
   WaitFor("the row to stand out", [&] { return CountPixels(beside, highlight) > 0; });
-  EXPECT_LT(CountPixels(cell, highlight), CountPixels(cell, GetSysColor(COLOR_WINDOW)));
-  EXPECT_GT(CountPixels(cell, Red), 0) << "which can be read on it";
+  WaitFor("the red key, which can be read in it", [&] {
+    return CountPixels(cell, Red) > 0 &&
+           CountPixels(cell, highlight) < CountPixels(cell, GetSysColor(COLOR_WINDOW));
+  });
 }
 
 TEST_F(EditTest, TakingAnotherCommandsKeyAsksFirst) {

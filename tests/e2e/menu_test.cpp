@@ -97,6 +97,7 @@ TEST_F(MenuTest, SortedListIsSwitchedBothWays) {
     });
   };
   expectSorted(false);
+  MoveTo({1, 1});  // an entry under the pointer has another colour
   EXPECT_FALSE(HasTick(window_->OpenMenu('V'), L"Sorted &List"));
   Press('L');
   expectSorted(true);

@@ -197,7 +197,11 @@ TEST_F(MissingFilesTest, RandomSettingsKeepEveryByte) {
       LargeFileLimit);
   EXPECT_TRUE(SameRows(window_->Rows(), expected));
   MakeAChange();
-  Save();
+  window_->ClickButton(IDC_Toolbar1, IDM_mnuFileSave);
+  // Made after the swap; a message to a program that still writes may go unanswered too long.
+  WaitFor(
+      "the backup", [&] { return Exists(folder_.WincmdIni() + L".bak"); }, LargeFileLimit);
+  WaitFor("the save to end", [&] { return !Modified(); });
   // Compared without the matcher, which would print both.
   EXPECT_TRUE(ReadBytes(folder_.WincmdIni()) == bytes + "[Shortcuts]\r\nCA+K=cm_SrcShort\r\n");
   ExpectWorkingProgram(rows_.size());

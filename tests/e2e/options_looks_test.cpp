@@ -91,12 +91,16 @@ TEST_F(OptionsLooksTest, TextsStandOnTheColorOfThePage) {
   dialog.ClickTab(IDC_tbsOptions, 0);
   const RECT box = RectangleOf(dialog.Control(IDC_chkFixedBorders));
   const int most = (box.right - box.left) * (box.bottom - box.top) / 2;
-  WaitFor("the box", [&] { return CountPixels(box, ThemedPage) > most; });
   constexpr int SmoothedEdges = 50;  // pixels of letters that have that colour by chance
-  EXPECT_LT(CountPixels(box, GetSysColor(COLOR_BTNFACE)), SmoothedEdges);
+  WaitFor("the box on the page's colour, and none of the dialog's", [&] {
+    return CountPixels(box, ThemedPage) > most &&
+           CountPixels(box, GetSysColor(COLOR_BTNFACE)) < SmoothedEdges;
+  });
   const RECT tabs = RectangleOf(dialog.Control(IDC_tbsOptions));
   const RECT beside{tabs.left - 4, tabs.top, tabs.left, tabs.bottom};
-  EXPECT_EQ(CountPixels(beside, GetSysColor(COLOR_BTNFACE)), 4 * (tabs.bottom - tabs.top));
+  WaitFor("the dialog's colour beside the page", [&] {
+    return CountPixels(beside, GetSysColor(COLOR_BTNFACE)) == 4 * (tabs.bottom - tabs.top);
+  });
 }
 
 TEST_F(OptionsLooksTest, PickedColorStaysAfterCancel) {
@@ -132,8 +136,10 @@ TEST_F(OptionsLooksTest, PickedColorStaysAfterCancel) {
     dialog = OpenColorAndFont();
     waitForColor();
     if (!dialog.HasFocus(swatch)) {
-      EXPECT_EQ(CountPixels(place, FirstBasic), (width - 2) * (height - 2));
-      EXPECT_EQ(CountPixels(place, GetSysColor(COLOR_WINDOWTEXT)), 2 * (width + height) - 4);
+      WaitFor("the whole swatch and its frame", [&] {
+        return CountPixels(place, FirstBasic) == (width - 2) * (height - 2) &&
+               CountPixels(place, GetSysColor(COLOR_WINDOWTEXT)) == 2 * (width + height) - 4;
+      });
     }
     dialog.CloseBy(IDC_cmdCancel);
   }

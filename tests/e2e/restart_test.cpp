@@ -23,9 +23,10 @@ HCURSOR PointerOf(HWND window) {
 
 class RestartTest : public EndToEndTest {
  protected:
-  /// Leaves an unsaved change, whose save waits for a stand-in that takes seconds to close.
+  /// Leaves an unsaved change, whose save waits for a stand-in that closes when LetItClose is
+  /// called.
   void SaveWhileItClosesSlowly() {
-    WriteBytes(folder_.Commander() + L"slow", "");
+    WriteBytes(slow_, "");
     StartStandIn();
     StartAndLoad();
     MakeAChange();
@@ -34,6 +35,8 @@ class RestartTest : public EndToEndTest {
     WaitFor("the close request", [&] { return Log().ends_with("close\n"); });
   }
 
+  void LetItClose() const { DeleteFileW(slow_.c_str()); }
+
   void SetUp() override {
     ASSERT_EQ(StandInWindow(), nullptr) << "A Total Commander is running already";
     original_ = ReadBytes(folder_.WincmdIni());
@@ -41,6 +44,7 @@ class RestartTest : public EndToEndTest {
   }
 
   void TearDown() override {
+    LetItClose();
     EndToEndTest::TearDown();
     if (const HWND window = StandInWindow(); window != nullptr) EndStandIn(window);
     standIn_.reset();
@@ -78,6 +82,7 @@ class RestartTest : public EndToEndTest {
 
   void AlwaysRestart() { WriteBytes(folder_.SettingsFile(), "[Tessera]\r\nAlwaysRestartTC=1\r\n"); }
 
+  const std::wstring slow_ = folder_.Commander() + L"slow";
   std::string original_;
   std::unique_ptr<Program> standIn_;
   HCURSOR usualPointer_ = nullptr;
@@ -109,6 +114,7 @@ TEST_F(RestartTest, WindowStaysAliveUnderThePointerOfWaitingWhileItCloses) {
   EXPECT_FALSE(window_->Enabled(IDC_txtFind));
   EXPECT_NE(StandInWindow(), nullptr) << "it was painted too late to tell anything";
   EXPECT_TRUE(Modified()) << "the save comes after the close";
+  LetItClose();
   WaitFor("the save to end", [&] { return !Modified(); });
   WaitFor("the find box to be enabled", [&] { return window_->Enabled(IDC_txtFind); });
   MoveTo(CenterOf(RectangleOf(window_->Control(IDC_lblStatus))));
@@ -124,6 +130,7 @@ TEST_F(RestartTest, ChangesLieBesideTheFileWhenALogOffComesWhileItCloses) {
   EXPECT_EQ(Send(window_->Handle(), WM_QUERYENDSESSION), FALSE);
   EXPECT_NE(StandInWindow(), nullptr) << "it was asked too late to tell anything";
   EXPECT_NE(ReadBytes(unsaved).find("cm_SrcShort"), std::string::npos);
+  LetItClose();
   WaitFor("the save to end", [&] { return !Modified(); });
   EXPECT_FALSE(Exists(unsaved));
   standIn_->WaitForEnd();
@@ -252,6 +259,7 @@ TEST_F(RestartElsewhereTest, OneThatIsNotFoundAgainIsStartedByTheButtonBesideThe
   window_->ChooseFromButtonMenu(IDC_Toolbar1, IDM_mnuFileSave, 1);
   WaitFor("the save to end", [&] { return !Modified(); });
   standIn_->WaitForEnd();
+  BringToFront(window_->Handle());
   Press(VK_ESCAPE);  // the composed key
   WaitFor("the button", [&] { return window_->ControlText(IDC_cmdShow) == L"Start It"; });
   EXPECT_EQ(window_->ControlText(IDC_lblStatus),

@@ -62,7 +62,9 @@ TEST_F(StartTest, ALongLoadShowsItsProgressOverTheList) {
   WaitFor(
       "the find box to be disabled", [&] { return !window_->Enabled(IDC_txtFind); }, UsualLimit,
       BetweenLooks);
-  WaitFor("the bar to go", [&] { return !window_->Visible(IDC_ProgressBar1); });
+  WaitFor(
+      "the bar to go", [&] { return !window_->Visible(IDC_ProgressBar1); },
+      std::chrono::seconds{60});
   EXPECT_EQ(GetTopWindow(window_->Handle()), bar);
   const RECT place = RectangleOf(bar);
   const RECT list = RectangleOf(window_->Control(IDC_ListView1));

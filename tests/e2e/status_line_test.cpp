@@ -206,7 +206,11 @@ TEST_F(StatusLineTest, ScreenReadersAreToldOnceTheKeysAreReleased) {
     const HeldKey control(VK_CONTROL);
     const HeldKey key(VK_F1);
     WaitForLine(L"Ctrl + F1", L"cm_SrcShort");
-    EXPECT_FALSE(ToldChanges::Has(line));
+    const bool told = ToldChanges::Has(line);
+    // What the display reports of its keyboard may have released it meanwhile.
+    if (GetAsyncKeyState(VK_CONTROL) < 0) {
+      EXPECT_FALSE(told);
+    }
   }
   WaitFor("the line to be told", [&] { return ToldChanges::Has(line); });
   // The line waits for the panel's timer after it.

@@ -9,6 +9,9 @@
 
 namespace {
 
+constexpr DWORD BetweenLooks = 10;  // milliseconds
+constexpr int MostLooks = 3000;
+
 std::filesystem::path Folder() {
   wchar_t path[MAX_PATH]{};
   GetModuleFileNameW(nullptr, path, MAX_PATH);
@@ -29,8 +32,10 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM first, LPARAM
     case WM_CLOSE:
       KeepSettings("at-close.ini");
       Note("close");
-      // As one that has much to do before it ends, when a test has put this file there.
-      if (std::filesystem::exists(Folder() / "slow")) Sleep(3000);
+      // As one that has much to do before it ends: as long as a test leaves this file there.
+      for (int look = 0; look < MostLooks && std::filesystem::exists(Folder() / "slow"); ++look) {
+        Sleep(BetweenLooks);
+      }
       DestroyWindow(window);
       return 0;
     case WM_DESTROY:
