@@ -10,12 +10,10 @@
 #include <string>
 #include <vector>
 
-#include "resources/icons.h"
 #include "resources/resource.h"
 #include "tests/e2e/EndToEndTest.h"
-#include "tests/e2e/Input.h"
 #include "tests/e2e/RemoteMemory.h"
-#include "tests/e2e/Screen.h"
+#include "tests/e2e/Ruler.h"
 #include "tests/e2e/StartResolution.h"
 #include "tests/support/win32/Wait.h"
 
@@ -23,35 +21,6 @@ namespace tessera::e2e::resolution_test {
 namespace {
 
 constexpr std::array Resolutions{96, 144, 192};
-
-/// Texts in a font of the system, as big as the system makes it at that resolution.
-class Ruler {
- public:
-  Ruler(int dpi, LOGFONTW NONCLIENTMETRICSW::*font) : context_(CreateCompatibleDC(nullptr)) {
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
-                               static_cast<UINT>(dpi));
-    font_ = CreateFontIndirectW(&(metrics.*font));
-    SelectObject(context_, font_);
-  }
-  ~Ruler() {
-    DeleteDC(context_);
-    DeleteObject(font_);
-  }
-  Ruler(const Ruler&) = delete;
-  Ruler& operator=(const Ruler&) = delete;
-
-  [[nodiscard]] SIZE Measure(const std::wstring& text) const {
-    RECT room{};
-    DrawTextW(context_, text.c_str(), -1, &room, DT_CALCRECT | DT_SINGLELINE);
-    return {room.right, room.bottom};
-  }
-
- private:
-  HDC context_;
-  HFONT font_ = nullptr;
-};
 
 bool IsOfClass(HWND window, const wchar_t* name) {
   std::array<wchar_t, 64> own{};
@@ -251,17 +220,6 @@ class ResolutionTest : public EndToEndTest {
     return places;
   }
 
-  /// Waits until a control shows its text in the font of messages.
-  void WaitForMessageFont(int id) const {
-    const RECT place = RectangleOf(window_->Control(id));
-    const bool isButton = id == IDC_cmdShow || id == IDC_cmdUndo;
-    WaitFor("the text of control " + std::to_string(id), [&] {
-      const COLORREF back =
-          isButton ? ColorAt({place.right - 5, place.bottom - 5}) : GetSysColor(COLOR_BTNFACE);
-      return TakePicture(place).HoldsSomewhere(DrawControlText(window_->ControlText(id), back));
-    });
-  }
-
   /// Of the program, for what its windows are told and asked.
   std::unique_ptr<RemoteMemory> memory_;
 };
@@ -389,30 +347,6 @@ TEST_F(ResolutionTest, WindowFollowsItThereAndBack) {
     Send(window_->Handle(), static_cast<UINT>(message), static_cast<WPARAM>(what));
     EXPECT_EQ(Places(), places) << message;
   }
-}
-
-TEST_F(ResolutionTest, TextsHaveTheFontOfMessagesAndTheAllKeysButtonItsIcon) {
-  StartAndLoad();
-  MakeAChange();
-  Select(L"cm_SrcTree");
-  Press(VK_ESCAPE);
-  window_->ChooseKey(L"F1");
-  MoveTo({1, 1});
-  for (const int id : {IDC_lblHotkey, IDC_chkCtrlAlt0, IDC_chkCtrlAlt1, IDC_chkCtrlAlt2,
-                       IDC_lblStatus, IDC_cmdShow, IDC_cmdUndo}) {
-    WaitForMessageFont(id);
-  }
-  const RECT button = RectangleOf(window_->Control(IDC_cmdAllList));
-  WaitFor("its icon", [&] {
-    const Picture icon = DrawProgramIcon(folder_.Executable(), IDI_ALLKEYS, 16,
-                                         ColorAt({button.left + 2, button.top + 2}));
-    const Picture shown = TakePicture(button);
-    // Away from the button's edges.
-    for (int x = 3; x < 13; ++x) {
-      if (shown.At(x, 4) != icon.At(x, 4)) return false;
-    }
-    return true;
-  });
 }
 
 }  // namespace
